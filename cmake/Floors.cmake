@@ -1,0 +1,36 @@
+# The build's house rules: one static library per floor, which sees the headers of the floors it links and no others.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+if(TUNEDEX_WITH_QT STREQUAL "OFF")
+    set(TUNEDEX_HAS_QT FALSE)
+elseif(TUNEDEX_WITH_QT STREQUAL "ON")
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Test)
+    set(TUNEDEX_HAS_QT TRUE)
+else()
+    find_package(Qt6 6.4 QUIET COMPONENTS Core Gui Widgets Test)
+    set(TUNEDEX_HAS_QT ${Qt6_FOUND})
+endif()
+
+add_library(tunedex_flags INTERFACE)
+target_compile_options(tunedex_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
+if(TUNEDEX_SANITIZE)
+    target_compile_options(tunedex_flags INTERFACE -fsanitize=${TUNEDEX_SANITIZE} -fno-omit-frame-pointer
+                                                   -fno-sanitize-recover=all)
+    target_link_options(tunedex_flags INTERFACE -fsanitize=${TUNEDEX_SANITIZE})
+endif()
+if(TUNEDEX_TIDY)
+    find_program(CLANG_TIDY_PROGRAM NAMES clang-tidy-14 clang-tidy REQUIRED)
+    set(CMAKE_CXX_CLANG_TIDY "${CLANG_TIDY_PROGRAM};--quiet")
+endif()
+
+# tunedex_floor(NAME LINKS floors-below...): every .cpp in the current folder becomes the floor's library.
+function(tunedex_floor NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(tunedex_${NAME} STATIC ${ARG_SOURCES})
+    target_include_directories(tunedex_${NAME} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(tunedex_${NAME} PUBLIC ${ARG_LINKS} PRIVATE tunedex_flags)
+endfunction()

@@ -1,0 +1,71 @@
+// Bounded random access to bytes: a file or a block of memory behind one interface, for the three tag readers.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tunedex {
+
+class ByteSource {
+  public:
+    ByteSource() = default;
+    ByteSource(const ByteSource&) = delete;
+    ByteSource& operator=(const ByteSource&) = delete;
+    virtual ~ByteSource() = default;
+
+    // Length in bytes.
+    virtual std::uint64_t Size() const = 0;
+
+    // Fills `buffer` from `offset` (0-based) on and returns how many bytes there were: fewer than asked for only at
+    // the end. Raises error 57 and the like when reading fails.
+    virtual std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) = 0;
+
+    // Fills the whole buffer. Raises error 62 when the bytes end before it is full.
+    void ReadExactly(std::uint64_t offset, std::span<std::uint8_t> buffer);
+};
+
+class MemoryByteSource final : public ByteSource {
+  public:
+    // The bytes must outlive the source.
+    explicit MemoryByteSource(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+
+    std::uint64_t Size() const override { return bytes_.size(); }
+    std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) override;
+
+  private:
+    std::span<const std::uint8_t> bytes_;
+};
+
+// A file, opened once. A small read loads a window of the file, since the next read is nearly always close by: a
+// typical file costs one read for its head and one for its tail.
+class FileByteSource final : public ByteSource {
+  public:
+    // Raises error 53 for a path that is not there or is a folder, 75 where it may not be read, and so on.
+    explicit FileByteSource(const std::string& path);
+    // The same for a name in an open folder. `folder` is a descriptor and stays the caller's.
+    FileByteSource(int folder, const char* name);
+    ~FileByteSource() override;
+
+    std::uint64_t Size() const override { return size_; }
+    std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) override;
+
+  private:
+    static constexpr std::size_t kWindowBytes = 4096;
+
+    struct Window {
+        std::uint64_t offset = 0;
+        std::size_t length = 0;
+        std::array<std::uint8_t, kWindowBytes> bytes;
+    };
+
+    std::size_t ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer) const;
+
+    int descriptor_ = -1;
+    std::uint64_t size_ = 0;
+    Window window_;
+};
+
+} // namespace tunedex

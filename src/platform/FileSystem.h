@@ -1,0 +1,34 @@
+// Questions to the file system and small changes in it. Paths are native, as bytes.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tunedex {
+
+// Whether the path is an existing folder; an empty path is the current folder and exists. Raises error 52 when the
+// question itself fails for any cause but "not there" (no permission, a loop of links, a name too long, a NUL).
+bool FolderExists(const std::string& path);
+
+// Whether the path is an existing file (anything but a folder). Raises the error of a failed look-up that is not
+// "not there".
+bool FileExists(const std::string& path);
+
+// Creates one folder. Raises errors 61, 75, 76 and the like.
+void CreateFolder(const std::string& path);
+
+// Removes a file. Raises error 53 when it is not there.
+void DeleteFile(const std::string& path);
+
+// The names of the files in a folder (folders left out), as the directory returns them. A folder
+// that does not exist has none; any other failure raises its error.
+std::vector<std::string> FileNamesIn(const std::string& folder);
+
+// Whether the user may create files in this folder.
+bool FolderIsWritable(const std::string& path);
+
+// The running program's own path with links resolved, and the folder it is in (with its separator).
+std::string RunningProgram();
+std::string RunningProgramFolder();
+
+} // namespace tunedex

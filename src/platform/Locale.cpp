@@ -1,0 +1,119 @@
+#include "Locale.h"
+
+#include <array>
+#include <cstdlib>
+#include <iconv.h>
+#include <langinfo.h>
+#include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and the like are POSIX, not C++
+
+namespace tunedex {
+
+namespace {
+
+// The locale's name for one category, by POSIX's order of precedence; empty where only the default formats apply.
+std::string NameFor(const char* category) {
+    for (const char* variable : {"LC_ALL", category, "LANG"}) {
+        const char* value = std::getenv(variable);
+        if (value != nullptr && *value != '\0') {
+            const std::string_view name(value);
+            if (name == "C" || name == "POSIX" || name == "C.UTF-8" || name == "C.utf8") {
+                return {};
+            }
+            return std::string(name);
+        }
+    }
+    return {};
+}
+
+std::shared_ptr<void> OpenLocale(int mask, const std::string& name) {
+    if (name.empty()) {
+        return nullptr;
+    }
+    const locale_t opened = newlocale(mask, name.c_str(), nullptr);
+    if (opened == nullptr) {
+        return nullptr;
+    }
+    return {opened, [](void* closing) { freelocale(static_cast<locale_t>(closing)); }};
+}
+
+// A locale's own text as UTF-8; unchanged where the system cannot convert it.
+std::string ToUtf8(std::string text, const std::string& charset) {
+    const iconv_t converter = iconv_open("UTF-8", charset.c_str());
+    if (converter == reinterpret_cast<iconv_t>(-1)) {
+        return text;
+    }
+    std::string result(text.size() * 4 + 16, '\0');
+    char* in = text.data();
+    char* out = result.data();
+    std::size_t inLeft = text.size();
+    std::size_t outLeft = result.size();
+    const std::size_t outcome = iconv(converter, &in, &inLeft, &out, &outLeft);
+    iconv_close(converter);
+    if (outcome == static_cast<std::size_t>(-1)) {
+        return text;
+    }
+    result.resize(result.size() - outLeft);
+    return result;
+}
+
+} // namespace
+
+bool IsTwelveHourFormat(std::string_view format) {
+    for (std::size_t i = 0; i + 1 < format.size(); ++i) {
+        if (format[i] != '%') {
+            continue;
+        }
+        ++i;
+        while (i < format.size() && std::string_view("_-0^#EO").find(format[i]) != std::string_view::npos) {
+            ++i;
+        }
+        if (i < format.size() && std::string_view("IlrpP").find(format[i]) != std::string_view::npos) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Locale::Locale() = default;
+
+Locale Locale::FromEnvironment() {
+    Locale formats;
+    formats.timeLocale_ = OpenLocale(LC_TIME_MASK | LC_CTYPE_MASK, NameFor("LC_TIME"));
+    if (formats.timeLocale_) {
+        auto* const opened = static_cast<locale_t>(formats.timeLocale_.get());
+        formats.timeCharset_ = nl_langinfo_l(CODESET, opened);
+        formats.twelveHours_ = IsTwelveHourFormat(nl_langinfo_l(T_FMT, opened));
+    }
+    if (const auto numbers = OpenLocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, NameFor("LC_NUMERIC"))) {
+        auto* const opened = static_cast<locale_t>(numbers.get());
+        const std::string charset = nl_langinfo_l(CODESET, opened);
+        formats.thousands_ = ToUtf8(nl_langinfo_l(THOUSEP, opened), charset);
+        formats.decimal_ = ToUtf8(nl_langinfo_l(RADIXCHAR, opened), charset);
+    }
+    return formats;
+}
+
+std::string Locale::Format(const std::tm& time, const char* format) const {
+    std::array<char, 256> text{};
+    const std::size_t length =
+        strftime_l(text.data(), text.size(), format, &time, static_cast<locale_t>(timeLocale_.get()));
+    return ToUtf8(std::string(text.data(), length), timeCharset_);
+}
+
+std::string Locale::ShortDate(const std::tm& time) const {
+    if (timeLocale_) {
+        return Format(time, "%x");
+    }
+    std::array<char, 32> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", &time)};
+}
+
+std::string Locale::ShortTime(const std::tm& time) const {
+    if (timeLocale_) {
+        return Format(time, twelveHours_ ? "%I:%M %p" : "%H:%M");
+    }
+    std::array<char, 32> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%H:%M", &time)};
+}
+
+} // namespace tunedex

@@ -1,0 +1,50 @@
+#include "LogFile.h"
+
+#include "RunTimeError.h"
+#include "Text.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace tunedex {
+
+LogFile::LogFile(const std::string& path) {
+    do {
+        descriptor_ = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOCTTY, 0666);
+    } while (descriptor_ < 0 && errno == EINTR);
+    if (descriptor_ < 0) {
+        throw ErrorFromErrno(errno, FileTask::WriteFile);
+    }
+}
+
+LogFile::~LogFile() {
+    if (descriptor_ >= 0) {
+        close(descriptor_);
+    }
+}
+
+void LogFile::WriteLine(std::string_view text) {
+    const std::string line = EncodeFileLine(text) + "\r\n";
+    std::string_view rest = line;
+    while (!rest.empty()) {
+        const ssize_t done = write(descriptor_, rest.data(), rest.size());
+        if (done < 0 && errno == EINTR) {
+            continue;
+        }
+        if (done < 0) {
+            throw ErrorFromErrno(errno, FileTask::WriteFile);
+        }
+        rest.remove_prefix(static_cast<std::size_t>(done));
+    }
+}
+
+void LogFile::Close() {
+    const int descriptor = descriptor_;
+    descriptor_ = -1;
+    if (close(descriptor) != 0 && errno != EINTR) {
+        throw ErrorFromErrno(errno, FileTask::WriteFile);
+    }
+}
+
+} // namespace tunedex

@@ -1,0 +1,280 @@
+#include "Text.h"
+
+#include "RunTimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+namespace tunedex {
+
+namespace {
+
+// Windows-1252 for the bytes 80 to 9F; the other bytes stand for the character of their own number.
+constexpr std::array<char32_t, 32> kHighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+unsigned char ByteAt(std::string_view text, std::size_t position) {
+    return static_cast<unsigned char>(text[position]);
+}
+
+// How many bytes from `position` on are ASCII; eight at a time, since nearly all text is.
+std::size_t AsciiRun(std::string_view text, std::size_t position) {
+    const std::size_t start = position;
+    while (text.size() - position >= sizeof(std::uint64_t)) {
+        std::uint64_t block = 0;
+        std::memcpy(&block, text.data() + position, sizeof block);
+        if ((block & 0x8080808080808080U) != 0) {
+            break;
+        }
+        position += sizeof block;
+    }
+    while (position < text.size() && ByteAt(text, position) < 0x80) {
+        ++position;
+    }
+    return position - start;
+}
+
+char32_t UpperCaseOf(char32_t character) {
+    if ((character >= 0xE0 && character <= 0xF6) || (character >= 0xF8 && character <= 0xFE)) {
+        return character - 0x20;
+    }
+    switch (character) {
+    case 0xFF: // y with diaeresis
+        return 0x178;
+    case 0x161: // s with caron
+    case 0x153: // oe
+    case 0x17E: // z with caron
+        return character - 1;
+    default:
+        return character;
+    }
+}
+
+} // namespace
+
+TextStep StepAt(std::string_view text, std::size_t position) {
+    const unsigned char lead = ByteAt(text, position);
+    if (lead < 0x80) {
+        return {lead, 1, false};
+    }
+    const TextStep stray{lead, 1, true};
+    std::size_t length = 0;
+    char32_t smallest = 0;
+    char32_t value = 0;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        length = 2;
+        smallest = 0x80;
+        value = lead & 0x1FU;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        length = 3;
+        smallest = 0x800;
+        value = lead & 0x0FU;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+        smallest = 0x10000;
+        value = lead & 0x07U;
+    } else {
+        return stray;
+    }
+    if (text.size() - position < length) {
+        return stray;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        const unsigned char next = ByteAt(text, position + i);
+        if ((next & 0xC0U) != 0x80U) {
+            return stray;
+        }
+        value = (value << 6U) | (next & 0x3FU);
+    }
+    const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+    if (value < smallest || surrogate || value > 0x10FFFF) {
+        return stray;
+    }
+    return {value, length, false};
+}
+
+bool IsAscii(std::string_view text) {
+    return AsciiRun(text, 0) == text.size();
+}
+
+bool IsValidUtf8(std::string_view text) {
+    for (std::size_t i = AsciiRun(text, 0); i < text.size(); i += AsciiRun(text, i)) {
+        const TextStep step = StepAt(text, i);
+        if (step.stray) {
+            return false;
+        }
+        i += step.length;
+    }
+    return true;
+}
+
+void AppendUtf8(std::string& text, char32_t character) {
+    const auto put = [&text](char32_t byte) { text += static_cast<char>(byte); };
+    if (character < 0x80) {
+        put(character);
+    } else if (character < 0x800) {
+        put(0xC0U | (character >> 6U));
+        put(0x80U | (character & 0x3FU));
+    } else if (character < 0x10000) {
+        put(0xE0U | (character >> 12U));
+        put(0x80U | ((character >> 6U) & 0x3FU));
+        put(0x80U | (character & 0x3FU));
+    } else {
+        put(0xF0U | (character >> 18U));
+        put(0x80U | ((character >> 12U) & 0x3FU));
+        put(0x80U | ((character >> 6U) & 0x3FU));
+        put(0x80U | (character & 0x3FU));
+    }
+}
+
+char32_t FromWindows1252(unsigned char byte) {
+    return byte >= 0x80 && byte <= 0x9F ? kHighControls.at(byte - 0x80U) : byte;
+}
+
+std::optional<unsigned char> ToWindows1252(char32_t character) {
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+        return static_cast<unsigned char>(character);
+    }
+    const auto* const found = std::find(kHighControls.begin(), kHighControls.end(), character);
+    if (found == kHighControls.end()) {
+        return std::nullopt;
+    }
+    return static_cast<unsigned char>(0x80 + (found - kHighControls.begin()));
+}
+
+std::string DecodeWindows1252(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (std::size_t i = 0; i < bytes.size();) {
+        const std::size_t run = AsciiRun(bytes, i);
+        text.append(bytes, i, run);
+        i += run;
+        if (i < bytes.size()) {
+            AppendUtf8(text, FromWindows1252(ByteAt(bytes, i)));
+            ++i;
+        }
+    }
+    return text;
+}
+
+void AppendWindows1252(std::string& bytes, std::string_view text, Substitute substitute) {
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t run = AsciiRun(text, i);
+        bytes.append(text, i, run);
+        i += run;
+        if (i == text.size()) {
+            return;
+        }
+        const TextStep step = StepAt(text, i);
+        i += step.length;
+        if (step.stray) {
+            bytes += static_cast<char>(step.character);
+        } else if (const auto byte = ToWindows1252(step.character)) {
+            bytes += static_cast<char>(*byte);
+        } else if (substitute == Substitute::QuestionMark) {
+            bytes += '?';
+        } else {
+            bytes += "&#";
+            bytes += std::to_string(static_cast<std::uint32_t>(step.character));
+            bytes += ';';
+        }
+    }
+}
+
+std::string UpperCase(std::string_view text) {
+    std::string upper;
+    upper.reserve(text.size());
+    for (std::size_t i = 0; i < text.size();) {
+        const TextStep step = StepAt(text, i);
+        if (!step.stray && step.length > 1) {
+            AppendUtf8(upper, UpperCaseOf(step.character));
+        } else {
+            const char byte = text[i];
+            upper += byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 0x20) : byte;
+        }
+        i += step.length;
+    }
+    return upper;
+}
+
+bool EndsInIgnoringCase(std::string_view text, std::string_view upperCaseEnd) {
+    if (text.size() < upperCaseEnd.size()) {
+        return false;
+    }
+    text.remove_prefix(text.size() - upperCaseEnd.size());
+    return std::equal(text.begin(), text.end(), upperCaseEnd.begin(), [](char a, char b) {
+        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 0x20) : a) == b;
+    });
+}
+
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
+    std::string result;
+    std::size_t start = 0;
+    for (std::size_t hit = text.find(from); hit != std::string_view::npos; hit = text.find(from, start)) {
+        result.append(text, start, hit - start);
+        result += to;
+        start = hit + from.size();
+    }
+    result.append(text, start);
+    return result;
+}
+
+std::vector<std::string> Split(std::string_view text, std::string_view separator) {
+    std::vector<std::string> pieces;
+    if (text.empty()) {
+        return pieces;
+    }
+    std::size_t start = 0;
+    for (std::size_t hit = text.find(separator); hit != std::string_view::npos;
+         hit = text.find(separator, start)) {
+        pieces.emplace_back(text.substr(start, hit - start));
+        start = hit + separator.size();
+    }
+    pieces.emplace_back(text.substr(start));
+    return pieces;
+}
+
+std::string_view TrimBlanksRight(std::string_view text) {
+    const std::size_t last = text.find_last_not_of(' ');
+    return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string_view() : TrimBlanksRight(text.substr(first));
+}
+
+void DropLast(std::string& text) {
+    if (text.empty()) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    text.pop_back();
+}
+
+std::string EncodeFileLine(std::string_view text) {
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size();) {
+        const TextStep step = StepAt(text, i);
+        const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
+        if (!byte) {
+            return std::string(text);
+        }
+        bytes += static_cast<char>(*byte);
+        i += step.length;
+    }
+    // Read back, such bytes would be taken for the UTF-8 that they resemble.
+    if (!IsAscii(bytes) && IsValidUtf8(bytes)) {
+        return std::string(text);
+    }
+    return bytes;
+}
+
+std::string DecodeFileLine(std::string_view bytes) {
+    return IsValidUtf8(bytes) ? std::string(bytes) : DecodeWindows1252(bytes);
+}
+
+} // namespace tunedex

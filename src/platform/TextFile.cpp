@@ -1,0 +1,207 @@
+#include "TextFile.h"
+
+#include "Path.h"
+#include "RunTimeError.h"
+#include "Text.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::size_t kBufferBytes = 262144;
+
+[[noreturn]] void Fail(int errorCode) {
+    throw ErrorFromErrno(errorCode, FileTask::WriteFile);
+}
+
+// Where a chain of symbolic links ends, whether or not there is a file.
+std::string ResolveLinks(std::string path) {
+    constexpr int kMostLinks = 40; // as the kernel counts
+    std::array<char, 4096> target{};
+    for (int i = 0; i < kMostLinks; ++i) {
+        const ssize_t length = readlink(path.c_str(), target.data(), target.size());
+        if (length < 0) {
+            return path; // no link, or nothing there: opening it tells
+        }
+        const std::string_view next(target.data(), static_cast<std::size_t>(length));
+        path = next.starts_with('/') ? std::string(next)
+                                     : std::string(FolderPrefixOf(path, PathStyle::Unix())).append(next);
+    }
+    Fail(ELOOP);
+}
+
+bool FolderForbidsNewFiles(int errorCode) {
+    return errorCode == EACCES || errorCode == EPERM || errorCode == EROFS;
+}
+
+int OpenAt(int folder, const std::string& name, int flags, mode_t mode) {
+    int descriptor = -1;
+    do {
+        descriptor = openat(folder, name.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode);
+    } while (descriptor < 0 && errno == EINTR);
+    return descriptor;
+}
+
+std::string NewAsideName() {
+    static std::atomic<unsigned> counter{0};
+    return ".tunedex-" + std::to_string(getpid()) + "-" + std::to_string(++counter) + ".tmp";
+}
+
+} // namespace
+
+TextFile::TextFile(const std::string& path, TextEncoding encoding) : encoding_(encoding) {
+    if (path.find('\0') != std::string::npos) {
+        Fail(EINVAL);
+    }
+    try {
+        OpenAside(ResolveLinks(path));
+    } catch (...) {
+        Discard();
+        throw;
+    }
+    buffer_.reserve(kBufferBytes + 4096);
+}
+
+void TextFile::OpenAside(const std::string& path) {
+    const std::string_view prefix = FolderPrefixOf(path, PathStyle::Unix());
+    name_ = path.substr(prefix.size());
+    if (name_.empty()) {
+        Fail(path.empty() ? ENOENT : EISDIR);
+    }
+    folder_ = OpenAt(AT_FDCWD, prefix.empty() ? std::string(".") : std::string(prefix), O_PATH | O_DIRECTORY, 0);
+    if (folder_ < 0) {
+        Fail(errno);
+    }
+    struct stat old {};
+    const bool exists = fstatat(folder_, name_.c_str(), &old, 0) == 0;
+    if (!exists && errno != ENOENT) {
+        Fail(errno);
+    }
+    if (exists && S_ISDIR(old.st_mode)) {
+        Fail(EISDIR);
+    }
+    // A new name in the folder could take the place of a file that its owner made read-only: ask first.
+    if (exists && faccessat(folder_, name_.c_str(), W_OK, AT_EACCESS) != 0) {
+        Fail(errno);
+    }
+    if (!exists || S_ISREG(old.st_mode)) {
+        do {
+            aside_ = NewAsideName();
+            descriptor_ = OpenAt(folder_, aside_, O_WRONLY | O_CREAT | O_EXCL, 0666);
+        } while (descriptor_ < 0 && errno == EEXIST);
+        if (descriptor_ < 0) {
+            aside_.clear();
+        }
+        if (descriptor_ < 0 && !(exists && FolderForbidsNewFiles(errno))) {
+            Fail(errno);
+        }
+    }
+    if (descriptor_ < 0) {
+        descriptor_ = OpenAt(folder_, name_, O_WRONLY | O_TRUNC, 0);
+        if (descriptor_ < 0) {
+            Fail(errno);
+        }
+    } else if (exists) {
+        // Another owner's file keeps its owner where the system lets us; its permissions it keeps in any case.
+        if (old.st_uid != geteuid() || old.st_gid != getegid()) {
+            (void)!fchown(descriptor_, old.st_uid, old.st_gid);
+        }
+        if (fchmod(descriptor_, old.st_mode & 07777U) != 0) {
+            Fail(errno);
+        }
+    }
+}
+
+TextFile::~TextFile() {
+    Discard();
+}
+
+void TextFile::Discard() noexcept {
+    if (descriptor_ >= 0) {
+        close(descriptor_);
+        descriptor_ = -1;
+    }
+    if (!aside_.empty()) {
+        unlinkat(folder_, aside_.c_str(), 0);
+        aside_.clear();
+    }
+    if (folder_ >= 0) {
+        close(folder_);
+        folder_ = -1;
+    }
+}
+
+void TextFile::Write(std::string_view text) {
+    switch (encoding_) {
+    case TextEncoding::Windows1252References:
+        AppendWindows1252(buffer_, text, Substitute::DecimalReference);
+        break;
+    case TextEncoding::Windows1252Questions:
+        AppendWindows1252(buffer_, text, Substitute::QuestionMark);
+        break;
+    case TextEncoding::Utf8:
+        buffer_ += text;
+        break;
+    case TextEncoding::FileLine:
+        buffer_ += EncodeFileLine(text);
+        break;
+    }
+    FlushIfFull();
+}
+
+void TextFile::WriteLine(std::string_view text) {
+    Write(text);
+    WriteRaw("\r\n");
+}
+
+void TextFile::WriteRaw(std::string_view bytes) {
+    buffer_ += bytes;
+    FlushIfFull();
+}
+
+void TextFile::FlushIfFull() {
+    if (buffer_.size() >= kBufferBytes) {
+        Flush();
+    }
+}
+
+void TextFile::Flush() {
+    std::string_view rest = buffer_;
+    while (!rest.empty()) {
+        const ssize_t done = write(descriptor_, rest.data(), rest.size());
+        if (done < 0 && errno == EINTR) {
+            continue;
+        }
+        if (done < 0) {
+            Fail(errno);
+        }
+        rest.remove_prefix(static_cast<std::size_t>(done));
+    }
+    buffer_.clear();
+}
+
+void TextFile::Close() {
+    Flush();
+    const int descriptor = descriptor_;
+    descriptor_ = -1;
+    // After EINTR the descriptor is gone all the same, and what was written is with the system.
+    if (close(descriptor) != 0 && errno != EINTR) {
+        Fail(errno);
+    }
+    if (!aside_.empty()) {
+        if (renameat(folder_, aside_.c_str(), folder_, name_.c_str()) != 0) {
+            Fail(errno);
+        }
+        aside_.clear();
+    }
+    Discard();
+}
+
+} // namespace tunedex

@@ -1,0 +1,41 @@
+#include "TextLines.h"
+
+#include "ByteSource.h"
+#include "Text.h"
+
+#include <cstdint>
+
+namespace tunedex {
+
+std::vector<std::string> SplitTextLines(std::string_view bytes) {
+    std::vector<std::string> lines;
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find_first_of("\r\n");
+        lines.push_back(DecodeFileLine(bytes.substr(0, end)));
+        if (end == std::string_view::npos) {
+            break;
+        }
+        const bool pair = bytes[end] == '\r' && end + 1 < bytes.size() && bytes[end + 1] == '\n';
+        bytes.remove_prefix(end + (pair ? 2 : 1));
+    }
+    return lines;
+}
+
+std::vector<std::string> ReadTextLines(const std::string& path) {
+    FileByteSource file(path);
+    std::string bytes;
+    constexpr std::size_t kBlock = 65536;
+    while (true) {
+        // The size is not asked for: the file may be growing.
+        const std::size_t have = bytes.size();
+        bytes.resize(have + kBlock);
+        const std::size_t got =
+            file.Read(have, {reinterpret_cast<std::uint8_t*>(bytes.data()) + have, kBlock});
+        bytes.resize(have + got);
+        if (got < kBlock) {
+            return SplitTextLines(bytes);
+        }
+    }
+}
+
+} // namespace tunedex

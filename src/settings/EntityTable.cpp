@@ -1,0 +1,114 @@
+#include "EntityTable.h"
+
+#include "FaultyLine.h"
+#include "FileSystem.h"
+#include "Numbers.h"
+#include "RunTimeError.h"
+#include "Text.h"
+#include "TextLines.h"
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::size_t kCodePageSize = 256;
+// A table that replaces a character by two of itself doubles with every such line: what is longer than this is a
+// mistake, not an entity.
+constexpr std::size_t kLongestExpansion = 1U << 20U;
+
+EntityTable::Slot ParseEntry(const std::string& line) {
+    const std::size_t tab = line.find('\t');
+    if (tab == std::string::npos) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    }
+    const std::int16_t code = ToInt16(RequireNumber(std::string_view(line).substr(0, tab)));
+    if (code < 0 || code > 255) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    const std::size_t second = line.find('\t', tab + 1);
+    return {code, line.substr(tab + 1, second == std::string::npos ? second : second - tab - 1)};
+}
+
+std::string CharacterOf(std::size_t code) {
+    std::string text;
+    AppendUtf8(text, FromWindows1252(static_cast<unsigned char>(code)));
+    return text;
+}
+
+} // namespace
+
+EntityTable::EntityTable() {
+    slots_.resize(1);
+    BuildExpansions();
+}
+
+void EntityTable::Load(const std::string& path, std::ostream& faults) {
+    Load(FileExists(path) ? ReadTextLines(path) : std::vector<std::string>(), path, faults);
+}
+
+void EntityTable::Load(const std::vector<std::string>& lines, std::string_view name, std::ostream& faults) {
+    slots_.clear();
+    std::size_t number = 0;
+    for (const std::string& line : lines) {
+        ++number;
+        if (line.empty() || line.front() == '#') {
+            continue;
+        }
+        try {
+            slots_.push_back(ParseEntry(line));
+        } catch (const RunTimeError& error) {
+            const bool noTab = line.find('\t') == std::string::npos;
+            ReportFaultyLine(faults, name, number, noTab ? "no TAB in it" : error.Description());
+        }
+    }
+    slots_.resize(lines.size() + 1);
+    BuildExpansions();
+}
+
+void EntityTable::BuildExpansions() {
+    expansions_.assign(kCodePageSize, "");
+    changes_.assign(kCodePageSize, false);
+    std::vector<std::string> characters(kCodePageSize);
+    for (std::size_t code = 0; code < kCodePageSize; ++code) {
+        characters[code] = CharacterOf(code);
+    }
+    for (std::size_t code = 0; code < kCodePageSize; ++code) {
+        std::string expansion = characters[code];
+        for (std::size_t slot = 0; slot + 1 < slots_.size(); ++slot) {
+            const std::string& replaced = characters[static_cast<std::size_t>(slots_[slot].code)];
+            if (expansion.find(replaced) == std::string::npos) {
+                continue;
+            }
+            expansion = ReplaceAll(expansion, replaced, slots_[slot].text);
+            if (expansion.size() > kLongestExpansion) {
+                throw RunTimeError(ErrorNumber::Overflow);
+            }
+        }
+        changes_[code] = expansion != characters[code];
+        expansions_[code] = std::move(expansion);
+    }
+}
+
+void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
+    std::size_t done = 0; // what is before this is in the result
+    for (std::size_t i = 0; i < text.size();) {
+        const TextStep step = StepAt(text, i);
+        const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
+        if (byte && changes_[*byte]) {
+            result.append(text, done, i - done);
+            result += expansions_[*byte];
+            done = i + step.length;
+        }
+        i += step.length;
+    }
+    result.append(text, done);
+}
+
+std::string EntityTable::EscapeEntities(std::string_view text) const {
+    std::string result;
+    result.reserve(text.size() + text.size() / 8);
+    AppendEscaped(result, text);
+    return result;
+}
+
+} // namespace tunedex

@@ -1,0 +1,92 @@
+// Everything a run can be told: one record, with the names that settings files use.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tunedex {
+
+// A fresh record is all empty texts, zeros and false: a settings file is read over it as it stands. The defaults that
+// users see come from SetDefaults().
+struct FontSetting {
+    std::string face; // a font-family list as CSS writes it
+    std::string size; // HTML font size "1" to "7", kept as text
+    bool bold = false;
+    bool italic = false;
+
+    bool operator==(const FontSetting&) const = default;
+};
+
+enum FontIndex : std::size_t { kPageFont, kHeaderFont, kCellFont, kFontCount };
+
+enum ColourIndex : std::size_t {
+    kPageText,
+    kPageBackground,
+    kHeaderText,
+    kHeaderBackground,
+    kCellText,
+    kCellBackground,
+    kAlternateText,
+    kAlternateBackground,
+    kLinkText,
+    kTableBorder,
+    kColourCount
+};
+
+struct Settings {
+    std::string Directory; // one folder, or "%MULT%" and folders joined by "%||%"
+    std::string OutputFile;
+    std::string WindowTitle;
+    std::string PageTitle;
+    std::string PageFooter;
+
+    bool Recurse = false;
+    std::int16_t Spanning = 0;  // files per HTML page; 0 puts all on one
+    std::int16_t SizeType = 0;  // 0 bytes, 1 kilobytes, 2 megabytes
+    std::int16_t SortOrder = 0; // 0 none, 1 ascending, 2 descending
+    bool ErrorWarnings = false;
+    bool ErrorLog = false;
+    bool ConfirmQuit = false;
+    std::string DocumentType; // "HTML" or "XHTML"
+
+    bool DoLinks = false;
+    std::int16_t LinkType = 0; // 0 normal, 1 UNIX, 2 relative
+    std::string LinkPrefix;
+
+    std::string ActiveColumns;   // display names joined by "|", in display order
+    std::string InactiveColumns; // the rest, the same way
+    std::int16_t Merge = 0;      // 0 none, 1 artist and title, 2 artist, album and title
+    bool MoveTheArtists = false;
+
+    std::array<FontSetting, kFontCount> Font;
+    bool FontCSS = false;
+    bool FontHTML = false;
+
+    std::array<std::string, kColourCount> Colour; // six upper-case hexadecimal digits, no "#"
+    bool AltRows = false;
+    bool ColourCSS = false;
+    bool ColourHTML = false;
+
+    std::int16_t TableWidthUnit = 0; // 0 pixels, 1 per cent
+    std::int16_t TableWidth = 0;
+    std::int16_t TablePadding = 0;
+    std::int16_t TableBorder = 0;
+    std::int16_t TableSpacing = 0; // read from files, never written
+
+    // Stores every default, over whatever was there.
+    void SetDefaults();
+
+    bool operator==(const Settings&) const = default;
+};
+
+// What a folder setting begins with when it holds several folders, and what stands between them.
+inline constexpr std::string_view kMultiFolderMark = "%MULT%";
+inline constexpr std::string_view kMultiFolderSeparator = "%||%";
+
+inline bool IsMultiFolder(std::string_view folderValue) {
+    return folderValue.starts_with(kMultiFolderMark);
+}
+
+} // namespace tunedex

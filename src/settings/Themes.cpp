@@ -1,0 +1,68 @@
+#include "Themes.h"
+
+#include "FileSystem.h"
+#include "Path.h"
+#include "Text.h"
+#include "TextFile.h"
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::string_view kThemeFolderName = "Themes";
+constexpr std::string_view kThemeExtension = ".thm";
+
+std::string IndexedKey(std::string_view key, std::size_t index) {
+    return std::string(key) + "(" + std::to_string(index) + ")=";
+}
+
+} // namespace
+
+std::string ThemeFolder(const std::string& programFolder) {
+    return programFolder + std::string(kThemeFolderName) + PathStyle::Native().separator;
+}
+
+std::string ThemePath(const std::string& programFolder, const std::string& name) {
+    return ThemeFolder(programFolder) + name + std::string(kThemeExtension);
+}
+
+std::vector<std::string> ListThemes(const std::string& programFolder) {
+    std::vector<std::string> themes;
+    for (std::string& name : FileNamesIn(ThemeFolder(programFolder))) {
+        if (EndsInIgnoringCase(name, ".THM")) {
+            name.resize(name.size() - kThemeExtension.size());
+            themes.push_back(std::move(name));
+        }
+    }
+    return themes;
+}
+
+bool IsThemeName(const std::string& name) {
+    const PathStyle style = PathStyle::Native();
+    return !TrimBlanks(name).empty() && name != "." && name != ".." &&
+           name.find(style.separator) == std::string::npos && name.find('\0') == std::string::npos;
+}
+
+void WriteThemeFile(const std::string& path, const ThemeContent& content, const FileStamp& stamp) {
+    TextFile file(path, TextEncoding::FileLine);
+    WriteFileHead(file, "Theme Definition File", stamp);
+    file.WriteLine("");
+    file.WriteLine("# FONT SETTINGS");
+    for (std::size_t i = 0; i < content.fonts.size(); ++i) {
+        file.WriteLine(IndexedKey("Font", i) + FontText(content.fonts.at(i)));
+    }
+    file.WriteLine("");
+    file.WriteLine("# COLOUR SETTINGS");
+    for (std::size_t i = 0; i < content.colours.size(); ++i) {
+        file.WriteLine(IndexedKey("Colour", i) + content.colours.at(i));
+    }
+    file.WriteLine("AltRows=" + FlagText(content.alternateRows));
+    file.WriteLine("");
+    file.WriteLine("# TABLE SETTINGS");
+    file.WriteLine("TableWidth=" + TableWidthText(content.widthUnit, content.tableWidth));
+    file.WriteLine("TablePadding=" + content.tablePadding);
+    file.WriteLine("TableBorder=" + content.tableBorder);
+    file.Close();
+}
+
+} // namespace tunedex
