@@ -34,24 +34,21 @@ Writes OUTPUT: the MP3 frames of the file FRAMES with ID3 tags round them. Texts
   --track NUMBER       for both tags
   --disc TEXT          ID3v2 only
   --comment TEXT       ID3v1 only
-  --genre TEXT         for the ID3v2 tag, as it is to stand there: "Rock", "(17)" --genre -
-    number N for the ID3v1 tag(255
-                               : none)-- v1 -
-    title TEXT,
-                           --v1 - artist TEXT,
-                           --v1 - album TEXT what the ID3v1 tag says instead-- v1 -
-                               blanks fill the ID3v1 fields up with blanks,
-                           not with NULs-- encoding windows - 1252 | utf - 16 | utf - 16be |
-                               utf -
-                                   8 how ID3v2 texts are written(windows - 1252)-- picture FILE a PNG to
-                                       carry in the ID3v2 tag-- padding BYTES zeros behind the last ID3v2
-                                           frame(0)-- unsynchronised with zeros put behind every FF that looks
-                                               like a frame's sync --plain -
-                                   frame - sizes ID3v2 .4 frame sizes of 8 bits a byte,
-                           as some players wrote them-- claimed -
-                               size N what the ID3v2 header says the tag's size is, true or not ) ";
+  --genre TEXT         for the ID3v2 tag, as it is to stand there: "Rock", "(17)"
+  --genre-number N     for the ID3v1 tag (255: none)
+  --v1-title TEXT, --v1-artist TEXT, --v1-album TEXT
+                       what the ID3v1 tag says instead
+  --v1-blanks          fill the ID3v1 fields up with blanks, not with NULs
+  --encoding windows-1252|utf-16|utf-16be|utf-8
+                       how ID3v2 texts are written (windows-1252)
+  --picture FILE       a PNG to carry in the ID3v2 tag
+  --padding BYTES      zeros behind the last ID3v2 frame (0)
+  --unsynchronised     with a zero put behind every FF that looks like a frame's sync
+  --plain-frame-sizes  ID3v2.4 frame sizes of 8 bits a byte, as some players wrote them
+  --claimed-size N     what the ID3v2 header says the tag's size is, true or not
+)USAGE";
 
-    struct Options {
+struct Options {
     std::vector<std::string> files;
     Id3v1Tag v1;
     Id3v2Tag v2;
