@@ -12,12 +12,12 @@ int ShowMessage(UserInterface& ui, std::string_view text, int buttons, std::stri
 }
 
 std::string UnexpectedErrorText(const RunTimeError& error) {
-    return "An unexpected error occurred. The error was: \r\n\r\nError number " + std::to_string(error.Number()) +
-           " - " + error.Description();
+    return "An unexpected error occurred. The error was: \r\n\r\nError number " +
+           std::to_string(error.Number()) + " - " + error.Description();
 }
 
-void ReportError(std::string errorTemplate, std::string_view file, std::string_view folder, const RunTimeError& error,
-                 const Application& application, UserInterface& ui, LogFile* log) {
+void ReportError(std::string errorTemplate, std::string_view file, std::string_view folder,
+                 const RunTimeError& error, const Application& application, UserInterface& ui, LogFile* log) {
     // One after the other: a folder whose name holds "%N" gets its own number in.
     if (!folder.empty()) {
         errorTemplate = ReplaceAll(errorTemplate, "%D", folder);
@@ -33,8 +33,8 @@ void ReportError(std::string errorTemplate, std::string_view file, std::string_v
         ShowMessage(ui, opening + errorTemplate, kOkExclamation, application.errorTitle);
     }
     if (application.settings.ErrorLog && log != nullptr) {
-        // With warnings off the line keeps its "\n" as two characters; with warnings on its parts run together. People's
-        // scripts read both.
+        // With warnings off the line keeps its "\n" as two characters; with warnings on its parts run
+        // together. People's scripts read both.
         log->WriteLine(opening + ReplaceAll(errorTemplate, "\r\n", ""));
     }
 }

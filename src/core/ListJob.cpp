@@ -31,7 +31,8 @@ class ListRun final : public ErrorReporter {
 
     void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
                 const RunTimeError& error) override {
-        ReportError(std::string(errorTemplate), file, folder, error, application_, ui_, log_ ? &*log_ : nullptr);
+        ReportError(std::string(errorTemplate), file, folder, error, application_, ui_,
+                    log_ ? &*log_ : nullptr);
     }
 
   private:
@@ -86,8 +87,8 @@ bool ListRun::ValidateOutput() {
         return true;
     }
     const int answer =
-        ShowMessage(ui_, "The output directory does not exist!\r\n\r\nDo you want to create it?", kYesNoExclamation,
-                    application_.errorTitle);
+        ShowMessage(ui_, "The output directory does not exist!\r\n\r\nDo you want to create it?",
+                    kYesNoExclamation, application_.errorTitle);
     if (answer != kAnswerYes) {
         ui_.FocusAndSelect(MainField::OutputFile);
         return false;
@@ -135,8 +136,8 @@ bool ListRun::Sort(RunMonitor& monitor) {
 
 bool ListRun::Write(RunMonitor& monitor) {
     monitor.SetStatus("Writing information...");
-    Listing listing{settings_,          table_,             totals_, application_.entities,
-                    application_.locale, application_.clock, monitor};
+    Listing listing{settings_,          table_, totals_, application_.entities, application_.locale,
+                    application_.clock, monitor};
     listWritten_ = !WriteListing(OutputTypeOf(settings_.OutputFile), listing);
     if (!listWritten_) {
         ui_.CloseProgress();

@@ -77,7 +77,8 @@ bool CreateListCommand(Application& application, UserInterface& ui) {
         application.settings.Directory = ui.Fields().inputFolder;
     }
     try {
-        application.entities.Load(application.programFolder + std::string(kEntityFileName), application.faults);
+        application.entities.Load(application.programFolder + std::string(kEntityFileName),
+                                  application.faults);
     } catch (const RunTimeError& error) {
         ShowMessage(ui, UnexpectedErrorText(error), kOkExclamation, "Error");
         return false;

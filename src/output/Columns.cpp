@@ -49,8 +49,9 @@ std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
     if (merge <= 0 || artist == std::string::npos || title == std::string::npos) {
         return activeColumns;
     }
-    // The positions are those from before the removals: what is left of the first name stays, and so much of the end as
-    // stood behind it. That this cuts wrongly where Album comes first is how lists have always been written.
+    // The positions are those from before the removals: what is left of the first name stays, and so much of
+    // the end as stood behind it. That this cuts wrongly where Album comes first is how lists have always
+    // been written.
     const std::size_t start = std::min(artist, title);
     const std::size_t bar = upper.find('|', start); // none: the whole list is its own end
     std::string list = Remove(activeColumns, artist < title ? "Title" : "Artist");

@@ -1,4 +1,5 @@
-// The fifteen columns that every listing is made of, the two that a merge makes, and the text of a track under each.
+// The fifteen columns that every listing is made of, the two that a merge makes, and the text of a track
+// under each.
 #pragma once
 
 #include "Locale.h"
@@ -36,7 +37,7 @@ enum class ColumnKey {
 
 // The columns a user can choose, by their display names, in the order in which they are offered.
 inline constexpr std::array<std::string_view, 15> kColumnNames = {
-    "Number", "Artist",    "Album",    "Title",     "Year",     "Genre",       "MPEG Type", "Mode",
+    "Number",  "Artist",    "Album",    "Title",     "Year",     "Genre",       "MPEG Type", "Mode",
     "Bitrate", "Frequency", "Duration", "File Size", "Filename", "Folder Path", "Full Path"};
 
 struct Column {
@@ -47,9 +48,9 @@ struct Column {
 // The column that a name stands for, in whatever case it is written.
 ColumnKey ColumnKeyOf(std::string_view name);
 
-// The column list of a listing: `activeColumns` with artist and title (`merge` 1) or artist, album and title (2) made one
-// column where both artist and title are active. Raises error 5 where album stands so far before the others that nothing is
-// left behind them.
+// The column list of a listing: `activeColumns` with artist and title (`merge` 1) or artist, album and title
+// (2) made one column where both artist and title are active. Raises error 5 where album stands so far before
+// the others that nothing is left behind them.
 std::string MergeColumns(const std::string& activeColumns, std::int16_t merge);
 
 std::vector<Column> SplitColumns(const std::string& columnList);

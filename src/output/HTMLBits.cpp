@@ -129,7 +129,8 @@ void WritePageHeading(std::string& page, const Settings& settings, std::int32_t 
             FontClose(settings);
     if (count > 1) {
         page += lineBreak;
-        page += R"(<font size="2">Page )" + std::to_string(number) + " of " + std::to_string(count) + "</font>";
+        page +=
+            R"(<font size="2">Page )" + std::to_string(number) + " of " + std::to_string(count) + "</font>";
     }
     page += "</p>";
     page += kLineEnd;
@@ -203,7 +204,8 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     const Settings& settings = listing_.settings;
     const std::size_t textColour = alternate ? kAlternateText : kCellText;
     const std::size_t background = alternate ? kAlternateBackground : kCellBackground;
-    const std::string fontOpen = FontOpen(settings, kCellFont, textColour) + StrengthOpen(settings, kCellFont);
+    const std::string fontOpen =
+        FontOpen(settings, kCellFont, textColour) + StrengthOpen(settings, kCellFont);
     const std::string fontClose = StrengthClose(settings, kCellFont) + FontClose(settings);
 
     RowFrame frame;
@@ -226,7 +228,8 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     return frame;
 }
 
-void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow& track, std::size_t position) const {
+void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow& track,
+                                std::size_t position) const {
     const EntityTable& entities = listing_.entities;
     const auto orBlank = [&](std::string_view text) {
         if (text.empty()) {

@@ -14,8 +14,8 @@ namespace tunedex {
 // n TABs.
 std::string Indent(int n);
 
-// The opening font tag for a font and a text colour, or nothing where neither fonts nor colours are done with tags. Raises
-// error 9 for an index that no font or colour has.
+// The opening font tag for a font and a text colour, or nothing where neither fonts nor colours are done with
+// tags. Raises error 9 for an index that no font or colour has.
 std::string FontOpen(const Settings& settings, std::size_t fontIndex, std::size_t colourIndex);
 std::string FontClose(const Settings& settings);
 // The tags for bold and italic inside a font tag.

@@ -53,7 +53,8 @@ class HtmlPages {
         if (several) {
             title += " - Page " + std::to_string(number) + " of " + std::to_string(files_.count);
         }
-        TextFile file(several ? files_.PathOf(number) : settings_.OutputFile, TextEncoding::Windows1252References);
+        TextFile file(several ? files_.PathOf(number) : settings_.OutputFile,
+                      TextEncoding::Windows1252References);
         WriteHead(page_, settings_, title);
         if (several) {
             WriteNavigation(page_, number, files_, listing_.pathStyle);
@@ -144,8 +145,8 @@ void WriteHead(std::string& page, const Settings& settings, std::string_view tit
     page += title;
     page += "</title>\r\n";
     page += Indent(2) + R"(<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1")" + end;
-    page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" + kHomePage +
-            ")\"" + end;
+    page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" +
+            kHomePage + ")\"" + end;
     if (settings.FontCSS || settings.ColourCSS) {
         WriteStyleBlock(page, settings);
     }
@@ -154,14 +155,15 @@ void WriteHead(std::string& page, const Settings& settings, std::string_view tit
             settings.Colour[kPageText] + "\" link=\"#" + settings.Colour[kLinkText] + "\">\r\n";
 }
 
-void WriteEnd(std::string& page, const Settings& settings, std::string_view footer, std::string_view lineBreak) {
+void WriteEnd(std::string& page, const Settings& settings, std::string_view footer,
+              std::string_view lineBreak) {
     const std::string lineEnd = std::string(lineBreak) + "\r\n";
     page += Indent(2) + "<p align=\"center\">\r\n" + Indent(3) + FontOpen(settings, kCellFont, kPageText);
     page += footer;
     page += lineBreak;
     page += lineEnd;
-    page += Indent(3) + "<a href=\"" + kHomePage + "\" target=\"_blank\">" + kHomePage + "</a>" + FontClose(settings) +
-            lineEnd;
+    page += Indent(3) + "<a href=\"" + kHomePage + "\" target=\"_blank\">" + kHomePage + "</a>" +
+            FontClose(settings) + lineEnd;
     page += Indent(2) + "</p>\r\n";
     page += Indent(1) + "</body>\r\n";
     page += "</html>\r\n";

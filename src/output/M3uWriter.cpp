@@ -9,8 +9,8 @@ namespace tunedex {
 
 namespace {
 
-// Players take a playlist to be in one encoding throughout, and a path must reach them byte for byte: once a path is not
-// ASCII, the whole file is UTF-8.
+// Players take a playlist to be in one encoding throughout, and a path must reach them byte for byte: once a
+// path is not ASCII, the whole file is UTF-8.
 TextEncoding EncodingFor(const TrackTable& tracks) {
     for (std::size_t position = 1; position <= tracks.Count(); ++position) {
         if (!IsAscii(tracks.At(position).FullPath)) {

@@ -34,7 +34,8 @@ void AddStrength(std::string& rule, const FontSetting& font) {
     }
 }
 
-// The last character gives way to the brace: the blank behind the last property, or where there is none the opening brace.
+// The last character gives way to the brace: the blank behind the last property, or where there is none the
+// opening brace.
 std::string Finished(std::string rule) {
     rule.back() = '}';
     return rule;

@@ -5,8 +5,8 @@
 
 namespace tunedex {
 
-// Returns true when the user aborted; the lines before that are then in the file. Raises error 5 for a line without a
-// single column.
+// Returns true when the user aborted; the lines before that are then in the file. Raises error 5 for a line
+// without a single column.
 bool WriteTextListing(Listing& listing);
 
 } // namespace tunedex

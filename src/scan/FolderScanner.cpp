@@ -40,8 +40,9 @@ class CollectingVisitor final : public WalkVisitor {
     CollectingVisitor(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
                       ReadOptions options, unsigned readers)
         : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
-          queue_(readers, options, [this](QueuedTrack& track) { Store(track); },
-                 [this] { return monitor_.AbortRequested(); }) {}
+          queue_(
+              readers, options, [this](QueuedTrack& track) { Store(track); },
+              [this] { return monitor_.AbortRequested(); }) {}
 
     void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) override {
         // Files that came after the count: the table has no room for them.
@@ -69,7 +70,8 @@ class CollectingVisitor final : public WalkVisitor {
         reading.track.BaseFolder = queued.folder->BaseFolder();
         totals_.TotalBytes += reading.track.FileSize;
         monitor_.SetPosition(totals_.StoredCount);
-        monitor_.SetCountedStatus("Retrieving MPEG/ID3 information (", totals_.StoredCount, totals_.FoundCount, ")...");
+        monitor_.SetCountedStatus("Retrieving MPEG/ID3 information (", totals_.StoredCount,
+                                  totals_.FoundCount, ")...");
         if (reading.track.TagType == kNoTag) {
             ++totals_.UntaggedCount;
         }

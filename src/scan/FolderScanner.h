@@ -27,8 +27,9 @@ class ErrorReporter {
     ErrorReporter& operator=(const ErrorReporter&) = delete;
     virtual ~ErrorReporter() = default;
 
-    // `errorTemplate` holds the placeholders %D (folder), %F (file), %N and %S (the error), and "\n" as two characters;
-    // an empty folder or file leaves its placeholder. May raise the error of a log that cannot be written.
+    // `errorTemplate` holds the placeholders %D (folder), %F (file), %N and %S (the error), and "\n" as two
+    // characters; an empty folder or file leaves its placeholder. May raise the error of a log that cannot be
+    // written.
     virtual void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
                         const RunTimeError& error) = 0;
 };
@@ -40,10 +41,12 @@ class FolderScanner {
     // `readers`: see TrackQueue.
     FolderScanner(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
                   ReadOptions options, unsigned readers = 0)
-        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter), options_(options), readers_(readers) {}
+        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter), options_(options),
+          readers_(readers) {}
 
-    // Walks a folder setting: one folder, or a multi-folder value. Collecting stores no more records than the counting
-    // pass found files. An error in the walk is reported and ends it; the records so far stay. Returns true when the user aborted.
+    // Walks a folder setting: one folder, or a multi-folder value. Collecting stores no more records than the
+    // counting pass found files. An error in the walk is reported and ends it; the records so far stay.
+    // Returns true when the user aborted.
     bool ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse);
 
   private:

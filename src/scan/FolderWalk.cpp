@@ -41,10 +41,13 @@ EntryKind KindOf(int folder, const dirent& entry) {
     if (fstatat(folder, entry.d_name, &status, 0) != 0) {
         return EntryKind::Neither; // a link to nothing
     }
-    return S_ISDIR(status.st_mode) ? EntryKind::Folder : S_ISREG(status.st_mode) ? EntryKind::File : EntryKind::Neither;
+    return S_ISDIR(status.st_mode)   ? EntryKind::Folder
+           : S_ISREG(status.st_mode) ? EntryKind::File
+                                     : EntryKind::Neither;
 }
 
-std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder, WalkVisitor& visitor) {
+std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
+                                        WalkVisitor& visitor) {
     try {
         return std::make_shared<OpenFolder>(path, baseFolder);
     } catch (const RunTimeError& error) {
@@ -57,7 +60,8 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
 
 } // namespace
 
-OpenFolder::OpenFolder(std::string path, std::string_view baseFolder) : path_(std::move(path)), baseFolder_(baseFolder) {
+OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
+    : path_(std::move(path)), baseFolder_(baseFolder) {
     int descriptor = -1;
     do {
         descriptor = open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

@@ -13,7 +13,8 @@ namespace tunedex {
 // A folder being walked, held open for as long as files in it are still to be read.
 class OpenFolder {
   public:
-    // Raises error 76 for a folder that is not there, 75 for one that may not be listed, 67 without a free descriptor.
+    // Raises error 76 for a folder that is not there, 75 for one that may not be listed, 67 without a free
+    // descriptor.
     OpenFolder(std::string path, std::string_view baseFolder);
     OpenFolder(const OpenFolder&) = delete;
     OpenFolder& operator=(const OpenFolder&) = delete;
@@ -44,7 +45,8 @@ class WalkVisitor {
     virtual void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) = 0;
     // After every name. Returns whether to go on.
     virtual bool AfterEntry() = 0;
-    // There is no free descriptor for the next folder: closes what can be closed. Returns whether anything was.
+    // There is no free descriptor for the next folder: closes what can be closed. Returns whether anything
+    // was.
     virtual bool ReleaseFolders() = 0;
 };
 
@@ -54,15 +56,16 @@ struct StartFolder {
     std::string path;       // where the walk begins; ends in a separator
 };
 
-// The start folders of a folder setting: the single one, or the entries of a multi-folder value, empty ones left out.
+// The start folders of a folder setting: the single one, or the entries of a multi-folder value, empty ones
+// left out.
 std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle style);
 
 class FolderWalk {
   public:
-    // Visits the MP3 files of the folder, then with `recurse` its sub-folders, each with its own before the next, siblings
-    // in the reverse of the order in which they were listed. Names stand in the order of the directory. A folder is walked once,
-    // by whatever links it is reached. Returns false when the visitor stopped it. Raises the error of a folder that cannot be
-    // listed; CurrentFolder() is that folder then.
+    // Visits the MP3 files of the folder, then with `recurse` its sub-folders, each with its own before the
+    // next, siblings in the reverse of the order in which they were listed. Names stand in the order of the
+    // directory. A folder is walked once, by whatever links it is reached. Returns false when the visitor
+    // stopped it. Raises the error of a folder that cannot be listed; CurrentFolder() is that folder then.
     bool Run(const StartFolder& start, bool recurse, WalkVisitor& visitor);
 
     // The folder being walked.

@@ -14,7 +14,8 @@ namespace {
 
 constexpr std::size_t kTagBytes = 128;
 
-// ID3v1 pads its fields with NULs or blanks. Blanks go first: those that stand before NULs are part of the text.
+// ID3v1 pads its fields with NULs or blanks. Blanks go first: those that stand before NULs are part of the
+// text.
 std::string FieldText(std::string_view field) {
     std::string bytes(TrimBlanksRight(field));
     std::erase(bytes, '\0');
@@ -45,7 +46,8 @@ bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track) {
     if (!tag.starts_with("TAG")) {
         return false;
     }
-    // Offsets and widths: marker 0/3, title 3/30, artist 33/30, album 63/30, year 93/4, comment 97/30, genre 127/1.
+    // Offsets and widths: marker 0/3, title 3/30, artist 33/30, album 63/30, year 93/4, comment 97/30, genre
+    // 127/1.
     const std::string title = FieldText(tag.substr(3, 30));
     const std::string artist = FieldText(tag.substr(33, 30));
     track.Album = FieldText(tag.substr(63, 30));

@@ -11,8 +11,8 @@ namespace tunedex {
 inline constexpr const char* kUnknownArtist = "Unknown Artist";
 inline constexpr const char* kUnknownTitle = "Unknown Title";
 
-// Fills artist, title, album, year and genre and returns true when the file ends in a tag; otherwise, also when it
-// cannot be read, leaves the track as it is and returns false.
+// Fills artist, title, album, year and genre and returns true when the file ends in a tag; otherwise, also
+// when it cannot be read, leaves the track as it is and returns false.
 bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track);
 
 // "The Beatles" as "Beatles, The"; any other artist as it is.

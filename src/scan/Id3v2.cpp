@@ -43,7 +43,8 @@ std::string* FieldOf(std::string_view frameId, TrackInfo& track) {
     return frameId == "TCON" ? &track.Genre : nullptr;
 }
 
-// The content without its NULs, piece by piece: a frame may claim, and a sparse file hold, a gigabyte of them.
+// The content without its NULs, piece by piece: a frame may claim, and a sparse file hold, a gigabyte of
+// them.
 std::string ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size) {
     constexpr std::uint32_t kPiece = 65536;
     std::string content;
@@ -51,12 +52,14 @@ std::string ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t si
     for (std::uint32_t done = 0; done < size; done += static_cast<std::uint32_t>(piece.size())) {
         piece.resize(std::min(kPiece, size - done));
         file.ReadExactly(offset + done, {reinterpret_cast<std::uint8_t*>(piece.data()), piece.size()});
-        std::copy_if(piece.begin(), piece.end(), std::back_inserter(content), [](char c) { return c != '\0'; });
+        std::copy_if(piece.begin(), piece.end(), std::back_inserter(content),
+                     [](char c) { return c != '\0'; });
     }
     return DecodeWindows1252(content);
 }
 
-// One frame at `offset`; returns the offset of the next. Raises error 62 where padding or the file's end stops the walk.
+// One frame at `offset`; returns the offset of the next. Raises error 62 where padding or the file's end
+// stops the walk.
 std::uint64_t ReadFrame(ByteSource& file, std::uint64_t offset, bool moveTheArtists, TrackInfo& track) {
     // Offsets and widths: ID 0/4, size 4/4, flags 8/2, content from 10 on.
     std::array<std::uint8_t, 4> id{};

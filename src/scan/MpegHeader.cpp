@@ -20,8 +20,8 @@ constexpr std::string_view kXing = "Xing";
 constexpr std::size_t kXingCountAt = 8; // from the first byte of "Xing": behind its name and its flags
 constexpr std::size_t kXingCountBytes = 8;
 
-// The bytes of a file from some offset on, as much of them as the search needs at a time: a first look is small, since
-// nearly every file has its header where it is expected, and later ones are large.
+// The bytes of a file from some offset on, as much of them as the search needs at a time: a first look is
+// small, since nearly every file has its header where it is expected, and later ones are large.
 class SearchWindow {
   public:
     explicit SearchWindow(ByteSource& file) : file_(file), size_(file.Size()) {}
@@ -98,8 +98,8 @@ class XingSearch {
     std::uint64_t searchedTo_ = 0; // "Xing" does not begin between the last hit and here
 };
 
-// AAAAAAAA AAABBCCD EEEEFFGH IIJJKLMM: sync, version B, layer C, bitrate E, frequency F, mode I. The sync is not checked
-// here, and the second byte's upper bits only as far as "at least E1" does.
+// AAAAAAAA AAABBCCD EEEEFFGH IIJJKLMM: sync, version B, layer C, bitrate E, frequency F, mode I. The sync is
+// not checked here, and the second byte's upper bits only as far as "at least E1" does.
 bool DecodeBits(std::span<const std::uint8_t> bytes, MpegHeader& header) {
     constexpr std::array<std::array<std::int32_t, 3>, 3> kFrequencies = {
         {{44100, 48000, 32000}, {22050, 24000, 16000}, {11025, 12000, 8000}}};
@@ -131,8 +131,8 @@ constexpr BitrateTable kLayerII = {kOtherwise, 32,  48,  56,  64,  80,  96,  112
                                    128,        160, 192, 224, 256, 320, 384, kOtherwise};
 constexpr BitrateTable kLayerI = {kOtherwise, 32,  64,  96,  128, 160, 192, 224,
                                   256,        288, 320, 352, 384, 416, 448, kOtherwise};
-// The next two are this program's own and not the published ones. Lists made over many years show these values, and a
-// list made today has to agree with them.
+// The next two are this program's own and not the published ones. Lists made over many years show these
+// values, and a list made today has to agree with them.
 constexpr BitrateTable kVersion2LayerIII = {kOtherwise, 8,   kOtherwise, 24,  16,  64,  80,  56,
                                             64,         128, 160,        112, 128, 256, 320, kOtherwise};
 constexpr BitrateTable kVersion25 = {kOtherwise, 8,   16,  24,  32,  64,  80,  56,
@@ -167,7 +167,8 @@ std::int32_t TableBitrate(MpegVersion version, MpegLayer layer, unsigned bitrate
     if (layer == MpegLayer::I) {
         return kLayerI.at(bitrateIndex);
     }
-    return version == MpegVersion::V1 ? kVersion1LayerIII.at(bitrateIndex) : kVersion2LayerIII.at(bitrateIndex);
+    return version == MpegVersion::V1 ? kVersion1LayerIII.at(bitrateIndex)
+                                      : kVersion2LayerIII.at(bitrateIndex);
 }
 
 MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
@@ -188,7 +189,8 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
             offset += bytes.size();
             continue;
         }
-        header.offset = offset + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
+        header.offset =
+            offset + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
         offset = header.offset + 1; // where the search goes on if this is none
         bytes = window.From(header.offset, 4);
         if (bytes.size() >= 2 && bytes[1] < kLeastSecond) {

@@ -15,7 +15,8 @@ namespace {
 
 struct SortAborted {};
 
-// Asks whether to stop, once in a few thousand steps: often enough to answer at once, seldom enough to cost nothing.
+// Asks whether to stop, once in a few thousand steps: often enough to answer at once, seldom enough to cost
+// nothing.
 class AbortPoll {
   public:
     explicit AbortPoll(RunMonitor& monitor) : monitor_(monitor) {}

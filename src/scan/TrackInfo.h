@@ -9,8 +9,9 @@ namespace tunedex {
 enum TagKind : std::int16_t { kNoTag = 0, kId3v1Tag = 1, kId3v2Tag = 2 };
 
 struct TrackInfo {
-    std::string FullPath;   // the folder walked, ending in a separator, and the name as the directory returned it
-    std::string BaseFolder; // the start folder it was found under, as the folder setting holds it
+    std::string
+        FullPath; // the folder walked, ending in a separator, and the name as the directory returned it
+    std::string BaseFolder;    // the start folder it was found under, as the folder setting holds it
     std::int32_t FileSize = 0; // bytes; 2,147,483,647 stands for anything longer
     std::string Artist;
     std::string Title;

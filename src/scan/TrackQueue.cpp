@@ -26,8 +26,8 @@ std::chrono::nanoseconds ThreadTime() {
 void ReadOne(QueuedTrack& track, const ReadOptions& options) {
     track.failure.reset();
     try {
-        track.reading = ReadTrackFile(track.folder->Descriptor(), track.name.c_str(), track.folder->Path() + track.name,
-                                      options);
+        track.reading = ReadTrackFile(track.folder->Descriptor(), track.name.c_str(),
+                                      track.folder->Path() + track.name, options);
     } catch (const RunTimeError& error) {
         track.failure = error;
     }
@@ -43,7 +43,8 @@ bool LackedDescriptor(const QueuedTrack& track) {
 } // namespace
 
 TrackQueue::TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest)
-    : fixedReaders_(readers), options_(options), receiver_(std::move(receiver)), stopTest_(std::move(stopTest)) {}
+    : fixedReaders_(readers), options_(options), receiver_(std::move(receiver)),
+      stopTest_(std::move(stopTest)) {}
 
 TrackQueue::~TrackQueue() {
     StopReaders();
@@ -180,7 +181,8 @@ void TrackQueue::Receive(Batch& batch) {
 }
 
 void TrackQueue::StartFirstReaders() {
-    const unsigned count = fixedReaders_ > 0 ? fixedReaders_ : std::max(1U, std::thread::hardware_concurrency());
+    const unsigned count =
+        fixedReaders_ > 0 ? fixedReaders_ : std::max(1U, std::thread::hardware_concurrency());
     const std::lock_guard lock(mutex_);
     while (readers_.size() < count && StartReader()) {
     }
@@ -233,7 +235,8 @@ void TrackQueue::ReadBatch(Batch& batch) const {
     }
 }
 
-void TrackQueue::GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor, std::size_t files) {
+void TrackQueue::GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor,
+                               std::size_t files) {
     const bool waits = wall > kSlowFile * files && processor * 2 < wall;
     if (fixedReaders_ == 0 && waits && !stopping_ && !unread_.empty() && readers_.size() < kMostReaders) {
         StartReader();

@@ -1,5 +1,5 @@
-// Reading many files at once without anyone noticing: files go in one after the other and come out as readings in the
-// same order, whoever read them and whenever.
+// Reading many files at once without anyone noticing: files go in one after the other and come out as
+// readings in the same order, whoever read them and whenever.
 #pragma once
 
 #include "FolderWalk.h"
@@ -29,22 +29,23 @@ struct QueuedTrack {
 
 class TrackQueue {
   public:
-    // Takes what has been read, on the thread that uses the queue. What it throws leaves the queue's functions, and the
-    // queue takes and gives nothing more.
+    // Takes what has been read, on the thread that uses the queue. What it throws leaves the queue's
+    // functions, and the queue takes and gives nothing more.
     using Receiver = std::function<void(QueuedTrack&)>;
-    // Asked now and then while the queue waits; true ends the waiting, and the queue takes and gives nothing more.
+    // Asked now and then while the queue waits; true ends the waiting, and the queue takes and gives nothing
+    // more.
     using StopTest = std::function<bool()>;
 
-    // `readers` is how many threads read: 1 reads on the caller's own thread, 0 begins with one for each core and adds more,
-    // up to kMostReaders, for as long as they spend their time waiting for the disk.
+    // `readers` is how many threads read: 1 reads on the caller's own thread, 0 begins with one for each core
+    // and adds more, up to kMostReaders, for as long as they spend their time waiting for the disk.
     TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest);
     TrackQueue(const TrackQueue&) = delete;
     TrackQueue& operator=(const TrackQueue&) = delete;
     // Waits for the readers; what has not been received is dropped.
     ~TrackQueue();
 
-    // Queues a file; may hand earlier readings to the receiver, and waits while too many files are in flight. Returns false
-    // when the stop test ended a wait.
+    // Queues a file; may hand earlier readings to the receiver, and waits while too many files are in flight.
+    // Returns false when the stop test ended a wait.
     bool Submit(const std::shared_ptr<OpenFolder>& folder, const char* name);
     // Hands all that is in flight to the receiver. Returns false when the stop test ended a wait.
     bool Drain();
@@ -75,7 +76,8 @@ class TrackQueue {
     const ReadOptions options_;
     const Receiver receiver_;
     const StopTest stopTest_;
-    // Stopped: the stop test said so. Failed: the receiver threw. In both the queue takes and gives nothing more.
+    // Stopped: the stop test said so. Failed: the receiver threw. In both the queue takes and gives nothing
+    // more.
     enum class State { Running, Stopped, Failed };
     State state_ = State::Running;
 

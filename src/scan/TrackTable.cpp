@@ -99,9 +99,10 @@ void TrackTable::Append(const TrackInfo& track) {
 TrackInfo TrackTable::Copy(std::size_t position) const {
     const TrackRow& row = At(position);
     const auto text = [](SharedText shared) { return std::string(shared.View()); };
-    return {text(row.FullPath), text(row.BaseFolder), row.FileSize,    text(row.Artist),  text(row.Title),
-            text(row.Album),    text(row.Year),       text(row.Genre), text(row.Bitrate), text(row.Frequency),
-            text(row.Mode),     text(row.MpegType),   text(row.Duration), row.TagType};
+    return {text(row.FullPath), text(row.BaseFolder), row.FileSize,   text(row.Artist),
+            text(row.Title),    text(row.Album),      text(row.Year), text(row.Genre),
+            text(row.Bitrate),  text(row.Frequency),  text(row.Mode), text(row.MpegType),
+            text(row.Duration), row.TagType};
 }
 
 } // namespace tunedex

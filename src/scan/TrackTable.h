@@ -1,5 +1,5 @@
-// The table of tracks: a million of them in memory, so a row holds pointers into one store of texts, in which texts that
-// many files share stand once.
+// The table of tracks: a million of them in memory, so a row holds pointers into one store of texts, in which
+// texts that many files share stand once.
 #pragma once
 
 #include "TrackInfo.h"
@@ -41,7 +41,7 @@ class TextStore {
     void GrowIndex();
 
     std::vector<std::unique_ptr<char[]>> blocks_; // NOLINT(modernize-avoid-c-arrays): raw storage
-    std::size_t left_ = 0; // bytes free in the last block
+    std::size_t left_ = 0;                        // bytes free in the last block
     char* next_ = nullptr;
     std::vector<SharedText> index_; // open addressing, a power of two long
     std::size_t indexed_ = 0;

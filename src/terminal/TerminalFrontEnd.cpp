@@ -53,7 +53,9 @@ int AnswerIn(std::string_view line, const Choice& choice) {
 // A name from a file system must not steer the terminal.
 std::string WithoutControls(std::string_view text) {
     std::string clean(text);
-    std::replace_if(clean.begin(), clean.end(), [](char c) { return (c >= 0 && c < 0x20 && c != '\n') || c == 0x7F; }, '?');
+    std::replace_if(
+        clean.begin(), clean.end(), [](char c) { return (c >= 0 && c < 0x20 && c != '\n') || c == 0x7F; },
+        '?');
     return clean;
 }
 
@@ -186,7 +188,8 @@ std::string TerminalFrontEnd::Bar() const {
     if (maximum_ <= 0) {
         return {};
     }
-    const auto filled = static_cast<std::size_t>(std::min<std::int64_t>(kWidth, position_ * kWidth / maximum_));
+    const auto filled =
+        static_cast<std::size_t>(std::min<std::int64_t>(kWidth, position_ * kWidth / maximum_));
     return "[" + std::string(filled, '#') + std::string(kWidth - filled, '.') + "] ";
 }
 

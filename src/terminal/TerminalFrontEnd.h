@@ -12,15 +12,15 @@ namespace tunedex {
 
 class TerminalFrontEnd final : public UserInterface, public RunMonitor {
   public:
-    // Reads answers from the descriptor `input` and writes to `output`. A terminal gets a progress bar on one line; anything
-    // else a line for each phase, and one a second within it.
+    // Reads answers from the descriptor `input` and writes to `output`. A terminal gets a progress bar on one
+    // line; anything else a line for each phase, and one a second within it.
     TerminalFrontEnd(Application& application, int input, int output);
 
     MainFields Fields() const override { return fields_; }
     void FillFields(const MainFields& fields) override { fields_ = fields; }
     void TakeControls(Settings& settings) override;
-    // Prints title and text and reads the answer. Where the input ends or the user interrupts, the answer is the safe one:
-    // OK where there is nothing else, otherwise No or Cancel.
+    // Prints title and text and reads the answer. Where the input ends or the user interrupts, the answer is
+    // the safe one: OK where there is nothing else, otherwise No or Cancel.
     int ShowMessage(std::string_view text, int buttons, std::string_view title) override;
     void FocusAndSelect(MainField /*field*/) override {}
     void EnableWindows() override {}
@@ -35,7 +35,8 @@ class TerminalFrontEnd final : public UserInterface, public RunMonitor {
     void SetPosition(std::int32_t position) override { position_ = position; }
     bool AbortRequested() override;
 
-    // Lets Ctrl-C, a hang-up and a request to terminate abort the run as the Abort button does; a second one ends the program.
+    // Lets Ctrl-C, a hang-up and a request to terminate abort the run as the Abort button does; a second one
+    // ends the program.
     static void CatchSignals();
 
   private:
