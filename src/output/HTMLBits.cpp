@@ -47,6 +47,11 @@ bool HasRightAlignedCells(ColumnKey key) {
     }
 }
 
+// Whether an empty text shows as a blank, so that its cell keeps its background in old browsers.
+bool HasBlankForEmpty(ColumnKey key) {
+    return key == ColumnKey::Album || key == ColumnKey::Year || key == ColumnKey::Genre;
+}
+
 bool UsesFontTags(const Settings& settings) {
     return settings.FontHTML || settings.ColourHTML;
 }
@@ -231,27 +236,15 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
 void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow& track,
                                 std::size_t position) const {
     const EntityTable& entities = listing_.entities;
-    const auto orBlank = [&](std::string_view text) {
-        if (text.empty()) {
+    if (const auto stored = StoredText(key, track)) {
+        if (stored->empty() && HasBlankForEmpty(key)) {
             page += "&nbsp;";
         } else {
-            entities.AppendEscaped(page, text);
+            entities.AppendEscaped(page, *stored);
         }
-    };
+        return;
+    }
     switch (key) {
-    case ColumnKey::Number:
-    case ColumnKey::FileSize:
-        AppendCellText(page, key, track, position, listing_.Cells());
-        return;
-    case ColumnKey::Album:
-        orBlank(track.Album);
-        return;
-    case ColumnKey::Year:
-        orBlank(track.Year);
-        return;
-    case ColumnKey::Genre:
-        orBlank(track.Genre);
-        return;
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
         page += "<b>";
@@ -264,18 +257,15 @@ void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow
         page += ":</b> ";
         entities.AppendEscaped(page, track.Title);
         return;
-    case ColumnKey::Artist:
-        entities.AppendEscaped(page, track.Artist);
+    case ColumnKey::Filename:
+        entities.AppendEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
         return;
-    case ColumnKey::Title:
-        entities.AppendEscaped(page, track.Title);
+    case ColumnKey::FolderPath:
+        entities.AppendEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
-    default: {
-        std::string text;
-        AppendCellText(text, key, track, position, listing_.Cells());
-        entities.AppendEscaped(page, text);
+    default: // numbers, which hold nothing to escape
+        AppendCellText(page, key, track, position, listing_.Cells());
         return;
-    }
     }
 }
 

@@ -186,8 +186,16 @@ void AppendWindows1252(std::string& bytes, std::string_view text, Substitute sub
 }
 
 std::string UpperCase(std::string_view text) {
-    std::string upper;
-    upper.reserve(text.size());
+    std::string upper(text);
+    bool ascii = true;
+    for (char& byte : upper) {
+        ascii = ascii && static_cast<unsigned char>(byte) < 0x80;
+        byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 0x20) : byte;
+    }
+    if (ascii) {
+        return upper;
+    }
+    upper.clear();
     for (std::size_t i = 0; i < text.size();) {
         const TextStep step = StepAt(text, i);
         if (!step.stray && step.length > 1) {
