@@ -1,5 +1,6 @@
 #include "Columns.h"
 
+#include "Numbers.h"
 #include "RunTimeError.h"
 #include "SizeText.h"
 #include "Text.h"
@@ -129,7 +130,7 @@ void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std
     }
     switch (key) {
     case ColumnKey::Number:
-        text += std::to_string(position);
+        AppendNumber(text, static_cast<std::int64_t>(position));
         return;
     case ColumnKey::FileSize:
         text += SizeText(track.FileSize, context.sizeType, context.locale);

@@ -213,23 +213,31 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
         FontOpen(settings, kCellFont, textColour) + StrengthOpen(settings, kCellFont);
     const std::string fontClose = StrengthClose(settings, kCellFont) + FontClose(settings);
 
+    const std::string close = fontClose + "</td>";
+    const std::string rowEnd = "</tr>\r\n";
     RowFrame frame;
-    frame.open = Indent(6) + "<tr bgcolor=\"#" + settings.Colour.at(background) + "\"";
+    std::string piece = Indent(6) + "<tr bgcolor=\"#" + settings.Colour.at(background) + "\"";
     if (alternate && settings.FontCSS) {
-        frame.open += R"( class="r2")";
+        piece += R"( class="r2")";
     }
-    frame.open += ">";
+    piece += ">";
     for (const Column& column : listing_.columns) {
         // A column that nobody knows is not even closed: pages with one have always looked so.
-        std::string open = "<td";
+        piece += "<td";
         if (column.key != ColumnKey::Unknown) {
-            open += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
-            open += fontOpen;
+            piece += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
+            piece += fontOpen;
         }
-        frame.cells.push_back({column.key, open, fontClose + "</td>"});
+        frame.pieces.push_back(piece);
+        piece = close;
     }
-    frame.linkOpen = R"(<td align="center">)" + fontOpen + "<a href=\"";
-    frame.linkClose = "\">Link</a>" + fontClose + "</td>";
+    if (settings.DoLinks) {
+        piece += R"(<td align="center">)" + fontOpen + "<a href=\"";
+        frame.linkClose = "\">Link</a>" + close + rowEnd;
+    } else {
+        piece += rowEnd;
+    }
+    frame.pieces.push_back(piece);
     return frame;
 }
 
@@ -272,19 +280,16 @@ void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow
 void TrackRowWriter::WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const {
     const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
     const TrackRow& track = listing_.tracks.At(position);
-    page += frame.open;
-    for (const CellFrame& cell : frame.cells) {
-        page += cell.open;
-        AppendCell(page, cell.key, track, position);
-        page += cell.close;
+    listing_.tracks.PrefetchAhead(position);
+    for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
+        page += frame.pieces[i];
+        AppendCell(page, listing_.columns[i].key, track, position);
     }
+    page += frame.pieces.back();
     if (listing_.settings.DoLinks) {
-        page += frame.linkOpen;
         page += LinkTarget(listing_.settings, track, listing_.pathStyle);
         page += frame.linkClose;
     }
-    page += "</tr>";
-    page += kLineEnd;
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),
                                       static_cast<std::int32_t>(listing_.tracks.Count()), "...");
     listing_.monitor.SetPosition(static_cast<std::int32_t>(position));

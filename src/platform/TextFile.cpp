@@ -15,7 +15,8 @@ namespace tunedex {
 
 namespace {
 
-constexpr std::size_t kBufferBytes = 262144;
+constexpr std::size_t kBufferBytes = 65536;
+constexpr std::size_t kDirectBytes = 16384;
 
 [[noreturn]] void Fail(int errorCode) {
     throw ErrorFromErrno(errorCode, FileTask::WriteFile);
@@ -66,7 +67,6 @@ TextFile::TextFile(const std::string& path, TextEncoding encoding) : encoding_(e
         Discard();
         throw;
     }
-    buffer_.reserve(kBufferBytes + 4096);
 }
 
 void TextFile::OpenAside(const std::string& path) {
@@ -141,6 +141,12 @@ void TextFile::Discard() noexcept {
 }
 
 void TextFile::Write(std::string_view text) {
+    // A large piece that no encoding changes goes to the system from where it is.
+    if (text.size() >= kDirectBytes && (encoding_ == TextEncoding::Utf8 || IsAscii(text))) {
+        Flush();
+        WriteOut(text);
+        return;
+    }
     switch (encoding_) {
     case TextEncoding::Windows1252References:
         AppendWindows1252(buffer_, text, Substitute::DecimalReference);
@@ -175,7 +181,11 @@ void TextFile::FlushIfFull() {
 }
 
 void TextFile::Flush() {
-    std::string_view rest = buffer_;
+    WriteOut(buffer_);
+    buffer_.clear();
+}
+
+void TextFile::WriteOut(std::string_view rest) const {
     while (!rest.empty()) {
         const ssize_t done = write(descriptor_, rest.data(), rest.size());
         if (done < 0 && errno == EINTR) {
@@ -186,7 +196,6 @@ void TextFile::Flush() {
         }
         rest.remove_prefix(static_cast<std::size_t>(done));
     }
-    buffer_.clear();
 }
 
 void TextFile::Close() {
