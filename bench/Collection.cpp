@@ -33,7 +33,7 @@ constexpr std::array<GenreChoice, 8> kGenres = {{{"Blues", 0},
                                                  {"Classical", 32},
                                                  {"Folk", 80}}};
 
-constexpr std::uint64_t kMegabyte = 1000 * 1000;
+constexpr std::uint64_t kMegabyte = 1'000'000;
 // MPEG-1 Layer III, 44,100 Hz, joint stereo, at 128 kbit/s without and with padding.
 constexpr std::string_view kFrameHeader = "\xFF\xFB\x90\x64";
 constexpr std::size_t kFrameSize = 417;

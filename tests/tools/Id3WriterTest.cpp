@@ -66,9 +66,9 @@ std::vector<WrittenTag> WrittenTags() {
     tag = TitleTag("a桜\U0001F3B5");
     tag.encoding = Id3TextEncoding::Utf16;
     add("Utf16HasAMarkAndSurrogates", tag,
-        "ID3\3\0\0\0\0\0\x15TIT2\0\0\0\x0B\0\0\1\xFF\xFE"s + "a\0\x1C\x68\x3C\xD8\xB5\xDF"s);
+        "ID3\3\0\0\0\0\0\x15TIT2\0\0\0\x0B\0\0\1\xFF\xFE"s + "a\0\x5C\x68\x3C\xD8\xB5\xDF"s);
     tag.encoding = Id3TextEncoding::Utf16BigEndian;
-    add("BigEndianUtf16HasNone", tag, "ID3\3\0\0\0\0\0\x13TIT2\0\0\0\x09\0\0\2\0a\x68\x1C\xD8\x3C\xDF\xB5"s);
+    add("BigEndianUtf16HasNone", tag, "ID3\3\0\0\0\0\0\x13TIT2\0\0\0\x09\0\0\2\0a\x68\x5C\xD8\x3C\xDF\xB5"s);
     tag.encoding = Id3TextEncoding::Utf8;
     add("Utf8", tag, "ID3\3\0\0\0\0\0\x13TIT2\0\0\0\x09\0\0\3"s + "a桜\U0001F3B5");
     tag = TitleTag("x");

@@ -82,7 +82,7 @@ class SampleCollection(unittest.TestCase):
 
     def test_has_names_in_many_scripts_and_an_upper_case_extension(self):
         names = "".join(str(path) for path in self.paths)
-        for letter in ("å", "É", "ß", "桜", "あ" if "あ" in names else "が", "Б", "–"):
+        for letter in ("å", "É", "ß", "桜", "が", "Б", "–"):
             self.assertIn(letter, names)
         self.assertEqual({path.suffix for path in self.paths}, {".mp3", ".MP3", ".Mp3"})
 
