@@ -133,6 +133,7 @@ std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& 
     chooser->setLabelText(QFileDialog::Accept, QDialog::tr("&OK"));
     chooser->setWindowFlags(Qt::Widget);
     chooser->setSizeGripEnabled(false);
+    chooser->layout()->setContentsMargins(0, 0, 0, 0);
     QObject::connect(chooser, &QDialog::accepted, &window, &QDialog::accept);
     QObject::connect(chooser, &QDialog::rejected, &window, &QDialog::reject);
 

@@ -54,7 +54,6 @@ frmDirSelection::frmDirSelection(Application& application, UserInterface& ui, Di
     connect(lvwDirs_, &QTreeWidget::itemSelectionChanged, this, &frmDirSelection::UpdateState);
     SelectRow(0);
     UpdateState();
-    lvwDirs_->resizeColumnToContents(0);
     RestoreWindowGeometry(*this);
     if (lvwDirs_->topLevelItemCount() == 0) {
         cmdAdd_->setFocus();
@@ -72,7 +71,6 @@ void frmDirSelection::BuildList() {
     lvwDirs_->setUniformRowHeights(true);
     lvwDirs_->setAlternatingRowColors(true);
     lvwDirs_->setTextElideMode(Qt::ElideNone); // long paths are scrolled to
-    lvwDirs_->header()->setStretchLastSection(false);
     lvwDirs_->setTabKeyNavigation(false);
     lvwDirs_->setMinimumWidth(fontMetrics().averageCharWidth() * kListWidthInCharacters);
     auto* remove = new QShortcut(QKeySequence::Delete, lvwDirs_);
@@ -165,7 +163,6 @@ void frmDirSelection::AddFolder(const std::string& folder) {
     }
     new QTreeWidgetItem(lvwDirs_, {ToQt(folder)});
     lastFolder_ = folder;
-    lvwDirs_->resizeColumnToContents(0);
     SelectRow(lvwDirs_->topLevelItemCount() - 1);
     UpdateState();
 }
@@ -284,6 +281,7 @@ void frmDirSelection::ExchangeTexts(int row, int otherRow) {
 void frmDirSelection::UpdateState() {
     const int count = lvwDirs_->topLevelItemCount();
     const int selected = SelectedRow();
+    lvwDirs_->header()->setMinimumSectionSize(lvwDirs_->sizeHintForColumn(0)); // else the list's own width
     lblNumOfDirs_->setText(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
 
     const QWidget* focus = focusWidget();
