@@ -278,10 +278,21 @@ void frmDirSelection::ExchangeTexts(int row, int otherRow) {
     other->setText(0, text);
 }
 
+// The column is as wide as the list, and wider where a folder needs it.
+void frmDirSelection::FitColumn() {
+    int widest = 0;
+    for (int row = 0; row < lvwDirs_->topLevelItemCount(); ++row) {
+        const QModelIndex index = lvwDirs_->model()->index(row, 0);
+        widest = std::max(widest, lvwDirs_->sizeHintForIndex(index).width());
+    }
+    lvwDirs_->header()->setMinimumSectionSize(widest);
+    lvwDirs_->header()->resizeSection(0, widest);
+}
+
 void frmDirSelection::UpdateState() {
     const int count = lvwDirs_->topLevelItemCount();
     const int selected = SelectedRow();
-    lvwDirs_->header()->setMinimumSectionSize(lvwDirs_->sizeHintForColumn(0)); // else the list's own width
+    FitColumn();
     lblNumOfDirs_->setText(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
 
     const QWidget* focus = focusWidget();
