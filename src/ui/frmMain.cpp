@@ -33,7 +33,7 @@ namespace tunedex {
 namespace {
 
 constexpr int kFieldWidthInCharacters = 40;
-constexpr int kFirstWidthInCharacters = 84; // of the window, before the user makes it another
+constexpr int kFirstWidthInCharacters = 100; // of the window, before the user makes it another
 
 constexpr auto kOutputFilters =
     u"HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|Winamp Playlist (*.m3u)|*.m3u|";
@@ -79,7 +79,7 @@ frmMain::frmMain(Application& application, UserInterface& ui, Dialogs& dialogs)
     setCentralWidget(centre);
     OrderControls();
     UpdateFolderControls();
-    resize(fontMetrics().averageCharWidth() * kFirstWidthInCharacters, minimumSizeHint().height());
+    resize(fontMetrics().averageCharWidth() * kFirstWidthInCharacters, sizeHint().height());
     RestoreWindowGeometry(*this);
     txtInputDir_->setFocus();
 }
@@ -206,9 +206,8 @@ QGroupBox* frmMain::BuildOutputGroup() {
         MakeButton("cmdSelectOutputFile", tr("Bro&wse..."), tr("Browse for the output file"),
                    tr("Lets you pick the folder and the name of the list"));
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
-    auto* hint = new QLabel(tr("The name's ending decides: .htm web page, .txt plain text, .m3u playlist."));
+    auto* hint = new QLabel(tr("A name in .htm gives a web page, .txt a plain text, .m3u a playlist."));
     hint->setObjectName(u"lblOutputHint"_s);
-    hint->setWordWrap(true);
 
     auto* group = new QGroupBox(tr("List"));
     auto* grid = new QGridLayout(group);
