@@ -4,6 +4,7 @@
 #include "Application.h"
 #include "UserInterface.h"
 
+#include <QList>
 #include <QString>
 
 #include <string>
@@ -36,6 +37,9 @@ QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic);
 QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleName,
                          const QString& description);
 
+// The order in which Tab visits the controls.
+void SetTabOrders(const QList<QWidget*>& controls);
+
 // Puts the focus into the field and selects its whole text.
 void FocusAndSelectAll(QLineEdit& field);
 
@@ -43,6 +47,9 @@ void FocusAndSelectAll(QLineEdit& field);
 // window that was never shown before keeps the size it has.
 void RestoreWindowGeometry(QWidget& window);
 void SaveWindowGeometry(const QWidget& window);
+
+// Gives the program's windows its icon. To be called once there is a QApplication.
+void InstallProgramIcon();
 
 // Opens the help file in the user's browser, or says that it could not be found.
 void OpenHelp(const Application& application, UserInterface& ui);
