@@ -4,6 +4,7 @@
 #include "Application.h"
 #include "QSettingsRegistry.h"
 #include "RunTerminal.h"
+#include "RunWindows.h"
 #include "Startup.h"
 
 #include <csignal>
@@ -32,7 +33,11 @@ int Run(int argc, char** argv) {
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
-    if (tunedex::IsAutomatic(arguments) && !HasDisplay()) {
+    const bool automatic = tunedex::IsAutomatic(arguments);
+    if (HasDisplay()) {
+        return tunedex::RunWindows(argc, argv, application, automatic);
+    }
+    if (automatic) {
         return tunedex::RunTerminal(application, arguments);
     }
     std::cerr << "Tunedex: there is no display to open its window on. Without one, start it with /AUTO.\n";
