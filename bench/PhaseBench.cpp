@@ -3,8 +3,9 @@
 //
 // usage: phase_bench sort N        SortTracks beside std::sort over the same upper-cased keys
 //        phase_bench html|text|m3u N FOLDER   a writer beside writing the same bytes through one buffer of 64
-//        KiB phase_bench pages N FOLDER           pages of 100 rows beside one page phase_bench abort
-//        COLLECTION FOLDER  from the request to stop to the return, in every phase
+//        KiB phase_bench pages N FOLDER           pages of 100 rows beside one page, and beside plain files
+//        with the same bytes phase_bench abort COLLECTION FOLDER  from the request to stop to the return, in
+//        every phase
 //
 // Prints lines of NAME SECONDS; the ratios are the caller's, who runs this several times.
 
@@ -198,6 +199,19 @@ void Pages(std::size_t count, const std::string& folder) {
     std::filesystem::create_directory(pages);
     Print("pages-of-100",
           SecondsOf([&] { bench.Write(monitor, tunedex::kHtmlOutput, pages + "/p.htm", 100); }));
+    std::vector<std::string> contents;
+    for (const auto& entry : std::filesystem::directory_iterator(pages)) {
+        contents.push_back(ReadWhole(entry.path()));
+    }
+    std::filesystem::remove_all(pages);
+    std::filesystem::create_directory(pages);
+    Print("plain-files", SecondsOf([&] {
+              for (std::size_t i = 0; i < contents.size(); ++i) {
+                  const std::string path = pages + "/p." + std::to_string(i);
+                  WriteThroughBuffer(contents[i], path + ".new");
+                  std::filesystem::rename(path + ".new", path);
+              }
+          }));
     std::filesystem::remove_all(pages);
 }
 

@@ -10,8 +10,10 @@
 #include <csignal>
 #include <cstdlib>
 #include <exception>
+#include <fcntl.h>
 #include <iostream>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -26,6 +28,16 @@ bool HasDisplay() {
         }
     }
     return false;
+}
+
+// Started with a standard stream closed, the program would get its number for the next file it opens, and
+// messages would end up in a listing.
+void OpenStandardStreams() {
+    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+        if (fcntl(descriptor, F_GETFD) < 0) {
+            open("/dev/null", O_RDWR); // takes the lowest free number, which is this one
+        }
+    }
 }
 
 int Run(int argc, char** argv) {
@@ -47,6 +59,7 @@ int Run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    OpenStandardStreams();
     // A reader of our messages that goes away must not end a run.
     std::signal(SIGPIPE, SIG_IGN);
     try {

@@ -1,7 +1,5 @@
 #include "Text.h"
 
-#include "RunTimeError.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -254,13 +252,6 @@ std::string_view TrimBlanksRight(std::string_view text) {
 std::string_view TrimBlanks(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string_view() : TrimBlanksRight(text.substr(first));
-}
-
-void DropLast(std::string& text) {
-    if (text.empty()) {
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    }
-    text.pop_back();
 }
 
 std::string EncodeFileLine(std::string_view text) {
