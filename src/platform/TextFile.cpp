@@ -42,6 +42,15 @@ bool FolderForbidsNewFiles(int errorCode) {
     return errorCode == EACCES || errorCode == EPERM || errorCode == EROFS;
 }
 
+// A shared folder like /tmp takes new files from everybody, but only owners may put one in an old one's
+// place.
+bool FolderForbidsReplacing(int folder, const struct stat& old) {
+    struct stat status {};
+    const uid_t user = geteuid();
+    return fstat(folder, &status) == 0 && (status.st_mode & S_ISVTX) != 0 && user != 0 &&
+           user != status.st_uid && user != old.st_uid;
+}
+
 int OpenAt(int folder, const std::string& name, int flags, mode_t mode) {
     int descriptor = -1;
     do {
@@ -92,7 +101,7 @@ void TextFile::OpenAside(const std::string& path) {
     if (exists && faccessat(folder_, name_.c_str(), W_OK, AT_EACCESS) != 0) {
         Fail(errno);
     }
-    if (!exists || S_ISREG(old.st_mode)) {
+    if (!exists || (S_ISREG(old.st_mode) && !FolderForbidsReplacing(folder_, old))) {
         do {
             aside_ = NewAsideName();
             descriptor_ = OpenAt(folder_, aside_, O_WRONLY | O_CREAT | O_EXCL, 0666);
