@@ -312,6 +312,27 @@ TEST(FindMpegHeader, RaisesPastEndWhereTheBytesBehindXingAreMissing) {
     EXPECT_EQ(ErrorOf("\xFF\xF9\x90\x64" + kHeader + "Xing" + "1234567"), 62);
 }
 
+TEST(FindMpegHeader, LooksForNoXingBehindASecondByteE0OrAThirdByteEC) {
+    // For a candidate, the bytes missing behind this "Xing" would end the search.
+    for (const char* refused : {"\xFF\xE0\x90\x64", "\xFF\xFB\xEC\x64"}) {
+        EXPECT_EQ(Find(refused + "Xing"s + kHeader).offset, 8U);
+    }
+    EXPECT_EQ(ErrorOf("\xFF\xE1\x90\x64" + "Xing"s + kHeader), 62);
+}
+
+TEST(FindMpegHeader, SeesAXingThatARefusedCandidateSawHalfOf) {
+    for (std::size_t distance = 1385; distance < 1415; ++distance) {
+        std::string bytes = "\xFF\xF9\x90\x64"
+                            "aaaa" +
+                            kHeader;
+        bytes.resize(distance, 'a');
+        bytes += "Xing\0\0\0\x01\0\0\x01\0\0\0\0\0"s;
+        const MpegHeader header = Find(bytes);
+        EXPECT_EQ(header.offset, 8U);
+        EXPECT_EQ(header.vbr, distance + 4 <= 8 + 1400) << distance;
+    }
+}
+
 TEST(FindMpegHeader, TakesTheFirstXingBehindTheAcceptedHeader) {
     // The refused candidate sees the first one, the accepted header only the second.
     const std::string count1 = "Xing\0\0\0\x01\0\0\0\x01\0\0\0\0"s;
