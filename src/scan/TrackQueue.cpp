@@ -116,7 +116,7 @@ bool TrackQueue::Publish() {
             work_.notify_one();
         }
     }
-    while (!batches_.empty() && ReceiveFront(false)) {
+    while (state_ == State::Running && !batches_.empty() && ReceiveFront(false)) {
     }
     while (state_ == State::Running && !batches_.empty() &&
            (batches_.size() >= kMostBatches || OpenFolder::OpenCount() >= mostOpenFolders_)) {
@@ -184,6 +184,11 @@ void TrackQueue::Receive(Batch& batch) {
                 ReadOne(track, options_);
             }
             receiver_(track);
+            // As often as a single reader is asked: after every file.
+            if (stopTest_()) {
+                state_ = State::Stopped;
+                return;
+            }
         }
     } catch (...) {
         state_ = State::Failed;
