@@ -57,8 +57,8 @@ class CollectingVisitor final : public WalkVisitor {
         aborted_ = !queue_.Drain() || aborted_;
         return held;
     }
-    // Stores what is still in flight. Returns false when the user aborted.
-    bool Finish() { return queue_.Drain(); }
+    // Stores what is still in flight. Returns false when the user aborted, during the last of it too.
+    bool Finish() { return queue_.Drain() && !monitor_.AbortRequested(); }
 
   private:
     void Store(QueuedTrack& queued) {

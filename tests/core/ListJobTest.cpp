@@ -62,6 +62,13 @@ class ListJob : public testing::Test {
         const auto& statuses = ui_.monitor.statuses;
         return std::find(statuses.begin(), statuses.end(), status) != statuses.end();
     }
+    // Abort stays pressed from the moment on in which that status is shown.
+    void AbortFrom(const std::string& status) {
+        ui_.monitor.abortWhen = [this, status] {
+            begun_ = begun_ || Said(status);
+            return begun_;
+        };
+    }
     // A run that ended before anything was opened or shown.
     void ExpectRefused(const Messages& messages) {
         EXPECT_FALSE(Run());
@@ -77,6 +84,7 @@ class ListJob : public testing::Test {
     test::FakeApplication fake_{folder_.Path()};
     test::FakeUserInterface ui_;
     Application& application_ = fake_.application;
+    bool begun_ = false; // whether Abort has been pressed
 };
 
 TEST_F(ListJob, SaysWhatItIsDoingInAFixedOrderAndWritesTheList) {
@@ -489,7 +497,8 @@ TEST_F(ListJob, KeepsWhatTheWritersChangeInItsSettingsToItself) {
     EXPECT_EQ(application_.settings.ActiveColumns, "Artist|Title");
     EXPECT_EQ(ui_.fields.outputFile, folder_ / "out/list");
     // However the run ends.
-    ui_.monitor.abortWhen = [&] { return ui_.monitor.statuses.back() == "Writing information..."; };
+    ui_.monitor.statuses.clear();
+    AbortFrom("Writing information...");
     EXPECT_FALSE(Run());
     EXPECT_EQ(application_.settings, expected);
     ui_.monitor.abortWhen = nullptr;
@@ -525,12 +534,6 @@ class AbortedListJob : public ListJob {
         folder_.Write("out/list.txt", "old");
         application_.settings.ErrorLog = true;
     }
-    void AbortIn(const std::string& status) {
-        ui_.monitor.abortWhen = [this, status] {
-            begun_ = begun_ || (!ui_.monitor.statuses.empty() && ui_.monitor.statuses.back() == status);
-            return begun_;
-        };
-    }
     void ExpectAborted() {
         EXPECT_FALSE(Run());
         EXPECT_TRUE(begun_);
@@ -542,33 +545,31 @@ class AbortedListJob : public ListJob {
         EXPECT_EQ(List("program/Tunedex.log"), "");
         EXPECT_EQ(application_.settings.OutputFile, folder_ / "out/list.txt");
     }
-
-    bool begun_ = false;
 };
 
 TEST_F(AbortedListJob, EndsAtOnceWhenAbortedWhileReading) {
-    AbortIn("Retrieving MPEG/ID3 information...");
+    AbortFrom("Retrieving MPEG/ID3 information...");
     ExpectAborted();
     EXPECT_FALSE(Said("Sorting information..."));
     EXPECT_EQ(List(), "old");
 }
 
 TEST_F(AbortedListJob, EndsAtOnceWhenAbortedAmongTheFiles) {
-    AbortIn("Retrieving MPEG/ID3 information (7/20)...");
+    AbortFrom("Retrieving MPEG/ID3 information (7/20)...");
     ExpectAborted();
     EXPECT_FALSE(Said("Sorting information..."));
     EXPECT_EQ(List(), "old");
 }
 
 TEST_F(AbortedListJob, EndsAtOnceWhenAbortedWhileSorting) {
-    AbortIn("Sorting information...");
+    AbortFrom("Sorting information...");
     ExpectAborted();
     EXPECT_FALSE(Said("Writing information..."));
     EXPECT_EQ(List(), "old");
 }
 
 TEST_F(AbortedListJob, LeavesTheListAsItStandsWhenAbortedWhileWriting) {
-    AbortIn("Writing information...");
+    AbortFrom("Writing information...");
     ExpectAborted();
     EXPECT_EQ(List(), "Artist\tTitle\r\n");
 }

@@ -1,0 +1,486 @@
+#!/usr/bin/env python3
+"""Runs the built program as its users do: whole, unattended, without a display.
+
+usage: ProgramTest.py --list                 prints the names of the tests
+       ProgramTest.py PROGRAM [TEST...]      runs them; 77 when all of them were skipped
+"""
+
+import contextlib
+import datetime
+import os
+import pathlib
+import shutil
+import signal
+import stat
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = None
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
+NOBODY = 65534
+ALL_COLUMNS = ("Number|Artist|Album|Title|Year|Genre|MPEG Type|Mode|Bitrate|Frequency|Duration|File Size|"
+               "Filename|Folder Path|Full Path")
+STATUSES = [b"Searching for MP3 files...", b"Retrieving MPEG/ID3 information...", b"Sorting information...",
+            b"Writing information...", b"Operation complete!"]
+AUTOMATIC = b"Tunedex Error! (Automatic Mode)\n"
+
+
+def audio(size=8192):
+    """A frame header (MPEG-1 layer III, 128 kbit/s, 44,100 Hz) and zeros."""
+    return b"\xff\xfb\x90\x64" + bytes(size - 4)
+
+
+def id3v1(title=b"", artist=b""):
+    return b"TAG" + title.ljust(30, b"\0") + artist.ljust(30, b"\0") + bytes(64) + b"\xff"
+
+
+def locale_installed(name):
+    names = subprocess.run(["locale", "-a"], capture_output=True, check=True).stdout.decode("latin-1").lower()
+    return name.lower().replace("-", "") in names.replace("-", "").split()
+
+
+class ProgramTest(unittest.TestCase):
+    def setUp(self):
+        # Not below the build folder: an ordinary user must get there too.
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tunedex-test-"))
+        self.addCleanup(self.remove)
+        self.folder.chmod(0o755)
+        self.installation = self.folder / "program"
+        self.music = self.folder / "music"
+        self.out = self.folder / "out"
+        self.list = self.out / "list.txt"
+        for path in (self.installation, self.music, self.out, self.folder / "home", self.folder / "config",
+                     self.folder / "etc"):
+            path.mkdir()
+        self.register(self.folder / "config")
+        self.settings = {"Directory": str(self.music), "OutputFile": str(self.list), "Recurse": 1, "SizeType": 0,
+                         "SortOrder": 1, "ErrorWarnings": 1, "ErrorLog": 0, "ActiveColumns": "Artist|Title",
+                         "Merge": 0}
+
+    def remove(self):
+        for path in [self.folder, *self.folder.rglob("*")]:
+            if path.is_dir() and not path.is_symlink():
+                with contextlib.suppress(OSError):
+                    path.chmod(0o755)
+        shutil.rmtree(self.folder)
+
+    def register(self, folder, installation=None):
+        """Names the program's folder in a registry that is kept in that folder."""
+        (folder / "Corvale Works").mkdir(parents=True)
+        (folder / "Corvale Works/Tunedex.conf").write_text(
+            f'[General]\nInstallationPath="{installation or self.installation}"\n', encoding="utf-8")
+
+    def track(self, name, artist="Artist", title="Title"):
+        path = self.music / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(audio() + id3v1(title.encode("cp1252"), artist.encode("cp1252")))
+        return path
+
+    def write_settings(self, folder=None):
+        lines = "".join(f"{key}={value}\r\n" for key, value in self.settings.items())
+        ((folder or self.installation) / "Tunedex.cfg").write_bytes(lines.encode("utf-8", "surrogateescape"))
+
+    def environment(self, variables):
+        environment = {"PATH": os.environ["PATH"], "HOME": str(self.folder / "home"),
+                       "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_CONFIG_DIRS": str(self.folder / "etc")}
+        # Sanitizers read their options here.
+        environment.update({key: os.environ[key] for key in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS",
+                                                             "LD_LIBRARY_PATH") if key in os.environ})
+        environment.update(variables)
+        return environment
+
+    def run_program(self, *arguments, answers=b"", program=None, ordinary=False, settings=True, **variables):
+        if settings:
+            self.write_settings()
+        options = {}
+        if ordinary and os.geteuid() == 0:
+            for path in [self.folder, *self.folder.rglob("*")]:
+                os.lchown(path, NOBODY, NOBODY)
+            options = {"user": NOBODY, "group": NOBODY, "extra_groups": []}
+        return subprocess.run([program or self.program(), *(arguments or ["/AUTO"])], input=answers,
+                              capture_output=True, timeout=240, check=False, cwd=self.folder,
+                              env=self.environment(variables), **options)
+
+    def program(self):
+        """The program, where an ordinary user can start it."""
+        copy = self.folder / "bin/tunedex"
+        if not copy.exists():
+            copy.parent.mkdir()
+            shutil.copy(PROGRAM, copy)
+        return copy
+
+    def expect(self, result, status, *parts):
+        self.assertEqual(result.returncode, status, result.stderr.decode("utf-8", "replace"))
+        self.assertEqual(result.stdout, b"")
+        position = 0
+        for part in parts:
+            found = result.stderr.find(part, position)
+            self.assertGreaterEqual(found, 0, f"{part!r} is not (or too early) in {result.stderr!r}")
+            position = found + len(part)
+
+    def rows(self, path=None):
+        """The lines of the listing below its header."""
+        lines = (path or self.list).read_bytes().split(b"\r\n")
+        self.assertEqual(lines.pop(), b"", "a listing ends with a line end")
+        return lines[1:]
+
+    # What a run gives
+
+    def test_writes_the_list_and_says_so_on_standard_error_alone(self):
+        self.track("b.mp3", "Zappa", "Peaches")
+        self.track("sub/a.MP3", "Abba", "Ring")
+        self.expect(self.run_program(), 0, *[status + b"\n" for status in STATUSES])
+        self.assertEqual(self.list.read_bytes(), b"Artist\tTitle\r\nAbba\tRing\r\nZappa\tPeaches\r\n")
+
+    def test_finds_its_switch_in_any_case_and_inside_a_longer_word(self):
+        self.track("a.mp3")
+        for argument in ("/auto", "x/AutoY"):
+            self.expect(self.run_program("some.cfg", argument), 0)
+
+    def test_says_that_there_is_no_display_and_could_not_start(self):
+        self.expect(self.run_program("some.cfg"), 2, b"display")
+
+    def test_gives_the_same_bytes_twice(self):
+        for number in range(40):
+            self.track(f"folder {number % 5}/{number}.mp3", f"Ärtist {number * 7 % 40}", f"Title {number % 3}")
+        for name in ("list.txt", "list.m3u", "list.htm"):
+            self.settings.update(OutputFile=self.out / name, ActiveColumns=ALL_COLUMNS, PageFooter="%C %S %P")
+            self.expect(self.run_program(), 0)
+            first = (self.out / name).read_bytes()
+            self.expect(self.run_program(), 0)
+            self.assertEqual((self.out / name).read_bytes(), first)
+            self.assertGreater(len(first), 40 * 20)
+
+    def test_lists_several_folders(self):
+        self.track("one/a.mp3", "Abba")
+        self.track("two/b.mp3", "Zappa")
+        self.settings["Directory"] = f"%MULT%{self.music}/one%||%{self.music}/two"
+        self.expect(self.run_program(), 0)
+        self.assertEqual(self.rows(), [b"Abba\tTitle", b"Zappa\tTitle"])
+
+    def test_leaves_the_statistics_file_alone(self):
+        self.track("a.mp3")
+        self.expect(self.run_program(), 0)
+        self.assertFalse((self.installation / "stats.lst").exists())
+        before = b'"15/11/2026"\r\n3\r\n2\r\n57\r\n'
+        (self.installation / "stats.lst").write_bytes(before)
+        self.expect(self.run_program(), 0)
+        self.assertEqual((self.installation / "stats.lst").read_bytes(), before)
+
+    def test_writes_the_paths_of_a_playlist_byte_for_byte(self):
+        names = [b"caf\xc3\xa9.mp3", "歌.mp3".encode(), b"stray \xe9.mp3", b"back\\slash.mp3"]
+        for name in names:
+            pathlib.Path(os.fsdecode(os.fsencode(self.music) + b"/" + name)).write_bytes(audio() + id3v1(b"T\xe9"))
+        self.settings["OutputFile"] = self.out / "list.m3u"
+        self.expect(self.run_program(), 0)
+        lines = (self.out / "list.m3u").read_bytes().split(b"\r\n")
+        self.assertEqual(sorted(lines[2::2]), sorted(os.fsencode(self.music) + b"/" + name for name in names))
+        self.assertTrue(lines[1].endswith("Té".encode()), "one encoding throughout: UTF-8 here")
+
+    # Numbers and dates
+
+    def test_uses_the_formats_of_no_country_by_default(self):
+        self.track("a.mp3")
+        self.settings.update(ActiveColumns="File Size")
+        self.expect(self.run_program(LC_ALL="C"), 0)
+        self.assertEqual(self.rows(), [b"8,320 b."])
+
+    def test_follows_a_german_locale(self):
+        if not locale_installed("de_DE.utf8"):
+            self.skipTest("the locale de_DE.UTF-8 is not installed")
+        self.track("a.mp3")
+        self.settings.update(ActiveColumns="File Size")
+        self.expect(self.run_program(LC_ALL="de_DE.UTF-8"), 0)
+        self.assertEqual(self.rows(), [b"8.320 b."])
+        self.settings.update(SizeType=1)
+        self.expect(self.run_program(LC_ALL="de_DE.UTF-8"), 0)
+        self.assertEqual(self.rows()[0].split()[0], b"8,13")
+        self.settings.update(OutputFile=self.out / "list.htm", PageFooter="am %D.")
+        days = [datetime.date.today()]
+        self.expect(self.run_program(LC_ALL="de_DE.UTF-8"), 0)
+        days.append(datetime.date.today())
+        page = (self.out / "list.htm").read_text("cp1252")
+        self.assertTrue(any(day.strftime("am %d.%m.%Y.") in page for day in days))
+
+    # Messages and answers
+
+    def test_answers_itself_with_no_at_the_end_of_standard_input(self):
+        self.track("a.mp3")
+        self.settings["OutputFile"] = self.out / "new/list.txt"
+        self.expect(self.run_program(), 1, AUTOMATIC +
+                    b"The output directory does not exist!\n\nDo you want to create it?\nYes or No? [No] \n")
+        self.assertFalse((self.out / "new").exists())
+
+    def test_creates_the_output_folder_when_told_yes(self):
+        self.track("a.mp3")
+        self.settings["OutputFile"] = self.out / "new/er/list.txt"
+        self.expect(self.run_program(answers=b"y\n"), 0)
+        self.assertTrue((self.out / "new/er/list.txt").exists())
+
+    def test_creates_nothing_when_told_no(self):
+        self.track("a.mp3")
+        self.settings["OutputFile"] = self.out / "new/list.txt"
+        self.expect(self.run_program(answers=b"n\ny\n"), 1)
+        self.assertFalse((self.out / "new").exists())
+
+    def test_runs_with_standard_input_closed(self):
+        self.settings["Directory"] = self.folder / "none"
+        self.write_settings()
+        result = subprocess.run(["sh", "-c", 'exec "$0" /AUTO <&-', str(self.program())], capture_output=True,
+                                timeout=240, check=False, env=self.environment({}))
+        self.expect(result, 1, b"The specified directory does not exist!\n[OK] \n")
+
+    def test_says_what_is_wrong_and_exits_with_one(self):
+        rows = [({"Directory": ""}, b"No input directory specified!"),
+                ({"Directory": "%MULT%"}, b"No input directories specified!"),
+                ({"Directory": self.folder / "none"}, b"The specified directory does not exist!"),
+                ({"OutputFile": ""}, b"No output file specified!")]
+        for changes, text in rows:
+            with self.subTest(text):
+                before = dict(self.settings)
+                self.settings.update(changes)
+                self.expect(self.run_program(), 1, AUTOMATIC + text + b"\n[OK] ")
+                self.settings = before
+        self.expect(self.run_program(), 1, b"No MP3 files!\nNo MP3 files were found\nin the directory specified.\n")
+        self.assertFalse(self.list.exists())
+
+    def test_reports_malformed_statistics_and_goes_on(self):
+        self.track("a.mp3")
+        (self.installation / "stats.lst").write_bytes(b"rubbish\r\n")
+        self.expect(self.run_program(), 0, AUTOMATIC + b"An unexpected error occurred. The error was: \n\n"
+                    b"Error number 62 - Input past end of file\n[OK] ")
+
+    def test_names_file_and_line_of_faulty_settings_and_entities(self):
+        self.track("a.mp3", "A & B")
+        self.settings.update(OutputFile=self.out / "list.htm")
+        self.write_settings()
+        with open(self.installation / "Tunedex.cfg", "ab") as file:
+            file.write(b"Font(0)=x\r\nno sign\r\n")
+        (self.installation / "html_entities.lst").write_bytes(b"38 &amp;\r\n38\t&amp;\r\n")
+        self.expect(self.run_program(settings=False), 0,
+                    os.fsencode(self.installation) + b"/Tunedex.cfg:10: line skipped: Subscript out of range\n",
+                    os.fsencode(self.installation) + b'/Tunedex.cfg:11: line skipped: no "=" in it\n',
+                    os.fsencode(self.installation) + b"/html_entities.lst:1: line skipped: no TAB in it\n")
+        self.assertIn(b"A &amp; B", (self.out / "list.htm").read_bytes())
+
+    def test_cannot_start_with_settings_that_cannot_be_read(self):
+        os.mkfifo(self.installation / "Tunedex.cfg")
+        self.expect(self.run_program(settings=False), 2, b"could not start: File not found")
+
+    def test_is_aborted_by_an_interrupt(self):
+        (self.music / "junk.mp3").write_bytes(b"no audio" * 500)
+        for number in range(20):
+            self.track(f"{number}.mp3")
+        self.list.write_bytes(b"old")
+        self.write_settings()
+        with subprocess.Popen([self.program(), "/AUTO"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, env=self.environment({}), cwd=self.folder) as process:
+            said = b""
+            while not said.endswith(b"[OK] "):  # it waits for an answer now
+                byte = process.stderr.read(1)
+                self.assertNotEqual(byte, b"", said)
+                said += byte
+            process.send_signal(signal.SIGINT)
+            rest = process.stderr.read()
+            self.assertEqual(process.wait(240), 1)
+        self.assertNotIn(b"Operation complete!", said + rest)
+        self.assertEqual(self.list.read_bytes(), b"old")
+
+    # Collections that are not what one expects
+
+    def test_never_opens_a_fifo_named_like_a_track(self):
+        self.track("a.mp3", "Abba")
+        os.mkfifo(self.music / "x.mp3")
+        self.expect(self.run_program(), 0)
+        self.assertEqual(self.rows(), [b"Abba\tTitle"])
+
+    def test_walks_a_loop_of_links_once(self):
+        self.track("sub/a.mp3", "Abba")
+        (self.music / "sub/up").symlink_to("..")
+        (self.music / "sub/here").symlink_to(".")
+        (self.music / "self.mp3").symlink_to("self.mp3")
+        (self.music / "gone.mp3").symlink_to("nothing")
+        self.expect(self.run_program(), 0)
+        self.assertEqual(self.rows(), [b"Abba\tTitle"])
+
+    def test_lists_a_file_of_300_megabytes(self):
+        path = self.track("big.mp3")
+        os.truncate(path, 300_000_000)
+        self.settings.update(ActiveColumns="Filename|File Size|Bitrate")
+        self.expect(self.run_program(), 0, AUTOMATIC + b"An error occurred decoding the headers of: \n\n" +
+                    os.fsencode(path) + b"\n[OK] ")
+        self.assertTrue(self.rows()[0].startswith(b"big.mp3\t300,000,000 b.\t"), self.rows())
+
+    def test_lists_an_empty_file(self):
+        (self.music / "empty.mp3").write_bytes(b"")
+        self.settings.update(ActiveColumns="Artist|Title|File Size|Duration")
+        self.expect(self.run_program(), 0, b"An error occurred decoding the headers of: \n\n")
+        self.assertEqual(self.rows(), [os.fsencode(self.music / "empty.mp3") + b"\tNo ID3 Tags!\t0 b.\t"])
+
+    def test_survives_a_tag_that_claims_256_megabytes(self):
+        frame = b"TIT2" + struct.pack(">I", 0xFFFFFFFF) + b"\0\0\0Claim"
+        (self.music / "claim.mp3").write_bytes(b"ID3\x03\0\0\x7f\x7f\x7f\x7f" + frame + audio() +
+                                               id3v1(b"Title", b"Abba"))
+        self.expect(self.run_program(), 0)
+        self.assertEqual(len(self.rows()), 1)
+        self.assertTrue(self.rows()[0].startswith(b"Abba\t"), self.rows())
+
+    def test_goes_on_after_a_folder_that_may_not_be_read(self):
+        self.track("a.mp3", "Abba")
+        closed = self.music / "closed"
+        closed.mkdir()
+        closed.chmod(0)
+        self.settings.update(ErrorLog=1)
+        self.expect(self.run_program(ordinary=True), 0,
+                    AUTOMATIC + b"An error occurred scanning the directory: \n\n" + os.fsencode(closed) +
+                    b"\n\n75: Path/File access error\n[OK] ")
+        self.assertEqual(self.rows(), [b"Abba\tTitle"])
+        line = (b"An error occurred scanning the directory: " + os.fsencode(closed) +
+                b"75: Path/File access error\r\n")
+        self.assertEqual((self.installation / "Tunedex.log").read_bytes(), line * 2)
+
+    def test_lists_the_whole_corpus(self):
+        corpus = pathlib.Path(os.environ.get("TUNEDEX_CORPUS") or SOURCE.parent / "shared/corpus")
+        if not corpus.is_dir():
+            self.skipTest(f"there is no corpus of MP3 files in {corpus}")
+        self.settings.update(Directory=corpus, ActiveColumns=ALL_COLUMNS, ErrorWarnings=0, ErrorLog=1)
+        expected = sum(1 for path in corpus.rglob("*") if path.name.lower().endswith(".mp3") and path.is_file() and
+                       not any(part.startswith(".") for part in path.relative_to(corpus).parts))
+        self.expect(self.run_program(), 0, *STATUSES)
+        content = self.list.read_bytes()
+        self.assertEqual(content.split(b"\r\n")[0].count(b"\t"), 14)
+        for folder_and_name in {os.fsencode(path) for path in corpus.rglob("*.mp3")}:
+            self.assertEqual(content.count(b"\t" + folder_and_name + b"\r\n"), 1, folder_and_name)
+        self.assertGreaterEqual(content.count(b"\r\n"), expected + 1)
+
+    # What may not be written
+
+    def test_keeps_what_was_there_when_the_output_folder_takes_nothing(self):
+        self.track("a.mp3")
+        self.out.chmod(0o555)
+        self.expect(self.run_program(ordinary=True), 1, b"Error\nAn unexpected error occurred. The error was: \n\n"
+                    b"Error number 75 - Path/File access error\n[OK] ")
+        self.assertEqual(list(self.out.iterdir()), [])
+
+    def test_replaces_a_writable_list_in_a_folder_that_takes_no_new_files(self):
+        self.track("a.mp3", "Abba")
+        self.list.write_bytes(b"old " * 1000)
+        self.out.chmod(0o555)
+        self.expect(self.run_program(ordinary=True), 0)
+        self.assertEqual(self.rows(), [b"Abba\tTitle"])
+
+    def test_never_replaces_a_list_that_may_not_be_written(self):
+        self.track("a.mp3")
+        self.list.write_bytes(b"old")
+        self.list.chmod(0o444)
+        self.expect(self.run_program(ordinary=True), 1, b"Error number 75 - Path/File access error")
+        self.assertEqual(self.list.read_bytes(), b"old")
+        self.assertEqual(list(self.out.iterdir()), [self.list])
+
+    def test_keeps_permissions_and_links_of_the_list(self):
+        self.track("a.mp3", "Abba")
+        real = self.folder / "real.txt"
+        real.write_bytes(b"old")
+        real.chmod(0o640)
+        self.list.symlink_to(real)
+        self.expect(self.run_program(), 0)
+        self.assertTrue(self.list.is_symlink())
+        self.assertEqual(self.rows(real), [b"Abba\tTitle"])
+        self.assertEqual(stat.S_IMODE(real.stat().st_mode), 0o640)
+
+    def test_reports_a_full_disk(self):
+        self.track("a.mp3")
+        self.list.symlink_to("/dev/full")
+        self.expect(self.run_program(), 1, b"Error number 61 - Disk full")
+
+    def test_reports_a_log_that_cannot_be_opened(self):
+        self.track("a.mp3")
+        self.settings.update(ErrorLog=1)
+        (self.installation / "Tunedex.log").mkdir()
+        self.expect(self.run_program(), 1, b"Error number 75 - Path/File access error")
+        self.assertFalse(self.list.exists())
+
+    def test_keeps_the_old_playlist_when_a_track_has_no_duration(self):
+        (self.music / "junk.mp3").write_bytes(b"no audio" * 500)
+        self.settings.update(ErrorWarnings=0, OutputFile=self.out / "list.m3u")
+        (self.out / "list.m3u").write_bytes(b"old")
+        self.expect(self.run_program(), 1, b"Error number 5 - Invalid procedure call or argument")
+        self.assertEqual((self.out / "list.m3u").read_bytes(), b"old")
+        self.assertEqual(list(self.out.iterdir()), [self.out / "list.m3u"])
+
+    # Where the program keeps its files
+
+    def test_runs_from_wherever_it_was_copied_with_its_own_folder(self):
+        self.track("a.mp3", "Abba")
+        elsewhere = self.folder / "else where"
+        elsewhere.mkdir()
+        shutil.copy(PROGRAM, elsewhere / "renamed")
+        self.settings.update(ErrorLog=1)
+        self.write_settings(elsewhere)
+        shutil.rmtree(self.folder / "config")
+        self.expect(self.run_program(program=elsewhere / "renamed", settings=False, ordinary=True), 0)
+        self.assertEqual(self.rows(), [b"Abba\tTitle"])
+        self.assertEqual((elsewhere / "Tunedex.log").read_bytes(), b"")
+        self.assertFalse((self.folder / "home/.local").exists())
+
+    def test_uses_the_users_data_folder_where_its_own_cannot_be_written(self):
+        shutil.rmtree(self.folder / "config")
+        self.program().parent.chmod(0o555)
+        data = self.folder / "data/tunedex"
+        self.expect(self.run_program(ordinary=True, settings=False, XDG_DATA_HOME=str(data.parent)), 1,
+                    AUTOMATIC + b"No input directory specified!\n")
+        for name in ("html_entities.lst", "tips.lst"):
+            self.assertEqual((data / name).read_bytes(), (SOURCE / "data" / name).read_bytes())
+        self.assertEqual(sorted(path.name for path in (data / "Themes").glob("*")),
+                         sorted(path.name for path in (SOURCE / "data/Themes").glob("*.thm")))
+        # Filled once, it is the user's.
+        (data / "tips.lst").write_bytes(b"mine")
+        self.track("a.mp3", "Abba")
+        self.write_settings(data)
+        self.expect(self.run_program(ordinary=True, settings=False, XDG_DATA_HOME=str(data.parent)), 0)
+        self.assertEqual((data / "tips.lst").read_bytes(), b"mine")
+        self.assertEqual(self.rows(), [b"Abba\tTitle"])
+
+    def test_uses_the_data_folder_in_the_users_home_without_a_variable(self):
+        shutil.rmtree(self.folder / "config")
+        self.program().parent.chmod(0o555)
+        self.expect(self.run_program(ordinary=True, settings=False), 1)
+        self.assertTrue((self.folder / "home/.local/share/tunedex/tips.lst").exists())
+
+    def test_cannot_start_where_no_folder_can_be_made(self):
+        shutil.rmtree(self.folder / "config")
+        self.program().parent.chmod(0o555)
+        (self.folder / "home").chmod(0o555)
+        self.expect(self.run_program(ordinary=True, settings=False), 2,
+                    b"could not start: Path/File access error")
+
+    def test_falls_back_on_the_system_wide_registry(self):
+        self.track("a.mp3", "Abba")
+        shutil.rmtree(self.folder / "config")
+        self.register(self.folder / "etc")
+        self.expect(self.run_program(), 0)
+        # The user's own registry comes first.
+        (self.folder / "mine").mkdir()
+        self.register(self.folder / "config", self.folder / "mine")
+        self.expect(self.run_program(), 1, b"No input directory specified!")
+
+
+def main():
+    global PROGRAM
+    names = unittest.TestLoader().getTestCaseNames(ProgramTest)
+    if sys.argv[1:] == ["--list"]:
+        print("\n".join(names))
+        return 0
+    PROGRAM = pathlib.Path(sys.argv[1]).resolve(strict=True)
+    suite = unittest.TestSuite(ProgramTest(name) for name in sys.argv[2:] or names)
+    result = unittest.TextTestRunner(verbosity=2).run(suite)
+    if not result.wasSuccessful():
+        return 1
+    return 77 if result.testsRun > 0 and len(result.skipped) == result.testsRun else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

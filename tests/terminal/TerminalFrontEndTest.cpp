@@ -1,0 +1,276 @@
+#include "TerminalFrontEnd.h"
+
+#include "Fakes.h"
+#include "OrdinaryUser.h"
+#include "TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <pty.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace tunedex {
+namespace {
+
+// A front end between a file to read answers from and a pipe, or a terminal, that it writes to.
+class TerminalFrontEndTest : public testing::Test {
+  protected:
+    ~TerminalFrontEndTest() override {
+        for (const int descriptor : {input_, read_, write_}) {
+            if (descriptor >= 0) {
+                close(descriptor);
+            }
+        }
+    }
+
+    void Input(const std::string& bytes) {
+        input_ = open(folder_.Write("input", bytes).c_str(), O_RDONLY | O_CLOEXEC);
+        ASSERT_GE(input_, 0);
+    }
+    void OutputToPipe() {
+        std::array<int, 2> ends{};
+        ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
+        read_ = ends[0];
+        write_ = ends[1];
+    }
+    void OutputToTerminal(unsigned short columns) {
+        const winsize size{24, columns, 0, 0};
+        ASSERT_EQ(openpty(&read_, &write_, nullptr, nullptr, &size), 0);
+        fcntl(read_, F_SETFL, O_NONBLOCK);
+    }
+    std::string Written() const {
+        std::string text;
+        std::array<char, 4096> buffer{};
+        for (ssize_t got = 0; (got = read(read_, buffer.data(), buffer.size())) > 0;) {
+            text.append(buffer.data(), static_cast<std::size_t>(got));
+        }
+        return text;
+    }
+
+    const test::TestFolder folder_;
+    test::FakeApplication fake_{folder_.Path()};
+    int input_ = -1;
+    int read_ = -1;
+    int write_ = -1;
+};
+
+TEST_F(TerminalFrontEndTest, PrintsTitleAndTextOfAMessageAndReadsTheAnswer) {
+    Input("y\n");
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    EXPECT_EQ(frontEnd.ShowMessage("One.\r\n\r\nTwo?", kYesNoExclamation, "Title"), kAnswerYes);
+    EXPECT_EQ(Written(), "Title\nOne.\n\nTwo?\nYes or No? [No] ");
+}
+
+TEST_F(TerminalFrontEndTest, TakesTheButtonsNamesAndTheirBeginningsInAnyCase) {
+    struct Row {
+        int buttons;
+        const char* input;
+        int answer;
+    };
+    const std::vector<Row> rows = {
+        {kYesNoExclamation, "y\n", kAnswerYes},    {kYesNoExclamation, "YES\n", kAnswerYes},
+        {kYesNoExclamation, " Ye \n", kAnswerYes}, {kYesNoExclamation, "n\n", kAnswerNo},
+        {kYesNoExclamation, "\n", kAnswerNo},      {kYesNoExclamation, "x\nyesss\ny\n", kAnswerYes},
+        {kYesNoQuestion, "no\n", kAnswerNo},       {kOkCancelQuestion, "o\n", kAnswerOk},
+        {kOkCancelQuestion, "ok\n", kAnswerOk},    {kOkCancelQuestion, "c\n", kAnswerCancel},
+        {kOkCancelQuestion, "\n", kAnswerCancel},  {kOkExclamation, "\n", kAnswerOk},
+        {kOkInformation, "anything\n", kAnswerOk},
+    };
+    for (const Row& row : rows) {
+        Input(row.input);
+        OutputToPipe();
+        TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+        EXPECT_EQ(frontEnd.ShowMessage("?", row.buttons, "t"), row.answer) << row.buttons << row.input;
+        close(input_);
+        close(read_);
+        close(write_);
+    }
+    input_ = read_ = write_ = -1;
+}
+
+TEST_F(TerminalFrontEndTest, GivesTheSafeAnswerWhereTheInputEnds) {
+    for (const char* input : {"", "y", "maybe\n"}) { // a line without its end is none
+        Input(input);
+        OutputToPipe();
+        TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+        EXPECT_EQ(frontEnd.ShowMessage("?", kYesNoExclamation, "t"), kAnswerNo) << input;
+        EXPECT_EQ(frontEnd.ShowMessage("?", kOkCancelQuestion, "t"), kAnswerCancel);
+        EXPECT_EQ(frontEnd.ShowMessage("?", kOkExclamation, "t"), kAnswerOk);
+        close(input_);
+        close(read_);
+        close(write_);
+    }
+    input_ = read_ = write_ = -1;
+}
+
+TEST_F(TerminalFrontEndTest, AnswersSeveralMessagesFromTheLinesOfItsInput) {
+    Input("\ny\nn\n");
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    EXPECT_EQ(frontEnd.ShowMessage("1", kOkExclamation, "t"), kAnswerOk);
+    EXPECT_EQ(frontEnd.ShowMessage("2", kYesNoExclamation, "t"), kAnswerYes);
+    EXPECT_EQ(frontEnd.ShowMessage("3", kYesNoExclamation, "t"), kAnswerNo);
+}
+
+TEST_F(TerminalFrontEndTest, WritesEachPhaseOnALineOfItsOwnAndItsLastState) {
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    RunMonitor& monitor = frontEnd.ShowProgress();
+    monitor.SetStatus("Searching...");
+    monitor.SetMaximum(2);
+    monitor.SetStatus("Reading...");
+    monitor.SetPosition(1);
+    monitor.SetCountedStatus("Reading (", 1, 2, ")...");
+    monitor.SetPosition(2);
+    monitor.SetCountedStatus("Reading (", 2, 2, ")...");
+    monitor.SetStatus("Done!");
+    frontEnd.CloseProgress();
+    EXPECT_EQ(Written(), "Searching...\nReading...\nReading (2/2)...\nDone!\n");
+}
+
+TEST_F(TerminalFrontEndTest, ShowsNothingWhileTheProgressIsClosed) {
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    RunMonitor& monitor = frontEnd.ShowProgress();
+    frontEnd.CloseProgress();
+    monitor.SetStatus("Reading...");
+    monitor.SetMaximum(2);
+    monitor.SetPosition(1);
+    for (int i = 0; i < 100; ++i) {
+        monitor.SetCountedStatus("Reading (", i, 100, ")...");
+    }
+    frontEnd.CloseProgress();
+    EXPECT_EQ(Written(), "");
+}
+
+TEST_F(TerminalFrontEndTest, EndsTheStatusBeforeAMessage) {
+    Input("");
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    RunMonitor& monitor = frontEnd.ShowProgress();
+    monitor.SetStatus("Reading...");
+    monitor.SetCountedStatus("Reading (", 7, 9, ")...");
+    frontEnd.ShowMessage("text", kOkExclamation, "Error!");
+    EXPECT_EQ(Written(), "Reading...\nReading (7/9)...\nError!\ntext\n[OK] \n");
+}
+
+TEST_F(TerminalFrontEndTest, DrawsABarOnOneLineOfATerminal) {
+    OutputToTerminal(80);
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    RunMonitor& monitor = frontEnd.ShowProgress();
+    monitor.SetStatus("Searching...");
+    monitor.SetMaximum(4);
+    monitor.SetPosition(1);
+    monitor.SetStatus("Reading...");
+    monitor.SetPosition(4);
+    monitor.SetCountedStatus("Reading (", 4, 4, ")...");
+    frontEnd.CloseProgress();
+    EXPECT_EQ(Written(), "\rSearching...\x1b[K\r\n"
+                         "\r[#####...............] Reading...\x1b[K"
+                         "\r[####################] Reading (4/4)...\x1b[K\r\n");
+}
+
+TEST_F(TerminalFrontEndTest, CutsTheStatusToTheTerminalsWidth) {
+    OutputToTerminal(10);
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    frontEnd.ShowProgress().SetStatus("Searching for MP3 files...");
+    EXPECT_EQ(Written(), "\rSearching\x1b[K");
+}
+
+TEST_F(TerminalFrontEndTest, LetsNoNameSteerTheTerminal) {
+    Input("");
+    OutputToTerminal(80);
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    frontEnd.ShowMessage("a\x1b[2J\a\tb\x7F é", kOkExclamation, "t\x1b");
+    EXPECT_EQ(Written(), "t?\r\na?[2J??b? é\r\n[OK] \r\n");
+}
+
+TEST_F(TerminalFrontEndTest, KeepsNamesAsTheyAreInAPipe) {
+    Input("");
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    frontEnd.ShowMessage("a\tb \xFF", kOkExclamation, "t");
+    EXPECT_EQ(Written(), "t\na\tb \xFF\n[OK] \n");
+}
+
+TEST_F(TerminalFrontEndTest, GivesBackTheFieldsAndTakesThemIntoTheSettings) {
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    MainFields fields;
+    fields.multipleFolders = true;
+    fields.inputFolder = "/music";
+    fields.outputFile = "/list.htm";
+    fields.windowTitle = "w";
+    fields.pageTitle = "p";
+    fields.pageFooter = "f";
+    frontEnd.FillFields(fields);
+    EXPECT_EQ(frontEnd.Fields().inputFolder, "/music");
+    EXPECT_TRUE(frontEnd.Fields().multipleFolders);
+    Settings settings;
+    settings.Directory = "before";
+    settings.SizeType = 7;
+    frontEnd.TakeControls(settings);
+    Settings expected;
+    expected.Directory = "before";
+    expected.SizeType = 7;
+    expected.OutputFile = "/list.htm";
+    expected.WindowTitle = "w";
+    expected.PageTitle = "p";
+    expected.PageFooter = "f";
+    expected.DocumentType = "HTML";
+    EXPECT_EQ(settings, expected);
+}
+
+TEST_F(TerminalFrontEndTest, SurvivesAReaderThatGoesAway) {
+    OutputToPipe();
+    close(read_);
+    read_ = -1;
+    test::InChild([&] {
+        std::signal(SIGPIPE, SIG_IGN);
+        TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+        frontEnd.ShowProgress().SetStatus("Searching...");
+        EXPECT_EQ(frontEnd.ShowMessage("?", kYesNoExclamation, "t"), kAnswerNo);
+    });
+}
+
+TEST_F(TerminalFrontEndTest, TakesASignalForTheAbortButton) {
+    OutputToPipe();
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        test::InChild([&] {
+            TerminalFrontEnd::CatchSignals();
+            TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+            EXPECT_FALSE(frontEnd.AbortRequested());
+            EXPECT_FALSE(fake_.application.abortRequested);
+            std::raise(signal);
+            EXPECT_TRUE(frontEnd.AbortRequested());
+            EXPECT_TRUE(fake_.application.abortRequested);
+            // A question asked from then on is answered as at the input's end.
+            Input("y\n");
+            TerminalFrontEnd asking(fake_.application, input_, write_);
+            EXPECT_EQ(asking.ShowMessage("?", kYesNoExclamation, "t"), kAnswerNo);
+        });
+    }
+}
+
+TEST_F(TerminalFrontEndTest, EndsTheProgramAtTheSecondSignal) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        TerminalFrontEnd::CatchSignals();
+        std::raise(SIGINT);
+        std::raise(SIGINT);
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGINT);
+}
+
+} // namespace
+} // namespace tunedex
