@@ -1,0 +1,1276 @@
+"""A second reading of what an unattended run does, kept apart from the program on purpose.
+
+The model is slow, plain and literal: it says which messages appear, which files are written with which bytes, and
+how the run ends. compare.py lets it and the program work on the same collections and settings. Nothing in here may
+be copied from the program's sources, and nothing there may be changed to please the model: where the two differ,
+one of them is wrong, and it is worth finding out which.
+
+Texts are Python strings in which a byte that is no UTF-8 is a lone surrogate ("surrogateescape").
+"""
+
+import os
+import re
+import stat
+from decimal import ROUND_HALF_EVEN, Decimal
+from fractions import Fraction
+
+ERRORS = {
+    5: "Invalid procedure call or argument",
+    6: "Overflow",
+    9: "Subscript out of range",
+    11: "Division by zero",
+    13: "Type mismatch",
+    52: "Bad file name or number",
+    53: "File not found",
+    57: "Device I/O error",
+    61: "Disk full",
+    62: "Input past end of file",
+    67: "Too many files",
+    75: "Path/File access error",
+    76: "Path not found",
+}
+
+OK_EXCLAMATION = 48
+YES_NO_EXCLAMATION = 52
+OK_INFORMATION = 64
+
+HOME_PAGE = "https://tunedex.example/"
+VERSION = "1.0"
+ERROR_TITLE = "Tunedex Error! (Automatic Mode)"
+MULT = "%MULT%"
+BETWEEN = "%||%"
+
+
+class RunTimeError(Exception):
+    def __init__(self, number):
+        super().__init__(number)
+        self.number = number
+        self.description = ERRORS[number]
+
+
+class FaultyLine(Exception):
+    """A line of a settings or entity file that is passed over."""
+
+
+# ---------------------------------------------------------------------------------------------------------- text
+
+
+def _code_page():
+    table = {}
+    for byte in range(256):
+        try:
+            table[byte] = bytes([byte]).decode("cp1252")
+        except UnicodeDecodeError:
+            table[byte] = chr(byte)
+    return table
+
+
+CODE_PAGE = _code_page()
+TO_CODE_PAGE = {character: byte for byte, character in CODE_PAGE.items()}
+
+
+def from_code_page(data):
+    return "".join(CODE_PAGE[byte] for byte in data)
+
+
+def to_disk(text):
+    return text.encode("utf-8", "surrogateescape")
+
+
+def from_disk(data):
+    return data.decode("utf-8", "surrogateescape")
+
+
+def settled(text):
+    """Stray bytes that have come to stand side by side may have become a character."""
+    return from_disk(to_disk(text))
+
+
+def _upper_map():
+    pairs = {chr(code): chr(code - 32) for code in range(ord("a"), ord("z") + 1)}
+    for character in TO_CODE_PAGE:
+        if ord(character) < 128 or not character.isalpha():
+            continue
+        partner = character.upper()
+        if partner != character and len(partner) == 1 and partner in TO_CODE_PAGE:
+            pairs[character] = partner
+    return str.maketrans(pairs)
+
+
+UPPER = _upper_map()
+
+
+def upper(text):
+    return text.translate(UPPER)
+
+
+def is_stray(character):
+    return 0xDC80 <= ord(character) <= 0xDCFF
+
+
+def encode_listing(text, missing):
+    """Windows-1252; `missing` makes the text for a character that it lacks."""
+    out = bytearray()
+    for character in settled(text):
+        if is_stray(character):
+            out.append(ord(character) - 0xDC00)
+        elif character in TO_CODE_PAGE:
+            out.append(TO_CODE_PAGE[character])
+        else:
+            out += missing(character).encode("ascii")
+    return bytes(out)
+
+
+def encode_page(text):
+    return encode_listing(text, lambda character: f"&#{ord(character)};")
+
+
+def encode_text_listing(text):
+    return encode_listing(text, lambda character: "?")
+
+
+def encode_own_line(text):
+    """A line of one of the program's own files, such as the log."""
+    text = settled(text)
+    if all(character in TO_CODE_PAGE for character in text):
+        data = bytes(TO_CODE_PAGE[character] for character in text)
+        if all(byte < 128 for byte in data):
+            return data
+        try:
+            data.decode("utf-8")
+        except UnicodeDecodeError:
+            return data
+    return to_disk(text)
+
+
+def read_own_lines(path):
+    with open(to_disk(path), "rb") as file:
+        data = file.read()
+    lines = re.split(b"\r\n|\n|\r", data)
+    if lines[-1] == b"":
+        lines.pop()
+    texts = []
+    for line in lines:
+        try:
+            texts.append(line.decode("utf-8"))
+        except UnicodeDecodeError:
+            texts.append(from_code_page(line))
+    return texts
+
+
+# ------------------------------------------------------------------------------------------------------- numbers
+
+NUMBER = r"[+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?"
+LEADING = re.compile(r" *(" + NUMBER + ")")
+WHOLLY = re.compile(r" *(" + NUMBER + r") *\Z")
+
+
+def leading_number(text):
+    match = LEADING.match(text)
+    return Decimal(match.group(1)) if match else Decimal(0)
+
+
+def whole_number(text):
+    """The number that a text wholly is, else a type mismatch."""
+    match = WHOLLY.match(text)
+    if not match:
+        raise RunTimeError(13)
+    return Decimal(match.group(1))
+
+
+def rounded(number, bits):
+    if abs(number) > 10**12:
+        raise RunTimeError(6)
+    value = int(number.to_integral_value(rounding=ROUND_HALF_EVEN))
+    if not -(2 ** (bits - 1)) <= value < 2 ** (bits - 1):
+        raise RunTimeError(6)
+    return value
+
+
+def two_digits(number):
+    return f"{number:02d}"
+
+
+def size_text(size, size_type):
+    if size_type == 0:
+        return f"{size:,} b."
+    if size_type not in (1, 2):
+        return ""
+    value = Fraction(size) / 1024
+    unit = "kB"
+    if size_type == 2:
+        value /= 1024
+        unit = "MB"
+    hundredths = int(value * 100 + Fraction(1, 2))
+    return f"{hundredths // 100:,}.{hundredths % 100:02d} {unit}"
+
+
+def left(text, count):
+    if count < 0:
+        raise RunTimeError(5)
+    return text[:count]
+
+
+def right(text, count):
+    if count < 0:
+        raise RunTimeError(5)
+    return text[len(text) - count :] if count < len(text) else text
+
+
+# ------------------------------------------------------------------------------------------------------ settings
+
+
+class Settings:
+    STRINGS = [
+        "Directory", "OutputFile", "WindowTitle", "PageTitle", "PageFooter", "DocumentType", "LinkPrefix",
+        "ActiveColumns", "InactiveColumns",
+    ]
+    FLAGS = [
+        "Recurse", "ErrorWarnings", "ErrorLog", "ConfirmQuit", "DoLinks", "MoveTheArtists", "FontCSS", "FontHTML",
+        "AltRows", "ColourCSS", "ColourHTML",
+    ]
+    INTEGERS = [
+        "Spanning", "SizeType", "SortOrder", "LinkType", "Merge", "TablePadding", "TableBorder", "TableSpacing",
+    ]
+
+    def __init__(self):
+        for name in self.STRINGS:
+            setattr(self, name, "")
+        for name in self.FLAGS:
+            setattr(self, name, False)
+        for name in self.INTEGERS:
+            setattr(self, name, 0)
+        self.Font = [("", "", False, False)] * 3
+        self.Colour = [""] * 10
+        self.TableWidth = (0, 0)
+
+    def set_defaults(self):
+        self.__init__()
+        self.WindowTitle = "MP3 List (%D)"
+        self.PageTitle = "MP3 Listing (%C files)"
+        self.PageFooter = "Created on %D at %T"
+        self.Recurse = True
+        self.Spanning = 100
+        self.SizeType = 2
+        self.SortOrder = 1
+        self.ErrorWarnings = True
+        self.ConfirmQuit = True
+        self.DocumentType = "HTML"
+        self.LinkPrefix = "file:///"
+        self.ActiveColumns = "Number|Artist|Album|Title|Duration"
+        self.InactiveColumns = "Bitrate|File Size|Frequency|Genre|Mode|MPEG Type|Year|Filename|Folder Path|Full Path"
+        self.Merge = 2
+        self.MoveTheArtists = True
+        self.Font = [
+            ("Times New Roman, serif", "3", True, False),
+            ("Tahoma, Arial, sans-serif", "2", True, False),
+            ("Tahoma, Arial, sans-serif", "1", False, False),
+        ]
+        self.FontCSS = True
+        self.Colour = [
+            "000000", "FFFFFF", "FFFF00", "000066", "000000", "CECECE", "000000", "DEDEDE", "0000FF", "000000",
+        ]
+        self.AltRows = True
+        self.ColourCSS = True
+        self.TableWidth = (1, 99)
+        self.TablePadding = 2
+        self.TableBorder = 1
+
+    def parse_line(self, line):
+        equals = line.find("=") + 1
+        bracket = line.find("(") + 1
+        if equals == 0:
+            raise FaultyLine
+        value = line[equals:]
+        index = ""
+        if 0 < bracket < equals:
+            key = upper(line[: bracket - 1])
+            index = line[bracket]
+        else:
+            key = upper(line[: equals - 1])
+            index = "0"
+        try:
+            self._parse_setting(key, value, index)
+        except RunTimeError as error:
+            raise FaultyLine from error
+
+    def _parse_setting(self, key, value, index):
+        for name in self.STRINGS:
+            if upper(name) == key:
+                setattr(self, name, value)
+        for name in self.FLAGS:
+            if upper(name) == key:
+                setattr(self, name, leading_number(value) != 0)
+        for name in self.INTEGERS:
+            if upper(name) == key:
+                setattr(self, name, rounded(leading_number(value), 16))
+        if key == "TABLEWIDTH":
+            if len(value) < 2:
+                raise FaultyLine
+            self.TableWidth = (rounded(leading_number(value[0]), 16), rounded(leading_number(value[2:]), 16))
+        if key in ("FONT", "COLOUR") and index not in list("0123456789"):
+            raise FaultyLine
+        if key == "COLOUR":
+            self.Colour[int(index)] = value
+        if key == "FONT":
+            parts = value.split("%|%")
+            if int(index) > 2 or len(parts) < 4:
+                raise FaultyLine
+            self.Font[int(index)] = (
+                parts[0], parts[1], leading_number(parts[2]) != 0, leading_number(parts[3]) != 0,
+            )
+
+
+# -------------------------------------------------------------------------------------------------------- tracks
+
+GENRES = [
+    "Blues", "Classic Rock", "Country", "Dance", "Disco", "Funk", "Grunge", "Hip-Hop", "Jazz", "Metal", "New Age",
+    "Oldies", "Other", "Pop", "R&B", "Rap", "Reggae", "Rock", "Techno", "Industrial", "Alternative", "Ska",
+    "Death Metal", "Pranks", "Soundtrack", "Euro-Techno", "Ambient", "Trip Hop", "Vocal", "Jazz+Funk", "Fusion",
+    "Trance", "Classical", "Instrumental", "Acid", "House", "Game", "Sound Clip", "Gospel", "Noise", "Alt. Rock",
+    "Bass", "Soul", "Punk", "Space", "Meditative", "Instrumental Pop", "Instrumental Rock", "Ethnic", "Gothic",
+    "Darkwave", "Techno-Industrial", "Electronic", "Pop-Folk", "Eurodance", "Dream", "Southern Rock", "Comedy",
+    "Cult", "Gangsta Rap", "Top 40", "Christian Rap", "Pop/Punk", "Jungle", "Native American", "Cabaret", "New Wave",
+    "Psychedelic", "Rave", "Showtunes", "Trailer", "Lo-Fi", "Tribal", "Acid Punk", "Acid Jazz", "Polka", "Retro",
+    "Musical", "Rock & Roll", "Hard Rock", "Folk", "Folk/Rock", "National Folk", "Swing", "Fast-Fusion", "Bebob",
+    "Latin", "Revival", "Celtic", "Blue Grass", "Avantegarde", "Gothic Rock", "Progressive Rock", "Psychedelic Rock",
+    "Symphonic Rock", "Slow Rock", "Big Band", "Chorus", "Easy Listening", "Acoustic", "Humour", "Speech", "Chanson",
+    "Opera", "Chamber Music", "Sonata", "Symphony", "Booty Bass", "Primus", "Porn Groove", "Satire", "Slow Jam",
+    "Club", "Tango", "Samba", "Folklore", "Ballard", "Power Ballard", "Rhythmic Soul", "Freestyle", "Duet",
+    "Punk Rock", "Drum Solo", "A Cappella", "Euro-House", "Dance Hall", "Goa", "Drum & Bass", "Club House",
+    "Hardcore", "Terror", "Indie", "BritPop", "Negerpunk", "Polsk Punk", "Beat", "Christian Gangster", "Heavy Metal",
+    "Black Metal", "Crossover", "Contemporary Club", "Christian Rock", "Merengue", "Salsa", "Thrash Metal", "Anime",
+    "JPop", "Synthpop",
+]  # fmt: skip
+
+BITRATES_A = {"0001": 32, "0010": 40, "0011": 48, "0100": 56, "0101": 64, "0110": 80, "0111": 96, "1000": 112,
+              "1001": 128, "1010": 160, "1011": 192, "1100": 224, "1101": 256, "1110": 320}  # fmt: skip
+BITRATES_B = {"0001": 32, "0010": 48, "0011": 56, "0100": 64, "0101": 80, "0110": 96, "0111": 112, "1000": 128,
+              "1001": 160, "1010": 192, "1011": 224, "1100": 256, "1101": 320, "1110": 384}  # fmt: skip
+BITRATES_C = {"0001": 32, "0010": 64, "0011": 96, "0100": 128, "0101": 160, "0110": 192, "0111": 224, "1000": 256,
+              "1001": 288, "1010": 320, "1011": 352, "1100": 384, "1101": 416, "1110": 448}  # fmt: skip
+BITRATES_D = {"0001": 8, "0011": 24, "0100": 16, "0101": 64, "0110": 80, "0111": 56, "1000": 64,
+              "1001": 128, "1010": 160, "1011": 112, "1100": 128, "1101": 256, "1110": 320}  # fmt: skip
+BITRATES_E = {"0001": 8, "0010": 16, "0011": 24, "0100": 32, "0101": 64, "0110": 80, "0111": 56, "1000": 64,
+              "1001": 128, "1010": 160, "1011": 112, "1100": 128, "1101": 256, "1110": 320}  # fmt: skip
+
+VERSIONS = {"00": "2.5", "10": "2.0", "11": "1.0"}
+LAYERS = {"01": ("3", "III"), "10": ("2", "II"), "11": ("1", "I")}
+FREQUENCIES = {
+    "00": {"1.0": 44100, "2.0": 22050, "2.5": 11025},
+    "01": {"1.0": 48000, "2.0": 24000, "2.5": 12000},
+    "10": {"1.0": 32000, "2.0": 16000, "2.5": 8000},
+}
+MODES = {"00": "Stereo", "01": "Joint Stereo", "10": "Dual Channel", "11": "Mono"}
+
+
+class Track:
+    SWAPPED = [
+        "full_path", "file_size", "artist", "title", "album", "year", "genre", "bitrate", "frequency", "duration",
+    ]
+
+    def __init__(self):
+        self.full_path = self.base_folder = self.artist = self.title = self.album = self.year = self.genre = ""
+        self.bitrate = self.frequency = self.mode = self.mpeg_type = self.duration = ""
+        self.file_size = 0
+        self.tag_type = 0
+
+
+class Bytes:
+    """A file read by 1-based positions; every read past the end fails."""
+
+    def __init__(self, path):
+        self.handle = os.open(to_disk(path), os.O_RDONLY)
+        self.length = os.fstat(self.handle).st_size
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        os.close(self.handle)
+
+    def at_most(self, position, count):
+        return os.pread(self.handle, count, int(position) - 1)
+
+    def read(self, position, count):
+        if position - 1 + count > self.length:
+            raise RunTimeError(62)
+        return self.at_most(position, count)
+
+    def byte(self, position):
+        return self.read(position, 1)[0]
+
+    def find_ff(self, position):
+        """The position of the first FF at or after `position`, 0 when there is none."""
+        offset = position - 1
+        while offset < self.length:
+            try:
+                offset = os.lseek(self.handle, offset, os.SEEK_DATA)
+            except OSError:
+                return 0
+            chunk = os.pread(self.handle, 1 << 20, offset)
+            found = chunk.find(b"\xff")
+            if found >= 0:
+                return offset + found + 1
+            offset += len(chunk)
+        return 0
+
+
+def move_the(artist, settings):
+    if settings.MoveTheArtists and upper(artist[:4]) == "THE ":
+        return artist[4:] + ", The"
+    return artist
+
+
+def read_id3v1(track, settings):
+    with Bytes(track.full_path) as file:
+        if file.length < 128:
+            return False
+        tag = from_code_page(file.read(file.length - 127, 128))
+    if tag[0:3] != "TAG":
+        return False
+
+    def clean(text):
+        return text.rstrip(" ").replace("\0", "")
+
+    number = TO_CODE_PAGE[tag[127]]
+    track.artist = move_the(clean(tag[33:63]) or "Unknown Artist", settings)
+    track.title = clean(tag[3:33]) or "Unknown Title"
+    track.album = clean(tag[63:93])
+    track.year = clean(tag[93:97])
+    track.genre = GENRES[number] if number < len(GENRES) else ""
+    return True
+
+
+def detect_id3v2(track):
+    """Whether there is a tag, and where the search for a frame header starts."""
+    try:
+        with Bytes(track.full_path) as file:
+            if file.read(1, 3) != b"ID3":
+                return False, 1
+            b10, b9, b8, b7 = (file.byte(position) for position in (10, 9, 8, 7))
+            size = ((b7 & 127) << 21) + ((b8 & 127) << 14) + ((b9 & 127) << 7) + b10
+            return True, size + 10
+    except RunTimeError:
+        return False, 1
+
+
+def read_id3v2(track, search_position, settings):
+    with Bytes(track.full_path) as file:
+        position = 11
+        try:
+            while True:
+                frame = file.read(position, 4)
+                if 0 in frame:
+                    return
+                size = int.from_bytes(file.read(position + 4, 4), "big") & 0x7FFFFFFF
+                content = file.read(position + 10, size) if size else b""
+                text = from_code_page(content.replace(b"\0", b""))
+                if frame == b"TIT2":
+                    track.title = text or "Unknown Title"
+                elif frame == b"TPE1":
+                    track.artist = move_the(text or "Unknown Artist", settings)
+                elif frame == b"TALB":
+                    track.album = text
+                elif frame == b"TYER":
+                    track.year = text
+                elif frame == b"TCON":
+                    track.genre = text
+                position += 10 + size
+                if position >= search_position:
+                    return
+        except RunTimeError:
+            return
+
+
+def decode_header(track, search_position):
+    """Fills the five fields; the seconds to add are returned."""
+    with Bytes(track.full_path) as file:
+        position = search_position
+        while True:
+            found = file.find_ff(position)
+            if found == 0:
+                raise RunTimeError(62)
+            position = found + 1
+            b2 = file.byte(position)
+            if b2 < 225:
+                continue
+            position += 1
+            b3 = file.byte(position)
+            if b3 >= 236:
+                position -= 1
+                continue
+            position += 1
+            b4 = file.byte(position)
+            header_offset = position - 4
+            buffer = file.at_most(header_offset + 1, 1400)
+            x = buffer.find(b"Xing") + 1
+            vbr = x > 0
+            frames = 0
+            if vbr:
+                digits = ""
+                for place in range(8, 16):
+                    digits += f"{file.byte(header_offset + x + place):02X}"
+                for digit in digits[:8]:
+                    frames = frames * 16 + "0123456789ABCDEF".index(digit)
+            bits = "".join(f"{byte:08b}" for byte in (255, b2, b3, b4))
+            version = VERSIONS.get(bits[11:13])
+            layer = LAYERS.get(bits[13:15])
+            rates = FREQUENCIES.get(bits[20:22])
+            if version is None or layer is None or rates is None or (not vbr and bits[16:20] == "1111"):
+                position = header_offset + 2
+                continue
+            break
+        frequency = rates[version]
+        mode = MODES[bits[24:26]]
+        index = bits[16:20]
+        if vbr:
+            if frames == 0:
+                raise RunTimeError(11)
+            bitrate = round(track.file_size * frequency / (frames * 144000))
+        else:
+            if version == "1.0" and layer[0] == "3":
+                bitrate = BITRATES_A.get(index, 128)
+            elif layer[0] == "2":
+                bitrate = BITRATES_B.get(index, 128)
+            elif layer[0] == "1":
+                bitrate = BITRATES_C.get(index, 128)
+            elif version == "2.0" and layer[0] == "3":
+                bitrate = BITRATES_D.get(index, 128)
+            if version == "2.5":
+                bitrate = BITRATES_E.get(index, 128)
+        bits_long = track.file_size * 8
+        if bits_long > 2147483647:
+            raise RunTimeError(6)
+        if bitrate == 0:
+            raise RunTimeError(11)
+        seconds = int(bits_long / bitrate / 1000)
+        track.bitrate = str(bitrate)
+        track.frequency = str(frequency)
+        track.mode = mode
+        track.mpeg_type = version + " " + layer[1]
+        track.duration = str(seconds // 60) + ":" + two_digits(seconds % 60)
+        return seconds
+
+
+# ------------------------------------------------------------------------------------------------------- the run
+
+
+class Result:
+    def __init__(self):
+        self.events = []  # ("message", title, text, buttons), ("status", text), ("warning", file, line number)
+        self.files = {}  # path as bytes -> bytes
+        self.exit_status = 1
+
+
+class Model:
+    """One unattended run. `date` and `time` are what the pages show; `current_folder` takes relative paths."""
+
+    def __init__(self, program_folder, date, time, current_folder):
+        self.app_folder = program_folder if program_folder.endswith("/") else program_folder + "/"
+        self.date = date
+        self.time = time
+        self.current_folder = current_folder
+        self.result = Result()
+        self.settings = Settings()
+        self.entities = []
+        self.log = None
+        self.tracks = []
+        self.found_count = 0
+        self.untagged_count = 0
+        self.total_bytes = 0
+        self.total_seconds = 0
+        self.lists_created = 0
+        self.files_handled = 0
+
+    def run(self):
+        here = os.getcwd()
+        os.chdir(self.current_folder)
+        try:
+            self._load_statistics()
+            self._load_settings()
+            self._load_entities()
+            self._create_list()
+        finally:
+            os.chdir(here)
+        if self.log is not None:
+            self._store(self.app_folder + "Tunedex.log", b"".join(line + b"\r\n" for line in self.log))
+        return self.result
+
+    # -- helpers
+
+    def _message(self, text, buttons, title):
+        self.result.events.append(("message", title, text, buttons))
+
+    def _status(self, text):
+        self.result.events.append(("status", text))
+
+    def _unexpected(self, error):
+        return (
+            "An unexpected error occurred. The error was: \r\n\r\n"
+            f"Error number {error.number} - {error.description}"
+        )
+
+    def _store(self, path, data):
+        path = os.path.join(to_disk(self.current_folder), to_disk(path))
+        self.result.files[os.path.realpath(path)] = data
+
+    def _check_writable(self, path):
+        """The error that opening the file for writing raises, if any."""
+        try:
+            name = os.path.basename(to_disk(path))
+            if len(name) > 255:
+                raise RunTimeError(52)
+            if stat.S_ISDIR(os.stat(to_disk(path)).st_mode):
+                raise RunTimeError(75)
+        except FileNotFoundError:
+            pass
+        except OSError as error:
+            raise self._file_error(error) from error
+
+    @staticmethod
+    def _file_error(error):
+        import errno
+
+        if error.errno in (errno.EINVAL, errno.ENAMETOOLONG, errno.ELOOP):
+            return RunTimeError(52)
+        if error.errno in (errno.ENOENT,):
+            return RunTimeError(53)
+        if error.errno in (errno.EACCES, errno.EPERM, errno.EROFS, errno.EISDIR):
+            return RunTimeError(75)
+        if error.errno in (errno.ENOTDIR,):
+            return RunTimeError(76)
+        return RunTimeError(57)
+
+    @staticmethod
+    def _folder_exists(path):
+        if path == "":
+            return True
+        try:
+            return stat.S_ISDIR(os.stat(to_disk(path)).st_mode)
+        except (FileNotFoundError, NotADirectoryError):
+            return False
+        except OSError as error:
+            raise RunTimeError(52) from error
+
+    # -- the program's own files
+
+    def _load_statistics(self):
+        path = self.app_folder + "stats.lst"
+        if not os.path.exists(to_disk(path)):
+            return
+        try:
+            lines = read_own_lines(path)
+            if len(lines) < 4:
+                raise RunTimeError(62)
+            if len(lines[0]) < 2:
+                raise RunTimeError(5)
+            rounded(whole_number(lines[1]) + 1, 32)
+            lists = rounded(leading_number(lines[2]), 32)
+            files = rounded(leading_number(lines[3]), 32)
+            self.lists_created, self.files_handled = lists, files
+        except RunTimeError as error:
+            self._message(self._unexpected(error), OK_EXCLAMATION, ERROR_TITLE)
+
+    def _load_settings(self):
+        path = self.app_folder + "Tunedex.cfg"
+        if not os.path.exists(to_disk(path)):
+            self.settings.set_defaults()
+            return
+        for number, line in enumerate(read_own_lines(path), 1):
+            if line == "" or line[0] == "#":
+                continue
+            try:
+                self.settings.parse_line(line)
+            except FaultyLine:
+                self.result.events.append(("warning", path, number))
+
+    def _load_entities(self):
+        path = self.app_folder + "html_entities.lst"
+        if not os.path.exists(to_disk(path)):
+            return
+        slots = [(0, "")]
+        n = 0
+        for number, line in enumerate(read_own_lines(path), 1):
+            slots.append((0, ""))
+            if line == "" or line[0] == "#":
+                continue
+            parts = line.split("\t")
+            try:
+                if len(parts) < 2:
+                    raise FaultyLine
+                code = rounded(whole_number(parts[0]), 16)
+                if not 0 <= code <= 255:
+                    raise FaultyLine
+            except (FaultyLine, RunTimeError):
+                self.result.events.append(("warning", path, number))
+                continue
+            slots[n] = (code, parts[1])
+            n += 1
+        self.entities = slots[: len(slots) - 1]
+
+    def _escape(self, text):
+        for code, replacement in self.entities:
+            text = settled(text.replace(CODE_PAGE[code], replacement))
+        return text
+
+    def _report(self, template, track, folder, error):
+        if folder != "":
+            template = template.replace("%D", folder)
+        if track is not None:
+            template = template.replace("%F", track.full_path)
+        template = template.replace("%N", str(error.number))
+        template = template.replace("%S", error.description)
+        if self.settings.ErrorWarnings:
+            template = template.replace("\\n", "\r\n")
+            self._message("An error occurred " + template, OK_EXCLAMATION, ERROR_TITLE)
+        if self.settings.ErrorLog:
+            template = template.replace("\r\n", "")
+            self.log.append(encode_own_line("An error occurred " + template))
+
+    # -- the job
+
+    def _create_list(self):
+        try:
+            self._create_list_trapped()
+        except RunTimeError as error:
+            if error.number == 52:
+                self._message(
+                    "An error occurred verifying your input directory.\r\n\r\n"
+                    "This could be because you do not have permission\r\n"
+                    "to access the directory, or you may be attempting\r\n"
+                    "to use a non-existent network share.",
+                    OK_EXCLAMATION,
+                    "Error",
+                )
+            else:
+                self._message(self._unexpected(error), OK_EXCLAMATION, "Error")
+
+    def _create_list_trapped(self):
+        s = self.settings
+        multiple = s.Directory[:6] == MULT
+        word = "directories" if multiple else "directory"
+        if not multiple and not self._folder_exists(s.Directory):
+            self._message("The specified directory does not exist!", OK_EXCLAMATION, ERROR_TITLE)
+            return
+        s.DocumentType = "XHTML" if s.DocumentType == "XHTML" else "HTML"
+        if s.Directory in ("", MULT):
+            self._message(f"No input {word} specified!", OK_EXCLAMATION, ERROR_TITLE)
+            return
+        if s.OutputFile == "":
+            self._message("No output file specified!", OK_EXCLAMATION, ERROR_TITLE)
+            return
+        folder = "".join(piece + "/" for piece in s.OutputFile.split("/")[:-1])
+        if not self._folder_exists(folder):
+            # At the end of the answers it is No.
+            self._message(
+                "The output directory does not exist!\r\n\r\nDo you want to create it?", YES_NO_EXCLAMATION, ERROR_TITLE
+            )
+            return
+        extension = "." + upper(s.OutputFile.split(".")[-1]) if "." in s.OutputFile else ""
+        output_type = {".HTM": 0, ".HTML": 0, ".TXT": 1, ".TEXT": 1, ".M3U": 2}.get(extension, 0)
+        if s.ErrorLog:
+            self._check_writable(self.app_folder + "Tunedex.log")
+            self.log = []
+        self._status("Searching for MP3 files...")
+        self._scan(False)
+        if self.found_count == 0:
+            self._message(f"No MP3 files were found\r\nin the {word} specified.", OK_INFORMATION, "No MP3 files!")
+            return
+        self._status("Retrieving MPEG/ID3 information...")
+        self._scan(True)
+        self._status("Sorting information...")
+        if s.SortOrder != 0:
+            self._sort()
+        self._status("Writing information...")
+        self._write_listing(output_type)
+        self.result.exit_status = 0
+        self._status("Operation complete!")
+        if self.lists_created + 1 > 2147483647:
+            raise RunTimeError(6)
+        if self.files_handled + self.found_count > 2147483647:
+            raise RunTimeError(6)
+
+    # -- the walk
+
+    def _start_folders(self):
+        value = self.settings.Directory
+        if value[:6] != MULT:
+            start = value if value.endswith("/") else value + "/"
+            return [(start, value)]
+        value = value.replace(MULT, "")
+        judged = value.split(BETWEEN)
+        value = value.replace("/" + BETWEEN, BETWEEN).replace(BETWEEN, "/" + BETWEEN)
+        entries = value.split(BETWEEN)
+        return [(entry, entry) for entry, before in zip(entries, judged) if before != ""]
+
+    def _scan(self, collect):
+        state = {"folder": ""}
+        try:
+            for start, base in self._start_folders():
+                self._walk(start, base, collect, state)
+        except RunTimeError as error:
+            folder = state["folder"]
+            if len(folder) > 1 and folder.endswith("/"):
+                folder = folder[:-1]
+            self._report("scanning the directory: \\n\\n%D\\n\\n%N: %S", None, folder, error)
+
+    def _walk(self, start, base, collect, state):
+        seen = set()
+        pending = start + "\0"
+        while pending:
+            current, pending = pending.split("\0", 1)
+            if not current.endswith("/"):
+                current += "/"
+            state["folder"] = current
+            try:
+                what = os.stat(to_disk(current))
+                if (what.st_dev, what.st_ino) in seen:
+                    continue
+                seen.add((what.st_dev, what.st_ino))
+                names = [from_disk(entry.name) for entry in os.scandir(to_disk(current))]
+            except OSError as error:
+                raise RunTimeError(76) if isinstance(error, FileNotFoundError) else self._file_error(error)
+            for name in names:
+                if name.startswith("."):
+                    continue
+                try:
+                    mode = os.stat(to_disk(current + name)).st_mode
+                except OSError:
+                    continue
+                if not stat.S_ISDIR(mode) and not stat.S_ISREG(mode):
+                    continue
+                if self.settings.Recurse and stat.S_ISDIR(mode):
+                    pending = current + name + "/\0" + pending
+                elif upper(name).endswith(".MP3"):
+                    if not collect:
+                        self.found_count += 1
+                        continue
+                    if stat.S_ISDIR(mode):
+                        raise RunTimeError(53)
+                    track = Track()
+                    track.full_path = current + name
+                    track.base_folder = base
+                    track.file_size = min(os.stat(to_disk(track.full_path)).st_size, 2147483647)
+                    self.total_bytes += track.file_size
+                    self.tracks.append(track)
+                    self._read_track(track)
+
+    def _read_track(self, track):
+        self._status(f"Retrieving MPEG/ID3 information ({len(self.tracks)}/{self.found_count})...")
+        first = read_id3v1(track, self.settings)
+        second, search_position = detect_id3v2(track)
+        if second:
+            read_id3v2(track, search_position, self.settings)
+            track.tag_type = 2
+        elif first:
+            track.tag_type = 1
+        else:
+            track.artist = track.full_path
+            track.title = "No ID3 Tags!"
+            self.untagged_count += 1
+        try:
+            self.total_seconds += decode_header(track, search_position)
+        except RunTimeError as error:
+            self._report("decoding the headers of: \\n\\n%F", track, "", error)
+
+    # -- the sort
+
+    def _sort(self):
+        order = self.settings.SortOrder
+        table = [None] + self.tracks
+        count = len(self.tracks)
+
+        def out_of_order(earlier, later):
+            for field in ("artist", "album", "title"):
+                a = to_disk(upper(getattr(earlier, field)))
+                b = to_disk(upper(getattr(later, field)))
+                if a != b:
+                    return a > b if order == 1 else order == 2 and a < b
+            return False
+
+        gap = count // 2 + 1
+        while gap > 0:
+            for i in range(1, count - gap + 1):
+                j = i
+                while j >= 1:
+                    if not out_of_order(table[j], table[j + gap]):
+                        break
+                    for field in Track.SWAPPED:
+                        a, b = getattr(table[j], field), getattr(table[j + gap], field)
+                        setattr(table[j], field, b)
+                        setattr(table[j + gap], field, a)
+                    j -= gap
+            gap //= 2
+
+    # -- listings
+
+    def _working_columns(self):
+        s = self.settings
+        columns = s.ActiveColumns
+        position_artist = upper(columns).find("ARTIST") + 1
+        position_title = upper(columns).find("TITLE") + 1
+        if s.Merge > 0 and position_artist > 0 and position_title > 0:
+            start = min(position_artist, position_title)
+            prefix = start - 1
+            bar = columns.find("|", start - 1) + 1
+            columns = columns.replace("Title" if position_artist < position_title else "Artist", "")
+            columns = columns.replace("||", "|")
+            merged = ""
+            if s.Merge == 1:
+                merged = "ArtistTitle"
+            elif s.Merge == 2:
+                merged = "ArtistAlbumTitle"
+                columns = columns.replace("Album", "").replace("||", "|")
+            columns = left(columns, prefix) + merged + right(columns, len(columns) - bar + 1)
+            if columns.endswith("|"):
+                columns = columns[:-1]
+            if columns.startswith("|"):
+                columns = columns[1:]
+        return columns.split("|") if columns else []
+
+    def _write_listing(self, output_type):
+        columns = self._working_columns()
+        if output_type == 1:
+            self._write_text(columns)
+        elif output_type == 2:
+            self._write_playlist()
+        else:
+            self._write_html(columns)
+
+    @staticmethod
+    def _header_text(column):
+        return {"ARTISTTITLE": "Artist: Title", "ARTISTALBUMTITLE": "Artist (Album): Title"}.get(upper(column), column)
+
+    def _write_text(self, columns):
+        s = self.settings
+        if upper(s.OutputFile[-4:]) != ".TXT":
+            s.OutputFile += ".txt"
+        self._check_writable(s.OutputFile)
+        lines = []
+
+        def finish(line):
+            if line == "":
+                raise RunTimeError(5)
+            lines.append(line[:-1])
+
+        finish("".join(self._header_text(column) + "\t" for column in columns))
+        for i, track in enumerate(self.tracks, 1):
+            line = ""
+            for column in columns:
+                cell = self._text_cell(upper(column), track, i)
+                if cell is not None:
+                    line += cell + "\t"
+            finish(line)
+        self._store(s.OutputFile, b"".join(encode_text_listing(line) + b"\r\n" for line in lines))
+
+    def _text_cell(self, key, track, i):
+        pieces = track.full_path.split("/")
+        with_album = f"{track.artist} ({track.album})" if track.album != "" else track.artist
+        return {
+            "NUMBER": str(i),
+            "ARTIST": track.artist,
+            "ALBUM": track.album,
+            "TITLE": track.title,
+            "YEAR": track.year,
+            "GENRE": track.genre,
+            "MPEG TYPE": track.mpeg_type,
+            "MODE": track.mode,
+            "BITRATE": track.bitrate,
+            "FREQUENCY": track.frequency,
+            "DURATION": track.duration,
+            "FILE SIZE": size_text(track.file_size, self.settings.SizeType),
+            "FILENAME": pieces[-1],
+            "FOLDER PATH": "".join(piece + "/" for piece in pieces[:-1])[:-1],
+            "FULL PATH": track.full_path,
+            "ARTISTTITLE": track.artist + ": " + track.title,
+            "ARTISTALBUMTITLE": with_album + ": " + track.title,
+        }.get(key)
+
+    def _write_playlist(self):
+        s = self.settings
+        if upper(s.OutputFile[-4:]) != ".M3U":
+            s.OutputFile += ".m3u"
+        self._check_writable(s.OutputFile)
+        ascii_only = all(all(ord(character) < 128 for character in track.full_path) for track in self.tracks)
+        encode = encode_text_listing if ascii_only else to_disk
+        data = b"#EXTM3U\r\n"
+        for i, track in enumerate(self.tracks, 1):
+            colon = track.duration.find(":")
+            if colon < 0:
+                raise RunTimeError(5)
+            seconds = int(leading_number(track.duration[:colon]) * 60 + leading_number(track.duration[colon + 1 :]))
+            data += encode(f"#EXTINF:{seconds},{track.artist}: {track.title}") + b"\r\n"
+            data += to_disk(track.full_path) + b"\r\n"
+        self._store(s.OutputFile, data)
+
+    # -- pages
+
+    def _expand(self, text, line_break):
+        hours_text = self._play_time()
+        for placeholder, value in [
+            ("%D", self.date),
+            ("%T", self.time),
+            ("%C", str(len(self.tracks))),
+            ("%N", str(self.untagged_count)),
+            ("%S", size_text(self.total_bytes, self.settings.SizeType)),
+            ("%P", hours_text),
+            ("%%", "%"),
+            ("%L", line_break),
+        ]:
+            text = text.replace(placeholder, value)
+        return text
+
+    def _play_time(self):
+        seconds = self.total_seconds
+        minutes = seconds // 60
+        if minutes > 59:
+            text = str(minutes // 60) + ":" + two_digits(minutes - 60 * (minutes // 60))
+        else:
+            text = str(minutes)
+        return text + ":" + two_digits(seconds - 60 * minutes)
+
+    def _write_html(self, columns):
+        s = self.settings
+        if upper(s.OutputFile[-5:]) != ".HTML" and upper(s.OutputFile[-4:]) != ".HTM":
+            s.OutputFile += ".htm"
+        line_break = "<br />" if s.DocumentType == "XHTML" else "<br>"
+        count = len(self.tracks)
+        pages = 1
+        base_name = extension = ""
+        if s.Spanning > 0:
+            pages = count // s.Spanning + (1 if count % s.Spanning else 0)
+            dot = s.OutputFile.rfind(".")
+            base_name, extension = s.OutputFile[:dot], s.OutputFile[dot:]
+            if s.Spanning > count:
+                pages = 1
+        s.WindowTitle = self._expand(s.WindowTitle, " - ")
+        s.PageTitle = self._expand(s.PageTitle, line_break)
+        s.PageFooter = self._expand(s.PageFooter, line_break)
+        for page in range(1, pages + 1):
+            name, title = s.OutputFile, s.WindowTitle
+            if pages > 1:
+                name = f"{base_name}.{page:03d}{extension}"
+                title = f"{s.WindowTitle} - Page {page} of {pages}"
+            self._check_writable(name)
+            lines = self._head(title)
+            if pages > 1:
+                lines.append(self._navigation(page, pages, base_name, extension))
+            lines.append(self._heading(page, pages, line_break))
+            lines += self._table_head(columns)
+            first, last = (1, count) if s.Spanning <= 0 else ((page - 1) * s.Spanning + 1, page * s.Spanning)
+            kind = 0
+            for i in range(first, last + 1):
+                if i > count:
+                    break
+                if s.AltRows:
+                    kind += 1
+                    if kind == 3:
+                        kind = 1
+                lines.append(self._row(kind, i, columns))
+            lines += self._table_foot(len(columns) - 1)
+            if pages > 1:
+                lines.append(self._navigation(page, pages, base_name, extension))
+            lines += self._end(line_break)
+            self._store(name, b"".join(encode_page(line) + b"\r\n" for line in lines))
+
+    def _head(self, title):
+        s = self.settings
+        if s.DocumentType == "XHTML":
+            lines = [
+                '<?xml version="1.0" encoding="iso-8859-1"?>',
+                '<!DOCTYPE html PUBLIC "-//W3C//DTD XHTML 1.0 Transitional//EN" '
+                '"http://www.w3.org/TR/xhtml1/DTD/xhtml1-transitional.dtd">',
+                '<html xmlns="http://www.w3.org/1999/xhtml" xml:lang="en" lang="en">',
+            ]
+            ending = " /"
+        else:
+            lines = [
+                '<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.01 Transitional//EN" '
+                '"http://www.w3.org/TR/1999/REC-html401-19991224/loose.dtd">',
+                "<html>",
+            ]
+            ending = ""
+        lines.append("\t<head>")
+        lines.append("\t\t<title>" + title + "</title>")
+        lines.append('\t\t<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1"' + ending + ">")
+        lines.append(
+            f'\t\t<meta name="generator" content="Tunedex v{VERSION} by Orvando ({HOME_PAGE})"' + ending + ">"
+        )
+        if s.FontCSS or s.ColourCSS:
+            lines += self._style()
+        lines.append("\t</head>")
+        lines.append(f'\t<body bgcolor="#{s.Colour[1]}" text="#{s.Colour[0]}" link="#{s.Colour[8]}">')
+        return lines
+
+    def _style(self):
+        s = self.settings
+        body, tr, tr2, th, td, a = ("\t\t\t" + name + " {" for name in ("body", "tr", "tr.r2", "th", "td", "a"))
+        if s.ColourCSS:
+            body += f"color: #{s.Colour[0]}; background-color: #{s.Colour[1]}; "
+            tr += f"color: #{s.Colour[4]}; background-color: #{s.Colour[5]}; "
+            tr2 += f"color: #{s.Colour[6]}; background-color: #{s.Colour[7]}; "
+            th += f"color: #{s.Colour[2]}; background-color: #{s.Colour[3]}; "
+            a += f"color: #{s.Colour[8]}; "
+        if s.FontCSS:
+
+            def family_and_size(font):
+                names = {"1": "xx-small", "2": "x-small", "3": "small", "4": "medium", "5": "large", "6": "x-large",
+                         "7": "xx-large"}  # fmt: skip
+                return f"font-family: {font[0]}; font-size: {names.get(font[1], 'small')}; "
+
+            def only_when_set(font):
+                return ("font-weight: bold; " if font[2] else "") + ("font-style: italic; " if font[3] else "")
+
+            body += family_and_size(s.Font[0]) + only_when_set(s.Font[0])
+            th += family_and_size(s.Font[1]) + only_when_set(s.Font[1])
+            td += family_and_size(s.Font[2])
+            td += "font-weight: bold; " if s.Font[2][2] else "font-weight: normal; "
+            td += "font-style: italic; " if s.Font[2][3] else "font-style: normal; "
+        body, tr, tr2, th, td, a = (rule[:-1] + "}" for rule in (body, tr, tr2, th, td, a))
+        opener, closer = ("<![CDATA[", "]]>") if s.DocumentType == "XHTML" else ("<!--", "//-->")
+        lines = ['\t\t<style type="text/css">', "\t\t" + opener, body, tr, tr2, th, td]
+        if s.ColourCSS:
+            lines.append(a)
+        return lines + ["\t\t" + closer, "\t\t</style>"]
+
+    def _font_open(self, font, colour):
+        s = self.settings
+        text = ""
+        if s.FontHTML or s.ColourHTML:
+            text = "<font "
+        if s.FontHTML:
+            text += f'face="{s.Font[font][0]}" size="{s.Font[font][1]}" '
+        if s.ColourHTML:
+            text += f'color="#{s.Colour[colour]}" '
+        return text[:-1] + ">" if text else ""
+
+    def _font_close(self):
+        return "</font>" if self.settings.FontHTML or self.settings.ColourHTML else ""
+
+    def _emphasis(self, font):
+        s = self.settings
+        bold = s.FontHTML and s.Font[font][2]
+        italic = s.FontHTML and s.Font[font][3]
+        return (
+            ("<b>" if bold else "") + ("<i>" if italic else ""),
+            ("</i>" if italic else "") + ("</b>" if bold else ""),
+        )
+
+    @staticmethod
+    def _navigation(page, pages, base_name, extension):
+        base = base_name.split("/")[-1]
+        line = '\t\t<p align="center"><font size="2">'
+        if page == 1:
+            line += "&lt;&lt; Previous Page"
+        else:
+            line += f'<a href="{base}.{page - 1:03d}{extension}">&lt;&lt; Previous Page</a>'
+        line += "&nbsp;&nbsp;&#124;&nbsp;&nbsp;"
+        if page == pages:
+            line += "Next Page &gt;&gt;"
+        else:
+            line += f'<a href="{base}.{page + 1:03d}{extension}">Next Page &gt;&gt;</a>'
+        return line + "</font></p>"
+
+    def _heading(self, page, pages, line_break):
+        opening, closing = self._emphasis(0)
+        line = '\t\t<p align="center">' + self._font_open(0, 0) + opening + self.settings.PageTitle + closing
+        line += self._font_close()
+        if pages > 1:
+            line += f'{line_break}<font size="2">Page {page} of {pages}</font>'
+        return line + "</p>"
+
+    def _table_head(self, columns):
+        s = self.settings
+        unit, width = s.TableWidth
+        percent = "%" if unit == 1 else ""
+        lines = [
+            f'\t\t<table width="{width}{percent}" border="0" cellspacing="0" cellpadding="0" align="center">',
+            "\t\t\t<tr>",
+            "\t\t\t\t<td>",
+            f'\t\t\t\t\t<table width="100%" border="0" bgcolor="#{s.Colour[9]}" '
+            f'cellspacing="{s.TableBorder}" cellpadding="{s.TablePadding}">',
+        ]
+        opening, closing = self._emphasis(1)
+        row = f'\t\t\t\t\t\t<tr bgcolor="#{s.Colour[3]}">'
+        for column in columns:
+            row += "<th"
+            if upper(column) in ("ARTIST", "ARTISTTITLE", "ARTISTALBUMTITLE", "ALBUM", "TITLE", "FOLDER PATH",
+                                 "FULL PATH", "FILENAME"):  # fmt: skip
+                row += ' align="left"'
+            row += ">" + self._font_open(1, 2) + opening + self._header_text(column) + closing + self._font_close()
+            row += "</th>"
+        if s.DoLinks:
+            row += "<th>" + self._font_open(1, 2) + "Link" + self._font_close() + "</th>"
+        return lines + [row + "</tr>"]
+
+    def _row(self, kind, i, columns):
+        s = self.settings
+        track = self.tracks[i - 1]
+        background, colour = (7, 6) if kind == 2 else (5, 4)
+        opening, closing = self._emphasis(2)
+        row = f'\t\t\t\t\t\t<tr bgcolor="#{s.Colour[background]}"'
+        if kind == 2 and s.FontCSS:
+            row += ' class="r2"'
+        row += ">"
+        for column in columns:
+            key = upper(column)
+            row += "<td"
+            cell = self._html_cell(key, track, i)
+            if cell is not None:
+                if key in ("NUMBER", "BITRATE", "FREQUENCY", "DURATION", "FILE SIZE"):
+                    row += ' align="right"'
+                row += ">" + self._font_open(2, colour) + opening + cell
+            row += closing + self._font_close() + "</td>"
+        if s.DoLinks:
+            row += '<td align="center">' + self._font_open(2, colour) + opening
+            row += '<a href="' + s.LinkPrefix + self._link(track) + '">Link</a>'
+            row += closing + self._font_close() + "</td>"
+        return row + "</tr>"
+
+    def _html_cell(self, key, track, i):
+        artist, album, title = (self._escape(text) for text in (track.artist, track.album, track.title))
+        if key == "ARTISTTITLE":
+            return f"<b>{artist}:</b> {title}"
+        if key == "ARTISTALBUMTITLE":
+            return f"<b>{artist}" + (f" ({album})" if track.album != "" else "") + f":</b> {title}"
+        text = self._text_cell(key, track, i)
+        if text is None or key in ("NUMBER", "FILE SIZE"):
+            return text
+        if key in ("ALBUM", "YEAR", "GENRE") and text == "":
+            return "&nbsp;"
+        return self._escape(text)
+
+    def _link(self, track):
+        link_type = self.settings.LinkType
+        if link_type == 0:
+            return track.full_path
+        if link_type == 1:
+            return "/" + track.full_path.replace(":", "")
+        if link_type == 2:
+            base = track.base_folder if track.base_folder.endswith("/") else track.base_folder + "/"
+            place = track.full_path.find(base)
+            return track.full_path[place + len(base) :] if place >= 0 else track.full_path
+        return ""
+
+    def _table_foot(self, last_column):
+        s = self.settings
+        span = last_column + 1 + (1 if s.DoLinks else 0)
+        return [
+            f'\t\t\t\t\t\t<tr bgcolor="#{s.Colour[3]}"><th colspan="{span}">' + self._font_open(1, 2)
+            + f"Created with Tunedex v{VERSION} by Orvando" + self._font_close() + "</th></tr>",
+            "\t\t\t\t\t</table>",
+            "\t\t\t\t</td>",
+            "\t\t\t</tr>",
+            "\t\t</table>",
+        ]  # fmt: skip
+
+    def _end(self, line_break):
+        return [
+            '\t\t<p align="center">',
+            "\t\t\t" + self._font_open(2, 0) + self.settings.PageFooter + line_break + line_break,
+            f'\t\t\t<a href="{HOME_PAGE}" target="_blank">{HOME_PAGE}</a>' + self._font_close() + line_break,
+            "\t\t</p>",
+            "\t</body>",
+            "</html>",
+        ]
