@@ -3,6 +3,8 @@
 #include "FileSystem.h"
 #include "TextLines.h"
 
+#include <algorithm>
+
 namespace tunedex {
 
 std::string TipsPath(const Registry& registry, const std::string& runningFolder,
@@ -28,7 +30,9 @@ void Tips::Next() {
 }
 
 void Tips::PickRandom(double random) {
-    number_ = static_cast<std::int32_t>(random * static_cast<double>(tips_.size()) + 1);
+    // A value next to 1 may be rounded up to one tip too many.
+    const auto index = static_cast<std::size_t>(random * static_cast<double>(tips_.size()));
+    number_ = static_cast<std::int32_t>(tips_.empty() ? 1 : std::min(index, tips_.size() - 1) + 1);
 }
 
 std::string Tips::Current() const {

@@ -58,7 +58,7 @@ class CollectingVisitor final : public WalkVisitor {
         return held;
     }
     // Stores what is still in flight. Returns false when the user aborted, during the last of it too.
-    bool Finish() { return queue_.Drain() && !monitor_.AbortRequested(); }
+    bool Finish() { return queue_.Drain(); }
 
   private:
     void Store(QueuedTrack& queued) {

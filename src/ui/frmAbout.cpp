@@ -77,6 +77,7 @@ frmAbout::frmAbout(const Application& application, UserInterface& ui, QWidget* p
     layout->addLayout(top);
     layout->addSpacing(fontMetrics().height() / 2);
     layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize); // so that the wrapped text always has its height
 
     SetTabOrders({cmdHomePage, cmdEmail, cmdOK});
     cmdOK->setFocus();

@@ -1,0 +1,14 @@
+// The least that a program with a Qt Widgets window can be.
+#include "FirstPaint.h"
+
+#include <QApplication>
+#include <QMainWindow>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QMainWindow window;
+    const FirstPaint painted(window);
+    window.resize(600, 370);
+    window.show();
+    return QApplication::exec();
+}
