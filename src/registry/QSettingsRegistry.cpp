@@ -1,0 +1,41 @@
+#include "QSettingsRegistry.h"
+
+#include "Text.h"
+
+#include <QByteArray>
+#include <QStringList>
+#include <QVariant>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+QString KeyOf(std::string_view name) {
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+} // namespace
+
+QSettingsRegistry::QSettingsRegistry() : settings_(u"Corvale Works"_s, u"Tunedex"_s) {}
+
+std::string QSettingsRegistry::Read(std::string_view name) const {
+    const QVariant value = settings_.value(KeyOf(name));
+    switch (value.typeId()) {
+    case QMetaType::QByteArray:
+        return value.toByteArray().toStdString();
+    case QMetaType::QStringList: // a comma that someone wrote by hand, outside quotes
+        return value.toStringList().join(u',').toStdString();
+    default:
+        return value.toString().toStdString();
+    }
+}
+
+void QSettingsRegistry::Write(std::string_view name, std::string_view text) {
+    const QByteArray bytes(text.data(), static_cast<qsizetype>(text.size()));
+    // A path with stray bytes is no text for Qt; as bytes it comes back as it was.
+    settings_.setValue(KeyOf(name), IsValidUtf8(text) ? QVariant(QString::fromUtf8(bytes)) : QVariant(bytes));
+    settings_.sync();
+}
+
+} // namespace tunedex

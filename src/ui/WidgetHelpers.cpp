@@ -1,0 +1,137 @@
+#include "WidgetHelpers.h"
+
+#include "Functions.h"
+#include "Text.h"
+
+#include <QDesktopServices>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSettings>
+#include <QUrl>
+
+#include <filesystem>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr char16_t kStrayByteBase = 0xDC00;
+
+bool IsStrayByte(QChar character) {
+    return character.unicode() >= kStrayByteBase + 0x80 && character.unicode() <= kStrayByteBase + 0xFF;
+}
+
+// The same store as the program's registry, in a group that holds nothing else.
+QSettings WindowStore() {
+    return QSettings(u"Corvale Works"_s, u"Tunedex"_s);
+}
+
+QString GeometryKey(const QWidget& window) {
+    return u"Windows/"_s + window.objectName();
+}
+
+void OpenUrl(const QUrl& url, const Application& application, UserInterface& ui) {
+    if (!QDesktopServices::openUrl(url)) {
+        const std::string shown = FromQt(url.toDisplayString());
+        ShowMessage(ui, "No program could be found to open\r\n" + shown, kOkExclamation,
+                    application.errorTitle);
+    }
+}
+
+} // namespace
+
+QString ToQt(std::string_view text) {
+    QString result;
+    result.reserve(static_cast<qsizetype>(text.size()));
+    for (std::size_t position = 0; position < text.size();) {
+        const TextStep step = StepAt(text, position);
+        if (step.stray) {
+            const auto byte = static_cast<unsigned char>(text[position]);
+            result.append(QChar(static_cast<char16_t>(kStrayByteBase + byte)));
+        } else {
+            result.append(QString::fromUcs4(&step.character, 1));
+        }
+        position += step.length;
+    }
+    return result;
+}
+
+std::string FromQt(const QString& text) {
+    std::string result;
+    result.reserve(static_cast<std::size_t>(text.size()));
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar character = text[i];
+        if (character.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            AppendUtf8(result, QChar::surrogateToUcs4(character, text[i + 1]));
+            ++i;
+        } else if (IsStrayByte(character)) {
+            result.push_back(static_cast<char>(character.unicode() - kStrayByteBase));
+        } else if (character.isSurrogate()) {
+            AppendUtf8(result, QChar::ReplacementCharacter);
+        } else {
+            AppendUtf8(result, character.unicode());
+        }
+    }
+    return result;
+}
+
+QString ToQtDisplay(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).replace(u"\r\n"_s, u"\n"_s);
+}
+
+void NameControl(QWidget& control, const QString& objectName, const QString& accessibleName,
+                 const QString& description) {
+    control.setObjectName(objectName);
+    control.setAccessibleName(accessibleName);
+    control.setAccessibleDescription(description);
+    control.setToolTip(description);
+}
+
+QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic) {
+    auto* label = new QLabel(textWithMnemonic);
+    label->setBuddy(&control);
+    return label;
+}
+
+QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleName,
+                         const QString& description) {
+    auto* field = new QLineEdit;
+    field->setMaxLength(std::numeric_limits<int>::max());
+    NameControl(*field, objectName, accessibleName, description);
+    return field;
+}
+
+void FocusAndSelectAll(QLineEdit& field) {
+    field.setFocus(Qt::OtherFocusReason);
+    field.selectAll();
+}
+
+void RestoreWindowGeometry(QWidget& window) {
+    const QByteArray geometry = WindowStore().value(GeometryKey(window)).toByteArray();
+    if (!geometry.isEmpty()) {
+        window.restoreGeometry(geometry);
+    }
+}
+
+void SaveWindowGeometry(const QWidget& window) {
+    WindowStore().setValue(GeometryKey(window), window.saveGeometry());
+}
+
+void OpenHelp(const Application& application, UserInterface& ui) {
+    if (application.helpFile.empty()) {
+        ShowMessage(ui, "The help file could not be found!", kOkExclamation, application.errorTitle);
+        return;
+    }
+    // Percent-encoded from the bytes, so that a path that is no UTF-8 opens too.
+    const std::string absolute = std::filesystem::absolute(application.helpFile).string();
+    const QByteArray path = QByteArray::fromStdString(absolute).toPercentEncoding("/");
+    OpenUrl(QUrl::fromEncoded("file://" + path), application, ui);
+}
+
+void OpenAddress(const QString& address, const Application& application, UserInterface& ui) {
+    OpenUrl(QUrl(address), application, ui);
+}
+
+} // namespace tunedex
