@@ -1,0 +1,22 @@
+// A listing's page, prepared for Qt's rich text, which knows HTML but not all that a browser does with it.
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include <optional>
+
+namespace tunedex {
+
+struct RichTextPage {
+    QString styleSheet; // the page's own rules, sizes in pixels
+    QString html;       // the page without them
+    // What the body tag and the rules for body and links say of the whole page; rules outdo the tag.
+    std::optional<QColor> text;
+    std::optional<QColor> background;
+    std::optional<QColor> link;
+};
+
+RichTextPage PrepareRichText(QString page);
+
+} // namespace tunedex
