@@ -20,12 +20,12 @@ struct Application {
     std::ostream& faults; // where faulty lines of settings, theme and entity files are reported
     Locale locale = Locale::FromEnvironment();
 
-    Settings settings;
-    Statistics statistics;
-    EntityTable entities;
+    Settings settings = {};
+    Statistics statistics = {};
+    EntityTable entities = {};
 
-    std::string programFolder; // settings file, statistics, log, themes; ends in a separator
-    std::string helpFile;      // empty when there is none
+    std::string programFolder = {}; // settings file, statistics, log, themes; ends in a separator
+    std::string helpFile = {};      // empty when there is none
     bool automaticMode = false;
     std::string errorTitle = "Error!"; // the title of every error message
     bool abortRequested = false;       // set by the Abort button alone; cleared by each run

@@ -14,9 +14,9 @@ namespace tunedex {
 // Whether "/AUTO" occurs anywhere in the arguments, in any case, inside a longer word too.
 bool IsAutomatic(const std::vector<std::string>& arguments);
 
-// Finds the program's folder and help file, loads statistics and default settings, and fills the main window's fields.
-// Malformed statistics are reported in a message box and counted anew. Raises the error of a program folder that cannot
-// be made or a settings file that cannot be read: the program cannot start then.
+// Finds the program's folder and help file, loads statistics and default settings, and fills the main
+// window's fields. Malformed statistics are reported in a message box and counted anew. Raises the error of a
+// program folder that cannot be made or a settings file that cannot be read: the program cannot start then.
 void StartUp(Application& application, UserInterface& ui, const std::vector<std::string>& arguments);
 
 // The fields that the settings stand for.
@@ -24,8 +24,8 @@ MainFields FieldsFor(const Settings& settings);
 
 // Takes the main window's fields into the settings: output file and the three titles.
 void TakeMainFields(Settings& settings, const MainFields& fields);
-// What passing through the layout editor's controls does to settings: the document type becomes "XHTML" when it is
-// exactly that, else "HTML".
+// What passing through the layout editor's controls does to settings: the document type becomes "XHTML" when
+// it is exactly that, else "HTML".
 void TakeLayoutControls(Settings& settings);
 
 // The Create List command: folder field, entity table, then the list job. Whether the list was written.

@@ -1,4 +1,5 @@
-// What start-up and the list job need of a front end. The windows and the terminal implement it, and so do the tests.
+// What start-up and the list job need of a front end. The windows and the terminal implement it, and so do
+// the tests.
 #pragma once
 
 #include "RunMonitor.h"
@@ -9,7 +10,8 @@
 
 namespace tunedex {
 
-// Buttons and icon of a message box, and the button pressed. The numbers are an interface: they stand in logs and tests.
+// Buttons and icon of a message box, and the button pressed. The numbers are an interface: they stand in logs
+// and tests.
 enum MessageButtons : int {
     kOkCancelQuestion = 33,
     kYesNoQuestion = 36,
@@ -25,8 +27,8 @@ enum MessageAnswer : int {
     kAnswerNo = 7,
 };
 
-// The main window's fields: txtInputDir, txtOutputFile, txtWindowTitle, txtPageTitle, txtPageFooter and the check box
-// chkMultipleDirs. UTF-8; paths may hold stray bytes.
+// The main window's fields: txtInputDir, txtOutputFile, txtWindowTitle, txtPageTitle, txtPageFooter and the
+// check box chkMultipleDirs. UTF-8; paths may hold stray bytes.
 struct MainFields {
     bool multipleFolders = false;
     std::string inputFolder;
@@ -48,8 +50,8 @@ class UserInterface {
     virtual MainFields Fields() const = 0;
     virtual void FillFields(const MainFields& fields) = 0;
 
-    // Takes every control of the windows into the settings, as TakeMainFields and TakeLayoutControls do where there is no
-    // open dialog.
+    // Takes every control of the windows into the settings, as TakeMainFields and TakeLayoutControls do where
+    // there is no open dialog.
     virtual void TakeControls(Settings& settings) = 0;
 
     // Shows a message and waits for its answer. Line breaks in `text` are CR LF.
@@ -60,8 +62,8 @@ class UserInterface {
     // Lets the user at the main window and the options window again.
     virtual void EnableWindows() = 0;
 
-    // Shows the progress window without waiting; the monitor lives until the front end does. While the window is closed
-    // the monitor stores texts and numbers and shows nothing.
+    // Shows the progress window without waiting; the monitor lives until the front end does. While the window
+    // is closed the monitor stores texts and numbers and shows nothing.
     virtual RunMonitor& ShowProgress() = 0;
     virtual void SetProgressCaption(std::string_view caption) = 0;
     // Closes the progress window, if it is open.

@@ -1,4 +1,5 @@
-// Bounded random access to bytes: a file or a block of memory behind one interface, for the three tag readers.
+// Bounded random access to bytes: a file or a block of memory behind one interface, for the three tag
+// readers.
 #pragma once
 
 #include <array>
@@ -19,8 +20,8 @@ class ByteSource {
     // Length in bytes.
     virtual std::uint64_t Size() const = 0;
 
-    // Fills `buffer` from `offset` (0-based) on and returns how many bytes there were: fewer than asked for only at
-    // the end. Raises error 57 and the like when reading fails.
+    // Fills `buffer` from `offset` (0-based) on and returns how many bytes there were: fewer than asked for
+    // only at the end. Raises error 57 and the like when reading fails.
     virtual std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) = 0;
 
     // Fills the whole buffer. Raises error 62 when the bytes end before it is full.
@@ -39,8 +40,8 @@ class MemoryByteSource final : public ByteSource {
     std::span<const std::uint8_t> bytes_;
 };
 
-// A file, opened once. A small read loads a window of the file, since the next read is nearly always close by: a
-// typical file costs one read for its head and one for its tail.
+// A file, opened once. A small read loads a window of the file, since the next read is nearly always close
+// by: a typical file costs one read for its head and one for its tail.
 class FileByteSource final : public ByteSource {
   public:
     // Raises error 53 for a path that is not there or is a folder, 75 where it may not be read, and so on.

@@ -93,7 +93,8 @@ std::vector<std::string> FileNamesIn(const std::string& folder) {
             return names;
         }
         struct stat status {};
-        const bool isFile = fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
+        const bool isFile =
+            fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
         if (isFile) {
             names.emplace_back(entry->d_name);
         }

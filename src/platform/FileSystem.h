@@ -6,12 +6,13 @@
 
 namespace tunedex {
 
-// Whether the path is an existing folder; an empty path is the current folder and exists. Raises error 52 when the
-// question itself fails for any cause but "not there" (no permission, a loop of links, a name too long, a NUL).
+// Whether the path is an existing folder; an empty path is the current folder and exists. Raises error 52
+// when the question itself fails for any cause but "not there" (no permission, a loop of links, a name too
+// long, a NUL).
 bool FolderExists(const std::string& path);
 
-// Whether the path is an existing file (anything but a folder). Raises the error of a failed look-up that is not
-// "not there".
+// Whether the path is an existing file (anything but a folder). Raises the error of a failed look-up that is
+// not "not there".
 bool FileExists(const std::string& path);
 
 // Creates one folder. Raises errors 61, 75, 76 and the like.

@@ -10,7 +10,8 @@ namespace tunedex {
 
 namespace {
 
-// The locale's name for one category, by POSIX's order of precedence; empty where only the default formats apply.
+// The locale's name for one category, by POSIX's order of precedence; empty where only the default formats
+// apply.
 std::string NameFor(const char* category) {
     for (const char* variable : {"LC_ALL", category, "LANG"}) {
         const char* value = std::getenv(variable);

@@ -10,8 +10,8 @@ namespace tunedex {
 
 class Locale {
   public:
-    // The formats of no country: 2026-11-21, 14:05, "," between thousands and "." before decimals. They also stand in
-    // for a locale that is unset, C, POSIX, C.UTF-8 or not installed.
+    // The formats of no country: 2026-11-21, 14:05, "," between thousands and "." before decimals. They also
+    // stand in for a locale that is unset, C, POSIX, C.UTF-8 or not installed.
     Locale();
     static Locale FromEnvironment();
 

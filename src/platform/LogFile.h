@@ -1,5 +1,5 @@
-// The error log of a run: a line is on its way to the disk as soon as it is written, so that a run that ends badly
-// still leaves its log.
+// The error log of a run: a line is on its way to the disk as soon as it is written, so that a run that ends
+// badly still leaves its log.
 #pragma once
 
 #include <string>
@@ -9,7 +9,8 @@ namespace tunedex {
 
 class LogFile {
   public:
-    // Creates the file or empties it; unlike a listing it is written in place. Raises 75, 76, 61 and the like.
+    // Creates the file or empties it; unlike a listing it is written in place. Raises 75, 76, 61 and the
+    // like.
     explicit LogFile(const std::string& path);
     LogFile(const LogFile&) = delete;
     LogFile& operator=(const LogFile&) = delete;

@@ -28,7 +28,8 @@ struct ParsedNumber {
     std::size_t end = 0; // one past the number's last character; 0 when there is none
 };
 
-// The end of the digits, fraction and exponent that begin at `start`; `start` itself when there are no digits.
+// The end of the digits, fraction and exponent that begin at `start`; `start` itself when there are no
+// digits.
 std::size_t NumberEnd(std::string_view text, std::size_t start) {
     std::size_t end = SkipDigits(text, start);
     std::size_t digits = end - start;
@@ -75,8 +76,8 @@ ParsedNumber ParseNumber(std::string_view text) {
         // Too small a number is 0 for every purpose here; too large a one must not pass for 0.
         const std::string_view number = text.substr(position, end - position);
         const std::size_t exponent = number.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos && exponent + 1 < number.size() &&
-                          number[exponent + 1] == '-';
+        const bool tiny =
+            exponent != std::string_view::npos && exponent + 1 < number.size() && number[exponent + 1] == '-';
         value = tiny ? 0 : std::numeric_limits<double>::infinity();
     }
     return {negative ? -value : value, end};

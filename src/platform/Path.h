@@ -1,5 +1,5 @@
-// Splitting and joining paths. A path is bytes as the file system holds them; the separator is a value, so that the
-// rules of both kinds of platform can be tested on either.
+// Splitting and joining paths. A path is bytes as the file system holds them; the separator is a value, so
+// that the rules of both kinds of platform can be tested on either.
 #pragma once
 
 #include <string>
@@ -15,9 +15,13 @@ struct PathStyle {
     static constexpr PathStyle Unix() { return {'/', false}; }
     static constexpr PathStyle Windows() { return {'\\', true}; }
 #ifdef _WIN32
-    static constexpr PathStyle Native() { return Windows(); }
+    static constexpr PathStyle Native() {
+        return Windows();
+    }
 #else
-    static constexpr PathStyle Native() { return Unix(); }
+    static constexpr PathStyle Native() {
+        return Unix();
+    }
 #endif
 };
 
@@ -33,7 +37,8 @@ std::string_view FolderPathOf(std::string_view path, PathStyle style);
 // Every piece but the last, each followed by a separator; empty for a bare name.
 std::string_view FolderPrefixOf(std::string_view path, PathStyle style);
 
-// The folders on the way down to `folderPrefix`, outermost first, each with its separator: C:\, C:\a\, C:\a\b\.
+// The folders on the way down to `folderPrefix`, outermost first, each with its separator: C:\, C:\a\,
+// C:\a\b\.
 std::vector<std::string> FolderLevels(std::string_view folderPrefix, PathStyle style);
 
 } // namespace tunedex

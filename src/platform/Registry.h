@@ -1,4 +1,5 @@
-// The small persistent key-value store that outlives the program's folder: where the program is, which tips to show.
+// The small persistent key-value store that outlives the program's folder: where the program is, which tips
+// to show.
 #pragma once
 
 #include <string>

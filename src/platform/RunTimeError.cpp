@@ -48,7 +48,8 @@ RunTimeError ErrorFromErrno(int errorCode, FileTask task) {
     case ELOOP:
         return RunTimeError(ErrorNumber::BadFileName);
     case ENOENT:
-        return RunTimeError(task == FileTask::ReadFile ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound);
+        return RunTimeError(task == FileTask::ReadFile ? ErrorNumber::FileNotFound
+                                                       : ErrorNumber::PathNotFound);
     case ENOTDIR:
         return RunTimeError(ErrorNumber::PathNotFound);
     case EACCES:

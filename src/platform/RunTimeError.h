@@ -1,4 +1,5 @@
-// The one exception type of the program: a number with its description, as messages and the error log print them.
+// The one exception type of the program: a number with its description, as messages and the error log print
+// them.
 #pragma once
 
 #include <exception>
@@ -38,10 +39,10 @@ class RunTimeError : public std::exception {
 
 // What the failed system call was about: the same errno means different things for a file and for a folder.
 enum class FileTask {
-    ReadFile,     // opening, measuring or reading a file
-    WriteFile,    // opening for output, writing, renaming into place: what is missing then is the folder
-    UseFolder,    // listing or creating a folder
-    TestFolder,   // asking whether a folder exists
+    ReadFile,   // opening, measuring or reading a file
+    WriteFile,  // opening for output, writing, renaming into place: what is missing then is the folder
+    UseFolder,  // listing or creating a folder
+    TestFolder, // asking whether a folder exists
 };
 
 // The error that stands for a failed system call. `errorCode` is errno as the call left it.

@@ -1,6 +1,6 @@
-// Texts. In memory every text is UTF-8 in a std::string; bytes that are no UTF-8 (an old file name) are carried along
-// as "stray bytes" and never change. The 8-bit code page of tags and listings is Windows-1252, whose five unused
-// bytes 81 8D 8F 90 9D stand for U+0081 ... U+009D.
+// Texts. In memory every text is UTF-8 in a std::string; bytes that are no UTF-8 (an old file name) are
+// carried along as "stray bytes" and never change. The 8-bit code page of tags and listings is Windows-1252,
+// whose five unused bytes 81 8D 8F 90 9D stand for U+0081 ... U+009D.
 #pragma once
 
 #include <cstddef>
@@ -18,8 +18,8 @@ struct TextStep {
     bool stray;
 };
 
-// The step at `position`, which must be less than text.size(). Overlong forms, surrogates and values above U+10FFFF
-// are stray bytes.
+// The step at `position`, which must be less than text.size(). Overlong forms, surrogates and values above
+// U+10FFFF are stray bytes.
 TextStep StepAt(std::string_view text, std::size_t position);
 
 bool IsAscii(std::string_view text);
@@ -40,8 +40,8 @@ enum class Substitute { QuestionMark, DecimalReference };
 // Appends the text in Windows-1252; a stray byte is written as it is.
 void AppendWindows1252(std::string& bytes, std::string_view text, Substitute substitute);
 
-// Upper case of a-z and of every Windows-1252 letter that has its partner in Windows-1252; the length in bytes
-// never changes.
+// Upper case of a-z and of every Windows-1252 letter that has its partner in Windows-1252; the length in
+// bytes never changes.
 std::string UpperCase(std::string_view text);
 // Whether the text ends in `upperCaseEnd` when upper-cased; the end must be ASCII.
 bool EndsInIgnoringCase(std::string_view text, std::string_view upperCaseEnd);
@@ -55,9 +55,9 @@ std::string_view TrimBlanksRight(std::string_view text);
 // The text without its last byte, which must be an ASCII character. Raises error 5 for an empty text.
 void DropLast(std::string& text);
 
-// One line of the program's own files. Written in Windows-1252 if that can hold it and those bytes are not by chance
-// UTF-8 with a multi-byte character, otherwise in UTF-8; read as UTF-8 where valid, else as Windows-1252. So every
-// text of whole characters survives the way out and back.
+// One line of the program's own files. Written in Windows-1252 if that can hold it and those bytes are not by
+// chance UTF-8 with a multi-byte character, otherwise in UTF-8; read as UTF-8 where valid, else as
+// Windows-1252. So every text of whole characters survives the way out and back.
 std::string EncodeFileLine(std::string_view text);
 std::string DecodeFileLine(std::string_view bytes);
 

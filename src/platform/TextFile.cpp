@@ -75,7 +75,8 @@ void TextFile::OpenAside(const std::string& path) {
     if (name_.empty()) {
         Fail(path.empty() ? ENOENT : EISDIR);
     }
-    folder_ = OpenAt(AT_FDCWD, prefix.empty() ? std::string(".") : std::string(prefix), O_PATH | O_DIRECTORY, 0);
+    folder_ =
+        OpenAt(AT_FDCWD, prefix.empty() ? std::string(".") : std::string(prefix), O_PATH | O_DIRECTORY, 0);
     if (folder_ < 0) {
         Fail(errno);
     }
@@ -109,7 +110,8 @@ void TextFile::OpenAside(const std::string& path) {
             Fail(errno);
         }
     } else if (exists) {
-        // Another owner's file keeps its owner where the system lets us; its permissions it keeps in any case.
+        // Another owner's file keeps its owner where the system lets us; its permissions it keeps in any
+        // case.
         if (old.st_uid != geteuid() || old.st_gid != getegid()) {
             (void)!fchown(descriptor_, old.st_uid, old.st_gid);
         }

@@ -15,13 +15,14 @@ enum class TextEncoding {
     FileLine, // each line for itself, as EncodeFileLine does
 };
 
-// The file is written aside in its own folder, under a short hidden name, and takes the old file's place when it is
-// closed, following a symbolic link to the real file and keeping its permissions; where the folder does not allow
-// that, it is written in place. Unless Close() has returned, the destructor removes what was written aside and the
-// old file is still there.
+// The file is written aside in its own folder, under a short hidden name, and takes the old file's place when
+// it is closed, following a symbolic link to the real file and keeping its permissions; where the folder does
+// not allow that, it is written in place. Unless Close() has returned, the destructor removes what was
+// written aside and the old file is still there.
 //
-// The constructor, the writes and Close() raise the error of what failed: 75 where the file or the folder may not be
-// written, 76 for a folder that is not there, 61 for a full disk, 52 for an impossible name, 57 for other failures.
+// The constructor, the writes and Close() raise the error of what failed: 75 where the file or the folder may
+// not be written, 76 for a folder that is not there, 61 for a full disk, 52 for an impossible name, 57 for
+// other failures.
 class TextFile {
   public:
     TextFile(const std::string& path, TextEncoding encoding);

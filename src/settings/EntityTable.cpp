@@ -12,8 +12,8 @@ namespace tunedex {
 namespace {
 
 constexpr std::size_t kCodePageSize = 256;
-// A table that replaces a character by two of itself doubles with every such line: what is longer than this is a
-// mistake, not an entity.
+// A table that replaces a character by two of itself doubles with every such line: what is longer than this
+// is a mistake, not an entity.
 constexpr std::size_t kLongestExpansion = 1U << 20U;
 
 EntityTable::Slot ParseEntry(const std::string& line) {

@@ -21,17 +21,19 @@ class EntityTable {
     // One empty slot: nothing is replaced.
     EntityTable();
 
-    // Rebuilds the table from a file of lines CODE TAB TEXT; comments begin with "#". No file: nothing is replaced. A
-    // line that is no entry is skipped, with a line on `faults`. Raises the error of a file that cannot be read.
+    // Rebuilds the table from a file of lines CODE TAB TEXT; comments begin with "#". No file: nothing is
+    // replaced. A line that is no entry is skipped, with a line on `faults`. Raises the error of a file that
+    // cannot be read.
     void Load(const std::string& path, std::ostream& faults);
     // The same from lines already read; `name` is what faults call the file.
     void Load(const std::vector<std::string>& lines, std::string_view name, std::ostream& faults);
 
-    // One slot more than the file has lines: entries in file order, then empty slots. Only the last is never applied.
+    // One slot more than the file has lines: entries in file order, then empty slots. Only the last is never
+    // applied.
     const std::vector<Slot>& Slots() const { return slots_; }
 
-    // Appends the text with every slot but the last applied to it, one after the other over the result of the one
-    // before. Stray bytes are left alone.
+    // Appends the text with every slot but the last applied to it, one after the other over the result of the
+    // one before. Stray bytes are left alone.
     void AppendEscaped(std::string& result, std::string_view text) const;
     std::string EscapeEntities(std::string_view text) const;
 
@@ -39,8 +41,8 @@ class EntityTable {
     void BuildExpansions();
 
     std::vector<Slot> slots_;
-    // What all slots together make of one character, by its byte in Windows-1252. Each slot replaces single characters,
-    // so a text's result is its characters' results side by side.
+    // What all slots together make of one character, by its byte in Windows-1252. Each slot replaces single
+    // characters, so a text's result is its characters' results side by side.
     std::vector<std::string> expansions_;
     std::vector<bool> changes_; // whether the character differs from its expansion
 };

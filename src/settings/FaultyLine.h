@@ -8,7 +8,8 @@
 namespace tunedex {
 
 // "file:line: line skipped: reason", one line. Lines are counted from 1.
-inline void ReportFaultyLine(std::ostream& faults, std::string_view file, std::size_t line, std::string_view reason) {
+inline void ReportFaultyLine(std::ostream& faults, std::string_view file, std::size_t line,
+                             std::string_view reason) {
     faults << file << ':' << line << ": line skipped: " << reason << '\n';
 }
 

@@ -8,8 +8,8 @@
 
 namespace tunedex {
 
-// A fresh record is all empty texts, zeros and false: a settings file is read over it as it stands. The defaults that
-// users see come from SetDefaults().
+// A fresh record is all empty texts, zeros and false: a settings file is read over it as it stands. The
+// defaults that users see come from SetDefaults().
 struct FontSetting {
     std::string face; // a font-family list as CSS writes it
     std::string size; // HTML font size "1" to "7", kept as text

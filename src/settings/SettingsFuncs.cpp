@@ -22,8 +22,8 @@ using TextMember = std::string Settings::*;
 using FlagMember = bool Settings::*;
 using NumberMember = std::int16_t Settings::*;
 
-// The settings that are one key and one plain value, in the order in which a file holds them. A row without a member
-// stands for settings that need code of their own, or begins a group with its comment.
+// The settings that are one key and one plain value, in the order in which a file holds them. A row without a
+// member stands for settings that need code of their own, or begins a group with its comment.
 enum class Special { None, Fonts, Colours, TableWidth, Group };
 
 struct Row {
@@ -177,7 +177,8 @@ std::string FlagText(bool flag) {
 
 std::string FontText(const FontSetting& font) {
     const std::string separator(kFontSeparator);
-    return font.face + separator + font.size + separator + FlagText(font.bold) + separator + FlagText(font.italic);
+    return font.face + separator + font.size + separator + FlagText(font.bold) + separator +
+           FlagText(font.italic);
 }
 
 std::string TableWidthText(std::int16_t unit, std::string_view width) {

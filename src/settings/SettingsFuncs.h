@@ -1,5 +1,5 @@
-// Settings files ("*.cfg") and the lines they share with theme files: lines of KEY=value, KEY(n)=value, comments that
-// begin with "#", and empty lines.
+// Settings files ("*.cfg") and the lines they share with theme files: lines of KEY=value, KEY(n)=value,
+// comments that begin with "#", and empty lines.
 #pragma once
 
 #include "Settings.h"
@@ -28,9 +28,9 @@ enum class LoadOutcome {
     Missing,         // there is no such file; the settings are unchanged
 };
 
-// Reads a settings or theme file over `settings`; keys that it lacks keep their values. An empty path means the default
-// file in `programFolder` (which ends in a separator). A line that cannot be applied is skipped, with a line on `faults`
-// that names file, line and reason. Raises the error of a file that cannot be read.
+// Reads a settings or theme file over `settings`; keys that it lacks keep their values. An empty path means
+// the default file in `programFolder` (which ends in a separator). A line that cannot be applied is skipped,
+// with a line on `faults` that names file, line and reason. Raises the error of a file that cannot be read.
 LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std::string& programFolder,
                          std::ostream& faults);
 
@@ -38,11 +38,13 @@ LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std:
 void ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
                    std::ostream& faults);
 
-// Applies one line. `key` is in upper case; `index` is the digit of an indexed key, 0 for a key without brackets, -1
-// where there is no digit in them. Unknown keys are ignored. Raises error 6 for a number out of range, 9 for an index out of range or missing parts.
+// Applies one line. `key` is in upper case; `index` is the digit of an indexed key, 0 for a key without
+// brackets, -1 where there is no digit in them. Unknown keys are ignored. Raises error 6 for a number out of
+// range, 9 for an index out of range or missing parts.
 void ParseSetting(Settings& settings, std::string_view key, std::string_view value, int index);
 
-// The path that a save to `path` writes: the default file for an empty path, else with ".cfg" unless it ends so.
+// The path that a save to `path` writes: the default file for an empty path, else with ".cfg" unless it ends
+// so.
 std::string SettingsPath(const std::string& path, const std::string& programFolder);
 
 // Writes every setting. Raises the error of a file that cannot be written; the old file is then still there.

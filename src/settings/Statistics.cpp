@@ -3,8 +3,8 @@
 #include "FileSystem.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
-#include "TextFile.h"
 #include "Text.h"
+#include "TextFile.h"
 #include "TextLines.h"
 
 namespace tunedex {
@@ -53,8 +53,8 @@ void SaveStatistics(const Statistics& statistics, const std::string& path) {
 
 std::string StatisticsText(const Statistics& statistics) {
     std::string text = "Tunedex was first started on " + statistics.FirstStarted + " and has been started " +
-                       std::to_string(statistics.TimesStarted) + (statistics.TimesStarted < 2 ? " time" : " times") +
-                       " since.\r\n";
+                       std::to_string(statistics.TimesStarted) +
+                       (statistics.TimesStarted < 2 ? " time" : " times") + " since.\r\n";
     if (statistics.ListsCreated >= 1 && statistics.FilesHandled > 0) {
         text += "It has created " + std::to_string(statistics.ListsCreated) +
                 (statistics.ListsCreated == 1 ? " list" : " lists") + ", and handled " +

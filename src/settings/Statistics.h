@@ -22,9 +22,9 @@ struct Statistics {
 // The figures of a first start on that day, this start counted.
 Statistics FirstStatistics(const std::string& today);
 
-// The figures of the file, this start counted; those of a first start when there is no file. Raises error 62 for fewer
-// than four lines, 5 for a first line too short for its quotes, 13 for a count of starts that is no number, 6 for a
-// number out of range.
+// The figures of the file, this start counted; those of a first start when there is no file. Raises error 62
+// for fewer than four lines, 5 for a first line too short for its quotes, 13 for a count of starts that is no
+// number, 6 for a number out of range.
 Statistics LoadStatistics(const std::string& path, const std::string& today);
 // The same from the file's lines.
 Statistics ParseStatistics(const std::vector<std::string>& lines);

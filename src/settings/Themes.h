@@ -1,4 +1,5 @@
-// Theme files ("*.thm"): a named set of fonts, colours and table measures, one file each in the folder "Themes".
+// Theme files ("*.thm"): a named set of fonts, colours and table measures, one file each in the folder
+// "Themes".
 #pragma once
 
 #include "Settings.h"
@@ -17,7 +18,8 @@ std::string ThemePath(const std::string& programFolder, const std::string& name)
 // The names of the themes, in the order in which the folder returns them; none when there is no folder.
 std::vector<std::string> ListThemes(const std::string& programFolder);
 
-// Whether a file of that name can be a theme in the folder: not a path, not empty once trimmed of blanks, no NUL.
+// Whether a file of that name can be a theme in the folder: not a path, not empty once trimmed of blanks, no
+// NUL.
 bool IsThemeName(const std::string& name);
 
 // What a theme holds of the settings, the table's width as the text of the editor's box.

@@ -1,0 +1,209 @@
+#include "ListJob.h"
+
+#include "FileSystem.h"
+#include "FolderScanner.h"
+#include "Functions.h"
+#include "Numbers.h"
+#include "OutputList.h"
+#include "Path.h"
+#include "Sorting.h"
+#include "Startup.h"
+
+#include <new>
+#include <optional>
+#include <string>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::string_view kLogFileName = "Tunedex.log";
+
+// One run: its table, its totals, its log and its own copy of the settings.
+class ListRun final : public ErrorReporter {
+  public:
+    ListRun(Application& application, UserInterface& ui) : application_(application), ui_(ui) {}
+
+    // Returns whether the run may begin; what is wrong has been said then.
+    bool Validate();
+    void Work();
+    bool ListWritten() const { return listWritten_; }
+
+    void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
+                const RunTimeError& error) override {
+        ReportError(std::string(errorTemplate), file, folder, error, application_, ui_,
+                    log_ ? &*log_ : nullptr);
+    }
+
+  private:
+    bool Refuse(const std::string& text) {
+        ShowMessage(ui_, text, kOkExclamation, application_.errorTitle);
+        return false;
+    }
+    bool ValidateInput();
+    bool ValidateOutput();
+    bool Scan(RunMonitor& monitor, ScanMode mode);
+    bool Read(RunMonitor& monitor);
+    bool Sort(RunMonitor& monitor);
+    bool Write(RunMonitor& monitor);
+    void Finish(RunMonitor& monitor);
+
+    Application& application_;
+    UserInterface& ui_;
+    std::string folderWord_;
+    Settings settings_;
+    RunTotals totals_;
+    TrackTable table_;
+    std::optional<LogFile> log_;
+    bool listWritten_ = false;
+};
+
+bool ListRun::ValidateInput() {
+    Settings& settings = application_.settings;
+    const MainFields fields = ui_.Fields();
+    folderWord_ = fields.multipleFolders ? "directories" : "directory";
+    if (!fields.multipleFolders) {
+        if (!FolderExists(fields.inputFolder)) {
+            Refuse("The specified directory does not exist!");
+            ui_.FocusAndSelect(MainField::InputFolder);
+            return false;
+        }
+        settings.Directory = fields.inputFolder;
+    }
+    ui_.TakeControls(settings);
+    if (settings.Directory.empty() || settings.Directory == kMultiFolderMark) {
+        return Refuse("No input " + folderWord_ + " specified!");
+    }
+    return true;
+}
+
+bool ListRun::ValidateOutput() {
+    if (application_.settings.OutputFile.empty()) {
+        return Refuse("No output file specified!");
+    }
+    const std::string outputFile = ui_.Fields().outputFile;
+    const std::string folder(FolderPrefixOf(outputFile, PathStyle::Native()));
+    if (FolderExists(folder)) {
+        return true;
+    }
+    const int answer =
+        ShowMessage(ui_, "The output directory does not exist!\r\n\r\nDo you want to create it?",
+                    kYesNoExclamation, application_.errorTitle);
+    if (answer != kAnswerYes) {
+        ui_.FocusAndSelect(MainField::OutputFile);
+        return false;
+    }
+    for (const std::string& level : FolderLevels(folder, PathStyle::Native())) {
+        if (!FolderExists(level)) {
+            CreateFolder(level);
+        }
+    }
+    return true;
+}
+
+bool ListRun::Validate() {
+    return ValidateInput() && ValidateOutput();
+}
+
+// One pass over the folders. Returns false when the user aborted.
+bool ListRun::Scan(RunMonitor& monitor, ScanMode mode) {
+    FolderScanner scanner(totals_, table_, monitor, *this, {settings_.MoveTheArtists});
+    const bool aborted = scanner.ScanFolders(mode, settings_.Directory, settings_.Recurse);
+    if (aborted) {
+        ui_.CloseProgress();
+    }
+    return !aborted;
+}
+
+bool ListRun::Read(RunMonitor& monitor) {
+    table_ = TrackTable(static_cast<std::size_t>(totals_.FoundCount));
+    if (application_.automaticMode) {
+        ui_.SetProgressCaption("Tunedex (Automatic Mode)");
+    }
+    monitor.SetMaximum(totals_.FoundCount);
+    monitor.SetStatus("Retrieving MPEG/ID3 information...");
+    return Scan(monitor, ScanMode::Collect);
+}
+
+bool ListRun::Sort(RunMonitor& monitor) {
+    monitor.SetStatus("Sorting information...");
+    if (settings_.SortOrder != kNoSorting && SortTracks(table_, settings_.SortOrder, monitor)) {
+        ui_.CloseProgress();
+        return false;
+    }
+    return true;
+}
+
+bool ListRun::Write(RunMonitor& monitor) {
+    monitor.SetStatus("Writing information...");
+    Listing listing{settings_,          table_, totals_, application_.entities, application_.locale,
+                    application_.clock, monitor};
+    listWritten_ = !WriteListing(OutputTypeOf(settings_.OutputFile), listing);
+    if (!listWritten_) {
+        ui_.CloseProgress();
+    }
+    return listWritten_;
+}
+
+void ListRun::Finish(RunMonitor& monitor) {
+    if (log_) {
+        log_->Close();
+    }
+    monitor.SetStatus("Operation complete!");
+    PauseSeconds(1, application_.clock);
+    Statistics& statistics = application_.statistics;
+    statistics.ListsCreated = CheckedAdd(statistics.ListsCreated, 1);
+    statistics.FilesHandled = CheckedAdd(statistics.FilesHandled, totals_.FoundCount);
+    ui_.CloseProgress();
+    TakeMainFields(application_.settings, ui_.Fields());
+}
+
+void ListRun::Work() {
+    settings_ = application_.settings;
+    application_.abortRequested = false;
+    if (settings_.ErrorLog) {
+        log_.emplace(application_.programFolder + std::string(kLogFileName));
+    }
+    RunMonitor& monitor = ui_.ShowProgress();
+    monitor.SetStatus("Searching for MP3 files...");
+    // An abort here is answered by the next phase, which finds the request still standing.
+    Scan(monitor, ScanMode::Count);
+    if (totals_.FoundCount == 0) {
+        ShowMessage(ui_, "No MP3 files were found\r\nin the " + folderWord_ + " specified.", kOkInformation,
+                    "No MP3 files!");
+        ui_.EnableWindows();
+        return;
+    }
+    if (Read(monitor) && Sort(monitor) && Write(monitor)) {
+        Finish(monitor);
+    }
+}
+
+std::string TrappedErrorText(const RunTimeError& error) {
+    if (error.Number() == static_cast<int>(ErrorNumber::BadFileName)) {
+        return "An error occurred verifying your input directory.\r\n\r\n"
+               "This could be because you do not have permission\r\n"
+               "to access the directory, or you may be attempting\r\n"
+               "to use a non-existent network share.";
+    }
+    return UnexpectedErrorText(error);
+}
+
+} // namespace
+
+bool CreateList(Application& application, UserInterface& ui) {
+    ListRun run(application, ui);
+    try {
+        if (run.Validate()) {
+            run.Work();
+        }
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui, TrappedErrorText(error), kOkExclamation, "Error");
+    } catch (const std::bad_alloc&) {
+        ShowMessage(ui, "An unexpected error occurred. The error was: \r\n\r\nError number 7 - Out of memory",
+                    kOkExclamation, "Error");
+    }
+    return run.ListWritten();
+}
+
+} // namespace tunedex

@@ -1,0 +1,159 @@
+#include "Columns.h"
+
+#include "RunTimeError.h"
+#include "SizeText.h"
+#include "Text.h"
+
+#include <algorithm>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::string_view kArtistTitleName = "ArtistTitle";
+constexpr std::string_view kArtistAlbumTitleName = "ArtistAlbumTitle";
+
+std::string Remove(const std::string& list, std::string_view name) {
+    return ReplaceAll(ReplaceAll(list, name, ""), "||", "|");
+}
+
+std::string MergedName(std::int16_t merge) {
+    if (merge == 1) {
+        return std::string(kArtistTitleName);
+    }
+    return merge == 2 ? std::string(kArtistAlbumTitleName) : std::string();
+}
+
+} // namespace
+
+ColumnKey ColumnKeyOf(std::string_view name) {
+    const std::string key = UpperCase(name);
+    if (key == "ARTISTTITLE") {
+        return ColumnKey::ArtistTitle;
+    }
+    if (key == "ARTISTALBUMTITLE") {
+        return ColumnKey::ArtistAlbumTitle;
+    }
+    for (std::size_t i = 0; i < kColumnNames.size(); ++i) {
+        if (UpperCase(kColumnNames.at(i)) == key) {
+            return static_cast<ColumnKey>(i);
+        }
+    }
+    return ColumnKey::Unknown;
+}
+
+std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
+    const std::string upper = UpperCase(activeColumns);
+    const std::size_t artist = upper.find("ARTIST");
+    const std::size_t title = upper.find("TITLE");
+    if (merge <= 0 || artist == std::string::npos || title == std::string::npos) {
+        return activeColumns;
+    }
+    // The positions are those from before the removals: what is left of the first name stays, and so much of
+    // the end as stood behind it. That this cuts wrongly where Album comes first is how lists have always
+    // been written.
+    const std::size_t start = std::min(artist, title);
+    const std::size_t bar = upper.find('|', start); // none: the whole list is its own end
+    std::string list = Remove(activeColumns, artist < title ? "Title" : "Artist");
+    if (merge == 2) {
+        list = Remove(list, "Album");
+    }
+    const std::size_t barPosition = bar == std::string::npos ? 0 : bar + 1;
+    if (list.size() + 1 < barPosition) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    const std::size_t endLength = std::min(list.size() + 1 - barPosition, list.size());
+    std::string merged = list.substr(0, start) + MergedName(merge) + list.substr(list.size() - endLength);
+    if (merged.ends_with('|')) {
+        merged.pop_back();
+    }
+    if (merged.starts_with('|')) {
+        merged.erase(0, 1);
+    }
+    return merged;
+}
+
+std::vector<Column> SplitColumns(const std::string& columnList) {
+    std::vector<Column> columns;
+    for (const std::string& name : Split(columnList, "|")) {
+        columns.push_back({name, ColumnKeyOf(name)});
+    }
+    return columns;
+}
+
+std::string HeaderText(const Column& column) {
+    switch (column.key) {
+    case ColumnKey::ArtistTitle:
+        return "Artist: Title";
+    case ColumnKey::ArtistAlbumTitle:
+        return "Artist (Album): Title";
+    default:
+        return column.name;
+    }
+}
+
+void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std::size_t position,
+                    const CellContext& context) {
+    switch (key) {
+    case ColumnKey::Number:
+        text += std::to_string(position);
+        return;
+    case ColumnKey::Artist:
+        text += track.Artist.View();
+        return;
+    case ColumnKey::Album:
+        text += track.Album.View();
+        return;
+    case ColumnKey::Title:
+        text += track.Title.View();
+        return;
+    case ColumnKey::Year:
+        text += track.Year.View();
+        return;
+    case ColumnKey::Genre:
+        text += track.Genre.View();
+        return;
+    case ColumnKey::MpegType:
+        text += track.MpegType.View();
+        return;
+    case ColumnKey::Mode:
+        text += track.Mode.View();
+        return;
+    case ColumnKey::Bitrate:
+        text += track.Bitrate.View();
+        return;
+    case ColumnKey::Frequency:
+        text += track.Frequency.View();
+        return;
+    case ColumnKey::Duration:
+        text += track.Duration.View();
+        return;
+    case ColumnKey::FileSize:
+        text += SizeText(track.FileSize, context.sizeType, context.locale);
+        return;
+    case ColumnKey::Filename:
+        text += FileNameOf(track.FullPath, context.pathStyle);
+        return;
+    case ColumnKey::FolderPath:
+        text += FolderPathOf(track.FullPath, context.pathStyle);
+        return;
+    case ColumnKey::FullPath:
+        text += track.FullPath.View();
+        return;
+    case ColumnKey::ArtistTitle:
+    case ColumnKey::ArtistAlbumTitle:
+        text += track.Artist.View();
+        if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
+            text += " (";
+            text += track.Album.View();
+            text += ')';
+        }
+        text += ": ";
+        text += track.Title.View();
+        return;
+    case ColumnKey::Unknown:
+        return;
+    }
+}
+
+} // namespace tunedex

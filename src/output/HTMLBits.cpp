@@ -1,0 +1,303 @@
+#include "HTMLBits.h"
+
+#include "Numbers.h"
+#include "Product.h"
+#include "RunTimeError.h"
+#include "Text.h"
+#include "Version.h"
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+void CheckIndex(std::size_t index, std::size_t count) {
+    if (index >= count) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    }
+}
+
+bool HasLeftAlignedHeader(ColumnKey key) {
+    switch (key) {
+    case ColumnKey::Artist:
+    case ColumnKey::ArtistTitle:
+    case ColumnKey::ArtistAlbumTitle:
+    case ColumnKey::Album:
+    case ColumnKey::Title:
+    case ColumnKey::FolderPath:
+    case ColumnKey::FullPath:
+    case ColumnKey::Filename:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool HasRightAlignedCells(ColumnKey key) {
+    switch (key) {
+    case ColumnKey::Number:
+    case ColumnKey::Bitrate:
+    case ColumnKey::Frequency:
+    case ColumnKey::Duration:
+    case ColumnKey::FileSize:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool UsesFontTags(const Settings& settings) {
+    return settings.FontHTML || settings.ColourHTML;
+}
+
+} // namespace
+
+std::string Indent(int n) {
+    return std::string(static_cast<std::size_t>(n), '\t');
+}
+
+std::string FontOpen(const Settings& settings, std::size_t fontIndex, std::size_t colourIndex) {
+    CheckIndex(fontIndex, settings.Font.size());
+    CheckIndex(colourIndex, settings.Colour.size());
+    if (!UsesFontTags(settings)) {
+        return {};
+    }
+    std::string tag = "<font ";
+    if (settings.FontHTML) {
+        const FontSetting& font = settings.Font.at(fontIndex);
+        tag += "face=\"" + font.face + "\" size=\"" + font.size + "\" ";
+    }
+    if (settings.ColourHTML) {
+        tag += "color=\"#" + settings.Colour.at(colourIndex) + "\" ";
+    }
+    tag.back() = '>';
+    return tag;
+}
+
+std::string FontClose(const Settings& settings) {
+    return UsesFontTags(settings) ? "</font>" : "";
+}
+
+std::string StrengthOpen(const Settings& settings, std::size_t fontIndex) {
+    const FontSetting& font = settings.Font.at(fontIndex);
+    std::string tags;
+    if (settings.FontHTML && font.bold) {
+        tags += "<b>";
+    }
+    if (settings.FontHTML && font.italic) {
+        tags += "<i>";
+    }
+    return tags;
+}
+
+std::string StrengthClose(const Settings& settings, std::size_t fontIndex) {
+    const FontSetting& font = settings.Font.at(fontIndex);
+    std::string tags;
+    if (settings.FontHTML && font.italic) {
+        tags += "</i>";
+    }
+    if (settings.FontHTML && font.bold) {
+        tags += "</b>";
+    }
+    return tags;
+}
+
+std::string PageFiles::PathOf(std::int32_t page) const {
+    return baseName + "." + PadNumber(page, 3) + extension;
+}
+
+void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style) {
+    const auto link = [&](std::int32_t target, const std::string& label) {
+        // Relative to the page itself.
+        return "<a href=\"" + std::string(FileNameOf(files.PathOf(target), style)) + "\">" + label + "</a>";
+    };
+    const std::string previous = "&lt;&lt; Previous Page";
+    const std::string next = "Next Page &gt;&gt;";
+    page += Indent(2) + R"(<p align="center"><font size="2">)";
+    page += number == 1 ? previous : link(number - 1, previous);
+    page += "&nbsp;&nbsp;&#124;&nbsp;&nbsp;";
+    page += number == files.count ? next : link(number + 1, next);
+    page += "</font></p>";
+    page += kLineEnd;
+}
+
+void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count,
+                      std::string_view lineBreak) {
+    page += Indent(2) + R"(<p align="center">)" + FontOpen(settings, kPageFont, kPageText) +
+            StrengthOpen(settings, kPageFont) + settings.PageTitle + StrengthClose(settings, kPageFont) +
+            FontClose(settings);
+    if (count > 1) {
+        page += lineBreak;
+        page +=
+            R"(<font size="2">Page )" + std::to_string(number) + " of " + std::to_string(count) + "</font>";
+    }
+    page += "</p>";
+    page += kLineEnd;
+}
+
+void WriteTableHead(std::string& page, const Settings& settings, const std::vector<Column>& columns) {
+    // The border is the inner table's background, seen through its cell spacing.
+    page += Indent(2) + "<table width=\"" + std::to_string(settings.TableWidth) +
+            (settings.TableWidthUnit == 1 ? "%" : "") +
+            R"(" border="0" cellspacing="0" cellpadding="0" align="center">)" + "\r\n";
+    page += Indent(3) + "<tr>\r\n";
+    page += Indent(4) + "<td>\r\n";
+    page += Indent(5) + R"(<table width="100%" border="0" bgcolor="#)" + settings.Colour[kTableBorder] +
+            "\" cellspacing=\"" + std::to_string(settings.TableBorder) + "\" cellpadding=\"" +
+            std::to_string(settings.TablePadding) + "\">\r\n";
+
+    const std::string font = FontOpen(settings, kHeaderFont, kHeaderText);
+    page += Indent(6) + "<tr bgcolor=\"#" + settings.Colour[kHeaderBackground] + "\">";
+    for (const Column& column : columns) {
+        page += HasLeftAlignedHeader(column.key) ? R"(<th align="left">)" : "<th>";
+        page += font + StrengthOpen(settings, kHeaderFont) + HeaderText(column) +
+                StrengthClose(settings, kHeaderFont) + FontClose(settings) + "</th>";
+    }
+    if (settings.DoLinks) {
+        page += "<th>" + font + "Link" + FontClose(settings) + "</th>";
+    }
+    page += "</tr>";
+    page += kLineEnd;
+}
+
+void WriteTableFoot(std::string& page, const Settings& settings, std::size_t columnCount) {
+    const std::size_t span = columnCount + (settings.DoLinks ? 1 : 0);
+    page += Indent(6) + "<tr bgcolor=\"#" + settings.Colour[kHeaderBackground] + "\"><th colspan=\"" +
+            std::to_string(span) + "\">" + FontOpen(settings, kHeaderFont, kHeaderText) + "Created with " +
+            kProductTitle + " v" + kVersionText + " by Orvando" + FontClose(settings) + "</th></tr>\r\n";
+    page += Indent(5) + "</table>\r\n";
+    page += Indent(4) + "</td>\r\n";
+    page += Indent(3) + "</tr>\r\n";
+    page += Indent(2) + "</table>\r\n";
+}
+
+std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style) {
+    const std::string_view path = track.FullPath;
+    std::string target;
+    switch (settings.LinkType) {
+    case 0:
+        target = path;
+        break;
+    case 1:
+        target = "/" + ReplaceAll(path, ":", "");
+        break;
+    case 2: {
+        const std::string base = WithSeparator(track.BaseFolder, style);
+        const std::size_t found = path.find(base);
+        target = found == std::string_view::npos ? path : path.substr(found + base.size());
+        break;
+    }
+    default:
+        break;
+    }
+    if (style.separator != '/') {
+        target = ReplaceAll(target, std::string(1, style.separator), "/");
+    }
+    return settings.LinkPrefix + target;
+}
+
+TrackRowWriter::TrackRowWriter(const Listing& listing)
+    : listing_(listing), frames_{MakeFrame(false), MakeFrame(true)} {}
+
+TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
+    const Settings& settings = listing_.settings;
+    const std::size_t textColour = alternate ? kAlternateText : kCellText;
+    const std::size_t background = alternate ? kAlternateBackground : kCellBackground;
+    const std::string fontOpen =
+        FontOpen(settings, kCellFont, textColour) + StrengthOpen(settings, kCellFont);
+    const std::string fontClose = StrengthClose(settings, kCellFont) + FontClose(settings);
+
+    RowFrame frame;
+    frame.open = Indent(6) + "<tr bgcolor=\"#" + settings.Colour.at(background) + "\"";
+    if (alternate && settings.FontCSS) {
+        frame.open += R"( class="r2")";
+    }
+    frame.open += ">";
+    for (const Column& column : listing_.columns) {
+        // A column that nobody knows is not even closed: pages with one have always looked so.
+        std::string open = "<td";
+        if (column.key != ColumnKey::Unknown) {
+            open += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
+            open += fontOpen;
+        }
+        frame.cells.push_back({column.key, open, fontClose + "</td>"});
+    }
+    frame.linkOpen = R"(<td align="center">)" + fontOpen + "<a href=\"";
+    frame.linkClose = "\">Link</a>" + fontClose + "</td>";
+    return frame;
+}
+
+void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow& track,
+                                std::size_t position) const {
+    const EntityTable& entities = listing_.entities;
+    const auto orBlank = [&](std::string_view text) {
+        if (text.empty()) {
+            page += "&nbsp;";
+        } else {
+            entities.AppendEscaped(page, text);
+        }
+    };
+    switch (key) {
+    case ColumnKey::Number:
+    case ColumnKey::FileSize:
+        AppendCellText(page, key, track, position, listing_.Cells());
+        return;
+    case ColumnKey::Album:
+        orBlank(track.Album);
+        return;
+    case ColumnKey::Year:
+        orBlank(track.Year);
+        return;
+    case ColumnKey::Genre:
+        orBlank(track.Genre);
+        return;
+    case ColumnKey::ArtistTitle:
+    case ColumnKey::ArtistAlbumTitle:
+        page += "<b>";
+        entities.AppendEscaped(page, track.Artist);
+        if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
+            page += " (";
+            entities.AppendEscaped(page, track.Album);
+            page += ')';
+        }
+        page += ":</b> ";
+        entities.AppendEscaped(page, track.Title);
+        return;
+    case ColumnKey::Artist:
+        entities.AppendEscaped(page, track.Artist);
+        return;
+    case ColumnKey::Title:
+        entities.AppendEscaped(page, track.Title);
+        return;
+    default: {
+        std::string text;
+        AppendCellText(text, key, track, position, listing_.Cells());
+        entities.AppendEscaped(page, text);
+        return;
+    }
+    }
+}
+
+void TrackRowWriter::WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const {
+    const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
+    const TrackRow& track = listing_.tracks.At(position);
+    page += frame.open;
+    for (const CellFrame& cell : frame.cells) {
+        page += cell.open;
+        AppendCell(page, cell.key, track, position);
+        page += cell.close;
+    }
+    if (listing_.settings.DoLinks) {
+        page += frame.linkOpen;
+        page += LinkTarget(listing_.settings, track, listing_.pathStyle);
+        page += frame.linkClose;
+    }
+    page += "</tr>";
+    page += kLineEnd;
+    listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),
+                                      static_cast<std::int32_t>(listing_.tracks.Count()), "...");
+    listing_.monitor.SetPosition(static_cast<std::int32_t>(position));
+}
+
+} // namespace tunedex

@@ -1,0 +1,74 @@
+// The fragments of a page between its head and its end. Each appends to the page's text; line ends are CR LF.
+#pragma once
+
+#include "OutputList.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tunedex {
+
+// n TABs.
+std::string Indent(int n);
+
+// The opening font tag for a font and a text colour, or nothing where neither fonts nor colours are done with
+// tags. Raises error 9 for an index that no font or colour has.
+std::string FontOpen(const Settings& settings, std::size_t fontIndex, std::size_t colourIndex);
+std::string FontClose(const Settings& settings);
+// The tags for bold and italic inside a font tag.
+std::string StrengthOpen(const Settings& settings, std::size_t fontIndex);
+std::string StrengthClose(const Settings& settings, std::size_t fontIndex);
+
+// The files of a listing of several pages.
+struct PageFiles {
+    std::string baseName;  // the path before the extension
+    std::string extension; // with its full stop
+    std::int32_t count = 1;
+
+    // The file of page `page`, counted from 1: base.001.htm.
+    std::string PathOf(std::int32_t page) const;
+};
+
+void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style);
+void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count,
+                      std::string_view lineBreak);
+void WriteTableHead(std::string& page, const Settings& settings, const std::vector<Column>& columns);
+void WriteTableFoot(std::string& page, const Settings& settings, std::size_t columnCount);
+
+// Which colours a row has: always the normal ones, or normal and alternate ones in turn.
+enum class RowKind { Plain = 0, Normal = 1, Alternate = 2 };
+
+// Writes rows: what is the same in each row of a listing is made once.
+class TrackRowWriter {
+  public:
+    explicit TrackRowWriter(const Listing& listing);
+
+    void WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const;
+
+  private:
+    struct CellFrame {
+        ColumnKey key;
+        std::string open; // everything before the cell's text
+        std::string close;
+    };
+    struct RowFrame {
+        std::string open;
+        std::vector<CellFrame> cells;
+        std::string linkOpen;
+        std::string linkClose;
+    };
+
+    RowFrame MakeFrame(bool alternate) const;
+    void AppendCell(std::string& page, ColumnKey key, const TrackRow& track, std::size_t position) const;
+
+    const Listing& listing_;
+    std::array<RowFrame, 2> frames_; // normal, alternate
+};
+
+// Where a track's link leads: the prefix and the path in the form that `LinkType` asks for.
+std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style);
+
+} // namespace tunedex

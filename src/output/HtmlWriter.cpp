@@ -1,0 +1,180 @@
+#include "HtmlWriter.h"
+
+#include "Placeholders.h"
+#include "Product.h"
+#include "StyleSheet.h"
+#include "Text.h"
+#include "TextFile.h"
+#include "Version.h"
+
+#include <algorithm>
+
+namespace tunedex {
+
+namespace {
+
+// How much of a page is kept before it goes to the file's buffer.
+constexpr std::size_t kPieceBytes = 16384;
+
+std::string_view LineBreakMarkup(const Settings& settings) {
+    return settings.DocumentType == "XHTML" ? "<br />" : "<br>";
+}
+
+// The next row's kind: always plain, or normal and alternate in turn.
+RowKind NextKind(RowKind kind, bool alternate) {
+    if (!alternate) {
+        return RowKind::Plain;
+    }
+    return kind == RowKind::Normal ? RowKind::Alternate : RowKind::Normal;
+}
+
+class HtmlPages {
+  public:
+    explicit HtmlPages(Listing& listing)
+        : listing_(listing), settings_(listing.settings), lineBreak_(LineBreakMarkup(listing.settings)),
+          files_(PlanPages(listing.settings, listing.tracks.Count())) {}
+
+    bool Write() {
+        ExpandTitlePlaceholders(listing_, lineBreak_);
+        const TrackRowWriter rows(listing_);
+        for (std::int32_t number = 1; number <= files_.count; ++number) {
+            if (!WritePage(number, rows) || listing_.monitor.AbortRequested()) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+  private:
+    // Returns false when the user aborted within the page.
+    bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
+        const bool several = files_.count > 1;
+        std::string title = settings_.WindowTitle;
+        if (several) {
+            title += " - Page " + std::to_string(number) + " of " + std::to_string(files_.count);
+        }
+        TextFile file(several ? files_.PathOf(number) : settings_.OutputFile,
+                      TextEncoding::Windows1252References);
+        WriteHead(page_, settings_, title);
+        if (several) {
+            WriteNavigation(page_, number, files_, listing_.pathStyle);
+        }
+        WritePageHeading(page_, settings_, number, files_.count, lineBreak_);
+        WriteTableHead(page_, settings_, listing_.columns);
+        const bool whole = WriteRows(file, number, rows);
+        if (whole) {
+            WriteTableFoot(page_, settings_, listing_.columns.size());
+            if (several) {
+                WriteNavigation(page_, number, files_, listing_.pathStyle);
+            }
+            WriteEnd(page_, settings_, settings_.PageFooter, lineBreak_);
+        }
+        HandOver(file);
+        file.Close();
+        return whole;
+    }
+
+    bool WriteRows(TextFile& file, std::int32_t number, const TrackRowWriter& rows) {
+        std::size_t first = 1;
+        std::size_t last = listing_.tracks.Count();
+        if (settings_.Spanning > 0) {
+            const auto perPage = static_cast<std::size_t>(settings_.Spanning);
+            first = static_cast<std::size_t>(number - 1) * perPage + 1;
+            last = std::min(last, static_cast<std::size_t>(number) * perPage);
+        }
+        RowKind kind = RowKind::Plain;
+        for (std::size_t position = first; position <= last; ++position) {
+            kind = NextKind(kind, settings_.AltRows);
+            rows.WriteTrackRow(page_, kind, position);
+            if (page_.size() >= kPieceBytes) {
+                HandOver(file);
+            }
+            if (listing_.monitor.AbortRequested()) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    void HandOver(TextFile& file) {
+        file.Write(page_);
+        page_.clear();
+    }
+
+    Listing& listing_;
+    Settings& settings_;
+    std::string_view lineBreak_;
+    PageFiles files_;
+    std::string page_; // what is still to be written
+};
+
+} // namespace
+
+PageFiles PlanPages(const Settings& settings, std::size_t trackCount) {
+    PageFiles files;
+    if (settings.Spanning <= 0) {
+        return files;
+    }
+    const auto perPage = static_cast<std::size_t>(settings.Spanning);
+    const std::size_t stop = settings.OutputFile.rfind('.');
+    files.baseName = settings.OutputFile.substr(0, stop);
+    files.extension = settings.OutputFile.substr(stop);
+    if (perPage <= trackCount) {
+        files.count = static_cast<std::int32_t>((trackCount + perPage - 1) / perPage);
+    }
+    return files;
+}
+
+void WriteHead(std::string& page, const Settings& settings, std::string_view title) {
+    const bool xhtml = settings.DocumentType == "XHTML";
+    if (xhtml) {
+        page += "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>\r\n"
+                "<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Transitional//EN\" "
+                "\"http://www.w3.org/TR/xhtml1/DTD/xhtml1-transitional.dtd\">\r\n"
+                "<html xmlns=\"http://www.w3.org/1999/xhtml\" xml:lang=\"en\" lang=\"en\">\r\n";
+    } else if (settings.DocumentType == "HTML") {
+        page += "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
+                "\"http://www.w3.org/TR/1999/REC-html401-19991224/loose.dtd\">\r\n"
+                "<html>\r\n";
+    } else {
+        page += "\r\n\r\n";
+    }
+    const std::string end = xhtml ? " />\r\n" : ">\r\n";
+    page += Indent(1) + "<head>\r\n";
+    page += Indent(2) + "<title>";
+    page += title;
+    page += "</title>\r\n";
+    page += Indent(2) + R"(<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1")" + end;
+    page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" +
+            kHomePage + ")\"" + end;
+    if (settings.FontCSS || settings.ColourCSS) {
+        WriteStyleBlock(page, settings);
+    }
+    page += Indent(1) + "</head>\r\n";
+    page += Indent(1) + "<body bgcolor=\"#" + settings.Colour[kPageBackground] + "\" text=\"#" +
+            settings.Colour[kPageText] + "\" link=\"#" + settings.Colour[kLinkText] + "\">\r\n";
+}
+
+void WriteEnd(std::string& page, const Settings& settings, std::string_view footer,
+              std::string_view lineBreak) {
+    const std::string lineEnd = std::string(lineBreak) + "\r\n";
+    page += Indent(2) + "<p align=\"center\">\r\n" + Indent(3) + FontOpen(settings, kCellFont, kPageText);
+    page += footer;
+    page += lineBreak;
+    page += lineEnd;
+    page += Indent(3) + "<a href=\"" + kHomePage + "\" target=\"_blank\">" + kHomePage + "</a>" +
+            FontClose(settings) + lineEnd;
+    page += Indent(2) + "</p>\r\n";
+    page += Indent(1) + "</body>\r\n";
+    page += "</html>\r\n";
+}
+
+bool WriteHtmlListing(Listing& listing) {
+    std::string& path = listing.settings.OutputFile;
+    if (!EndsInIgnoringCase(path, ".HTML") && !EndsInIgnoringCase(path, ".HTM")) {
+        path += ".htm";
+    }
+    return HtmlPages(listing).Write();
+}
+
+} // namespace tunedex

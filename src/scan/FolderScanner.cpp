@@ -1,0 +1,144 @@
+#include "FolderScanner.h"
+
+#include "FolderWalk.h"
+#include "Numbers.h"
+#include "TrackQueue.h"
+
+#include <functional>
+#include <optional>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::string_view kWalkErrorTemplate = R"(scanning the directory: \n\n%D\n\n%N: %S)";
+constexpr std::string_view kDecodeErrorTemplate = R"(decoding the headers of: \n\n%F)";
+
+// A file whose record cannot be kept; it ends the walk.
+struct FileFailure {
+    RunTimeError error;
+    std::string folder;
+};
+
+class CountingVisitor final : public WalkVisitor {
+  public:
+    CountingVisitor(RunTotals& totals, RunMonitor& monitor) : totals_(totals), monitor_(monitor) {}
+
+    void OnFile(const std::shared_ptr<OpenFolder>& /*folder*/, const char* /*name*/) override {
+        totals_.FoundCount = CheckedAdd(totals_.FoundCount, 1);
+    }
+    bool AfterEntry() override { return !monitor_.AbortRequested(); }
+    bool ReleaseFolders() override { return false; }
+
+  private:
+    RunTotals& totals_;
+    RunMonitor& monitor_;
+};
+
+class CollectingVisitor final : public WalkVisitor {
+  public:
+    CollectingVisitor(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
+                      ReadOptions options, unsigned readers)
+        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
+          queue_(
+              readers, options, [this](QueuedTrack& track) { Store(track); },
+              [this] { return monitor_.AbortRequested(); }) {}
+
+    void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) override {
+        // Files that came after the count: the table has no room for them.
+        if (submitted_ < totals_.FoundCount) {
+            ++submitted_;
+            aborted_ = !queue_.Submit(folder, name) || aborted_;
+        }
+    }
+    bool AfterEntry() override { return !aborted_ && !monitor_.AbortRequested(); }
+    bool ReleaseFolders() override {
+        const bool held = !queue_.Empty();
+        aborted_ = !queue_.Drain() || aborted_;
+        return held;
+    }
+    // Stores what is still in flight. Returns false when the user aborted.
+    bool Finish() { return queue_.Drain(); }
+
+  private:
+    void Store(QueuedTrack& queued) {
+        if (queued.failure) {
+            throw FileFailure{*queued.failure, queued.folder->Path()};
+        }
+        ++totals_.StoredCount;
+        TrackReading& reading = queued.reading;
+        reading.track.BaseFolder = queued.folder->BaseFolder();
+        totals_.TotalBytes += reading.track.FileSize;
+        monitor_.SetPosition(totals_.StoredCount);
+        monitor_.SetCountedStatus("Retrieving MPEG/ID3 information (", totals_.StoredCount,
+                                  totals_.FoundCount, ")...");
+        if (reading.track.TagType == kNoTag) {
+            ++totals_.UntaggedCount;
+        }
+        table_.Append(reading.track);
+        if (reading.decodeError) {
+            reporter_.Report(kDecodeErrorTemplate, reading.track.FullPath, "", *reading.decodeError);
+        } else {
+            totals_.TotalSeconds += static_cast<double>(reading.seconds);
+        }
+    }
+
+    RunTotals& totals_;
+    TrackTable& table_;
+    RunMonitor& monitor_;
+    ErrorReporter& reporter_;
+    std::int32_t submitted_ = 0;
+    bool aborted_ = false;
+    TrackQueue queue_; // last: its readers stop before what they use is gone
+};
+
+bool WalkAll(const std::vector<StartFolder>& starts, bool recurse, FolderWalk& walk, WalkVisitor& visitor) {
+    for (const StartFolder& start : starts) {
+        if (!walk.Run(start, recurse, visitor)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse) {
+    const std::vector<StartFolder> starts = StartFolders(folderValue, PathStyle::Native());
+    FolderWalk walk;
+    const auto reportWalkError = [&](const std::string& folder, const RunTimeError& error) {
+        reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
+    };
+    if (mode == ScanMode::Count) {
+        totals_.FoundCount = 0;
+        CountingVisitor visitor(totals_, monitor_);
+        try {
+            return !WalkAll(starts, recurse, walk, visitor);
+        } catch (const RunTimeError& error) {
+            reportWalkError(walk.CurrentFolder(), error);
+        }
+        return false;
+    }
+
+    totals_.StoredCount = 0;
+    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, options_, readers_);
+    bool aborted = false;
+    std::optional<FileFailure> failure;
+    // The files listed before an error are read before it is reported, and one of them may fail first.
+    for (const auto& step : {std::function<bool()>([&] { return WalkAll(starts, recurse, walk, visitor); }),
+                             std::function<bool()>([&] { return visitor.Finish(); })}) {
+        try {
+            aborted = aborted || !step();
+        } catch (const FileFailure& fileFailure) {
+            failure = fileFailure;
+        } catch (const RunTimeError& error) {
+            failure = FileFailure{error, walk.CurrentFolder()};
+        }
+    }
+    if (failure && !aborted) {
+        reportWalkError(failure->folder, failure->error);
+    }
+    return aborted;
+}
+
+} // namespace tunedex

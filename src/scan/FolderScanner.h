@@ -1,0 +1,61 @@
+// The two passes over the folders: counting the MP3 files, then collecting a record of each.
+#pragma once
+
+#include "MP3Info.h"
+#include "RunMonitor.h"
+#include "TrackTable.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace tunedex {
+
+// What a run knows of its collection.
+struct RunTotals {
+    std::int32_t FoundCount = 0;  // files of the counting pass
+    std::int32_t StoredCount = 0; // records of the collecting pass
+    std::int32_t UntaggedCount = 0;
+    double TotalBytes = 0;
+    double TotalSeconds = 0; // of whole seconds a file
+};
+
+// Where errors go that do not end the run.
+class ErrorReporter {
+  public:
+    ErrorReporter() = default;
+    ErrorReporter(const ErrorReporter&) = delete;
+    ErrorReporter& operator=(const ErrorReporter&) = delete;
+    virtual ~ErrorReporter() = default;
+
+    // `errorTemplate` holds the placeholders %D (folder), %F (file), %N and %S (the error), and "\n" as two
+    // characters; an empty folder or file leaves its placeholder. May raise the error of a log that cannot be
+    // written.
+    virtual void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
+                        const RunTimeError& error) = 0;
+};
+
+enum class ScanMode { Count, Collect };
+
+class FolderScanner {
+  public:
+    // `readers`: see TrackQueue.
+    FolderScanner(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
+                  ReadOptions options, unsigned readers = 0)
+        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter), options_(options),
+          readers_(readers) {}
+
+    // Walks a folder setting: one folder, or a multi-folder value. Collecting stores no more records than the
+    // counting pass found files. An error in the walk is reported and ends it; the records so far stay.
+    // Returns true when the user aborted.
+    bool ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse);
+
+  private:
+    RunTotals& totals_;
+    TrackTable& table_;
+    RunMonitor& monitor_;
+    ErrorReporter& reporter_;
+    ReadOptions options_;
+    unsigned readers_;
+};
+
+} // namespace tunedex

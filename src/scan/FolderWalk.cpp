@@ -1,0 +1,164 @@
+#include "FolderWalk.h"
+
+#include "RunTimeError.h"
+#include "Settings.h"
+#include "Text.h"
+
+#include <atomic>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <set>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tunedex {
+
+namespace {
+
+std::atomic<int>& OpenFolderCount() {
+    static std::atomic<int> count{0};
+    return count;
+}
+
+enum class EntryKind { File, Folder, Neither };
+
+// What a name stands for, links followed. The directory itself usually tells; only then is no call needed.
+EntryKind KindOf(int folder, const dirent& entry) {
+    switch (entry.d_type) {
+    case DT_REG:
+        return EntryKind::File;
+    case DT_DIR:
+        return EntryKind::Folder;
+    case DT_LNK:
+    case DT_UNKNOWN:
+        break;
+    default:
+        return EntryKind::Neither;
+    }
+    struct stat status {};
+    if (fstatat(folder, entry.d_name, &status, 0) != 0) {
+        return EntryKind::Neither; // a link to nothing
+    }
+    return S_ISDIR(status.st_mode)   ? EntryKind::Folder
+           : S_ISREG(status.st_mode) ? EntryKind::File
+                                     : EntryKind::Neither;
+}
+
+std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
+                                        WalkVisitor& visitor) {
+    try {
+        return std::make_shared<OpenFolder>(path, baseFolder);
+    } catch (const RunTimeError& error) {
+        if (error.Number() != static_cast<int>(ErrorNumber::TooManyFiles) || !visitor.ReleaseFolders()) {
+            throw;
+        }
+    }
+    return std::make_shared<OpenFolder>(path, baseFolder);
+}
+
+} // namespace
+
+OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
+    : path_(std::move(path)), baseFolder_(baseFolder) {
+    int descriptor = -1;
+    do {
+        descriptor = open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    } while (descriptor < 0 && errno == EINTR);
+    if (descriptor < 0) {
+        throw ErrorFromErrno(errno, FileTask::UseFolder);
+    }
+    stream_ = fdopendir(descriptor);
+    if (stream_ == nullptr) {
+        const int errorCode = errno;
+        close(descriptor);
+        throw ErrorFromErrno(errorCode, FileTask::UseFolder);
+    }
+    ++OpenFolderCount();
+}
+
+OpenFolder::~OpenFolder() {
+    closedir(static_cast<DIR*>(stream_));
+    --OpenFolderCount();
+}
+
+int OpenFolder::Descriptor() const {
+    return dirfd(static_cast<DIR*>(stream_));
+}
+
+int OpenFolder::OpenCount() {
+    return OpenFolderCount();
+}
+
+std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle style) {
+    if (!IsMultiFolder(folderValue)) {
+        return {{std::string(folderValue), WithSeparator(folderValue, style)}};
+    }
+    std::vector<StartFolder> folders;
+    const std::vector<std::string> entries =
+        Split(ReplaceAll(folderValue, kMultiFolderMark, ""), kMultiFolderSeparator);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].empty()) {
+            continue;
+        }
+        const bool last = i + 1 == entries.size();
+        std::string path = WithSeparator(entries[i], style);
+        folders.push_back({last ? entries[i] : path, path});
+    }
+    return folders;
+}
+
+bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
+    std::set<std::pair<dev_t, ino_t>> walked;
+    pending_.assign(1, start.path);
+    while (!pending_.empty()) {
+        currentFolder_ = std::move(pending_.back());
+        pending_.pop_back();
+        const auto folder = OpenForWalk(currentFolder_, start.baseFolder, visitor);
+        struct stat status {};
+        if (fstat(folder->Descriptor(), &status) != 0) {
+            throw ErrorFromErrno(errno, FileTask::UseFolder);
+        }
+        if (walked.emplace(status.st_dev, status.st_ino).second && !WalkOne(folder, recurse, visitor)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor) {
+    auto* const stream = static_cast<DIR*>(folder->Stream());
+    while (true) {
+        errno = 0;
+        const dirent* entry = readdir(stream);
+        if (entry == nullptr) {
+            if (errno == EINTR) {
+                continue;
+            }
+            if (errno != 0) {
+                throw ErrorFromErrno(errno, FileTask::UseFolder);
+            }
+            return true;
+        }
+        const std::string_view name(entry->d_name);
+        if (name.starts_with('.')) {
+            continue; // hidden, or the folder itself, or the one above
+        }
+        const bool matches = EndsInIgnoringCase(name, ".MP3");
+        const bool mayBeFolder = recurse && entry->d_type != DT_REG;
+        if (matches || mayBeFolder) {
+            const EntryKind kind = KindOf(folder->Descriptor(), *entry);
+            if (recurse && kind == EntryKind::Folder) {
+                pending_.push_back(folder->Path() + std::string(name) + PathStyle::Native().separator);
+            } else if (matches && kind != EntryKind::Neither) {
+                visitor.OnFile(folder, entry->d_name);
+            }
+        }
+        if (!visitor.AfterEntry()) {
+            return false;
+        }
+    }
+}
+
+} // namespace tunedex

@@ -1,0 +1,21 @@
+// The ID3v1 tag: the last 128 bytes of a file, "TAG" and fields of fixed width in an 8-bit code page.
+#pragma once
+
+#include "ByteSource.h"
+#include "TrackInfo.h"
+
+#include <string>
+
+namespace tunedex {
+
+inline constexpr const char* kUnknownArtist = "Unknown Artist";
+inline constexpr const char* kUnknownTitle = "Unknown Title";
+
+// Fills artist, title, album, year and genre and returns true when the file ends in a tag; otherwise, also
+// when it cannot be read, leaves the track as it is and returns false.
+bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track);
+
+// "The Beatles" as "Beatles, The"; any other artist as it is.
+std::string MoveLeadingThe(std::string artist);
+
+} // namespace tunedex

@@ -1,0 +1,119 @@
+#include "Id3v2.h"
+
+#include "Id3v1.h"
+#include "RunTimeError.h"
+#include "Text.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::uint64_t kHeaderBytes = 10; // of the tag, and of each frame
+
+// Four bytes of seven bits each, except that the last counts whole: writers exist that put eight bits there.
+std::uint32_t TagSize(std::span<const std::uint8_t, 4> bytes) {
+    return ((bytes[0] & 0x7FU) << 21U) + ((bytes[1] & 0x7FU) << 14U) + ((bytes[2] & 0x7FU) << 7U) + bytes[3];
+}
+
+// A big-endian number of which the highest bit is not used.
+std::uint32_t FrameSize(std::span<const std::uint8_t, 4> bytes) {
+    return ((bytes[0] & 0x7FU) << 24U) | (static_cast<std::uint32_t>(bytes[1]) << 16U) |
+           (static_cast<std::uint32_t>(bytes[2]) << 8U) | bytes[3];
+}
+
+// The field a frame fills; none for frames that are skipped.
+std::string* FieldOf(std::string_view frameId, TrackInfo& track) {
+    if (frameId == "TIT2") {
+        return &track.Title;
+    }
+    if (frameId == "TPE1") {
+        return &track.Artist;
+    }
+    if (frameId == "TALB") {
+        return &track.Album;
+    }
+    if (frameId == "TYER") {
+        return &track.Year;
+    }
+    return frameId == "TCON" ? &track.Genre : nullptr;
+}
+
+// The content without its NULs, piece by piece: a frame may claim, and a sparse file hold, a gigabyte of
+// them.
+std::string ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size) {
+    constexpr std::uint32_t kPiece = 65536;
+    std::string content;
+    std::string piece;
+    for (std::uint32_t done = 0; done < size; done += static_cast<std::uint32_t>(piece.size())) {
+        piece.resize(std::min(kPiece, size - done));
+        file.ReadExactly(offset + done, {reinterpret_cast<std::uint8_t*>(piece.data()), piece.size()});
+        std::copy_if(piece.begin(), piece.end(), std::back_inserter(content),
+                     [](char c) { return c != '\0'; });
+    }
+    return DecodeWindows1252(content);
+}
+
+// One frame at `offset`; returns the offset of the next. Raises error 62 where padding or the file's end
+// stops the walk.
+std::uint64_t ReadFrame(ByteSource& file, std::uint64_t offset, bool moveTheArtists, TrackInfo& track) {
+    // Offsets and widths: ID 0/4, size 4/4, flags 8/2, content from 10 on.
+    std::array<std::uint8_t, 4> id{};
+    std::array<std::uint8_t, 4> sizeBytes{};
+    file.ReadExactly(offset, id);
+    const std::string_view frameId(reinterpret_cast<const char*>(id.data()), id.size());
+    if (frameId.find('\0') != std::string_view::npos) {
+        throw RunTimeError(ErrorNumber::InputPastEnd); // padding
+    }
+    file.ReadExactly(offset + 4, sizeBytes);
+    const std::uint32_t size = FrameSize(sizeBytes);
+    const std::uint64_t content = offset + kHeaderBytes;
+    if (size > 0 && (content > file.Size() || file.Size() - content < size)) {
+        throw RunTimeError(ErrorNumber::InputPastEnd);
+    }
+    if (std::string* field = FieldOf(frameId, track)) {
+        std::string text = ReadContent(file, content, size);
+        if (frameId == "TIT2" && text.empty()) {
+            text = kUnknownTitle;
+        } else if (frameId == "TPE1") {
+            text = text.empty() ? kUnknownArtist : text;
+            text = moveTheArtists ? MoveLeadingThe(text) : text;
+        }
+        *field = std::move(text);
+    }
+    return content + size;
+}
+
+} // namespace
+
+Id3v2Location DetectId3v2(ByteSource& file) {
+    // Offsets and widths: "ID3" 0/3, version 3/1, revision 4/1, flags 5/1, size 6/4.
+    std::array<std::uint8_t, kHeaderBytes> header{};
+    try {
+        file.ReadExactly(0, header);
+    } catch (const RunTimeError&) {
+        return {};
+    }
+    if (header[0] != 'I' || header[1] != 'D' || header[2] != '3') {
+        return {};
+    }
+    const std::span<const std::uint8_t> bytes(header);
+    return {true, kHeaderBytes + TagSize(bytes.subspan<6, 4>())};
+}
+
+void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track) {
+    std::uint64_t offset = kHeaderBytes;
+    try {
+        do {
+            offset = ReadFrame(file, offset, moveTheArtists, track);
+        } while (offset + 1 < location.searchPosition);
+    } catch (const RunTimeError&) {
+        return; // the fields taken so far stay
+    }
+}
+
+} // namespace tunedex

@@ -1,0 +1,77 @@
+#include "MP3Info.h"
+
+#include "Id3v1.h"
+#include "Id3v2.h"
+#include "MpegHeader.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace tunedex {
+
+namespace {
+
+std::int32_t HeldSize(std::uint64_t size) {
+    return static_cast<std::int32_t>(std::min<std::uint64_t>(size, kLongestFileSize));
+}
+
+void MarkUntagged(TrackInfo& track) {
+    track.Artist = track.FullPath;
+    track.Title = "No ID3 Tags!";
+    track.TagType = kNoTag;
+}
+
+std::int32_t MeasureFile(int folder, const char* name) {
+    struct stat status {};
+    if (fstatat(folder, name, &status, 0) != 0) {
+        throw ErrorFromErrno(errno, FileTask::ReadFile);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw RunTimeError(ErrorNumber::FileNotFound);
+    }
+    return HeldSize(static_cast<std::uint64_t>(status.st_size));
+}
+
+} // namespace
+
+TrackReading ReadTrackInfo(ByteSource& file, std::string fullPath, const ReadOptions& options) {
+    TrackReading reading;
+    TrackInfo& track = reading.track;
+    track.FullPath = std::move(fullPath);
+    track.FileSize = HeldSize(file.Size());
+
+    const Id3v2Location id3v2 = DetectId3v2(file);
+    const bool id3v1 = ReadId3v1(file, options.moveTheArtists, track);
+    if (id3v2.present) {
+        ReadId3v2(file, id3v2, options.moveTheArtists, track);
+        track.TagType = kId3v2Tag;
+    } else if (id3v1) {
+        track.TagType = kId3v1Tag;
+    } else {
+        MarkUntagged(track);
+    }
+    try {
+        reading.seconds = DecodeMpegHeader(file, id3v2.searchPosition, track);
+    } catch (const RunTimeError& error) {
+        reading.decodeError = error;
+    }
+    return reading;
+}
+
+TrackReading ReadTrackFile(int folder, const char* name, std::string fullPath, const ReadOptions& options) {
+    std::optional<FileByteSource> file;
+    try {
+        file.emplace(folder, name);
+    } catch (const RunTimeError& error) {
+        TrackReading reading;
+        reading.track.FileSize = MeasureFile(folder, name);
+        reading.track.FullPath = std::move(fullPath);
+        MarkUntagged(reading.track);
+        reading.decodeError = error;
+        return reading;
+    }
+    return ReadTrackInfo(*file, std::move(fullPath), options);
+}
+
+} // namespace tunedex

@@ -1,0 +1,36 @@
+// One file to one record: tags, then audio header. Pure: nothing is shown, counted or remembered here.
+#pragma once
+
+#include "ByteSource.h"
+#include "RunTimeError.h"
+#include "TrackInfo.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace tunedex {
+
+struct ReadOptions {
+    bool moveTheArtists = false;
+};
+
+struct TrackReading {
+    TrackInfo track;
+    std::int64_t seconds = 0; // whole seconds of playing time
+    std::optional<RunTimeError>
+        decodeError; // why the audio header gave nothing; the track stands all the same
+};
+
+// The longest file size a record holds, in bytes.
+inline constexpr std::int32_t kLongestFileSize = 2147483647;
+
+// Reads an open file. The track comes with FullPath set (it is the artist of a file without tags).
+TrackReading ReadTrackInfo(ByteSource& file, std::string fullPath, const ReadOptions& options);
+
+// Opens the file `name` in the open folder `folder` and reads it. A file that can be measured but not opened
+// is a track without tags and with a decode error. Raises the error of a file whose size cannot be read:
+// error 53 for what is not there or is a folder.
+TrackReading ReadTrackFile(int folder, const char* name, std::string fullPath, const ReadOptions& options);
+
+} // namespace tunedex

@@ -1,0 +1,243 @@
+#include "MpegHeader.h"
+
+#include "Numbers.h"
+#include "RunTimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace tunedex {
+
+namespace {
+
+// How far behind a header "Xing" is looked for, the header's own first byte counted.
+constexpr std::size_t kXingReach = 1400;
+constexpr std::string_view kXing = "Xing";
+constexpr std::size_t kXingCountAt = 8; // from the first byte of "Xing": behind its name and its flags
+constexpr std::size_t kXingCountBytes = 8;
+
+// The bytes of a file from some offset on, as much of them as the search needs at a time: a first look is
+// small, since nearly every file has its header where it is expected, and later ones are large.
+class SearchWindow {
+  public:
+    explicit SearchWindow(ByteSource& file) : file_(file), size_(file.Size()) {}
+
+    // The bytes from `offset` on: at least `wanted`, fewer only at the file's end.
+    std::span<const std::uint8_t> From(std::uint64_t offset, std::size_t wanted) {
+        const std::uint64_t left = offset < size_ ? size_ - offset : 0;
+        const std::size_t needed = std::min<std::uint64_t>(wanted, left);
+        const bool inside = offset >= start_ && offset - start_ <= bytes_.size() &&
+                            bytes_.size() - (offset - start_) >= needed;
+        if (!inside) {
+            Load(offset, std::min<std::uint64_t>(left, looks_++ == 0 ? kFirstLook : kLaterLook));
+        }
+        return std::span<const std::uint8_t>(bytes_).subspan(offset - start_);
+    }
+
+  private:
+    static constexpr std::size_t kFirstLook = 2048;
+    static constexpr std::size_t kLaterLook = 65536;
+
+    void Load(std::uint64_t offset, std::size_t count) {
+        bytes_.resize(count);
+        start_ = offset;
+        const std::size_t got = file_.Read(offset, bytes_);
+        bytes_.resize(got);
+        if (got < count) {
+            size_ = offset + got; // the file has shrunk since it was opened
+        }
+    }
+
+    ByteSource& file_;
+    std::uint64_t size_;
+    std::uint64_t start_ = 0;
+    std::vector<std::uint8_t> bytes_;
+    unsigned looks_ = 0;
+};
+
+// Finds "Xing" behind each candidate while looking at every byte once, however many candidates there are.
+class XingSearch {
+  public:
+    explicit XingSearch(SearchWindow& window) : window_(window) {}
+
+    // The offset of "Xing" if it lies wholly within reach of the candidate.
+    std::optional<std::uint64_t> Behind(std::uint64_t candidate) {
+        if (!found_ || *found_ < candidate) {
+            Search(std::max(candidate, searchedTo_), candidate + kXingReach);
+        }
+        if (found_ && *found_ >= candidate && *found_ + kXing.size() <= candidate + kXingReach) {
+            return found_;
+        }
+        return std::nullopt;
+    }
+
+  private:
+    void Search(std::uint64_t from, std::uint64_t to) {
+        found_.reset();
+        if (from >= to) {
+            return;
+        }
+        const auto bytes = window_.From(from, to - from);
+        const std::string_view text(reinterpret_cast<const char*>(bytes.data()),
+                                    std::min<std::uint64_t>(bytes.size(), to - from));
+        const std::size_t hit = text.find(kXing);
+        if (hit != std::string_view::npos) {
+            found_ = from + hit;
+            searchedTo_ = *found_ + 1;
+        } else if (text.size() >= kXing.size()) {
+            searchedTo_ = from + text.size() - (kXing.size() - 1); // its beginning may be in sight already
+        }
+    }
+
+    SearchWindow& window_;
+    std::optional<std::uint64_t> found_;
+    std::uint64_t searchedTo_ = 0; // "Xing" does not begin between the last hit and here
+};
+
+// AAAAAAAA AAABBCCD EEEEFFGH IIJJKLMM: sync, version B, layer C, bitrate E, frequency F, mode I. The sync is
+// not checked here, and the second byte's upper bits only as far as "at least E1" does.
+bool DecodeBits(std::span<const std::uint8_t> bytes, MpegHeader& header) {
+    constexpr std::array<std::array<std::int32_t, 3>, 3> kFrequencies = {
+        {{44100, 48000, 32000}, {22050, 24000, 16000}, {11025, 12000, 8000}}};
+    const unsigned version = (bytes[1] >> 3U) & 3U;
+    const unsigned layer = (bytes[1] >> 1U) & 3U;
+    const unsigned frequency = (bytes[2] >> 2U) & 3U;
+    if (version == 1 || layer == 0 || frequency == 3) {
+        return false;
+    }
+    header.version = version == 3 ? MpegVersion::V1 : version == 2 ? MpegVersion::V2 : MpegVersion::V25;
+    header.layer = layer == 3 ? MpegLayer::I : layer == 2 ? MpegLayer::II : MpegLayer::III;
+    header.bitrateIndex = bytes[2] >> 4U;
+    header.frequency = kFrequencies.at(static_cast<std::size_t>(header.version)).at(frequency);
+    header.mode = bytes[3] >> 6U;
+    return true;
+}
+
+std::uint32_t BigEndian32(std::span<const std::uint8_t> bytes) {
+    return (static_cast<std::uint32_t>(bytes[0]) << 24U) | (static_cast<std::uint32_t>(bytes[1]) << 16U) |
+           (static_cast<std::uint32_t>(bytes[2]) << 8U) | bytes[3];
+}
+
+// Indexed by the bitrate field's four bits; 128 where a table names none.
+using BitrateTable = std::array<std::int16_t, 16>;
+constexpr std::int16_t kOtherwise = 128;
+constexpr BitrateTable kVersion1LayerIII = {kOtherwise, 32,  40,  48,  56,  64,  80,  96,
+                                            112,        128, 160, 192, 224, 256, 320, kOtherwise};
+constexpr BitrateTable kLayerII = {kOtherwise, 32,  48,  56,  64,  80,  96,  112,
+                                   128,        160, 192, 224, 256, 320, 384, kOtherwise};
+constexpr BitrateTable kLayerI = {kOtherwise, 32,  64,  96,  128, 160, 192, 224,
+                                  256,        288, 320, 352, 384, 416, 448, kOtherwise};
+// The next two are this program's own and not the published ones. Lists made over many years show these
+// values, and a list made today has to agree with them.
+constexpr BitrateTable kVersion2LayerIII = {kOtherwise, 8,   kOtherwise, 24,  16,  64,  80,  56,
+                                            64,         128, 160,        112, 128, 256, 320, kOtherwise};
+constexpr BitrateTable kVersion25 = {kOtherwise, 8,   16,  24,  32,  64,  80,  56,
+                                     64,         128, 160, 112, 128, 256, 320, kOtherwise};
+
+std::int32_t XingBitrate(std::int32_t fileSize, const MpegHeader& header) {
+    if (header.frameCount == 0) {
+        throw RunTimeError(ErrorNumber::DivisionByZero);
+    }
+    // The same constant for every version and layer.
+    return ToInt32(static_cast<double>(fileSize) * header.frequency /
+                   (static_cast<double>(header.frameCount) * 144000.0));
+}
+
+std::string_view VersionText(MpegVersion version) {
+    return version == MpegVersion::V1 ? "1.0" : version == MpegVersion::V2 ? "2.0" : "2.5";
+}
+
+std::string_view LayerText(MpegLayer layer) {
+    return layer == MpegLayer::I ? "I" : layer == MpegLayer::II ? "II" : "III";
+}
+
+} // namespace
+
+std::int32_t TableBitrate(MpegVersion version, MpegLayer layer, unsigned bitrateIndex) {
+    if (version == MpegVersion::V25) {
+        return kVersion25.at(bitrateIndex);
+    }
+    if (layer == MpegLayer::II) {
+        return kLayerII.at(bitrateIndex);
+    }
+    if (layer == MpegLayer::I) {
+        return kLayerI.at(bitrateIndex);
+    }
+    return version == MpegVersion::V1 ? kVersion1LayerIII.at(bitrateIndex)
+                                      : kVersion2LayerIII.at(bitrateIndex);
+}
+
+MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
+    constexpr std::uint8_t kSync = 0xFF;
+    constexpr std::uint8_t kLeastSecond = 0xE1; // so E0 itself is refused
+    constexpr std::uint8_t kLeastBadThird = 0xEC;
+    SearchWindow window(file);
+    XingSearch xing(window);
+    MpegHeader header;
+    std::uint64_t offset = searchPosition - 1;
+    while (true) {
+        auto bytes = window.From(offset, 1);
+        if (bytes.empty()) {
+            throw RunTimeError(ErrorNumber::InputPastEnd);
+        }
+        const void* sync = std::memchr(bytes.data(), kSync, bytes.size());
+        if (sync == nullptr) {
+            offset += bytes.size();
+            continue;
+        }
+        header.offset =
+            offset + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
+        offset = header.offset + 1; // where the search goes on if this is none
+        bytes = window.From(header.offset, 4);
+        if (bytes.size() >= 2 && bytes[1] < kLeastSecond) {
+            continue;
+        }
+        if (bytes.size() >= 3 && bytes[2] >= kLeastBadThird) {
+            continue;
+        }
+        if (bytes.size() < 4) {
+            throw RunTimeError(ErrorNumber::InputPastEnd);
+        }
+        const std::array<std::uint8_t, 4> bits = {bytes[0], bytes[1], bytes[2], bytes[3]};
+        const auto found = xing.Behind(header.offset);
+        header.vbr = found.has_value();
+        if (found) {
+            bytes = window.From(*found + kXingCountAt, kXingCountBytes);
+            if (bytes.size() < kXingCountBytes) {
+                throw RunTimeError(ErrorNumber::InputPastEnd);
+            }
+            header.frameCount = BigEndian32(bytes);
+        }
+        if (DecodeBits(bits, header)) {
+            return header; // a bitrate index of 1111 never comes here: such a third byte is EC or more
+        }
+    }
+}
+
+std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo& track) {
+    const MpegHeader header = FindMpegHeader(file, searchPosition);
+    const std::int32_t bitrate = header.vbr ? XingBitrate(track.FileSize, header)
+                                            : TableBitrate(header.version, header.layer, header.bitrateIndex);
+    if (track.FileSize > std::numeric_limits<std::int32_t>::max() / 8) {
+        throw RunTimeError(ErrorNumber::Overflow);
+    }
+    if (bitrate == 0) {
+        throw RunTimeError(ErrorNumber::DivisionByZero);
+    }
+    // bits / (kbit/s) is milliseconds; both divisions cut what no listing shows.
+    const std::int64_t seconds = static_cast<std::int64_t>(track.FileSize) * 8 / bitrate / 1000;
+
+    constexpr std::array<std::string_view, 4> kModes = {"Stereo", "Joint Stereo", "Dual Channel", "Mono"};
+    track.Bitrate = std::to_string(bitrate);
+    track.Frequency = std::to_string(header.frequency);
+    track.Mode = kModes.at(header.mode);
+    track.MpegType = std::string(VersionText(header.version)) + " " + std::string(LayerText(header.layer));
+    track.Duration = std::to_string(seconds / 60) + ":" + PadNumber(seconds % 60, 2);
+    return seconds;
+}
+
+} // namespace tunedex

@@ -1,0 +1,191 @@
+#include "Sorting.h"
+
+#include "Text.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+#include <string>
+#include <unordered_map>
+#include <utility>
+
+namespace tunedex {
+
+namespace {
+
+struct SortAborted {};
+
+// Asks whether to stop, once in a few thousand steps: often enough to answer at once, seldom enough to cost
+// nothing.
+class AbortPoll {
+  public:
+    explicit AbortPoll(RunMonitor& monitor) : monitor_(monitor) {}
+
+    void Step() {
+        if ((++steps_ & 0x1FFFU) == 0 && monitor_.AbortRequested()) {
+            throw SortAborted();
+        }
+    }
+
+  private:
+    RunMonitor& monitor_;
+    std::uint32_t steps_ = 0;
+};
+
+std::uint64_t PrefixOf(std::string_view text) {
+    std::uint64_t prefix = 0;
+    for (std::size_t i = 0; i < sizeof prefix; ++i) {
+        prefix = (prefix << 8U) | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0U);
+    }
+    return prefix;
+}
+
+// Ranks of a field that many rows share: every stored text is upper-cased and compared once.
+class SharedRanks {
+  public:
+    SharedRanks(const std::vector<TrackRow>& rows, SharedText TrackRow::*field, AbortPoll& poll) {
+        std::vector<std::pair<std::string, const void*>> texts;
+        for (const TrackRow& row : rows) {
+            poll.Step();
+            if (ranks_.emplace((row.*field).Identity(), 0).second) {
+                texts.emplace_back(UpperCase((row.*field).View()), (row.*field).Identity());
+            }
+        }
+        std::sort(texts.begin(), texts.end(), [&poll](const auto& a, const auto& b) {
+            poll.Step();
+            return a.first < b.first;
+        });
+        std::uint32_t rank = 0;
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            rank += i > 0 && texts[i].first != texts[i - 1].first ? 1U : 0U;
+            ranks_[texts[i].second] = rank;
+        }
+    }
+
+    std::uint32_t Of(SharedText text) const { return ranks_.find(text.Identity())->second; }
+
+  private:
+    std::unordered_map<const void*, std::uint32_t> ranks_;
+};
+
+struct SortKey {
+    std::uint64_t group; // artist's rank, then album's
+    std::uint64_t titlePrefix;
+    std::string_view title; // upper-cased
+    std::uint32_t row;
+};
+
+bool Less(const SortKey& a, const SortKey& b) {
+    if (a.group != b.group) {
+        return a.group < b.group;
+    }
+    if (a.titlePrefix != b.titlePrefix) {
+        return a.titlePrefix < b.titlePrefix;
+    }
+    return a.title < b.title;
+}
+
+std::vector<std::uint32_t> Rank(const std::vector<TrackRow>& rows, AbortPoll& poll) {
+    TextStore titles;
+    std::vector<SortKey> keys;
+    keys.reserve(rows.size());
+    {
+        const SharedRanks artists(rows, &TrackRow::Artist, poll);
+        const SharedRanks albums(rows, &TrackRow::Album, poll);
+        for (const TrackRow& row : rows) {
+            poll.Step();
+            const std::uint64_t group =
+                (static_cast<std::uint64_t>(artists.Of(row.Artist)) << 32U) | albums.Of(row.Album);
+            const std::string_view title = titles.Add(UpperCase(row.Title.View())).View();
+            keys.push_back({group, PrefixOf(title), title, static_cast<std::uint32_t>(keys.size())});
+        }
+    }
+    std::sort(keys.begin(), keys.end(), [&poll](const SortKey& a, const SortKey& b) {
+        poll.Step();
+        return Less(a, b);
+    });
+    std::vector<std::uint32_t> ranks(rows.size());
+    std::uint32_t rank = 0;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        rank += i > 0 && Less(keys[i - 1], keys[i]) ? 1U : 0U;
+        ranks[keys[i].row] = rank;
+    }
+    return ranks;
+}
+
+struct RankedRow {
+    std::uint32_t rank;
+    std::uint32_t row;
+};
+
+// The prescribed exchanges, on small numbers in place of records.
+void ExchangeInOrder(std::vector<RankedRow>& rows, AbortPoll& poll) {
+    const std::size_t count = rows.size();
+    for (std::size_t gap = count / 2 + 1; gap > 0; gap /= 2) {
+        for (std::size_t i = gap; i < count; ++i) {
+            for (std::size_t later = i; later >= gap; later -= gap) {
+                poll.Step();
+                if (rows[later - gap].rank <= rows[later].rank) {
+                    break;
+                }
+                std::swap(rows[later - gap], rows[later]);
+            }
+        }
+    }
+}
+
+} // namespace
+
+void SwapTracks(TrackRow& a, TrackRow& b) {
+    std::swap(a.FullPath, b.FullPath);
+    std::swap(a.FileSize, b.FileSize);
+    std::swap(a.Artist, b.Artist);
+    std::swap(a.Title, b.Title);
+    std::swap(a.Album, b.Album);
+    std::swap(a.Year, b.Year);
+    std::swap(a.Genre, b.Genre);
+    std::swap(a.Bitrate, b.Bitrate);
+    std::swap(a.Frequency, b.Frequency);
+    std::swap(a.Duration, b.Duration);
+}
+
+std::vector<std::uint32_t> RankTracks(TrackTable& table, RunMonitor& monitor) {
+    AbortPoll poll(monitor);
+    try {
+        return Rank(table.Rows(), poll);
+    } catch (const SortAborted&) {
+        return {};
+    }
+}
+
+bool SortTracks(TrackTable& table, std::int16_t sortOrder, RunMonitor& monitor) {
+    std::vector<TrackRow>& rows = table.Rows();
+    if ((sortOrder != kAscending && sortOrder != kDescending) || rows.size() < 2) {
+        return false;
+    }
+    AbortPoll poll(monitor);
+    std::vector<RankedRow> order(rows.size());
+    try {
+        const std::vector<std::uint32_t> ranks = Rank(rows, poll);
+        for (std::uint32_t row = 0; row < order.size(); ++row) {
+            order[row] = {sortOrder == kAscending ? ranks[row] : ~ranks[row], row};
+        }
+        ExchangeInOrder(order, poll);
+    } catch (const SortAborted&) {
+        return true;
+    }
+    // Every row now knows whose fields it gets; following the circles moves each record once.
+    for (std::uint32_t start = 0; start < order.size(); ++start) {
+        std::uint32_t row = start;
+        while (order[row].row != start) {
+            const std::uint32_t from = order[row].row;
+            SwapTracks(rows[row], rows[from]);
+            order[row].row = row;
+            row = from;
+        }
+        order[row].row = row;
+    }
+    return false;
+}
+
+} // namespace tunedex

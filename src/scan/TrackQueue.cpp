@@ -1,0 +1,246 @@
+#include "TrackQueue.h"
+
+#include <algorithm>
+#include <ctime>
+#include <system_error>
+
+namespace tunedex {
+
+namespace {
+
+// Files change hands in batches, so that handing them over costs next to nothing.
+constexpr std::size_t kBatchFiles = 16;
+constexpr std::size_t kMostBatches = 128;
+// Each keeps a descriptor; the usual limit for a process is 1024.
+constexpr int kMostOpenFolders = 64;
+constexpr std::chrono::milliseconds kStopTestInterval{20};
+// A file that takes this long of the clock and less than half of it of the processor waits for the disk.
+constexpr std::chrono::microseconds kSlowFile{100};
+
+std::chrono::nanoseconds ThreadTime() {
+    std::timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+void ReadOne(QueuedTrack& track, const ReadOptions& options) {
+    track.failure.reset();
+    try {
+        track.reading = ReadTrackFile(track.folder->Descriptor(), track.name.c_str(),
+                                      track.folder->Path() + track.name, options);
+    } catch (const RunTimeError& error) {
+        track.failure = error;
+    }
+}
+
+bool LackedDescriptor(const QueuedTrack& track) {
+    const auto lacked = [](const std::optional<RunTimeError>& error) {
+        return error && error->Number() == static_cast<int>(ErrorNumber::TooManyFiles);
+    };
+    return lacked(track.failure) || lacked(track.reading.decodeError);
+}
+
+} // namespace
+
+TrackQueue::TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest)
+    : fixedReaders_(readers), options_(options), receiver_(std::move(receiver)),
+      stopTest_(std::move(stopTest)) {}
+
+TrackQueue::~TrackQueue() {
+    StopReaders();
+}
+
+void TrackQueue::StopReaders() {
+    {
+        const std::lock_guard lock(mutex_);
+        stopping_ = true;
+        unread_.clear();
+    }
+    work_.notify_all();
+    for (std::thread& reader : readers_) {
+        reader.join();
+    }
+    readers_.clear();
+}
+
+bool TrackQueue::Submit(const std::shared_ptr<OpenFolder>& folder, const char* name) {
+    if (state_ != State::Running) {
+        return state_ != State::Stopped;
+    }
+    if (fixedReaders_ == 1) {
+        Batch single;
+        single.tracks.push_back({folder, name, {}, {}});
+        ReadOne(single.tracks.front(), options_);
+        Receive(single);
+        return true;
+    }
+    if (!filling_) {
+        filling_ = std::make_unique<Batch>();
+        filling_->tracks.reserve(kBatchFiles);
+    }
+    filling_->tracks.push_back({folder, name, {}, {}});
+    if (filling_->tracks.size() < kBatchFiles && OpenFolder::OpenCount() < kMostOpenFolders) {
+        return true;
+    }
+    return Publish();
+}
+
+bool TrackQueue::Publish() {
+    if (readers_.empty()) {
+        StartFirstReaders();
+    }
+    batches_.push_back(std::move(filling_));
+    Batch& batch = *batches_.back();
+    if (readers_.empty()) {
+        ReadBatch(batch); // the system has no thread left for us: it will do without
+        batch.done = true;
+    } else {
+        bool wake = false;
+        {
+            const std::lock_guard lock(mutex_);
+            unread_.push_back(&batch);
+            wake = idle_ > 0;
+        }
+        if (wake) {
+            work_.notify_one();
+        }
+    }
+    while (!batches_.empty() && ReceiveFront(false)) {
+    }
+    while (state_ == State::Running && !batches_.empty() &&
+           (batches_.size() >= kMostBatches || OpenFolder::OpenCount() >= kMostOpenFolders)) {
+        ReceiveFront(true);
+    }
+    return state_ != State::Stopped;
+}
+
+bool TrackQueue::Drain() {
+    if (filling_ && state_ == State::Running) {
+        Publish();
+    }
+    while (state_ == State::Running && !batches_.empty()) {
+        ReceiveFront(true);
+    }
+    return state_ != State::Stopped;
+}
+
+// Hands the first batch over; returns whether it did. Without `wait` only if it has been read.
+bool TrackQueue::ReceiveFront(bool wait) {
+    {
+        const std::lock_guard lock(mutex_);
+        if (!batches_.front()->done && !wait) {
+            return false;
+        }
+    }
+    if (!WaitFor(*batches_.front())) {
+        state_ = State::Stopped;
+        return false;
+    }
+    const std::unique_ptr<Batch> batch = std::move(batches_.front());
+    batches_.pop_front();
+    Receive(*batch);
+    return true;
+}
+
+bool TrackQueue::WaitFor(const Batch& batch) {
+    std::unique_lock lock(mutex_);
+    while (!batch.done) {
+        callerWaits_ = true;
+        finished_.wait_for(lock, kStopTestInterval, [&] { return batch.done; });
+        callerWaits_ = false;
+        if (!batch.done) {
+            lock.unlock();
+            if (stopTest_()) {
+                return false;
+            }
+            lock.lock();
+        }
+    }
+    return true;
+}
+
+void TrackQueue::Receive(Batch& batch) {
+    try {
+        if (batch.fault) {
+            std::rethrow_exception(batch.fault);
+        }
+        for (QueuedTrack& track : batch.tracks) {
+            if (LackedDescriptor(track)) {
+                // With the readers' files closed there may be one: a single reader would not have lacked it.
+                for (const auto& other : batches_) {
+                    WaitFor(*other);
+                }
+                ReadOne(track, options_);
+            }
+            receiver_(track);
+        }
+    } catch (...) {
+        state_ = State::Failed;
+        throw;
+    }
+}
+
+void TrackQueue::StartFirstReaders() {
+    const unsigned count =
+        fixedReaders_ > 0 ? fixedReaders_ : std::max(1U, std::thread::hardware_concurrency());
+    const std::lock_guard lock(mutex_);
+    while (readers_.size() < count && StartReader()) {
+    }
+}
+
+// Called under the mutex. Returns false when the system gives us no thread.
+bool TrackQueue::StartReader() {
+    try {
+        readers_.emplace_back([this] { ReadLoop(); });
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
+}
+
+void TrackQueue::ReadLoop() {
+    std::unique_lock lock(mutex_);
+    while (true) {
+        ++idle_;
+        work_.wait(lock, [this] { return stopping_ || !unread_.empty(); });
+        --idle_;
+        if (stopping_) {
+            return;
+        }
+        Batch* const batch = unread_.front();
+        unread_.pop_front();
+        lock.unlock();
+        const auto begun = std::chrono::steady_clock::now();
+        const auto processorBegun = ThreadTime();
+        ReadBatch(*batch);
+        const auto wall = std::chrono::steady_clock::now() - begun;
+        const auto processor = ThreadTime() - processorBegun;
+        const std::size_t files = batch->tracks.size();
+        lock.lock();
+        batch->done = true;
+        if (callerWaits_) {
+            finished_.notify_one();
+        }
+        GrowIfWaiting(wall, processor, files);
+    }
+}
+
+void TrackQueue::ReadBatch(Batch& batch) const {
+    try {
+        for (QueuedTrack& track : batch.tracks) {
+            ReadOne(track, options_);
+        }
+    } catch (...) {
+        batch.fault = std::current_exception();
+    }
+}
+
+void TrackQueue::GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor,
+                               std::size_t files) {
+    const bool waits = wall > kSlowFile * files && processor * 2 < wall;
+    if (fixedReaders_ == 0 && waits && !stopping_ && !unread_.empty() && readers_.size() < kMostReaders) {
+        StartReader();
+    }
+}
+
+} // namespace tunedex

@@ -1,0 +1,99 @@
+// Reading many files at once without anyone noticing: files go in one after the other and come out as
+// readings in the same order, whoever read them and whenever.
+#pragma once
+
+#include "FolderWalk.h"
+#include "MP3Info.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace tunedex {
+
+// One file on its way through the queue.
+struct QueuedTrack {
+    std::shared_ptr<OpenFolder> folder;
+    std::string name;
+    TrackReading reading;
+    std::optional<RunTimeError> failure; // the file's size could not be read: there is no track
+};
+
+class TrackQueue {
+  public:
+    // Takes what has been read, on the thread that uses the queue. What it throws leaves the queue's
+    // functions, and the queue takes and gives nothing more.
+    using Receiver = std::function<void(QueuedTrack&)>;
+    // Asked now and then while the queue waits; true ends the waiting, and the queue takes and gives nothing
+    // more.
+    using StopTest = std::function<bool()>;
+
+    // `readers` is how many threads read: 1 reads on the caller's own thread, 0 begins with one for each core
+    // and adds more, up to kMostReaders, for as long as they spend their time waiting for the disk.
+    TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest);
+    TrackQueue(const TrackQueue&) = delete;
+    TrackQueue& operator=(const TrackQueue&) = delete;
+    // Waits for the readers; what has not been received is dropped.
+    ~TrackQueue();
+
+    // Queues a file; may hand earlier readings to the receiver, and waits while too many files are in flight.
+    // Returns false when the stop test ended a wait.
+    bool Submit(const std::shared_ptr<OpenFolder>& folder, const char* name);
+    // Hands all that is in flight to the receiver. Returns false when the stop test ended a wait.
+    bool Drain();
+    // Whether anything is in flight.
+    bool Empty() const { return batches_.empty() && filling_ == nullptr; }
+
+    static constexpr unsigned kMostReaders = 32;
+
+  private:
+    struct Batch {
+        std::vector<QueuedTrack> tracks;
+        std::exception_ptr fault; // what no reading of a file should throw: out of memory
+        bool done = false;
+    };
+
+    bool Publish();
+    bool ReceiveFront(bool wait);
+    bool WaitFor(const Batch& batch);
+    void Receive(Batch& batch);
+    void ReadLoop();
+    void ReadBatch(Batch& batch) const;
+    void StartFirstReaders();
+    bool StartReader();
+    void GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor, std::size_t files);
+    void StopReaders();
+
+    const unsigned fixedReaders_;
+    const ReadOptions options_;
+    const Receiver receiver_;
+    const StopTest stopTest_;
+    // Stopped: the stop test said so. Failed: the receiver threw. In both the queue takes and gives nothing
+    // more.
+    enum class State { Running, Stopped, Failed };
+    State state_ = State::Running;
+
+    // The caller's side.
+    std::unique_ptr<Batch> filling_;
+    std::deque<std::unique_ptr<Batch>> batches_; // published, in order
+
+    // Shared with the readers, under the mutex.
+    std::mutex mutex_;
+    std::condition_variable work_;
+    std::condition_variable finished_;
+    std::deque<Batch*> unread_;
+    std::vector<std::thread> readers_;
+    unsigned idle_ = 0;
+    bool stopping_ = false;
+    bool callerWaits_ = false;
+};
+
+} // namespace tunedex

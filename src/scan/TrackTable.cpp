@@ -1,0 +1,108 @@
+#include "TrackTable.h"
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::size_t kBlockBytes = 65536;
+
+} // namespace
+
+std::string_view SharedText::View() const {
+    if (record_ == nullptr) {
+        return {};
+    }
+    std::uint32_t length = 0;
+    std::memcpy(&length, record_, sizeof length);
+    return {record_ + sizeof length, length};
+}
+
+SharedText TextStore::Add(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
+    const auto length = static_cast<std::uint32_t>(text.size());
+    const std::size_t needed = sizeof length + text.size();
+    if (left_ < needed) {
+        const std::size_t size = std::max(kBlockBytes, needed);
+        blocks_.push_back(std::make_unique_for_overwrite<char[]>(size)); // NOLINT(modernize-avoid-c-arrays)
+        next_ = blocks_.back().get();
+        left_ = size;
+    }
+    char* const record = next_;
+    std::memcpy(record, &length, sizeof length);
+    std::memcpy(record + sizeof length, text.data(), text.size());
+    next_ += needed;
+    left_ -= needed;
+    return SharedText(record);
+}
+
+SharedText TextStore::Share(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
+    if (indexed_ * 2 >= index_.size()) {
+        GrowIndex();
+    }
+    const std::size_t mask = index_.size() - 1;
+    std::size_t slot = std::hash<std::string_view>{}(text)&mask;
+    while (index_[slot].Identity() != nullptr) {
+        if (index_[slot].View() == text) {
+            return index_[slot];
+        }
+        slot = (slot + 1) & mask;
+    }
+    ++indexed_;
+    return index_[slot] = Add(text);
+}
+
+void TextStore::GrowIndex() {
+    std::vector<SharedText> old(std::max<std::size_t>(64, index_.size() * 2));
+    old.swap(index_);
+    const std::size_t mask = index_.size() - 1;
+    for (const SharedText text : old) {
+        if (text.Identity() == nullptr) {
+            continue;
+        }
+        std::size_t slot = std::hash<std::string_view>{}(text.View()) & mask;
+        while (index_[slot].Identity() != nullptr) {
+            slot = (slot + 1) & mask;
+        }
+        index_[slot] = text;
+    }
+}
+
+void TrackTable::Append(const TrackInfo& track) {
+    TrackRow row;
+    row.FullPath = texts_.Add(track.FullPath);
+    row.BaseFolder = texts_.Share(track.BaseFolder);
+    // A file without tags has its path for an artist: the same text, not a second one.
+    row.Artist = track.Artist == track.FullPath ? row.FullPath : texts_.Share(track.Artist);
+    row.Title = track.TagType == kNoTag ? texts_.Share(track.Title) : texts_.Add(track.Title);
+    row.Album = texts_.Share(track.Album);
+    row.Year = texts_.Share(track.Year);
+    row.Genre = texts_.Share(track.Genre);
+    row.Bitrate = texts_.Share(track.Bitrate);
+    row.Frequency = texts_.Share(track.Frequency);
+    row.Mode = texts_.Share(track.Mode);
+    row.MpegType = texts_.Share(track.MpegType);
+    row.Duration = texts_.Share(track.Duration);
+    row.FileSize = track.FileSize;
+    row.TagType = track.TagType;
+    rows_.push_back(row);
+}
+
+TrackInfo TrackTable::Copy(std::size_t position) const {
+    const TrackRow& row = At(position);
+    const auto text = [](SharedText shared) { return std::string(shared.View()); };
+    return {text(row.FullPath), text(row.BaseFolder), row.FileSize,   text(row.Artist),
+            text(row.Title),    text(row.Album),      text(row.Year), text(row.Genre),
+            text(row.Bitrate),  text(row.Frequency),  text(row.Mode), text(row.MpegType),
+            text(row.Duration), row.TagType};
+}
+
+} // namespace tunedex

@@ -1,0 +1,89 @@
+// The table of tracks: a million of them in memory, so a row holds pointers into one store of texts, in which
+// texts that many files share stand once.
+#pragma once
+
+#include "TrackInfo.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace tunedex {
+
+// A text in a TextStore; valid as long as the store. Copying it copies a pointer.
+class SharedText {
+  public:
+    SharedText() = default;
+    std::string_view View() const;
+    operator std::string_view() const { return View(); } // NOLINT(google-explicit-constructor): it is a text
+    bool Empty() const { return View().empty(); }
+    // Whether both are the same stored text, which for two shared texts means: equal.
+    bool IsSameAs(SharedText other) const { return record_ == other.record_; }
+    const void* Identity() const { return record_; }
+
+  private:
+    friend class TextStore;
+    explicit SharedText(const char* record) : record_(record) {}
+
+    const char* record_ = nullptr; // four bytes of length, then the text; none for the empty text
+};
+
+class TextStore {
+  public:
+    // A text of its own.
+    SharedText Add(std::string_view text);
+    // The one copy of this text.
+    SharedText Share(std::string_view text);
+
+  private:
+    void GrowIndex();
+
+    std::vector<std::unique_ptr<char[]>> blocks_; // NOLINT(modernize-avoid-c-arrays): raw storage
+    std::size_t left_ = 0;                        // bytes free in the last block
+    char* next_ = nullptr;
+    std::vector<SharedText> index_; // open addressing, a power of two long
+    std::size_t indexed_ = 0;
+};
+
+// One track; the members are those of TrackInfo.
+struct TrackRow {
+    SharedText FullPath;
+    SharedText BaseFolder;
+    SharedText Artist;
+    SharedText Title;
+    SharedText Album;
+    SharedText Year;
+    SharedText Genre;
+    SharedText Bitrate;
+    SharedText Frequency;
+    SharedText Mode;
+    SharedText MpegType;
+    SharedText Duration;
+    std::int32_t FileSize = 0;
+    std::int16_t TagType = kNoTag;
+};
+
+class TrackTable {
+  public:
+    TrackTable() = default;
+    // Room for that many tracks, so that collecting them never moves the table.
+    explicit TrackTable(std::size_t count) { rows_.reserve(count); }
+
+    void Append(const TrackInfo& track);
+
+    std::size_t Count() const { return rows_.size(); }
+    // Tracks are numbered from 1 to Count().
+    const TrackRow& At(std::size_t position) const { return rows_[position - 1]; }
+    std::vector<TrackRow>& Rows() { return rows_; }
+
+    // A copy that stands for itself.
+    TrackInfo Copy(std::size_t position) const;
+
+  private:
+    TextStore texts_;
+    std::vector<TrackRow> rows_;
+};
+
+} // namespace tunedex

@@ -1,0 +1,17 @@
+#include "RunTerminal.h"
+
+#include "Startup.h"
+#include "TerminalFrontEnd.h"
+
+#include <unistd.h>
+
+namespace tunedex {
+
+int RunTerminal(Application& application, const std::vector<std::string>& arguments) {
+    TerminalFrontEnd::CatchSignals();
+    TerminalFrontEnd frontEnd(application, STDIN_FILENO, STDERR_FILENO);
+    StartUp(application, frontEnd, arguments);
+    return CreateListCommand(application, frontEnd) ? 0 : 1;
+}
+
+} // namespace tunedex

@@ -1,0 +1,12 @@
+#include "Fakes.h"
+
+#include "Startup.h"
+
+namespace tunedex::test {
+
+void FakeUserInterface::TakeControls(Settings& settings) {
+    TakeMainFields(settings, fields);
+    TakeLayoutControls(settings);
+}
+
+} // namespace tunedex::test
