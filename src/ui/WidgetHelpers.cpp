@@ -103,6 +103,12 @@ QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleNam
     return field;
 }
 
+void SetTabOrders(const QList<QWidget*>& controls) {
+    for (qsizetype i = 0; i + 1 < controls.size(); ++i) {
+        QWidget::setTabOrder(controls[i], controls[i + 1]);
+    }
+}
+
 void FocusAndSelectAll(QLineEdit& field) {
     field.setFocus(Qt::OtherFocusReason);
     field.selectAll();

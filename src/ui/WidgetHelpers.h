@@ -4,6 +4,7 @@
 #include "Application.h"
 #include "UserInterface.h"
 
+#include <QList>
 #include <QString>
 
 #include <string>
@@ -35,6 +36,9 @@ QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic);
 // A text field that takes texts of any length.
 QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleName,
                          const QString& description);
+
+// The order in which Tab visits the controls.
+void SetTabOrders(const QList<QWidget*>& controls);
 
 // Puts the focus into the field and selects its whole text.
 void FocusAndSelectAll(QLineEdit& field);

@@ -1,0 +1,171 @@
+#include "Dialogs.h"
+
+#include "FileFilters.h"
+#include "UserInterface.h"
+#include "WidgetHelpers.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr qsizetype kLongWord = 60;
+
+struct BoxParts {
+    QMessageBox::Icon icon;
+    QMessageBox::StandardButtons buttons;
+};
+
+BoxParts PartsFor(int buttons) {
+    switch (buttons) {
+    case kOkCancelQuestion:
+        return {QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel};
+    case kYesNoQuestion:
+        return {QMessageBox::Question, QMessageBox::Yes | QMessageBox::No};
+    case kYesNoExclamation:
+        return {QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No};
+    case kOkInformation:
+        return {QMessageBox::Information, QMessageBox::Ok};
+    default:
+        return {QMessageBox::Warning, QMessageBox::Ok};
+    }
+}
+
+int AnswerFor(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return kAnswerYes;
+    case QMessageBox::No:
+        return kAnswerNo;
+    case QMessageBox::Cancel:
+        return kAnswerCancel;
+    default:
+        return kAnswerOk;
+    }
+}
+
+QString ExistingStart(const std::string& start) {
+    const QString path = ToQt(start);
+    return !path.isEmpty() && QFileInfo(path).isDir() ? path : QDir::homePath();
+}
+
+void OfferFilters(QFileDialog& dialog, const QList<FileFilter>& filters, const QString& startName) {
+    QStringList names;
+    qsizetype chosen = 0;
+    for (qsizetype i = 0; i < filters.size(); ++i) {
+        names.append(QtNameFilter(filters[i]));
+        const QString ending = u'.' + ExtensionOf(filters[i]);
+        if (ending.size() > 1 && startName.endsWith(ending, Qt::CaseInsensitive)) {
+            chosen = i;
+        }
+    }
+    if (names.isEmpty()) {
+        return;
+    }
+    dialog.setNameFilters(names);
+    dialog.selectNameFilter(names[chosen]);
+    dialog.setDefaultSuffix(ExtensionOf(filters[chosen]));
+}
+
+// What the user picks from the list of kinds is what he gets: the name's extension goes along with it.
+void FollowFilter(QFileDialog& dialog, const QList<FileFilter>& filters) {
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, filters](const QString& name) {
+        const qsizetype index = dialog.nameFilters().indexOf(name);
+        if (index < 0) {
+            return;
+        }
+        dialog.setDefaultSuffix(ExtensionOf(filters[index]));
+        const QStringList files = dialog.selectedFiles();
+        const QString file = files.isEmpty() ? QString() : QFileInfo(files.first()).fileName();
+        const QString renamed = NameForFilter(file, filters[index], filters);
+        if (renamed != file) {
+            dialog.selectFile(renamed);
+        }
+    });
+}
+
+} // namespace
+
+QString WithBreaksInLongWords(const QString& text) {
+    constexpr QChar kZeroWidthSpace(u'\u200B');
+    QString result;
+    qsizetype wordLength = 0;
+    for (const QChar character : text) {
+        wordLength = character.isSpace() ? 0 : wordLength + 1;
+        if (wordLength > kLongWord && !character.isLowSurrogate()) {
+            result.append(kZeroWidthSpace);
+        }
+        result.append(character);
+    }
+    return result;
+}
+
+int Dialogs::ShowMessage(QWidget* owner, const QString& text, int buttons, const QString& title) {
+    const BoxParts parts = PartsFor(buttons);
+    QMessageBox box(parts.icon, title, WithBreaksInLongWords(text), parts.buttons, owner);
+    box.setTextFormat(Qt::PlainText);
+    box.setObjectName(u"MessageBox"_s);
+    box.setAccessibleName(title);
+    box.setAccessibleDescription(text);
+    return AnswerFor(box.exec());
+}
+
+std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& title, const QString& prompt,
+                                                 const std::string& start) {
+    QDialog window(owner);
+    window.setWindowTitle(title);
+    auto* label = new QLabel(prompt);
+    label->setWordWrap(true);
+
+    // Qt's own dialog and not the desktop's: only this one can stand below a prompt.
+    auto* chooser = new QFileDialog(&window);
+    chooser->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
+    chooser->setFileMode(QFileDialog::Directory);
+    chooser->setDirectory(ExistingStart(start));
+    chooser->setLabelText(QFileDialog::Accept, QDialog::tr("&OK"));
+    chooser->setWindowFlags(Qt::Widget);
+    chooser->setSizeGripEnabled(false);
+    QObject::connect(chooser, &QDialog::accepted, &window, &QDialog::accept);
+    QObject::connect(chooser, &QDialog::rejected, &window, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(label);
+    layout->addWidget(chooser);
+    if (window.exec() != QDialog::Accepted || chooser->selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return FromQt(QDir::toNativeSeparators(chooser->selectedFiles().first()));
+}
+
+std::optional<std::string> Dialogs::ChooseFile(QWidget* owner, const FileQuestion& question) {
+    QFileDialog dialog(owner, question.title);
+    const QFileInfo start(ToQt(question.start));
+    const QList<FileFilter> filters = ParseFilterList(question.filters);
+
+    dialog.setAcceptMode(question.forSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(question.forSaving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the descriptions name the patterns already
+    OfferFilters(dialog, filters, start.fileName());
+    const bool startIsFolder = question.start.empty() || start.isDir();
+    dialog.setDirectory(ExistingStart(startIsFolder ? question.start : FromQt(start.path())));
+    if (!startIsFolder && (question.forSaving || start.exists())) {
+        dialog.selectFile(start.fileName());
+    }
+    if (question.forSaving) {
+        FollowFilter(dialog, filters);
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().first()));
+}
+
+} // namespace tunedex

@@ -1,0 +1,103 @@
+#include "RunWindows.h"
+
+#include "Dialogs.h"
+#include "Functions.h"
+#include "Product.h"
+#include "Startup.h"
+#include "WidgetHelpers.h"
+#include "WindowsFrontEnd.h"
+#include "frmTip.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kCannotStart = 2;
+
+// Qt ends a program that finds no display with abort(). This takes its word and ends it as any failed start.
+void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+    if (type != QtFatalMsg) {
+        return; // what leads up to it is said again in the last word
+    }
+    const QString reason = message.section(u'\n', 0, 0).trimmed();
+    const std::string text =
+        std::string(kProductTitle) + " could not open the display.\n" + reason.toStdString() + "\n";
+    std::fputs(text.c_str(), stderr);
+    std::_Exit(kCannotStart);
+}
+
+std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
+    const QtMessageHandler before = qInstallMessageHandler(ReportMissingDisplay);
+    auto qtApplication = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(before);
+    return qtApplication;
+}
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(u":/icons/tunedex-%1.png"_s.arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
+bool SaveStatisticsOrSay(const Application& application, UserInterface& ui) {
+    try {
+        SaveStatisticsAtExit(application);
+        return true;
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui, UnexpectedErrorText(error), kOkExclamation, application.errorTitle);
+        return false;
+    }
+}
+
+int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
+    frmMain& window = frontEnd.MainWindow();
+    // Not when the last window closes: a message box can be that.
+    QObject::connect(&window, &frmMain::Closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    window.show();
+    if (TipsOnStartup(application.registry)) {
+        auto* tip = new frmTip(application, frontEnd, &window);
+        tip->setAttribute(Qt::WA_DeleteOnClose);
+        tip->open();
+    }
+    const int status = QApplication::exec();
+    return SaveStatisticsOrSay(application, frontEnd) ? status : 1;
+}
+
+} // namespace
+
+int RunWindows(int argc, char** argv, Application& application, bool automatic) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc); // before Qt takes its own out
+    const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
+    Q_INIT_RESOURCE(icons);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(u"tunedex"_s);
+    QApplication::setWindowIcon(ProgramIcon());
+
+    Dialogs dialogs;
+    WindowsFrontEnd frontEnd(application, dialogs);
+    try {
+        StartUp(application, frontEnd, arguments);
+    } catch (const RunTimeError& error) {
+        ShowMessage(frontEnd, UnexpectedErrorText(error), kOkExclamation, application.errorTitle);
+        return kCannotStart;
+    }
+    if (automatic) {
+        return frontEnd.CreateList() ? 0 : 1;
+    }
+    return RunInteractively(application, frontEnd);
+}
+
+} // namespace tunedex

@@ -1,0 +1,108 @@
+#include "WindowsFrontEnd.h"
+
+#include "Startup.h"
+#include "WidgetHelpers.h"
+#include "frmProgress.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QWindow>
+
+namespace tunedex {
+namespace {
+
+// How long a window may take to appear before the run goes on without it.
+constexpr int kLongestWaitForWindow = 500; // milliseconds
+
+void WaitUntilExposed(const QWidget& window) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!window.windowHandle()->isExposed() && timer.elapsed() < kLongestWaitForWindow) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+    }
+}
+
+} // namespace
+
+WindowsFrontEnd::WindowsFrontEnd(Application& application, Dialogs& dialogs)
+    : application_(application), dialogs_(dialogs), monitor_(application),
+      main_(application, *this, dialogs) {
+    QObject::connect(&main_, &frmMain::CreateListRequested, &main_, [this] { CreateList(); });
+}
+
+WindowsFrontEnd::~WindowsFrontEnd() = default;
+
+bool WindowsFrontEnd::CreateList() {
+    if (running_) {
+        return false;
+    }
+    running_ = true;
+    const bool written = CreateListCommand(application_, *this);
+    running_ = false;
+    if (progress_ != nullptr) {
+        progress_->SetRunning(false); // left open by the run; the user closes it
+    }
+    return written;
+}
+
+MainFields WindowsFrontEnd::Fields() const {
+    return main_.Fields();
+}
+
+void WindowsFrontEnd::FillFields(const MainFields& fields) {
+    main_.FillFields(fields);
+}
+
+void WindowsFrontEnd::TakeControls(Settings& settings) {
+    TakeMainFields(settings, Fields());
+    TakeLayoutControls(settings);
+}
+
+QWidget* WindowsFrontEnd::MessageOwner() {
+    if (QWidget* dialog = QApplication::activeModalWidget(); dialog != nullptr) {
+        return dialog;
+    }
+    return main_.isVisible() ? &main_ : nullptr;
+}
+
+int WindowsFrontEnd::ShowMessage(std::string_view text, int buttons, std::string_view title) {
+    return dialogs_.ShowMessage(MessageOwner(), ToQtDisplay(text), buttons, ToQtDisplay(title));
+}
+
+void WindowsFrontEnd::FocusAndSelect(MainField field) {
+    FocusAndSelectAll(main_.Field(field));
+}
+
+void WindowsFrontEnd::EnableWindows() {
+    main_.setEnabled(true);
+}
+
+RunMonitor& WindowsFrontEnd::ShowProgress() {
+    CloseProgress();
+    progress_ = std::make_unique<frmProgress>(main_);
+    progress_->SetRunning(running_);
+    QObject::connect(progress_.get(), &frmProgress::AbortPressed, &main_,
+                     [this] { application_.abortRequested = true; });
+    QObject::connect(progress_.get(), &frmProgress::Closed, &main_, [this] {
+        monitor_.SetWindow(nullptr);
+        progress_.release()->deleteLater(); // it is still handling its own close
+    });
+    monitor_.SetWindow(progress_.get());
+    progress_->show();
+    WaitUntilExposed(*progress_);
+    return monitor_;
+}
+
+void WindowsFrontEnd::SetProgressCaption(std::string_view caption) {
+    if (progress_ != nullptr) {
+        progress_->setWindowTitle(ToQt(caption));
+    }
+}
+
+void WindowsFrontEnd::CloseProgress() {
+    monitor_.SetWindow(nullptr);
+    progress_.reset();
+}
+
+} // namespace tunedex

@@ -1,0 +1,48 @@
+// The front end of windows: what start-up and the list job ask for, done by the main window and its company.
+#pragma once
+
+#include "Application.h"
+#include "Dialogs.h"
+#include "ProgressMonitor.h"
+#include "UserInterface.h"
+#include "frmMain.h"
+
+#include <QPointer>
+
+#include <memory>
+
+namespace tunedex {
+
+class frmProgress;
+
+class WindowsFrontEnd final : public UserInterface {
+  public:
+    WindowsFrontEnd(Application& application, Dialogs& dialogs);
+    ~WindowsFrontEnd() override;
+
+    frmMain& MainWindow() { return main_; }
+    // The Create List command as the main window's button gives it. Whether the list was written.
+    bool CreateList();
+
+    MainFields Fields() const override;
+    void FillFields(const MainFields& fields) override;
+    void TakeControls(Settings& settings) override;
+    int ShowMessage(std::string_view text, int buttons, std::string_view title) override;
+    void FocusAndSelect(MainField field) override;
+    void EnableWindows() override;
+    RunMonitor& ShowProgress() override;
+    void SetProgressCaption(std::string_view caption) override;
+    void CloseProgress() override;
+
+  private:
+    QWidget* MessageOwner();
+
+    Application& application_;
+    Dialogs& dialogs_;
+    ProgressMonitor monitor_;
+    frmMain main_;
+    std::unique_ptr<frmProgress> progress_; // exists while the window is open
+    bool running_ = false;
+};
+
+} // namespace tunedex

@@ -1,0 +1,83 @@
+#include "frmAbout.h"
+
+#include "Product.h"
+#include "Statistics.h"
+#include "Version.h"
+#include "WidgetHelpers.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kIconSize = 64;
+
+QString VersionSentence() {
+    return ToQt(std::string("Version ") + kMajorVersion + "." + kMinorVersion + " - Build " + kBuildNumber);
+}
+
+} // namespace
+
+frmAbout::frmAbout(const Application& application, UserInterface& ui, QWidget* parent) : QDialog(parent) {
+    setObjectName(u"frmAbout"_s);
+    setWindowTitle(tr("About ") + ToQt(kProductTitle));
+
+    auto* icon = new QLabel;
+    icon->setPixmap(windowIcon().pixmap(kIconSize, kIconSize));
+    auto* title = new QLabel(ToQt(kProductTitle));
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.6);
+    large.setBold(true);
+    title->setFont(large);
+    auto* lblVersion = new QLabel(VersionSentence());
+    NameControl(*lblVersion, u"lblVersion"_s, QString(), QString());
+    auto* lblStats = new QLabel(ToQtDisplay(StatisticsText(application.statistics)).trimmed());
+    NameControl(*lblStats, u"lblStats"_s, QString(), QString());
+    lblStats->setWordWrap(true);
+
+    auto* cmdHomePage = new QPushButton(tr("&Home Page"));
+    NameControl(*cmdHomePage, u"cmdHomePage"_s, tr("Home page"), ToQt(kHomePage));
+    connect(cmdHomePage, &QPushButton::clicked, this,
+            [&application, &ui] { OpenAddress(ToQt(kHomePage), application, ui); });
+    auto* cmdEmail = new QPushButton(tr("&E-mail the Author"));
+    NameControl(*cmdEmail, u"cmdEmail"_s, tr("E-mail the author"), ToQt(kEmail));
+    connect(cmdEmail, &QPushButton::clicked, this,
+            [&application, &ui] { OpenAddress(u"mailto:"_s + ToQt(kEmail), application, ui); });
+    auto* cmdOK = new QPushButton(tr("&OK"));
+    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Closes the window"));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* texts = new QVBoxLayout;
+    texts->addWidget(title);
+    texts->addWidget(lblVersion);
+    texts->addSpacing(fontMetrics().height() / 2);
+    texts->addWidget(lblStats);
+    texts->addStretch();
+    auto* top = new QHBoxLayout;
+    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addSpacing(fontMetrics().height() / 2);
+    top->addLayout(texts, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdHomePage);
+    buttons->addWidget(cmdEmail);
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addSpacing(fontMetrics().height() / 2);
+    layout->addLayout(buttons);
+
+    SetTabOrders({cmdHomePage, cmdEmail, cmdOK});
+    cmdOK->setFocus();
+}
+
+} // namespace tunedex

@@ -1,0 +1,18 @@
+// The about box: version, usage statistics, links.
+#pragma once
+
+#include "Application.h"
+#include "UserInterface.h"
+
+#include <QDialog>
+
+namespace tunedex {
+
+class frmAbout final : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmAbout(const Application& application, UserInterface& ui, QWidget* parent);
+};
+
+} // namespace tunedex

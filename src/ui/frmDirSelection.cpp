@@ -1,0 +1,301 @@
+#include "frmDirSelection.h"
+
+#include "FileSystem.h"
+#include "FolderDrop.h"
+#include "Functions.h"
+#include "MultiFolder.h"
+#include "Text.h"
+#include "WidgetHelpers.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kListWidthInCharacters = 60;
+
+} // namespace
+
+frmDirSelection::frmDirSelection(Application& application, UserInterface& ui, Dialogs& dialogs,
+                                 QWidget* parent)
+    : QDialog(parent), application_(application), ui_(ui), dialogs_(dialogs), lvwDirs_(new QTreeWidget),
+      lblNumOfDirs_(new QLabel) {
+    setObjectName(u"frmDirSelection"_s);
+    setWindowTitle(tr("Folders to Search"));
+    setSizeGripEnabled(true);
+    NameControl(*lblNumOfDirs_, u"lblNumOfDirs"_s, QString(), QString());
+    BuildList();
+    auto* caption = MakeLabelFor(*lvwDirs_, tr("&Folders, in the order in which they are searched:"));
+    caption->setObjectName(u"Label1"_s);
+
+    auto* top = new QHBoxLayout;
+    top->addWidget(lvwDirs_, 1);
+    top->addWidget(BuildButtons());
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(caption);
+    layout->addLayout(top, 1);
+    layout->addWidget(lblNumOfDirs_);
+    layout->addWidget(BuildBottomRow());
+
+    for (const std::string& folder : FoldersOf(application_.settings.Directory)) {
+        new QTreeWidgetItem(lvwDirs_, {ToQt(folder)});
+        lastFolder_ = folder;
+    }
+    connect(lvwDirs_, &QTreeWidget::itemSelectionChanged, this, &frmDirSelection::UpdateState);
+    SelectRow(0);
+    UpdateState();
+    lvwDirs_->resizeColumnToContents(0);
+    RestoreWindowGeometry(*this);
+    if (lvwDirs_->topLevelItemCount() == 0) {
+        cmdAdd_->setFocus();
+    } else {
+        lvwDirs_->setFocus();
+    }
+}
+
+void frmDirSelection::BuildList() {
+    NameControl(*lvwDirs_, u"lvwDirs"_s, tr("Folders"),
+                tr("The folders to search, first one first; folders can be dropped here"));
+    lvwDirs_->setColumnCount(1);
+    lvwDirs_->setHeaderHidden(true);
+    lvwDirs_->setRootIsDecorated(false);
+    lvwDirs_->setUniformRowHeights(true);
+    lvwDirs_->setAlternatingRowColors(true);
+    lvwDirs_->setTextElideMode(Qt::ElideNone); // long paths are scrolled to
+    lvwDirs_->header()->setStretchLastSection(false);
+    lvwDirs_->setTabKeyNavigation(false);
+    lvwDirs_->setMinimumWidth(fontMetrics().averageCharWidth() * kListWidthInCharacters);
+    auto* remove = new QShortcut(QKeySequence::Delete, lvwDirs_);
+    remove->setContext(Qt::WidgetShortcut);
+    connect(remove, &QShortcut::activated, this, &frmDirSelection::Remove);
+    new FolderDrop(*lvwDirs_->viewport(), [this](const std::vector<std::string>& folders) {
+        for (const std::string& folder : folders) {
+            AddFolder(folder);
+        }
+    });
+    lvwDirs_->setAcceptDrops(true); // the list hands a drag on to its viewport only then
+}
+
+QPushButton* frmDirSelection::MakeButton(const char* name, const QString& caption, const QString& description,
+                                         void (frmDirSelection::*command)()) {
+    auto* button = new QPushButton(caption);
+    NameControl(*button, QString::fromLatin1(name), QString(caption).remove(u'&'), description);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, command);
+    return button;
+}
+
+QWidget* frmDirSelection::BuildButtons() {
+    cmdAdd_ = MakeButton("cmdAdd", tr("&Add..."), tr("Appends a folder to the list"), &frmDirSelection::Add);
+    cmdRemove_ = MakeButton("cmdRemove", tr("&Remove"), tr("Takes the selected folder out of the list"),
+                            &frmDirSelection::Remove);
+    cmdClear_ = MakeButton("cmdClear", tr("&Clear"), tr("Takes every folder out of the list"),
+                           &frmDirSelection::Clear);
+    cmdTop_ = MakeButton("cmdTop", tr("&Top"), tr("Moves the selected folder to the first row"),
+                         &frmDirSelection::MoveTop);
+    cmdUp_ =
+        MakeButton("cmdUp", tr("&Up"), tr("Moves the selected folder one row up"), &frmDirSelection::MoveUp);
+    cmdDown_ = MakeButton("cmdDown", tr("&Down"), tr("Moves the selected folder one row down"),
+                          &frmDirSelection::MoveDown);
+    cmdBottom_ = MakeButton("cmdBottom", tr("&Bottom"), tr("Moves the selected folder to the last row"),
+                            &frmDirSelection::MoveBottom);
+
+    auto* panel = new QWidget;
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton* button : {cmdAdd_, cmdRemove_, cmdClear_}) {
+        layout->addWidget(button);
+    }
+    layout->addSpacing(fontMetrics().height());
+    for (QPushButton* button : {cmdTop_, cmdUp_, cmdDown_, cmdBottom_}) {
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+    return panel;
+}
+
+QWidget* frmDirSelection::BuildBottomRow() {
+    auto* cmdHelp = MakeButton("cmdHelp", tr("&Help"), tr("Opens the help file"), &frmDirSelection::Help);
+    cmdHelp->setShortcut(QKeySequence::HelpContents);
+    cmdHelp->setText(tr("&Help"));
+    auto* cmdOK =
+        MakeButton("cmdOK", tr("&OK"), tr("Keeps the list and closes the window"), &frmDirSelection::Use);
+    cmdOK->setDefault(true);
+
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(cmdHelp);
+    layout->addStretch();
+    layout->addWidget(cmdOK);
+    return row;
+}
+
+void frmDirSelection::OKPressed_MakeDirs() {
+    const std::vector<std::string> rows = Rows();
+    if (!rows.empty()) {
+        application_.settings.Directory = MultiFolderValue(rows);
+    }
+}
+
+void frmDirSelection::AddFolder(const std::string& folder) {
+    try {
+        if (!FolderExists(folder)) {
+            return;
+        }
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+        return;
+    }
+    const std::vector<std::string> rows = Rows();
+    const std::string upper = UpperCase(folder);
+    if (std::any_of(rows.begin(), rows.end(),
+                    [&](const std::string& row) { return UpperCase(row) == upper; })) {
+        return;
+    }
+    new QTreeWidgetItem(lvwDirs_, {ToQt(folder)});
+    lastFolder_ = folder;
+    lvwDirs_->resizeColumnToContents(0);
+    SelectRow(lvwDirs_->topLevelItemCount() - 1);
+    UpdateState();
+}
+
+void frmDirSelection::Add() {
+    const auto folder = dialogs_.ChooseFolder(
+        this, tr("Select a Directory"),
+        tr("Select a folder that you would like Tunedex to scan for MP3 files, and click OK."), lastFolder_);
+    if (folder) {
+        AddFolder(*folder);
+    }
+}
+
+void frmDirSelection::Remove() {
+    const int row = SelectedRow();
+    if (row < 0) {
+        return;
+    }
+    delete lvwDirs_->takeTopLevelItem(row);
+    SelectRow(std::min(row, lvwDirs_->topLevelItemCount() - 1));
+    UpdateState();
+}
+
+void frmDirSelection::Clear() {
+    if (lvwDirs_->topLevelItemCount() == 0) {
+        return;
+    }
+    const int answer = ShowMessage(ui_, "Are you sure you want\r\nto clear the list?", kOkCancelQuestion,
+                                   "Clear Directories?");
+    if (answer != kAnswerCancel) {
+        lvwDirs_->clear();
+        UpdateState();
+    }
+}
+
+void frmDirSelection::MoveTop() {
+    const int selected = SelectedRow();
+    if (selected <= 0) {
+        return;
+    }
+    for (int row = selected; row > 0; --row) {
+        ExchangeTexts(row, row - 1);
+    }
+    SelectRow(0);
+}
+
+void frmDirSelection::MoveUp() {
+    const int selected = SelectedRow();
+    if (selected > 0) {
+        ExchangeTexts(selected, selected - 1);
+        SelectRow(selected - 1);
+    }
+}
+
+void frmDirSelection::MoveDown() {
+    const int selected = SelectedRow();
+    if (selected >= 0 && selected < lvwDirs_->topLevelItemCount() - 1) {
+        ExchangeTexts(selected, selected + 1);
+        SelectRow(selected + 1);
+    }
+}
+
+void frmDirSelection::MoveBottom() {
+    const int selected = SelectedRow();
+    const int last = lvwDirs_->topLevelItemCount() - 1;
+    if (selected < 0 || selected == last) {
+        return;
+    }
+    for (int row = selected; row < last; ++row) {
+        ExchangeTexts(row, row + 1);
+    }
+    SelectRow(last);
+}
+
+void frmDirSelection::Help() {
+    OpenHelp(application_, ui_);
+}
+
+void frmDirSelection::Use() {
+    OKPressed_MakeDirs();
+    accept();
+}
+
+void frmDirSelection::done(int result) {
+    SaveWindowGeometry(*this);
+    QDialog::done(result);
+}
+
+std::vector<std::string> frmDirSelection::Rows() const {
+    std::vector<std::string> rows;
+    for (int i = 0; i < lvwDirs_->topLevelItemCount(); ++i) {
+        rows.push_back(FromQt(lvwDirs_->topLevelItem(i)->text(0)));
+    }
+    return rows;
+}
+
+int frmDirSelection::SelectedRow() const {
+    const QList<QTreeWidgetItem*> selected = lvwDirs_->selectedItems();
+    return selected.isEmpty() ? -1 : lvwDirs_->indexOfTopLevelItem(selected.first());
+}
+
+void frmDirSelection::SelectRow(int row) {
+    if (row >= 0 && row < lvwDirs_->topLevelItemCount()) {
+        lvwDirs_->setCurrentItem(lvwDirs_->topLevelItem(row));
+    }
+}
+
+void frmDirSelection::ExchangeTexts(int row, int otherRow) {
+    QTreeWidgetItem* one = lvwDirs_->topLevelItem(row);
+    QTreeWidgetItem* other = lvwDirs_->topLevelItem(otherRow);
+    const QString text = one->text(0);
+    one->setText(0, other->text(0));
+    other->setText(0, text);
+}
+
+void frmDirSelection::UpdateState() {
+    const int count = lvwDirs_->topLevelItemCount();
+    const int selected = SelectedRow();
+    lblNumOfDirs_->setText(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
+
+    const QWidget* focus = focusWidget();
+    cmdRemove_->setEnabled(selected >= 0);
+    cmdClear_->setEnabled(count > 0);
+    cmdTop_->setEnabled(selected > 0);
+    cmdUp_->setEnabled(selected > 0);
+    cmdDown_->setEnabled(selected >= 0 && selected < count - 1);
+    cmdBottom_->setEnabled(selected >= 0 && selected < count - 1);
+    if (focus != nullptr && !focus->isEnabled()) {
+        (count > 0 ? static_cast<QWidget*>(lvwDirs_) : cmdAdd_)->setFocus();
+    }
+}
+
+} // namespace tunedex

@@ -1,0 +1,447 @@
+#include "frmMain.h"
+
+#include "FolderDrop.h"
+#include "Functions.h"
+#include "MultiFolder.h"
+#include "PlaceholderMenu.h"
+#include "Product.h"
+#include "SettingsFuncs.h"
+#include "Startup.h"
+#include "TitleField.h"
+#include "Version.h"
+#include "WidgetHelpers.h"
+#include "frmAbout.h"
+#include "frmDirSelection.h"
+#include "frmTip.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kFieldWidthInCharacters = 44;
+
+constexpr auto kOutputFilters =
+    u"HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|Winamp Playlist (*.m3u)|*.m3u|";
+constexpr auto kSettingsFilters = u"Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*";
+
+QAction* AddItem(QMenu& menu, const char* name, const QString& text, const QString& description,
+                 const QKeySequence& shortcut = {}) {
+    QAction* action = menu.addAction(text);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setStatusTip(description);
+    action->setShortcut(shortcut);
+    return action;
+}
+
+// Copies a field's text into its setting whenever it changes.
+void Mirror(QLineEdit& field, std::string& setting) {
+    QObject::connect(&field, &QLineEdit::textChanged, &field,
+                     [&setting](const QString& text) { setting = FromQt(text); });
+}
+
+void ShowModal(QDialog* window) {
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->open();
+}
+
+} // namespace
+
+frmMain::frmMain(Application& application, UserInterface& ui, Dialogs& dialogs)
+    : application_(application), ui_(ui), dialogs_(dialogs) {
+    setObjectName(u"frmMain"_s);
+    setWindowTitle(ToQt(kProductTitle) + u" v"_s + ToQt(kVersionText));
+    BuildFields();
+    BuildMenus();
+    BuildPlaceholderMenu();
+
+    auto* centre = new QWidget;
+    auto* layout = new QVBoxLayout(centre);
+    layout->addWidget(BuildFolderGroup());
+    layout->addWidget(BuildOutputGroup());
+    layout->addWidget(BuildTitleGroup());
+    layout->addStretch(1);
+    layout->addWidget(BuildCommandRow());
+    setCentralWidget(centre);
+    OrderControls();
+    UpdateFolderControls();
+    RestoreWindowGeometry(*this);
+    txtInputDir_->setFocus();
+}
+
+void frmMain::BuildFields() {
+    txtInputDir_ =
+        MakeTextField(u"txtInputDir"_s, tr("Folder"),
+                      tr("The folder that is searched for MP3 files; a folder can be dropped here"));
+    chkMultipleDirs_ = new QCheckBox(tr("Search &multiple folders"));
+    NameControl(*chkMultipleDirs_, u"chkMultipleDirs"_s, tr("Search multiple folders"),
+                tr("Searches a list of folders instead of one"));
+    txtOutputFile_ =
+        MakeTextField(u"txtOutputFile"_s, tr("Output file"), tr("The file that the list is written to"));
+    txtWindowTitle_ =
+        new TitleField(u"txtWindowTitle"_s, tr("Window title"), tr("What the browser's window is called"));
+    txtPageTitle_ = new TitleField(u"txtPageTitle"_s, tr("Page title"), tr("The heading of each page"));
+    txtPageFooter_ =
+        new TitleField(u"txtPageFooter"_s, tr("Page footer"), tr("What stands at the end of each page"));
+
+    Settings& settings = application_.settings;
+    connect(txtInputDir_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (!chkMultipleDirs_->isChecked()) {
+            application_.settings.Directory = FromQt(text);
+        }
+    });
+    Mirror(*txtOutputFile_, settings.OutputFile);
+    Mirror(*txtWindowTitle_, settings.WindowTitle);
+    Mirror(*txtPageTitle_, settings.PageTitle);
+    Mirror(*txtPageFooter_, settings.PageFooter);
+    for (QLineEdit* field :
+         {txtInputDir_, txtOutputFile_, static_cast<QLineEdit*>(txtWindowTitle_),
+          static_cast<QLineEdit*>(txtPageTitle_), static_cast<QLineEdit*>(txtPageFooter_)}) {
+        field->setMinimumWidth(fontMetrics().averageCharWidth() * kFieldWidthInCharacters);
+        connect(field, &QLineEdit::returnPressed, this, &frmMain::CreateListRequested);
+    }
+    connect(chkMultipleDirs_, &QCheckBox::clicked, this, &frmMain::MultipleDirsClicked);
+}
+
+void frmMain::BuildMenus() {
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->setObjectName(u"mnuFile"_s);
+    connect(AddItem(*file, "itmFileOpenSettings", tr("&Open Settings..."), tr("Loads a settings file"),
+                    QKeySequence::Open),
+            &QAction::triggered, this, &frmMain::OpenSettings);
+    connect(AddItem(*file, "itmFileSaveSettings", tr("&Save Settings"), tr("Saves the settings"),
+                    QKeySequence::Save),
+            &QAction::triggered, this, &frmMain::SaveSettings);
+    connect(AddItem(*file, "itmFileSaveSettingsAs", tr("Save Settings &As..."),
+                    tr("Saves the settings under another name"),
+                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)),
+            &QAction::triggered, this, &frmMain::SaveSettingsAs);
+    file->addSeparator();
+    connect(AddItem(*file, "itmFileExit", tr("E&xit"), tr("Ends the program"),
+                    QKeySequence(Qt::CTRL | Qt::Key_Q)),
+            &QAction::triggered, this, &QWidget::close);
+
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->setObjectName(u"mnuHelp"_s);
+    connect(AddItem(*help, "itmHelpTopics", tr("&Help Topics"), tr("Opens the help file"),
+                    QKeySequence::HelpContents),
+            &QAction::triggered, this, &frmMain::ShowHelp);
+    connect(AddItem(*help, "itmTipOfTheDay", tr("&Tip of the Day..."), tr("Shows a tip")),
+            &QAction::triggered, this, &frmMain::ShowTipOfTheDay);
+    help->addSeparator();
+    connect(AddItem(*help, "itmAbout", tr("&About Tunedex..."), tr("Shows version and statistics")),
+            &QAction::triggered, this, &frmMain::ShowAbout);
+}
+
+void frmMain::BuildPlaceholderMenu() {
+    mnuPlaceholders_ = new QMenu(tr("Placeholders"), this);
+    mnuPlaceholders_->setObjectName(u"mnuPlaceholders"_s);
+    for (std::size_t i = 0; i < kTitlePlaceholders.size(); ++i) {
+        const QString placeholder = ToQt(kTitlePlaceholders[i]);
+        QAction* action = mnuPlaceholders_->addAction(placeholder + u" - "_s + ToQt(kPlaceholderMeanings[i]));
+        action->setObjectName(u"itmPlaceholder"_s);
+        connect(action, &QAction::triggered, this,
+                [this, placeholder] { placeholderTarget_->InsertPlaceholder(placeholder); });
+    }
+}
+
+QPushButton* frmMain::MakeButton(const char* name, const QString& caption, const QString& accessibleName,
+                                 const QString& description) {
+    auto* button = new QPushButton(caption);
+    NameControl(*button, QString::fromLatin1(name), accessibleName, description);
+    return button;
+}
+
+QGroupBox* frmMain::BuildFolderGroup() {
+    lblInputDir_ = MakeLabelFor(*txtInputDir_, tr("Fol&der:"));
+    cmdSelectDir_ = MakeButton("cmdSelectDir", tr("&Browse..."), tr("Browse for the folder"),
+                               tr("Lets you pick the folder from your disk"));
+    cmdSelectDirs_ = MakeButton("cmdSelectDirs", tr("Folder &List..."), tr("Folder list"),
+                                tr("Opens the list of the folders that are searched"));
+    lblFolderCount_ = new QLabel;
+    NameControl(*lblFolderCount_, u"lblFolderCount"_s, QString(), QString());
+    connect(cmdSelectDir_, &QPushButton::clicked, this, &frmMain::BrowseFolder);
+    connect(cmdSelectDirs_, &QPushButton::clicked, this, &frmMain::ChooseFolders);
+
+    auto* several = new QHBoxLayout;
+    several->addWidget(chkMultipleDirs_);
+    several->addStretch();
+    several->addWidget(lblFolderCount_);
+    auto* group = new QGroupBox(tr("Music"));
+    auto* grid = new QGridLayout(group);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(lblInputDir_, 0, 0);
+    grid->addWidget(txtInputDir_, 0, 1);
+    grid->addWidget(cmdSelectDir_, 0, 2);
+    grid->addLayout(several, 1, 1);
+    grid->addWidget(cmdSelectDirs_, 1, 2);
+
+    txtInputDir_->setAcceptDrops(false); // it would take a folder's address as a text
+    new FolderDrop(*group, [this](const std::vector<std::string>& folders) { TakeDroppedFolders(folders); });
+    return group;
+}
+
+QGroupBox* frmMain::BuildOutputGroup() {
+    cmdSelectOutputFile_ =
+        MakeButton("cmdSelectOutputFile", tr("Bro&wse..."), tr("Browse for the output file"),
+                   tr("Lets you pick the folder and the name of the list"));
+    connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
+    auto* hint = new QLabel(tr("Ending in .htm: a web page; in .txt: plain text; in .m3u: a playlist."));
+    hint->setObjectName(u"lblOutputHint"_s);
+    hint->setWordWrap(true);
+
+    auto* group = new QGroupBox(tr("List"));
+    auto* grid = new QGridLayout(group);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(MakeLabelFor(*txtOutputFile_, tr("&Output file:")), 0, 0);
+    grid->addWidget(txtOutputFile_, 0, 1);
+    grid->addWidget(cmdSelectOutputFile_, 0, 2);
+    grid->addWidget(hint, 1, 1, 1, 2);
+    return group;
+}
+
+QGroupBox* frmMain::BuildTitleGroup() {
+    const QString description =
+        tr("Opens the menu of placeholders, which the list replaces by date, counts and sizes");
+    cmdWindowTitlePlaceHolders_ = MakeButton("cmdWindowTitlePlaceHolders", tr("&Insert..."),
+                                             tr("Placeholders for the window title"), description);
+    cmdPageTitlePlaceHolders_ = MakeButton("cmdPageTitlePlaceHolders", tr("I&nsert..."),
+                                           tr("Placeholders for the page title"), description);
+    cmdPageFooterPlaceHolders_ = MakeButton("cmdPageFooterPlaceHolders", tr("Ins&ert..."),
+                                            tr("Placeholders for the page footer"), description);
+
+    auto* group = new QGroupBox(tr("Titles of web pages"));
+    auto* grid = new QGridLayout(group);
+    grid->setColumnStretch(1, 1);
+    const auto addRow = [&](int row, const QString& caption, TitleField* field, QPushButton* button) {
+        grid->addWidget(MakeLabelFor(*field, caption), row, 0);
+        grid->addWidget(field, row, 1);
+        grid->addWidget(button, row, 2);
+        connect(button, &QPushButton::clicked, this,
+                [this, field, button] { OpenPlaceholderMenu(*field, *button); });
+    };
+    addRow(0, tr("Window &title:"), txtWindowTitle_, cmdWindowTitlePlaceHolders_);
+    addRow(1, tr("&Page title:"), txtPageTitle_, cmdPageTitlePlaceHolders_);
+    addRow(2, tr("Page foote&r:"), txtPageFooter_, cmdPageFooterPlaceHolders_);
+    return group;
+}
+
+QWidget* frmMain::BuildCommandRow() {
+    cmdOptions_ =
+        MakeButton("cmdOptions", tr("Option&s..."), tr("Options"), tr("What is listed, and how it looks"));
+    cmdAbout_ = MakeButton("cmdAbout", tr("&About..."), tr("About Tunedex"), tr("Version and statistics"));
+    cmdQuit_ = MakeButton("cmdQuit", tr("&Quit"), tr("Quit"), tr("Ends the program"));
+    cmdCreateList_ = MakeButton("cmdCreateList", tr("&Create List"), tr("Create list"),
+                                tr("Searches the folders and writes the list"));
+    QFont bold = cmdCreateList_->font();
+    bold.setBold(true);
+    cmdCreateList_->setFont(bold);
+    connect(cmdOptions_, &QPushButton::clicked, this, &frmMain::OptionsRequested);
+    connect(cmdAbout_, &QPushButton::clicked, this, &frmMain::ShowAbout);
+    connect(cmdQuit_, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmdCreateList_, &QPushButton::clicked, this, &frmMain::CreateListRequested);
+
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(cmdOptions_);
+    layout->addWidget(cmdAbout_);
+    layout->addStretch();
+    layout->addWidget(cmdQuit_);
+    layout->addWidget(cmdCreateList_);
+    return row;
+}
+
+void frmMain::OrderControls() {
+    SetTabOrders({txtInputDir_, cmdSelectDir_, chkMultipleDirs_, cmdSelectDirs_, txtOutputFile_, cmdSelectOutputFile_,
+                  txtWindowTitle_, cmdWindowTitlePlaceHolders_, txtPageTitle_, cmdPageTitlePlaceHolders_, txtPageFooter_,
+                  cmdPageFooterPlaceHolders_, cmdCreateList_, cmdOptions_, cmdAbout_, cmdQuit_});
+}
+
+MainFields frmMain::Fields() const {
+    MainFields fields;
+    fields.multipleFolders = chkMultipleDirs_->isChecked();
+    fields.inputFolder = FromQt(txtInputDir_->text());
+    fields.outputFile = FromQt(txtOutputFile_->text());
+    fields.windowTitle = FromQt(txtWindowTitle_->text());
+    fields.pageTitle = FromQt(txtPageTitle_->text());
+    fields.pageFooter = FromQt(txtPageFooter_->text());
+    return fields;
+}
+
+void frmMain::FillFields(const MainFields& fields) {
+    chkMultipleDirs_->setChecked(fields.multipleFolders);
+    if (!fields.multipleFolders) {
+        txtInputDir_->setText(ToQt(fields.inputFolder));
+    }
+    txtOutputFile_->setText(ToQt(fields.outputFile));
+    txtWindowTitle_->setText(ToQt(fields.windowTitle));
+    txtPageTitle_->setText(ToQt(fields.pageTitle));
+    txtPageFooter_->setText(ToQt(fields.pageFooter));
+    UpdateFolderControls();
+}
+
+QLineEdit& frmMain::Field(MainField field) const {
+    return field == MainField::InputFolder ? *txtInputDir_ : *txtOutputFile_;
+}
+
+void frmMain::MultipleDirsClicked() {
+    application_.settings.Directory =
+        chkMultipleDirs_->isChecked() ? std::string(kMultiFolderMark) : FromQt(txtInputDir_->text());
+    UpdateFolderControls();
+}
+
+void frmMain::UpdateFolderControls() {
+    const bool several = chkMultipleDirs_->isChecked();
+    lblInputDir_->setEnabled(!several);
+    txtInputDir_->setEnabled(!several);
+    cmdSelectDir_->setEnabled(!several);
+    cmdSelectDirs_->setEnabled(several);
+
+    const std::size_t count = several ? FoldersOf(application_.settings.Directory).size() : 0;
+    const QString counted = count == 1 ? tr("1 folder chosen") : tr("%1 folders chosen").arg(count);
+    lblFolderCount_->setText(several ? counted : QString());
+}
+
+void frmMain::BrowseFolder() {
+    const auto folder = dialogs_.ChooseFolder(
+        this, tr("Select a Directory"),
+        tr("Select the folder that you would like Tunedex to scan for MP3 files, and click OK."),
+        FromQt(txtInputDir_->text()));
+    if (folder) {
+        txtInputDir_->setText(ToQt(*folder));
+    }
+}
+
+void frmMain::ChooseFolders() {
+    auto* window = new frmDirSelection(application_, ui_, dialogs_, this);
+    connect(window, &QDialog::finished, this, &frmMain::UpdateFolderControls);
+    ShowModal(window);
+}
+
+void frmMain::TakeDroppedFolders(const std::vector<std::string>& folders) {
+    if (!chkMultipleDirs_->isChecked() && folders.size() == 1) {
+        txtInputDir_->setText(ToQt(folders.front()));
+        return;
+    }
+    if (!chkMultipleDirs_->isChecked()) {
+        chkMultipleDirs_->setChecked(true);
+        MultipleDirsClicked();
+    }
+    // The list's own rules decide what is taken.
+    frmDirSelection list(application_, ui_, dialogs_, this);
+    for (const std::string& folder : folders) {
+        list.AddFolder(folder);
+    }
+    list.OKPressed_MakeDirs();
+    UpdateFolderControls();
+}
+
+void frmMain::BrowseOutputFile() {
+    const auto file =
+        dialogs_.ChooseFile(this, {tr("Select the Output File"), QString::fromUtf16(kOutputFilters),
+                                   FromQt(txtOutputFile_->text()), true});
+    if (file) {
+        txtOutputFile_->setText(ToQt(*file));
+    }
+}
+
+void frmMain::OpenPlaceholderMenu(TitleField& field, QPushButton& button) {
+    placeholderTarget_ = &field;
+    mnuPlaceholders_->popup(button.mapToGlobal(QPoint(0, button.height())));
+    mnuPlaceholders_->setActiveAction(mnuPlaceholders_->actions().constFirst());
+}
+
+void frmMain::OpenSettings() {
+    const auto path = dialogs_.ChooseFile(
+        this, {tr("Open Settings"), QString::fromUtf16(kSettingsFilters), settingsPath_, false});
+    if (!path) {
+        return;
+    }
+    Guarded([&] {
+        const LoadOutcome outcome =
+            LoadSettings(application_.settings, *path, application_.programFolder, application_.faults);
+        if (outcome == LoadOutcome::Missing) {
+            throw RunTimeError(ErrorNumber::FileNotFound);
+        }
+        settingsPath_ = *path;
+        ui_.FillFields(FieldsFor(application_.settings));
+    });
+}
+
+void frmMain::SaveSettings() {
+    SaveSettingsTo(settingsPath_);
+}
+
+void frmMain::SaveSettingsAs() {
+    const auto path = dialogs_.ChooseFile(
+        this, {tr("Save Settings As"), QString::fromUtf16(kSettingsFilters), settingsPath_, true});
+    if (path) {
+        SaveSettingsTo(*path);
+    }
+}
+
+void frmMain::SaveSettingsTo(const std::string& path) {
+    Guarded([&] {
+        ui_.TakeControls(application_.settings);
+        tunedex::SaveSettings(application_.settings, path, application_.programFolder,
+                              StampNow(application_));
+        settingsPath_ = path.empty() ? path : SettingsPath(path, application_.programFolder);
+    });
+}
+
+void frmMain::Guarded(const std::function<void()>& command) {
+    try {
+        command();
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+    }
+}
+
+void frmMain::ShowHelp() {
+    OpenHelp(application_, ui_);
+}
+
+void frmMain::ShowTipOfTheDay() {
+    auto* window = new frmTip(application_, ui_, this);
+    window->LoadTips();
+    window->DoRandomTip();
+    ShowModal(window);
+}
+
+void frmMain::ShowAbout() {
+    ShowModal(new frmAbout(application_, ui_, this));
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!isEnabled()) { // a run, or what it has left open, comes first
+        event->ignore();
+        return;
+    }
+    if (application_.settings.ConfirmQuit) {
+        const int answer =
+            ShowMessage(ui_, "Do you really want\r\nto quit Tunedex?", kOkCancelQuestion, "Quit?");
+        if (answer == kAnswerCancel) {
+            event->ignore();
+            return;
+        }
+    }
+    SaveWindowGeometry(*this);
+    event->accept();
+    emit Closed();
+}
+
+} // namespace tunedex

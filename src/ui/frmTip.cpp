@@ -1,0 +1,121 @@
+#include "frmTip.h"
+
+#include "FileSystem.h"
+#include "Functions.h"
+#include "Numbers.h"
+#include "Text.h"
+#include "WidgetHelpers.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr std::string_view kTipsOnStartup = "TipsOnStartup";
+
+// Room for a few lines of text at a comfortable width.
+constexpr int kTipWidthInCharacters = 56;
+constexpr int kTipHeightInLines = 7;
+
+} // namespace
+
+bool TipsOnStartup(const Registry& registry) {
+    const std::string text = registry.Read(kTipsOnStartup);
+    return LeadingNumber(text) != 0 || UpperCase(TrimBlanks(text)) == "TRUE"; // so it was written elsewhere
+}
+
+frmTip::frmTip(Application& application, UserInterface& ui, QWidget* parent)
+    : QDialog(parent), application_(application), ui_(ui), lblTipText_(new QLabel),
+      chkLoadTipsAtStartup_(new QCheckBox(tr("&Show tips at start-up"))) {
+    setObjectName(u"frmTip"_s);
+    setWindowTitle(tr("Tip of the Day"));
+    NameControl(*chkLoadTipsAtStartup_, u"chkLoadTipsAtStartup"_s, tr("Show tips at start-up"),
+                tr("Whether a tip is shown each time the program starts"));
+
+    auto* cmdNextTip = new QPushButton(tr("&Next Tip"));
+    NameControl(*cmdNextTip, u"cmdNextTip"_s, tr("Next tip"), tr("Shows the tip that follows"));
+    connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::DoNextTip);
+    auto* cmdRandomTip = new QPushButton(tr("&Random Tip"));
+    NameControl(*cmdRandomTip, u"cmdRandomTip"_s, tr("Random tip"), tr("Shows any of the tips"));
+    connect(cmdRandomTip, &QPushButton::clicked, this, &frmTip::DoRandomTip);
+    auto* cmdOK = new QPushButton(tr("&OK"));
+    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"),
+                tr("Keeps the choice for the next start and closes the window"));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdNextTip);
+    buttons->addWidget(cmdRandomTip);
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(MakeTipPanel(), 1);
+    layout->addWidget(chkLoadTipsAtStartup_);
+    layout->addLayout(buttons);
+    SetTabOrders({chkLoadTipsAtStartup_, cmdNextTip, cmdRandomTip, cmdOK});
+    cmdOK->setFocus();
+
+    const bool atStartup = TipsOnStartup(application_.registry);
+    chkLoadTipsAtStartup_->setChecked(atStartup);
+    if (atStartup) {
+        LoadTips();
+        DoNextTip();
+    }
+}
+
+QWidget* frmTip::MakeTipPanel() {
+    NameControl(*lblTipText_, u"lblTipText"_s, QString(), QString());
+    lblTipText_->setWordWrap(true);
+    lblTipText_->setTextFormat(Qt::PlainText);
+    lblTipText_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblTipText_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblTipText_->setMargin(fontMetrics().height() / 2);
+    lblTipText_->setBackgroundRole(QPalette::Base);
+    lblTipText_->setForegroundRole(QPalette::Text);
+    lblTipText_->setAutoFillBackground(true);
+
+    auto* panel = new QScrollArea; // for the tip that is longer than the window
+    NameControl(*panel, u"TipPanel"_s, tr("Tip"), QString());
+    panel->setWidgetResizable(true);
+    panel->setWidget(lblTipText_);
+    panel->setMinimumSize(fontMetrics().averageCharWidth() * kTipWidthInCharacters,
+                          fontMetrics().lineSpacing() * kTipHeightInLines);
+    return panel;
+}
+
+void frmTip::LoadTips() {
+    try {
+        tips_.Load(TipsPath(application_.registry, RunningProgramFolder(), application_.programFolder));
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+    }
+}
+
+void frmTip::DoNextTip() {
+    tips_.Next();
+    DisplayCurrentTip();
+}
+
+void frmTip::DoRandomTip() {
+    tips_.PickRandom(std::uniform_real_distribution<double>(0, 1)(generator_));
+    DisplayCurrentTip();
+}
+
+void frmTip::DisplayCurrentTip() {
+    lblTipText_->setText(ToQtDisplay(tips_.Current()));
+}
+
+void frmTip::accept() {
+    application_.registry.Write(kTipsOnStartup, chkLoadTipsAtStartup_->isChecked() ? "1" : "0");
+    QDialog::accept();
+}
+
+} // namespace tunedex

@@ -1,0 +1,45 @@
+// The tip of the day.
+#pragma once
+
+#include "Application.h"
+#include "Tips.h"
+#include "UserInterface.h"
+
+#include <QDialog>
+
+#include <random>
+
+class QCheckBox;
+class QLabel;
+
+namespace tunedex {
+
+// Whether the window is to be shown when the program starts.
+bool TipsOnStartup(const Registry& registry);
+
+class frmTip final : public QDialog {
+    Q_OBJECT
+
+  public:
+    // Loads the tips and shows the first one when tips are wanted at start-up; shows none otherwise.
+    frmTip(Application& application, UserInterface& ui, QWidget* parent);
+
+    void LoadTips();
+    void DoNextTip();
+    void DoRandomTip();
+
+    void accept() override;
+
+  private:
+    QWidget* MakeTipPanel();
+    void DisplayCurrentTip();
+
+    Application& application_;
+    UserInterface& ui_;
+    Tips tips_;
+    std::mt19937 generator_{std::random_device{}()};
+    QLabel* lblTipText_;
+    QCheckBox* chkLoadTipsAtStartup_;
+};
+
+} // namespace tunedex
