@@ -8,7 +8,8 @@ namespace tunedex {
 
 Choosers QtChoosers() {
     Choosers choosers;
-    choosers.text = [](QWidget* parent, const QString& title, const QString& prompt) -> std::optional<QString> {
+    choosers.text = [](QWidget* parent, const QString& title,
+                       const QString& prompt) -> std::optional<QString> {
         bool accepted = false;
         QString answer = QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, {}, &accepted);
         return accepted ? std::optional(std::move(answer)) : std::nullopt;

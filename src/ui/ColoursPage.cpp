@@ -37,7 +37,8 @@ const ColourTexts& TextsOf(std::size_t index) {
     return texts.at(index);
 }
 
-// Hexadecimal digits are kept in upper case, as settings hold them; what stood in the settings already is left alone.
+// Hexadecimal digits are kept in upper case, as settings hold them; what stood in the settings already is
+// left alone.
 void UpperCaseTyping(QLineEdit& box) {
     const QString text = box.text();
     if (ColourFromText(text) && text != text.toUpper()) {
@@ -56,8 +57,9 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
                        u"Alternate between the two colours below for table cells. Aids readability."_s)),
       chkColoursCSS_(MakeCheckBox(u"chkColoursCSS"_s, u"Use CSS fo&r text colours."_s,
                                   u"Write the colours into the page's style sheet"_s)),
-      chkColoursFontTags_(MakeCheckBox(u"chkColoursFontTags"_s, u"Use FONT ta&gs for text colours."_s,
-                                       u"Write the colours into the markup, for readers without style sheets"_s)) {
+      chkColoursFontTags_(
+          MakeCheckBox(u"chkColoursFontTags"_s, u"Use FONT ta&gs for text colours."_s,
+                       u"Write the colours into the markup, for readers without style sheets"_s)) {
     auto* grid = new QGridLayout;
     grid->addWidget(new QLabel(u"Text"_s), 0, 1);
     grid->addWidget(new QLabel(u"Background"_s), 0, 4);
@@ -86,14 +88,16 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
 void ColoursPage::BuildField(std::size_t index) {
     const int number = static_cast<int>(index);
     Field& field = fields_.at(index);
-    field.txtColour = MakeTextField(ArrayName(u"txtColour"_s, number), TextsOf(index).name, TextsOf(index).toolTip);
+    field.txtColour =
+        MakeTextField(ArrayName(u"txtColour"_s, number), TextsOf(index).name, TextsOf(index).toolTip);
     field.txtColour->setPlaceholderText(u"RRGGBB"_s);
     field.txtColour->setMinimumWidth(field.txtColour->fontMetrics().horizontalAdvance(u"CCCCCCCC"_s) + 12);
     field.cmdColourSelector = new ColourButton;
     NameControl(*field.cmdColourSelector, ArrayName(u"cmdColourSelector"_s, number),
                 TextsOf(index).name + u": select colour"_s, u"Select a colour from the palette"_s);
 
-    connect(field.txtColour, &QLineEdit::textEdited, this, [this, index] { UpperCaseTyping(*fields_.at(index).txtColour); });
+    connect(field.txtColour, &QLineEdit::textEdited, this,
+            [this, index] { UpperCaseTyping(*fields_.at(index).txtColour); });
     connect(field.txtColour, &QLineEdit::textChanged, this, [this, index](const QString& text) {
         fields_.at(index).cmdColourSelector->ShowColour(ColourFromText(text));
         emit Edited();
@@ -101,7 +105,8 @@ void ColoursPage::BuildField(std::size_t index) {
     connect(field.cmdColourSelector, &QPushButton::clicked, this, [this, index] { SelectColour(index); });
 }
 
-void ColoursPage::AddRow(QGridLayout& grid, int row, const QString& label, std::size_t text, bool background) {
+void ColoursPage::AddRow(QGridLayout& grid, int row, const QString& label, std::size_t text,
+                         bool background) {
     BuildField(text);
     grid.addWidget(MakeLabelFor(*fields_.at(text).txtColour, label), row, 0);
     grid.addWidget(fields_.at(text).txtColour, row, 1);

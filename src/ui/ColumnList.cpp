@@ -14,7 +14,8 @@ namespace {
 
 constexpr std::string_view kColumnSeparator = "|";
 
-// What a drag carries. Only this process can make one, so a column of another program's window is never taken.
+// What a drag carries. Only this process can make one, so a column of another program's window is never
+// taken.
 class ColumnMimeData : public QMimeData {
     Q_OBJECT
 

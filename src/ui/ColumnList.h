@@ -1,4 +1,5 @@
-// A list of column names in display order, from which columns can be dragged to a place in a list of the same window.
+// A list of column names in display order, from which columns can be dragged to a place in a list of the same
+// window.
 #pragma once
 
 #include <QListWidget>
@@ -20,13 +21,14 @@ class ColumnList : public QListWidget {
 
     bool HoldsColumn(std::string_view name) const;
 
-    // -1 when no column is selected. (A list that got the focus has a current row, but that row need not be selected.)
+    // -1 when no column is selected. (A list that got the focus has a current row, but that row need not be
+    // selected.)
     int SelectedRow() const;
     void SelectRow(int row);
 
   signals:
-    // A column of `source` was dropped here, in front of the item that is at `row` now; the end is `row` = count().
-    // Nothing has moved yet.
+    // A column of `source` was dropped here, in front of the item that is at `row` now; the end is `row` =
+    // count(). Nothing has moved yet.
     void ColumnDropped(tunedex::ColumnList* source, int sourceRow, int row);
 
   protected:
@@ -39,8 +41,8 @@ class ColumnList : public QListWidget {
     int DropRow(const QDropEvent& event) const;
 };
 
-// Moves one column within a list or from one list to another and selects it there. `targetRow` is counted before the
-// move, as ColumnDropped counts it.
+// Moves one column within a list or from one list to another and selects it there. `targetRow` is counted
+// before the move, as ColumnDropped counts it.
 void MoveColumn(ColumnList& source, int sourceRow, ColumnList& target, int targetRow);
 
 } // namespace tunedex

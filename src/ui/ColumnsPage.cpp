@@ -40,8 +40,9 @@ ColumnsPage::ColumnsPage(QWidget* parent)
     : QFrame(parent), lstInactiveColumns_(new ColumnList), lstActiveColumns_(new ColumnList) {
     NameControl(*lstInactiveColumns_, u"lstInactiveColumns"_s, u"Hidden columns"_s,
                 u"Columns that the listing leaves out. Double-click or drag one to show it."_s);
-    NameControl(*lstActiveColumns_, u"lstActiveColumns"_s, u"Shown columns, in display order"_s,
-                u"Double-click a column to hide it. Drag it, or press Alt+Up or Alt+Down, to change its place."_s);
+    NameControl(
+        *lstActiveColumns_, u"lstActiveColumns"_s, u"Shown columns, in display order"_s,
+        u"Double-click a column to hide it. Drag it, or press Alt+Up or Alt+Down, to change its place."_s);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(BuildLists(), 1);
     layout->addLayout(BuildMerges());
@@ -49,13 +50,15 @@ ColumnsPage::ColumnsPage(QWidget* parent)
 
     for (ColumnList* list : {lstInactiveColumns_, lstActiveColumns_}) {
         connect(list, &QListWidget::itemSelectionChanged, this, &ColumnsPage::EnableCommands);
-        connect(list, &ColumnList::ColumnDropped, this,
-                [this, list](ColumnList* source, int sourceRow, int row) { Drop(source, sourceRow, list, row); });
+        connect(
+            list, &ColumnList::ColumnDropped, this,
+            [this, list](ColumnList* source, int sourceRow, int row) { Drop(source, sourceRow, list, row); });
     }
     connect(lstInactiveColumns_, &QListWidget::itemDoubleClicked, cmdActive_, &QPushButton::click);
     connect(lstActiveColumns_, &QListWidget::itemDoubleClicked, cmdInactive_, &QPushButton::click);
     const auto shortcut = [this](Qt::Key key, QPushButton* command) {
-        auto* keys = new QShortcut(QKeySequence(Qt::ALT | key), lstActiveColumns_, nullptr, nullptr, Qt::WidgetShortcut);
+        auto* keys = new QShortcut(QKeySequence(Qt::ALT | key), lstActiveColumns_, nullptr, nullptr,
+                                   Qt::WidgetShortcut);
         connect(keys, &QShortcut::activated, command, &QPushButton::click);
     };
     shortcut(Qt::Key_Up, cmdUp_);
@@ -71,16 +74,19 @@ QLayout* ColumnsPage::BuildLists() {
 }
 
 QLayout* ColumnsPage::BuildMoves() {
-    cmdActive_ = MakeButton(u"cmdActive"_s, u"&Show \u203A"_s, u"Show the selected hidden column, as the last one"_s);
+    cmdActive_ =
+        MakeButton(u"cmdActive"_s, u"&Show \u203A"_s, u"Show the selected hidden column, as the last one"_s);
     cmdInactive_ = MakeButton(u"cmdInactive"_s, u"\u2039 Hid&e"_s, u"Hide the selected shown column"_s);
     cmdAllActive_ = MakeButton(u"cmdAllActive"_s, u"Show &all \u00BB"_s, u"Show every column"_s);
     cmdAllInactive_ = MakeButton(u"cmdAllInactive"_s, u"\u00AB H&ide all"_s, u"Hide every column"_s);
     cmdTop_ = MakeButton(u"cmdTop"_s, u"To&p"_s, u"Make the selected shown column the first"_s);
     cmdUp_ = MakeButton(u"cmdUp"_s, u"&Up"_s, u"Move the selected shown column one place up (Alt+Up)"_s);
-    cmdDown_ = MakeButton(u"cmdDown"_s, u"Do&wn"_s, u"Move the selected shown column one place down (Alt+Down)"_s);
+    cmdDown_ =
+        MakeButton(u"cmdDown"_s, u"Do&wn"_s, u"Move the selected shown column one place down (Alt+Down)"_s);
     cmdBottom_ = MakeButton(u"cmdBottom"_s, u"&Bottom"_s, u"Make the selected shown column the last"_s);
 
-    connect(cmdActive_, &QPushButton::clicked, this, [this] { MoveSelected(*lstInactiveColumns_, *lstActiveColumns_); });
+    connect(cmdActive_, &QPushButton::clicked, this,
+            [this] { MoveSelected(*lstInactiveColumns_, *lstActiveColumns_); });
     connect(cmdInactive_, &QPushButton::clicked, this,
             [this] { MoveSelected(*lstActiveColumns_, *lstInactiveColumns_); });
     connect(cmdAllActive_, &QPushButton::clicked, this, [this] {
@@ -110,11 +116,14 @@ QLayout* ColumnsPage::BuildMoves() {
 }
 
 QLayout* ColumnsPage::BuildMerges() {
-    chkArtistTitleMerge_ = MakeCheckBox(u"chkArtistTitleMerge"_s, u"Mer&ge Artist and Title into one column"_s,
-                                        u"Shows \u201CArtist: Title\u201D. Both columns must be shown."_s);
-    chkAlbumMerge_ = MakeCheckBox(u"chkAlbumMerge"_s, u"Ta&ke Album into that column, too"_s,
-                                  u"Shows \u201CArtist (Album): Title\u201D. Counts only where artist and title are merged."_s);
-    chkTheSubstitution_ = MakeCheckBox(u"chkTheSubstitution"_s, u"Displa&y a leading \u201CThe\u201D behind the artist's name"_s,
+    chkArtistTitleMerge_ =
+        MakeCheckBox(u"chkArtistTitleMerge"_s, u"Mer&ge Artist and Title into one column"_s,
+                     u"Shows \u201CArtist: Title\u201D. Both columns must be shown."_s);
+    chkAlbumMerge_ = MakeCheckBox(
+        u"chkAlbumMerge"_s, u"Ta&ke Album into that column, too"_s,
+        u"Shows \u201CArtist (Album): Title\u201D. Counts only where artist and title are merged."_s);
+    chkTheSubstitution_ = MakeCheckBox(u"chkTheSubstitution"_s,
+                                       u"Displa&y a leading \u201CThe\u201D behind the artist's name"_s,
                                        u"So that artists are sorted by the word that matters"_s);
     auto* layout = new QVBoxLayout;
     for (QCheckBox* box : {chkArtistTitleMerge_, chkAlbumMerge_, chkTheSubstitution_}) {
@@ -125,9 +134,19 @@ QLayout* ColumnsPage::BuildMerges() {
 }
 
 void ColumnsPage::SetTabOrder() {
-    const std::initializer_list<QWidget*> order = {
-        lstInactiveColumns_, cmdActive_, cmdInactive_, cmdAllActive_, cmdAllInactive_, lstActiveColumns_, cmdTop_, cmdUp_,
-        cmdDown_, cmdBottom_, chkArtistTitleMerge_, chkAlbumMerge_, chkTheSubstitution_};
+    const std::initializer_list<QWidget*> order = {lstInactiveColumns_,
+                                                   cmdActive_,
+                                                   cmdInactive_,
+                                                   cmdAllActive_,
+                                                   cmdAllInactive_,
+                                                   lstActiveColumns_,
+                                                   cmdTop_,
+                                                   cmdUp_,
+                                                   cmdDown_,
+                                                   cmdBottom_,
+                                                   chkArtistTitleMerge_,
+                                                   chkAlbumMerge_,
+                                                   chkTheSubstitution_};
     for (const auto* next = order.begin() + 1; next != order.end(); ++next) {
         setTabOrder(*(next - 1), *next);
     }
@@ -216,7 +235,8 @@ void ColumnsPage::EnableCommands() {
     EnableCommand(*cmdDown_, selected >= 0 && selected < last, *lstActiveColumns_);
     EnableCommand(*cmdBottom_, selected >= 0 && selected < last, *lstActiveColumns_);
 
-    const bool mergeable = lstActiveColumns_->HoldsColumn("Artist") && lstActiveColumns_->HoldsColumn("Title");
+    const bool mergeable =
+        lstActiveColumns_->HoldsColumn("Artist") && lstActiveColumns_->HoldsColumn("Title");
     chkArtistTitleMerge_->setEnabled(mergeable);
     chkAlbumMerge_->setEnabled(mergeable);
 }

@@ -1,4 +1,5 @@
-// The layout editor's page of columns: which are shown, in which order, and how artist, album and title are merged.
+// The layout editor's page of columns: which are shown, in which order, and how artist, album and title are
+// merged.
 #pragma once
 
 #include "Settings.h"

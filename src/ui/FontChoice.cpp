@@ -30,7 +30,8 @@ QString WithoutQuotes(QString face) {
     return face.remove(u'"').remove(u'\'');
 }
 
-// A family's name needs quotes in CSS unless it is words. Single ones, as the list stands inside an attribute as well.
+// A family's name needs quotes in CSS unless it is words. Single ones, as the list stands inside an attribute
+// as well.
 QString FaceOf(const QString& family) {
     static const QRegularExpression words(u"^[A-Za-z_][A-Za-z0-9_-]*( [A-Za-z_][A-Za-z0-9_-]*)*$"_s);
     return words.match(family).hasMatch() ? family : u'\'' + WithoutQuotes(family) + u'\'';
@@ -72,7 +73,8 @@ ListingFont WithChosenFont(const ListingFont& font, const QFont& chosen) {
     const QString family = chosen.family();
     QStringList faces{FaceOf(family)};
     QStringList others = Faces(font.faces);
-    // The face that was first was the choice before this one; generic families and the rest are its stand-ins.
+    // The face that was first was the choice before this one; generic families and the rest are its
+    // stand-ins.
     if (others.size() > 1) {
         others.removeFirst();
     }

@@ -1,4 +1,5 @@
-// Between a font of the listing, a list of faces and a size from 1 to 7, and a font as the font chooser knows it.
+// Between a font of the listing, a list of faces and a size from 1 to 7, and a font as the font chooser knows
+// it.
 #pragma once
 
 #include <QFont>
@@ -16,8 +17,8 @@ struct ListingFont {
 // What the chooser shows first.
 QFont FontOf(const ListingFont& font);
 
-// The listing's font after the user chose `chosen` in place of `font`: the family leads the list, the other faces stay
-// behind it for readers who lack it, and the size is the nearest of the seven.
+// The listing's font after the user chose `chosen` in place of `font`: the family leads the list, the other
+// faces stay behind it for readers who lack it, and the size is the nearest of the seven.
 ListingFont WithChosenFont(const ListingFont& font, const QFont& chosen);
 
 } // namespace tunedex

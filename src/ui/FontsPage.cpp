@@ -21,11 +21,13 @@ namespace {
 constexpr int kSizes = 7;
 
 QString FontTitle(std::size_t index) {
-    static const std::array<QString, kFontCount> titles = {u"Page heading and text"_s, u"Table headers"_s, u"Table cells"_s};
+    static const std::array<QString, kFontCount> titles = {u"Page heading and text"_s, u"Table headers"_s,
+                                                           u"Table cells"_s};
     return titles.at(index);
 }
 
-// Any size a settings file may hold can be shown and stored again; those beyond 1 to 7 are listed while they are in use.
+// Any size a settings file may hold can be shown and stored again; those beyond 1 to 7 are listed while they
+// are in use.
 void ShowSize(QComboBox& sizes, const QString& size) {
     while (sizes.count() > kSizes) {
         sizes.removeItem(kSizes);
@@ -40,9 +42,11 @@ void ShowSize(QComboBox& sizes, const QString& size) {
 
 FontsPage::FontsPage(const Choosers& choosers, QWidget* parent)
     : QFrame(parent), choosers_(choosers),
-      chkFontsCSS_(MakeCheckBox(u"chkFontsCSS"_s, u"&Use CSS for fonts."_s, u"Write the fonts into the page's style sheet"_s)),
-      chkFontsFontTags_(MakeCheckBox(u"chkFontsFontTags"_s, u"Use FONT ta&gs for fonts."_s,
-                                     u"Write the fonts into the markup, for readers without style sheets"_s)) {
+      chkFontsCSS_(MakeCheckBox(u"chkFontsCSS"_s, u"&Use CSS for fonts."_s,
+                                u"Write the fonts into the page's style sheet"_s)),
+      chkFontsFontTags_(
+          MakeCheckBox(u"chkFontsFontTags"_s, u"Use FONT ta&gs for fonts."_s,
+                       u"Write the fonts into the markup, for readers without style sheets"_s)) {
     auto* layout = new QVBoxLayout(this);
     for (std::size_t index = 0; index < kFontCount; ++index) {
         layout->addWidget(BuildRow(index));
@@ -68,10 +72,11 @@ QGroupBox* FontsPage::BuildRow(std::size_t index) {
     }
     row.chkBold = MakeCheckBox(ArrayName(u"chkBold"_s, number), u"&Bold"_s, title + u" in bold type"_s);
     row.chkBold->setAccessibleName(title + u": bold"_s);
-    row.chkItalic = MakeCheckBox(ArrayName(u"chkItalic"_s, number), u"&Italic"_s, title + u" in italic type"_s);
+    row.chkItalic =
+        MakeCheckBox(ArrayName(u"chkItalic"_s, number), u"&Italic"_s, title + u" in italic type"_s);
     row.chkItalic->setAccessibleName(title + u": italic"_s);
-    row.cmdSelectFont =
-        MakeButton(ArrayName(u"cmdSelectFont"_s, number), u"&Select..."_s, u"Select a font of this computer"_s);
+    row.cmdSelectFont = MakeButton(ArrayName(u"cmdSelectFont"_s, number), u"&Select..."_s,
+                                   u"Select a font of this computer"_s);
     row.cmdSelectFont->setAccessibleName(title + u": select font"_s);
 
     connect(row.txtFontList, &QLineEdit::textChanged, this, &FontsPage::Edited);

@@ -8,7 +8,8 @@
 
 namespace tunedex {
 
-// The text read as a hexadecimal number ("FF" is blue); nothing for any other text and for numbers beyond FFFFFF.
+// The text read as a hexadecimal number ("FF" is blue); nothing for any other text and for numbers beyond
+// FFFFFF.
 std::optional<QColor> ColourFromText(const QString& text);
 
 // Six upper-case digits.

@@ -7,7 +7,8 @@
 
 namespace tunedex {
 
-// Takes any text: what is no number is selected as a whole as soon as it is typed, so that the next key replaces it.
+// Takes any text: what is no number is selected as a whole as soon as it is typed, so that the next key
+// replaces it.
 class NumberBox : public QLineEdit {
     Q_OBJECT
 
@@ -20,7 +21,8 @@ class NumberBox : public QLineEdit {
     bool IsNumeric() const;
     // Whether it is numeric and fits a setting.
     bool HoldsSetting() const;
-    // The number, rounded half to even. Raises error 13 for a text that is not numeric, 6 for one that does not fit.
+    // The number, rounded half to even. Raises error 13 for a text that is not numeric, 6 for one that does
+    // not fit.
     std::int16_t Number() const;
 };
 

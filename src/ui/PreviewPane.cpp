@@ -1,5 +1,6 @@
 #include "PreviewPane.h"
 
+#include "Path.h"
 #include "RichTextPage.h"
 #include "RunTimeError.h"
 #include "SamplePage.h"

@@ -19,7 +19,8 @@ class PreviewPane : public QWidget {
 
   public:
     // `settings` tells what the page is written with; it is asked each time the page is made.
-    PreviewPane(const Application& application, std::function<Settings()> settings, QWidget* parent = nullptr);
+    PreviewPane(const Application& application, std::function<Settings()> settings,
+                QWidget* parent = nullptr);
 
     // The page is made anew as soon as no more changes come, and only while it can be seen.
     void ShowSoon();

@@ -48,7 +48,8 @@ std::optional<QColor> FirstColour(const QString& text, const QRegularExpression&
 }
 
 // The colour of the rule where there is one, else of the tag.
-std::optional<QColor> PageColour(const QString& rules, const QString& rule, const QString& page, const QString& attribute) {
+std::optional<QColor> PageColour(const QString& rules, const QString& rule, const QString& page,
+                                 const QString& attribute) {
     const QRegularExpression inRule(u"(?:^|\\s)"_s + rule + u": #([0-9A-Fa-f]{6});"_s);
     const QRegularExpression inTag(u"<body [^>]*"_s + attribute + u"=\"#([0-9A-Fa-f]{6})\""_s);
     const std::optional<QColor> colour = FirstColour(rules, inRule);

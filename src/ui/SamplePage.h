@@ -8,8 +8,8 @@
 
 namespace tunedex {
 
-// Writes the page to a file in `folder`, which must exist and end in a separator, and returns its text (UTF-8). All tracks
-// are on one page, whatever `settings` says. Raises what the writers raise.
+// Writes the page to a file in `folder`, which must exist and end in a separator, and returns its text
+// (UTF-8). All tracks are on one page, whatever `settings` says. Raises what the writers raise.
 std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
                             const std::string& folder);
 

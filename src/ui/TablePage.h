@@ -21,7 +21,8 @@ class TablePage : public QFrame {
     explicit TablePage(QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);
-    // TableWidth and its unit, TablePadding and TableBorder. A box that FirstFault() complains of leaves its setting as it is.
+    // TableWidth and its unit, TablePadding and TableBorder. A box that FirstFault() complains of leaves its
+    // setting as it is.
     void StoreControls(Settings& settings) const;
     // The same as the texts that a theme file holds.
     void StoreTexts(ThemeContent& content) const;

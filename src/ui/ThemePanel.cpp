@@ -34,14 +34,16 @@ ThemePanel::ThemePanel(Application& application, UserInterface& ui, const Choose
                                u"Use the selected theme's fonts, colours and table settings at once"_s)),
       cmdSaveTheme_(MakeButton(u"cmdSaveTheme"_s, u"&Save theme..."_s,
                                u"Save the fonts, colours and table settings shown here as a theme"_s)),
-      cmdDeleteTheme_(MakeButton(u"cmdDeleteTheme"_s, u"Delete the&me..."_s, u"Delete the selected theme's file"_s)),
+      cmdDeleteTheme_(
+          MakeButton(u"cmdDeleteTheme"_s, u"Delete the&me..."_s, u"Delete the selected theme's file"_s)),
       lblThemeStatus_(new QLabel) {
     NameControl(*lvwThemes_, u"lvwThemes"_s, u"Themes"_s, u"Double-click a theme to load it"_s);
     lvwThemes_->setMinimumHeight(lvwThemes_->fontMetrics().height() * 4);
     lblThemeStatus_->setObjectName(u"lblThemeStatus"_s);
     lblThemeStatus_->setTextFormat(Qt::PlainText);
-    auto* about = new QLabel(u"Themes are preset colour, font, and table settings that you can import into your own "
-                             "settings.\n\nYou can also export your own settings as a theme."_s);
+    auto* about =
+        new QLabel(u"Themes are preset colour, font, and table settings that you can import into your own "
+                   "settings.\n\nYou can also export your own settings as a theme."_s);
     about->setObjectName(u"lblAboutThemes"_s);
     about->setWordWrap(true);
 
@@ -146,8 +148,8 @@ void ThemePanel::WriteThemeFile(const std::string& path) {
 }
 
 void ThemePanel::DeleteTheme(const std::string& name) {
-    const std::string question = "Are you sure you want to delete\r\nthe " + name +
-                                 " theme?\r\n\r\nYou cannot recover it afterwards!";
+    const std::string question =
+        "Are you sure you want to delete\r\nthe " + name + " theme?\r\n\r\nYou cannot recover it afterwards!";
     if (ShowMessage(ui_, question, kYesNoExclamation, "Delete Theme") != kAnswerYes) {
         return;
     }

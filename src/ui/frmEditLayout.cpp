@@ -30,8 +30,9 @@ constexpr QSize kUsualSize{1000, 620};
 } // namespace
 
 frmEditLayout::frmEditLayout(Application& application, UserInterface& ui, QWidget* parent)
-    : QDialog(parent), application_(application), ui_(ui), tabStrip_(new QTabWidget), columns_(new ColumnsPage),
-      fonts_(new FontsPage(choosers_)), colours_(new ColoursPage(choosers_)), table_(new TablePage),
+    : QDialog(parent), application_(application), ui_(ui), tabStrip_(new QTabWidget),
+      columns_(new ColumnsPage), fonts_(new FontsPage(choosers_)), colours_(new ColoursPage(choosers_)),
+      table_(new TablePage),
       themes_(new ThemePanel(application, ui, choosers_, [this] { return CurrentTheme(); })),
       document_(new DocumentPage(themes_)), preview_(new PreviewPane(application, [this] {
           Settings settings = previewBase_ ? previewBase_() : application_.settings;
@@ -73,7 +74,8 @@ QBoxLayout* frmEditLayout::BuildButtons() {
     cmdHelp_ = MakeButton(u"cmdHelp"_s, u"&Help"_s, u"Open the help file"_s);
     cmdPreview_ = MakeButton(u"cmdPreview"_s, u"Pre&view"_s, u"Show or hide the preview"_s);
     cmdOK_ = MakeButton(u"cmdOK"_s, u"&OK"_s, u"Use this layout"_s);
-    cmdCancel_ = MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Close without changing anything but a loaded theme"_s);
+    cmdCancel_ =
+        MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Close without changing anything but a loaded theme"_s);
     cmdHelp_->setShortcut(QKeySequence::HelpContents);
     cmdPreview_->setCheckable(true);
     cmdPreview_->setChecked(true);

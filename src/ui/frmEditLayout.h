@@ -37,11 +37,12 @@ class frmEditLayout : public QDialog {
 
     // What a run takes from the open editor: MoveTheArtists and DocumentType.
     void StoreRunControls(Settings& settings) const;
-    // Everything that the editor edits. A number box whose text is no number for a setting leaves its setting as it is.
+    // Everything that the editor edits. A number box whose text is no number for a setting leaves its setting
+    // as it is.
     void StoreControls(Settings& settings) const;
 
-    // The settings that the preview starts from, before the editor's controls are stored into them; without it those of the
-    // application.
+    // The settings that the preview starts from, before the editor's controls are stored into them; without
+    // it those of the application.
     void SetPreviewBase(std::function<Settings()> base) { previewBase_ = std::move(base); }
     // In place of Qt's own dialogs.
     void SetChoosers(Choosers choosers) { choosers_ = std::move(choosers); }

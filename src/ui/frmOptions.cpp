@@ -118,10 +118,11 @@ QGroupBox* frmOptions::BuildSortGroup() {
 QGroupBox* frmOptions::BuildErrorGroup() {
     chkErrorBoxes_ = MakeCheckBox(u"chkErrorBoxes"_s, u"Show &errors in message boxes"_s,
                                   u"Stop at each folder or file that cannot be read and say why"_s);
-    chkErrorLog_ = MakeCheckBox(u"chkErrorLog"_s, u"&Write errors to a log file"_s,
-                                u"The file Tunedex.log in the program's folder holds the errors of the latest run"_s);
-    chkConfirmQuit_ =
-        MakeCheckBox(u"chkConfirmQuit"_s, u"Ask before &quitting"_s, u"Ask whether you really want to quit"_s);
+    chkErrorLog_ =
+        MakeCheckBox(u"chkErrorLog"_s, u"&Write errors to a log file"_s,
+                     u"The file Tunedex.log in the program's folder holds the errors of the latest run"_s);
+    chkConfirmQuit_ = MakeCheckBox(u"chkConfirmQuit"_s, u"Ask before &quitting"_s,
+                                   u"Ask whether you really want to quit"_s);
 
     auto* group = new QGroupBox(u"Errors and questions"_s);
     auto* layout = new QVBoxLayout(group);
@@ -157,10 +158,12 @@ QGroupBox* frmOptions::BuildLinkGroup() {
 }
 
 QLayout* frmOptions::BuildButtons() {
-    cmdEditLayout_ = MakeButton(u"cmdEditLayout"_s, u"Edit la&yout..."_s,
-                                u"Columns, fonts, colours, table, document type and themes of HTML listings"_s);
+    cmdEditLayout_ =
+        MakeButton(u"cmdEditLayout"_s, u"Edit la&yout..."_s,
+                   u"Columns, fonts, colours, table, document type and themes of HTML listings"_s);
     cmdUse_ = MakeButton(u"cmdUse"_s, u"&Use"_s, u"Use these options until the program ends"_s);
-    cmdSave_ = MakeButton(u"cmdSave"_s, u"Sa&ve"_s, u"Use these options and save all settings as the default"_s);
+    cmdSave_ =
+        MakeButton(u"cmdSave"_s, u"Sa&ve"_s, u"Use these options and save all settings as the default"_s);
     cmdCancel_ = MakeButton(u"cmdCancel"_s, u"&Cancel"_s, u"Close without changing anything"_s);
     cmdUse_->setDefault(true);
     connect(cmdEditLayout_, &QPushButton::clicked, this, &frmOptions::EditLayout);
@@ -235,11 +238,13 @@ void frmOptions::EnableLinks() {
     txtLinkPrefix_->setEnabled(links);
 }
 
-// Styles differ in whether they show a disabled text box by its background; here it always has the colour of buttons.
+// Styles differ in whether they show a disabled text box by its background; here it always has the colour of
+// buttons.
 void frmOptions::GreyDisabledFields() {
     for (QLineEdit* field : {static_cast<QLineEdit*>(txtFilesPerPage_), txtLinkPrefix_}) {
         QPalette colours = field->palette();
-        colours.setColor(QPalette::Disabled, QPalette::Base, palette().color(QPalette::Disabled, QPalette::Button));
+        colours.setColor(QPalette::Disabled, QPalette::Base,
+                         palette().color(QPalette::Disabled, QPalette::Button));
         field->setPalette(colours);
     }
 }

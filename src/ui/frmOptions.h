@@ -30,9 +30,9 @@ class frmOptions : public QDialog {
     // Sets every control from the settings.
     void LoadControls();
 
-    // Takes the controls into `settings`, and those of the layout editor that count for every run: MoveTheArtists and
-    // DocumentType. Raises error 13 or 6, before anything is stored, when the pages are on and files per page is no number or
-    // does not fit.
+    // Takes the controls into `settings`, and those of the layout editor that count for every run:
+    // MoveTheArtists and DocumentType. Raises error 13 or 6, before anything is stored, when the pages are on
+    // and files per page is no number or does not fit.
     void StoreControls(Settings& settings) const;
 
     // Null while the layout editor is closed.
