@@ -31,9 +31,11 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     browser_->setOpenLinks(false);
     browser_->setToolTip({});
     browser_->setMinimumSize(180, 120);
+    // As browsers do: a column is never narrower than its longest word.
+    browser_->setWordWrapMode(QTextOption::WordWrap);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(MakeLabelFor(*browser_, u"&Preview:"_s));
+    layout->addWidget(new QLabel(u"Preview with sample tracks"_s));
     layout->addWidget(browser_);
 
     delay_.setSingleShot(true);

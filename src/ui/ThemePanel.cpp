@@ -48,7 +48,7 @@ ThemePanel::ThemePanel(Application& application, UserInterface& ui, const Choose
     about->setWordWrap(true);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeLabelFor(*lvwThemes_, u"A&vailable themes:"_s), 0, 0);
+    grid->addWidget(MakeLabelFor(*lvwThemes_, u"Availa&ble themes:"_s), 0, 0);
     grid->addWidget(lvwThemes_, 1, 0, 4, 1);
     grid->addWidget(cmdLoadTheme_, 1, 1);
     grid->addWidget(cmdSaveTheme_, 2, 1);
@@ -57,6 +57,7 @@ ThemePanel::ThemePanel(Application& application, UserInterface& ui, const Choose
     grid->setColumnStretch(0, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(about);
+    layout->addSpacing(8);
     layout->addLayout(grid, 1);
     layout->addWidget(lblThemeStatus_);
 

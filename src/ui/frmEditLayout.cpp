@@ -25,7 +25,8 @@ namespace tunedex {
 namespace {
 
 constexpr const char* kValidationTitle = "Error";
-constexpr QSize kUsualSize{1000, 620};
+constexpr QSize kUsualSize{1040, 600};
+const QList<int> kUsualShares{490, 530};
 
 } // namespace
 
@@ -43,6 +44,7 @@ frmEditLayout::frmEditLayout(Application& application, UserInterface& ui, QWidge
     setWindowTitle(u"Edit Layout"_s);
     setSizeGripEnabled(true);
     NameControl(*tabStrip_, u"TabStrip"_s, u"Pages of the layout editor"_s, {});
+    tabStrip_->setUsesScrollButtons(false); // so that every page's title always shows
     AddPage(columns_, u"&Columns"_s);
     AddPage(fonts_, u"&Fonts"_s);
     AddPage(colours_, u"Co&lours"_s);
@@ -53,7 +55,9 @@ frmEditLayout::frmEditLayout(Application& application, UserInterface& ui, QWidge
     splitter->addWidget(tabStrip_);
     splitter->addWidget(preview_);
     splitter->setCollapsible(0, false);
+    splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
+    splitter->setSizes(kUsualShares);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(splitter, 1);
     layout->addLayout(BuildButtons());
