@@ -7,8 +7,6 @@
 #include <QDropEvent>
 #include <QMimeData>
 
-#include <memory>
-
 namespace tunedex {
 namespace {
 
@@ -88,15 +86,19 @@ void ColumnList::startDrag(Qt::DropActions) {
     if (row < 0) {
         return;
     }
+    auto* drag = new QDrag(this);
+    drag->setMimeData(DragData(row).release());
+    drag->exec(Qt::MoveAction);
+}
+
+std::unique_ptr<QMimeData> ColumnList::DragData(int row) {
     auto data = std::make_unique<ColumnMimeData>(this, row);
     // The model's own format makes the view draw where the column would be dropped.
-    const std::unique_ptr<QMimeData> items(model()->mimeData(selectedIndexes()));
+    const std::unique_ptr<QMimeData> items(model()->mimeData({model()->index(row, 0)}));
     for (const QString& format : items->formats()) {
         data->setData(format, items->data(format));
     }
-    auto* drag = new QDrag(this);
-    drag->setMimeData(data.release());
-    drag->exec(Qt::MoveAction);
+    return data;
 }
 
 void ColumnList::dragEnterEvent(QDragEnterEvent* event) {

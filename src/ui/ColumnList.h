@@ -4,6 +4,7 @@
 
 #include <QListWidget>
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,9 @@ class ColumnList : public QListWidget {
     // selected.)
     int SelectedRow() const;
     void SelectRow(int row);
+
+    // What a drag of that row carries; other windows and programs take nothing of it.
+    std::unique_ptr<QMimeData> DragData(int row);
 
   signals:
     // A column of `source` was dropped here, in front of the item that is at `row` now; the end is `row` =

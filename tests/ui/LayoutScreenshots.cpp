@@ -98,7 +98,8 @@ int main(int argc, char** argv) {
     const tunedex::test::TestFolder programFolder;
     const std::string themes = programFolder.Make("Themes");
     std::filesystem::copy(arguments[2].toStdString(), themes,
-                          std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
+                          std::filesystem::copy_options::recursive |
+                              std::filesystem::copy_options::overwrite_existing);
     tunedex::test::FakeApplication fake(programFolder.Path());
     tunedex::test::FakeUserInterface ui;
     const Photographer photographer(arguments[1]);
