@@ -81,12 +81,12 @@ void PreviewPane::ShowPage(const QString& page) {
     };
     set(QPalette::Text, richText.text);
     set(QPalette::Base, richText.background);
-    set(QPalette::Link, richText.link);
-    set(QPalette::LinkVisited, richText.link);
     browser_->setPalette(colours);
     const int across = browser_->horizontalScrollBar()->value();
     const int down = browser_->verticalScrollBar()->value();
-    browser_->document()->setDefaultStyleSheet(richText.styleSheet);
+    // Rich text knows no link colour in the body tag.
+    const QString links = richText.link ? u"a {color: %1;}"_s.arg(richText.link->name()) : QString();
+    browser_->document()->setDefaultStyleSheet(richText.styleSheet + links);
     browser_->setHtml(richText.html);
     browser_->horizontalScrollBar()->setValue(across);
     browser_->verticalScrollBar()->setValue(down);

@@ -103,9 +103,9 @@ bool ThemePanel::Attempt(const std::function<void()>& command) {
 }
 
 void ThemePanel::LoadTheme(const std::string& name) {
-    const std::string path = ThemePath(application_.programFolder, name);
     bool applied = false;
     Attempt([&] {
+        const std::string path = StoredThemePath(application_.programFolder, name);
         applied = FileExists(path) && LoadSettings(application_.settings, path, application_.programFolder,
                                                    application_.faults) == LoadOutcome::Loaded;
     });
@@ -126,7 +126,7 @@ void ThemePanel::SaveTheme() {
         ShowMessage(ui_, kBadName, kOkExclamation, kErrorTitle);
         return;
     }
-    const bool saved = Attempt([&] { WriteThemeFile(ThemePath(application_.programFolder, name)); });
+    const bool saved = Attempt([&] { WriteThemeFile(StoredThemePath(application_.programFolder, name)); });
     if (saved) {
         lblThemeStatus_->setText(u"Theme saved successfully."_s);
         ListThemes();
@@ -154,7 +154,7 @@ void ThemePanel::DeleteTheme(const std::string& name) {
     if (ShowMessage(ui_, question, kYesNoExclamation, "Delete Theme") != kAnswerYes) {
         return;
     }
-    Attempt([&] { DeleteFile(ThemePath(application_.programFolder, name)); });
+    Attempt([&] { DeleteFile(StoredThemePath(application_.programFolder, name)); });
     ListThemes();
 }
 

@@ -141,6 +141,17 @@ TEST(Themes, TheListHoldsFilesThatEndInThmInAnyCaseAndNoFolders) {
     EXPECT_THAT(ListThemes(folder.Path()), UnorderedElementsAre("Dark", "Blue", "  Sky"));
 }
 
+TEST(Themes, AListedThemeIsFoundWhateverTheCaseOfItsExtension) {
+    const TestFolder folder;
+    folder.Write("Themes/Dark.THM", "");
+    folder.Write("Themes/Both.thm", "");
+    folder.Write("Themes/Both.THM", "");
+    EXPECT_EQ(StoredThemePath(folder.Path(), "Dark"), folder / "Themes/Dark.THM");
+    EXPECT_EQ(StoredThemePath(folder.Path(), "Both"), folder / "Themes/Both.thm");
+    EXPECT_EQ(StoredThemePath(folder.Path(), "dark"), folder / "Themes/dark.thm");
+    EXPECT_EQ(StoredThemePath(folder.Path(), "New"), folder / "Themes/New.thm");
+}
+
 TEST(Themes, WithoutAFolderTheListIsEmpty) {
     const TestFolder folder;
     EXPECT_TRUE(ListThemes(folder.Path()).empty());
@@ -149,7 +160,7 @@ TEST(Themes, WithoutAFolderTheListIsEmpty) {
 TEST(Themes, NamesThatLeaveTheFolderOrCannotBeFileNamesAreRefused) {
     for (const std::string& name :
          {std::string("a/b"), std::string("/"), std::string("../a"), std::string("."), std::string(".."),
-          std::string("a\0b", 3), std::string(""), std::string("   ")}) {
+          std::string("a\0b", 3), std::string(""), std::string("   "), std::string(252, 'x')}) {
         EXPECT_FALSE(IsThemeName(name)) << '"' << name << '"';
     }
     for (const char* name : {"Blue", "  Blue", "...", ".hidden", "a.thm", "back\\slash", "\u3042"}) {

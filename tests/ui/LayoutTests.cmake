@@ -1,5 +1,5 @@
 # The options dialog, the layout editor and what they are made of.
-set(LAYOUT_TEST_CLASSES OptionsTest EditLayoutTest ColumnsPageTest)
+set(LAYOUT_TEST_CLASSES OptionsTest EditLayoutTest ColumnsPageTest ThemePanelTest PreviewTest)
 list(TRANSFORM LAYOUT_TEST_CLASSES APPEND ".cpp" OUTPUT_VARIABLE LAYOUT_TEST_SOURCES)
 add_executable(layout_test LayoutTestMain.cpp ${LAYOUT_TEST_SOURCES})
 target_link_libraries(layout_test PRIVATE tunedex_ui tunedex_test_support tunedex_flags Qt6::Test)
