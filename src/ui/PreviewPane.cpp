@@ -24,7 +24,8 @@ constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
 } // namespace
 
 PreviewPane::PreviewPane(const Application& application, std::function<Settings()> settings, QWidget* parent)
-    : QWidget(parent), application_(application), settings_(std::move(settings)), browser_(new QTextBrowser) {
+    : QWidget(parent), application_(application), settings_(std::move(settings)), caption_(new QLabel),
+      browser_(new QTextBrowser) {
     setObjectName(u"PreviewPane"_s);
     NameControl(*browser_, u"txtPreview"_s, u"Preview of the listing"_s,
                 u"A few made-up tracks as they would be listed with what the editor shows now"_s);
@@ -35,7 +36,9 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     browser_->setWordWrapMode(QTextOption::WordWrap);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new QLabel(u"Preview with sample tracks"_s));
+    caption_->setObjectName(u"lblPreview"_s);
+    caption_->setWordWrap(true);
+    layout->addWidget(caption_);
     layout->addWidget(browser_);
 
     delay_.setSingleShot(true);
@@ -66,13 +69,18 @@ void PreviewPane::ShowNow() {
         const std::string folder = FromQt(folder_.path()) + PathStyle::Native().separator;
         ShowPage(ToQtDisplay(WriteSamplePage(settings_(), application_, entities_, folder)));
     } catch (const RunTimeError& error) {
-        ShowPage(u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"_s.arg(
-            QString::fromLatin1(error.Description())));
+        ShowPage(u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"
+                 "<p>Where Album is merged, it must not stand before both Artist and Title.</p>"_s.arg(
+                     QString::fromLatin1(error.Description())));
     }
 }
 
 void PreviewPane::ShowPage(const QString& page) {
     const RichTextPage richText = PrepareRichText(page);
+    caption_->setText(
+        richText.styleSheetIgnored
+            ? u"Preview: browsers pass over the style sheet of XHTML listings; FONT tags style them."_s
+            : u"Preview with sample tracks"_s);
     QPalette colours;
     const auto set = [&](QPalette::ColorRole role, const std::optional<QColor>& colour) {
         if (colour) {

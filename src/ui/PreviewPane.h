@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class QLabel;
 class QTextBrowser;
 
 namespace tunedex {
@@ -37,6 +38,7 @@ class PreviewPane : public QWidget {
     EntityTable entities_;
     QTemporaryDir folder_;
     QTimer delay_;
+    QLabel* caption_;
     QTextBrowser* browser_;
 };
 

@@ -4,6 +4,8 @@
 
 #include <QRegularExpression>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace tunedex {
@@ -15,20 +17,38 @@ struct NamedSize {
     QString pixels;
 };
 
-// Takes the style element out of the page and returns its rules.
-QString TakeStyleSheet(QString& page) {
+// Takes the style element out of the page and returns what is in it.
+QString TakeStyleElement(QString& page) {
     static const QRegularExpression element(u"<style[^>]*>(.*?)</style>"_s,
                                             QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = element.match(page);
     if (!match.hasMatch()) {
         return {};
     }
-    QString rules = match.captured(1);
     page.remove(match.capturedStart(), match.capturedLength());
-    // The wrappings that hide the rules from old browsers and XML parsers.
-    for (const QString& wrapping : {u"<!--"_s, u"//-->"_s, u"<![CDATA["_s, u"]]>"_s}) {
-        rules.remove(wrapping);
+    return match.captured(1);
+}
+
+// The rules that a browser takes from a style element. One without properties is written as "tr }", which
+// makes the selector of the next rule unreadable, so that browsers skip that one, too; Qt's reader would skip
+// all that follow.
+QString ReadableRules(QString text) {
+    if (text.contains(u"<![CDATA["_s)) {
+        return {};
     }
+    text.remove(u"<!--"_s);
+    static const QRegularExpression rule(u"([^{]*)(\\{[^}]*\\})"_s);
+    static const QRegularExpression selector(u"^[\\w\\s.,]+$"_s);
+    QString rules;
+    for (const QRegularExpressionMatch& match : rule.globalMatch(text)) {
+        if (selector.match(match.captured(1)).hasMatch()) {
+            rules += match.captured(1).trimmed() + u' ' + match.captured(2) + u'\n';
+        }
+    }
+    return rules;
+}
+
+QString WithSizesInPixels(QString rules) {
     static const std::array<NamedSize, 7> sizes = {{{u"xx-small"_s, u"9px"_s},
                                                     {u"x-small"_s, u"10px"_s},
                                                     {u"small"_s, u"13px"_s},
@@ -60,7 +80,9 @@ std::optional<QColor> PageColour(const QString& rules, const QString& rule, cons
 
 RichTextPage PrepareRichText(QString page) {
     RichTextPage result;
-    result.styleSheet = TakeStyleSheet(page);
+    const QString styles = TakeStyleElement(page);
+    result.styleSheet = WithSizesInPixels(ReadableRules(styles));
+    result.styleSheetIgnored = styles.contains(u'{') && result.styleSheet.isEmpty();
     result.text = PageColour(result.styleSheet, u"body \\{color"_s, page, u"text"_s);
     result.background = PageColour(result.styleSheet, u"body \\{[^}]*background-color"_s, page, u"bgcolor"_s);
     result.link = PageColour(result.styleSheet, u"a \\{color"_s, page, u"link"_s);

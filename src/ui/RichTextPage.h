@@ -9,8 +9,11 @@
 namespace tunedex {
 
 struct RichTextPage {
-    QString styleSheet; // the page's own rules, sizes in pixels
+    QString styleSheet; // the page's own rules as far as browsers read them, sizes in pixels
     QString html;       // the page without them
+    // Whether the page has a style sheet of which browsers read nothing: they take a page in a ".htm" file
+    // for HTML, where an XML section swallows the rules in it.
+    bool styleSheetIgnored = false;
     // What the body tag and the rules for body and links say of the whole page; rules outdo the tag.
     std::optional<QColor> text;
     std::optional<QColor> background;
