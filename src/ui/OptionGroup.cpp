@@ -13,6 +13,14 @@ void OptionGroup::Select(std::int16_t number) {
         option->setChecked(id(option) == number);
     }
     setExclusive(true);
+    LetTabStopAt(checkedButton() != nullptr ? checkedButton() : buttons().value(0));
+}
+
+// Qt does the same, but not before one of the buttons has had the focus.
+void OptionGroup::LetTabStopAt(const QAbstractButton* stop) {
+    for (QAbstractButton* option : buttons()) {
+        option->setFocusPolicy(option == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 void OptionGroup::Store(std::int16_t& setting) const {

@@ -17,6 +17,9 @@ class OptionGroup : public QButtonGroup {
     void Select(std::int16_t number);
     // Stores the selected button's number. Without a selected button the setting stays as it is.
     void Store(std::int16_t& setting) const;
+
+  private:
+    void LetTabStopAt(const QAbstractButton* stop);
 };
 
 } // namespace tunedex

@@ -29,6 +29,9 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     setObjectName(u"PreviewPane"_s);
     NameControl(*browser_, u"txtPreview"_s, u"Preview of the listing"_s,
                 u"A few made-up tracks as they would be listed with what the editor shows now"_s);
+    // Nothing to follow, so Tab goes past the links in it.
+    browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    browser_->setTabChangesFocus(true);
     browser_->setOpenLinks(false);
     browser_->setToolTip({});
     browser_->setMinimumSize(180, 120);
@@ -42,7 +45,6 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     layout->addWidget(browser_);
 
     delay_.setSingleShot(true);
-    delay_.setInterval(kPauseBeforeUpdate);
     connect(&delay_, &QTimer::timeout, this, &PreviewPane::ShowNow);
     try {
         std::ostringstream faults; // the run itself reports them
@@ -54,13 +56,13 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
 
 void PreviewPane::ShowSoon() {
     if (isVisible()) {
-        delay_.start();
+        delay_.start(kPauseBeforeUpdate);
     }
 }
 
 void PreviewPane::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    ShowNow();
+    delay_.start(0); // once the window itself shows
 }
 
 void PreviewPane::ShowNow() {

@@ -62,6 +62,12 @@ QString WithSizesInPixels(QString rules) {
     return rules;
 }
 
+// Half-typed colours: Qt would complain of each on standard error.
+void RemoveUnreadableColours(QString& page) {
+    static const QRegularExpression colour(u" (?:bgcolor|color)=\"#(?![0-9A-Fa-f]{6}\")[^\"]*\""_s);
+    page.remove(colour);
+}
+
 std::optional<QColor> FirstColour(const QString& text, const QRegularExpression& pattern) {
     const QRegularExpressionMatch match = pattern.match(text);
     return match.hasMatch() ? ColourFromText(match.captured(1)) : std::nullopt;
@@ -86,6 +92,7 @@ RichTextPage PrepareRichText(QString page) {
     result.text = PageColour(result.styleSheet, u"body \\{color"_s, page, u"text"_s);
     result.background = PageColour(result.styleSheet, u"body \\{[^}]*background-color"_s, page, u"bgcolor"_s);
     result.link = PageColour(result.styleSheet, u"a \\{color"_s, page, u"link"_s);
+    RemoveUnreadableColours(page);
     result.html = std::move(page);
     return result;
 }

@@ -24,6 +24,7 @@ class LayoutAccessibilityTest : public QObject {
   private slots:
     void EveryControlHasANameADescriptionAndARole();
     void EveryControlIsReachedByTab();
+    void TabStopsAtTheSelectedOption();
     void EveryLabelOfAControlHasAMnemonicOfItsOwn();
     void NothingIsClippedAtTheSmallestSize();
     void TheSmallestSizesFitASmallScreen();
@@ -140,6 +141,28 @@ void LayoutAccessibilityTest::EveryControlIsReachedByTab() {
             QVERIFY2(widget->isEnabled(), qPrintable(Where(page, *widget)));
         }
     });
+}
+
+void LayoutAccessibilityTest::TabStopsAtTheSelectedOption() {
+    for (const auto& [sizeType, stop] :
+         {std::pair(2, u"optMegabytes"_s), std::pair(0, u"optBytes"_s), std::pair(7, u"optBytes"_s)}) {
+        LayoutFixture with;
+        with.settings.SizeType = static_cast<std::int16_t>(sizeType);
+        frmOptions options(with.application, with.ui);
+        Show(options);
+        Field(options, u"txtFilesPerPage"_s).setFocus();
+        QTest::keyClick(options.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(options.focusWidget()->objectName(), stop);
+        QTest::keyClick(options.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(options.focusWidget()->objectName(), u"optAscSort"_s);
+    }
+    LayoutFixture with;
+    frmOptions options(with.application, with.ui);
+    Show(options);
+    Button(options, u"optMegabytes"_s).setFocus();
+    QTest::keyClick(options.focusWidget(), Qt::Key_Up);
+    QVERIFY(IsChecked(options, u"optKilobytes"_s));
+    QVERIFY(Button(options, u"optKilobytes"_s).hasFocus());
 }
 
 void LayoutAccessibilityTest::EveryLabelOfAControlHasAMnemonicOfItsOwn() {
