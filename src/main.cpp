@@ -4,13 +4,16 @@
 #include "Application.h"
 #include "QSettingsRegistry.h"
 #include "RunTerminal.h"
+#include "RunWindows.h"
 #include "Startup.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <exception>
+#include <fcntl.h>
 #include <iostream>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -27,12 +30,26 @@ bool HasDisplay() {
     return false;
 }
 
+// Started with a standard stream closed, the program would get its number for the next file it opens, and
+// messages would end up in a listing.
+void OpenStandardStreams() {
+    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+        if (fcntl(descriptor, F_GETFD) < 0) {
+            open("/dev/null", O_RDWR); // takes the lowest free number, which is this one
+        }
+    }
+}
+
 int Run(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
-    if (tunedex::IsAutomatic(arguments) && !HasDisplay()) {
+    const bool automatic = tunedex::IsAutomatic(arguments);
+    if (HasDisplay()) {
+        return tunedex::RunWindows(argc, argv, application, automatic);
+    }
+    if (automatic) {
         return tunedex::RunTerminal(application, arguments);
     }
     std::cerr << "Tunedex: there is no display to open its window on. Without one, start it with /AUTO.\n";
@@ -42,6 +59,7 @@ int Run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    OpenStandardStreams();
     // A reader of our messages that goes away must not end a run.
     std::signal(SIGPIPE, SIG_IGN);
     try {

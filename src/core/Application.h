@@ -28,7 +28,8 @@ struct Application {
     std::string helpFile = {};      // empty when there is none
     bool automaticMode = false;
     std::string errorTitle = "Error!"; // the title of every error message
-    bool abortRequested = false;       // set by the Abort button alone; cleared by each run
+    unsigned readers = 0;        // how many threads read files: see TrackQueue; not a setting of the user's
+    bool abortRequested = false; // set by the Abort button alone; cleared by each run
 };
 
 // Version, date and time for the head of a file written now.

@@ -107,7 +107,7 @@ bool ListRun::Validate() {
 
 // One pass over the folders. Returns false when the user aborted.
 bool ListRun::Scan(RunMonitor& monitor, ScanMode mode) {
-    FolderScanner scanner(totals_, table_, monitor, *this, {settings_.MoveTheArtists});
+    FolderScanner scanner(totals_, table_, monitor, *this, {settings_.MoveTheArtists}, application_.readers);
     const bool aborted = scanner.ScanFolders(mode, settings_.Directory, settings_.Recurse);
     if (aborted) {
         ui_.CloseProgress();

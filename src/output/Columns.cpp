@@ -1,5 +1,6 @@
 #include "Columns.h"
 
+#include "Numbers.h"
 #include "RunTimeError.h"
 #include "SizeText.h"
 #include "Text.h"
@@ -92,41 +93,44 @@ std::string HeaderText(const Column& column) {
     }
 }
 
+std::optional<std::string_view> StoredText(ColumnKey key, const TrackRow& track) {
+    switch (key) {
+    case ColumnKey::Artist:
+        return track.Artist;
+    case ColumnKey::Album:
+        return track.Album;
+    case ColumnKey::Title:
+        return track.Title;
+    case ColumnKey::Year:
+        return track.Year;
+    case ColumnKey::Genre:
+        return track.Genre;
+    case ColumnKey::MpegType:
+        return track.MpegType;
+    case ColumnKey::Mode:
+        return track.Mode;
+    case ColumnKey::Bitrate:
+        return track.Bitrate;
+    case ColumnKey::Frequency:
+        return track.Frequency;
+    case ColumnKey::Duration:
+        return track.Duration;
+    case ColumnKey::FullPath:
+        return track.FullPath;
+    default:
+        return std::nullopt;
+    }
+}
+
 void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std::size_t position,
                     const CellContext& context) {
+    if (const auto stored = StoredText(key, track)) {
+        text += *stored;
+        return;
+    }
     switch (key) {
     case ColumnKey::Number:
-        text += std::to_string(position);
-        return;
-    case ColumnKey::Artist:
-        text += track.Artist.View();
-        return;
-    case ColumnKey::Album:
-        text += track.Album.View();
-        return;
-    case ColumnKey::Title:
-        text += track.Title.View();
-        return;
-    case ColumnKey::Year:
-        text += track.Year.View();
-        return;
-    case ColumnKey::Genre:
-        text += track.Genre.View();
-        return;
-    case ColumnKey::MpegType:
-        text += track.MpegType.View();
-        return;
-    case ColumnKey::Mode:
-        text += track.Mode.View();
-        return;
-    case ColumnKey::Bitrate:
-        text += track.Bitrate.View();
-        return;
-    case ColumnKey::Frequency:
-        text += track.Frequency.View();
-        return;
-    case ColumnKey::Duration:
-        text += track.Duration.View();
+        AppendNumber(text, static_cast<std::int64_t>(position));
         return;
     case ColumnKey::FileSize:
         text += SizeText(track.FileSize, context.sizeType, context.locale);
@@ -136,9 +140,6 @@ void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std
         return;
     case ColumnKey::FolderPath:
         text += FolderPathOf(track.FullPath, context.pathStyle);
-        return;
-    case ColumnKey::FullPath:
-        text += track.FullPath.View();
         return;
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
@@ -151,8 +152,8 @@ void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std
         text += ": ";
         text += track.Title.View();
         return;
-    case ColumnKey::Unknown:
-        return;
+    default:
+        return; // an unknown column has no cells
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,6 +65,10 @@ struct CellContext {
     const Locale& locale;
     PathStyle pathStyle;
 };
+
+// The text of a track under a column that shows a stored text as it stands; nothing for the columns that make
+// theirs.
+std::optional<std::string_view> StoredText(ColumnKey key, const TrackRow& track);
 
 // Appends the plain text of track `position` (counted from 1) under `key`; nothing for an unknown one.
 void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std::size_t position,

@@ -47,6 +47,11 @@ bool HasRightAlignedCells(ColumnKey key) {
     }
 }
 
+// Whether an empty text shows as a blank, so that its cell keeps its background in old browsers.
+bool HasBlankForEmpty(ColumnKey key) {
+    return key == ColumnKey::Album || key == ColumnKey::Year || key == ColumnKey::Genre;
+}
+
 bool UsesFontTags(const Settings& settings) {
     return settings.FontHTML || settings.ColourHTML;
 }
@@ -208,50 +213,46 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
         FontOpen(settings, kCellFont, textColour) + StrengthOpen(settings, kCellFont);
     const std::string fontClose = StrengthClose(settings, kCellFont) + FontClose(settings);
 
+    const std::string close = fontClose + "</td>";
+    const std::string rowEnd = "</tr>\r\n";
     RowFrame frame;
-    frame.open = Indent(6) + "<tr bgcolor=\"#" + settings.Colour.at(background) + "\"";
+    std::string piece = Indent(6) + "<tr bgcolor=\"#" + settings.Colour.at(background) + "\"";
     if (alternate && settings.FontCSS) {
-        frame.open += R"( class="r2")";
+        piece += R"( class="r2")";
     }
-    frame.open += ">";
+    piece += ">";
     for (const Column& column : listing_.columns) {
         // A column that nobody knows is not even closed: pages with one have always looked so.
-        std::string open = "<td";
+        piece += "<td";
         if (column.key != ColumnKey::Unknown) {
-            open += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
-            open += fontOpen;
+            piece += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
+            piece += fontOpen;
         }
-        frame.cells.push_back({column.key, open, fontClose + "</td>"});
+        frame.pieces.push_back(piece);
+        piece = close;
     }
-    frame.linkOpen = R"(<td align="center">)" + fontOpen + "<a href=\"";
-    frame.linkClose = "\">Link</a>" + fontClose + "</td>";
+    if (settings.DoLinks) {
+        piece += R"(<td align="center">)" + fontOpen + "<a href=\"";
+        frame.linkClose = "\">Link</a>" + close + rowEnd;
+    } else {
+        piece += rowEnd;
+    }
+    frame.pieces.push_back(piece);
     return frame;
 }
 
 void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow& track,
                                 std::size_t position) const {
     const EntityTable& entities = listing_.entities;
-    const auto orBlank = [&](std::string_view text) {
-        if (text.empty()) {
+    if (const auto stored = StoredText(key, track)) {
+        if (stored->empty() && HasBlankForEmpty(key)) {
             page += "&nbsp;";
         } else {
-            entities.AppendEscaped(page, text);
+            entities.AppendEscaped(page, *stored);
         }
-    };
+        return;
+    }
     switch (key) {
-    case ColumnKey::Number:
-    case ColumnKey::FileSize:
-        AppendCellText(page, key, track, position, listing_.Cells());
-        return;
-    case ColumnKey::Album:
-        orBlank(track.Album);
-        return;
-    case ColumnKey::Year:
-        orBlank(track.Year);
-        return;
-    case ColumnKey::Genre:
-        orBlank(track.Genre);
-        return;
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
         page += "<b>";
@@ -264,37 +265,31 @@ void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow
         page += ":</b> ";
         entities.AppendEscaped(page, track.Title);
         return;
-    case ColumnKey::Artist:
-        entities.AppendEscaped(page, track.Artist);
+    case ColumnKey::Filename:
+        entities.AppendEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
         return;
-    case ColumnKey::Title:
-        entities.AppendEscaped(page, track.Title);
+    case ColumnKey::FolderPath:
+        entities.AppendEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
-    default: {
-        std::string text;
-        AppendCellText(text, key, track, position, listing_.Cells());
-        entities.AppendEscaped(page, text);
+    default: // numbers, which hold nothing to escape
+        AppendCellText(page, key, track, position, listing_.Cells());
         return;
-    }
     }
 }
 
 void TrackRowWriter::WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const {
     const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
     const TrackRow& track = listing_.tracks.At(position);
-    page += frame.open;
-    for (const CellFrame& cell : frame.cells) {
-        page += cell.open;
-        AppendCell(page, cell.key, track, position);
-        page += cell.close;
+    listing_.tracks.PrefetchAhead(position);
+    for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
+        page += frame.pieces[i];
+        AppendCell(page, listing_.columns[i].key, track, position);
     }
+    page += frame.pieces.back();
     if (listing_.settings.DoLinks) {
-        page += frame.linkOpen;
         page += LinkTarget(listing_.settings, track, listing_.pathStyle);
         page += frame.linkClose;
     }
-    page += "</tr>";
-    page += kLineEnd;
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),
                                       static_cast<std::int32_t>(listing_.tracks.Count()), "...");
     listing_.monitor.SetPosition(static_cast<std::int32_t>(position));

@@ -49,16 +49,10 @@ class TrackRowWriter {
     void WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const;
 
   private:
-    struct CellFrame {
-        ColumnKey key;
-        std::string open; // everything before the cell's text
-        std::string close;
-    };
+    // The markup of a row: pieces[i] stands before the text of cell i, the last one behind the last cell.
     struct RowFrame {
-        std::string open;
-        std::vector<CellFrame> cells;
-        std::string linkOpen;
-        std::string linkClose;
+        std::vector<std::string> pieces;
+        std::string linkClose; // behind the link, where there are links: the end of the row
     };
 
     RowFrame MakeFrame(bool alternate) const;

@@ -14,7 +14,7 @@ namespace tunedex {
 namespace {
 
 // How much of a page is kept before it goes to the file's buffer.
-constexpr std::size_t kPieceBytes = 16384;
+constexpr std::size_t kPieceBytes = 65536;
 
 std::string_view LineBreakMarkup(const Settings& settings) {
     return settings.DocumentType == "XHTML" ? "<br />" : "<br>";

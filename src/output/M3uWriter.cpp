@@ -9,6 +9,9 @@ namespace tunedex {
 
 namespace {
 
+// How much text is kept before it goes to the file.
+constexpr std::size_t kPieceBytes = 65536;
+
 // Players take a playlist to be in one encoding throughout, and a path must reach them byte for byte: once a
 // path is not ASCII, the whole file is UTF-8.
 TextEncoding EncodingFor(const TrackTable& tracks) {
@@ -35,24 +38,30 @@ bool WriteM3uListing(Listing& listing) {
     if (!EndsInIgnoringCase(path, ".M3U")) {
         path += ".m3u";
     }
+    // Paths go out byte for byte in either encoding: they are all ASCII, or the file is UTF-8.
     TextFile file(path, EncodingFor(listing.tracks));
-    file.WriteLine("#EXTM3U");
     bool aborted = false;
-    std::string line;
+    std::string text = "#EXTM3U\r\n";
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
-        line = "#EXTINF:";
-        line += std::to_string(static_cast<std::int64_t>(SecondsOf(track.Duration)));
-        line += ',';
-        line += track.Artist.View();
-        line += ": ";
-        line += track.Title.View();
-        file.WriteLine(line);
-        file.WriteRaw(track.FullPath);
-        file.WriteRaw("\r\n");
+        listing.tracks.PrefetchAhead(position);
+        text += "#EXTINF:";
+        AppendNumber(text, static_cast<std::int64_t>(SecondsOf(track.Duration)));
+        text += ',';
+        text += track.Artist.View();
+        text += ": ";
+        text += track.Title.View();
+        text += "\r\n";
+        text += track.FullPath.View();
+        text += "\r\n";
+        if (text.size() >= kPieceBytes) {
+            file.Write(text);
+            text.clear();
+        }
         listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         aborted = listing.monitor.AbortRequested();
     }
+    file.Write(text);
     file.Close();
     return aborted;
 }

@@ -1,5 +1,6 @@
 #include "TextWriter.h"
 
+#include "RunTimeError.h"
 #include "Text.h"
 #include "TextFile.h"
 
@@ -7,21 +8,36 @@ namespace tunedex {
 
 namespace {
 
-// Builds one track's line. Returns false when the user aborted.
-bool BuildLine(std::string& line, const Listing& listing, std::size_t position) {
+// How much text is kept before it goes to the file.
+constexpr std::size_t kPieceBytes = 65536;
+
+// Ends the line that begins at `start`: its last TAB gives way. A line without a single column cannot be
+// ended.
+void EndLine(std::string& text, std::size_t start) {
+    if (text.size() == start) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    text.pop_back();
+    text += "\r\n";
+}
+
+// Appends one track's line. Returns false, with the text as it was, when the user aborted.
+bool AppendLine(std::string& text, const Listing& listing, std::size_t position) {
     const TrackRow& track = listing.tracks.At(position);
+    listing.tracks.PrefetchAhead(position);
     const CellContext cells = listing.Cells();
-    line.clear();
+    const std::size_t start = text.size();
     for (const Column& column : listing.columns) {
         if (column.key != ColumnKey::Unknown) {
-            AppendCellText(line, column.key, track, position, cells);
-            line += '\t';
+            AppendCellText(text, column.key, track, position, cells);
+            text += '\t';
         }
         if (listing.monitor.AbortRequested()) {
+            text.resize(start);
             return false;
         }
     }
-    DropLast(line);
+    EndLine(text, start);
     return true;
 }
 
@@ -33,21 +49,24 @@ bool WriteTextListing(Listing& listing) {
         path += ".txt";
     }
     TextFile file(path, TextEncoding::Windows1252Questions);
-    std::string line;
+    std::string text;
     for (const Column& column : listing.columns) {
-        line += HeaderText(column) + '\t';
+        text += HeaderText(column) + '\t';
     }
-    DropLast(line);
-    file.WriteLine(line);
+    EndLine(text, 0);
     bool aborted = false;
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
-        if (BuildLine(line, listing, position)) {
-            file.WriteLine(line);
+        if (AppendLine(text, listing, position)) {
             listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         } else {
             aborted = true;
         }
+        if (text.size() >= kPieceBytes) {
+            file.Write(text);
+            text.clear();
+        }
     }
+    file.Write(text);
     file.Close();
     return aborted;
 }

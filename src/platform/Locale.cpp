@@ -17,7 +17,8 @@ std::string NameFor(const char* category) {
         const char* value = std::getenv(variable);
         if (value != nullptr && *value != '\0') {
             const std::string_view name(value);
-            if (name == "C" || name == "POSIX" || name == "C.UTF-8" || name == "C.utf8") {
+            // "C.UTF-8" in any of its spellings: "C.utf8", "C.UTF8" and so on.
+            if (name == "C" || name == "POSIX" || name.starts_with("C.")) {
                 return {};
             }
             return std::string(name);

@@ -3,6 +3,8 @@
 #include "RunTimeError.h"
 #include "Text.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -56,6 +58,26 @@ std::size_t NumberEnd(std::string_view text, std::size_t start) {
     return end;
 }
 
+// Whether a number that a double cannot hold is too close to 0 for it, and not too large: where its first
+// digit that counts stands, and what the exponent makes of that.
+bool IsTiny(std::string_view number) {
+    const std::size_t exponentSign = std::min(number.find_first_of("eE"), number.size());
+    const std::string_view mantissa = number.substr(0, exponentSign);
+    const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<double>(std::min(mantissa.find_first_of("123456789"), mantissa.size()));
+    double exponent = 0;
+    if (exponentSign < number.size()) {
+        std::string_view digits = number.substr(exponentSign + 1);
+        const bool negative = digits.front() == '-';
+        digits.remove_prefix(negative || digits.front() == '+' ? 1 : 0);
+        for (const char digit : digits) {
+            exponent = exponent * 10 + (digit - '0');
+        }
+        exponent = negative ? -exponent : exponent;
+    }
+    return point - first + exponent < 0;
+}
+
 ParsedNumber ParseNumber(std::string_view text) {
     std::size_t position = 0;
     while (position < text.size() && (text[position] == ' ' || text[position] == '\t')) {
@@ -74,11 +96,7 @@ ParsedNumber ParseNumber(std::string_view text) {
     const auto result = std::from_chars(text.data() + position, text.data() + end, value);
     if (result.ec == std::errc::result_out_of_range) {
         // Too small a number is 0 for every purpose here; too large a one must not pass for 0.
-        const std::string_view number = text.substr(position, end - position);
-        const std::size_t exponent = number.find_first_of("eE");
-        const bool tiny =
-            exponent != std::string_view::npos && exponent + 1 < number.size() && number[exponent + 1] == '-';
-        value = tiny ? 0 : std::numeric_limits<double>::infinity();
+        value = IsTiny(text.substr(position, end - position)) ? 0 : std::numeric_limits<double>::infinity();
     }
     return {negative ? -value : value, end};
 }
@@ -137,6 +155,12 @@ std::int32_t CheckedAdd(std::int32_t a, std::int32_t b) {
         throw RunTimeError(ErrorNumber::Overflow);
     }
     return sum;
+}
+
+void AppendNumber(std::string& text, std::int64_t value) {
+    std::array<char, 20> digits{};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    text.append(digits.data(), result.ptr);
 }
 
 std::string PadNumber(std::int64_t value, int digits) {

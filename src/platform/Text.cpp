@@ -1,7 +1,5 @@
 #include "Text.h"
 
-#include "RunTimeError.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -186,8 +184,16 @@ void AppendWindows1252(std::string& bytes, std::string_view text, Substitute sub
 }
 
 std::string UpperCase(std::string_view text) {
-    std::string upper;
-    upper.reserve(text.size());
+    std::string upper(text);
+    bool ascii = true;
+    for (char& byte : upper) {
+        ascii = ascii && static_cast<unsigned char>(byte) < 0x80;
+        byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 0x20) : byte;
+    }
+    if (ascii) {
+        return upper;
+    }
+    upper.clear();
     for (std::size_t i = 0; i < text.size();) {
         const TextStep step = StepAt(text, i);
         if (!step.stray && step.length > 1) {
@@ -246,13 +252,6 @@ std::string_view TrimBlanksRight(std::string_view text) {
 std::string_view TrimBlanks(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string_view() : TrimBlanksRight(text.substr(first));
-}
-
-void DropLast(std::string& text) {
-    if (text.empty()) {
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    }
-    text.pop_back();
 }
 
 std::string EncodeFileLine(std::string_view text) {

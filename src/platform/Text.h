@@ -52,9 +52,6 @@ std::vector<std::string> Split(std::string_view text, std::string_view separator
 std::string_view TrimBlanks(std::string_view text);
 std::string_view TrimBlanksRight(std::string_view text);
 
-// The text without its last byte, which must be an ASCII character. Raises error 5 for an empty text.
-void DropLast(std::string& text);
-
 // One line of the program's own files. Written in Windows-1252 if that can hold it and those bytes are not by
 // chance UTF-8 with a multi-byte character, otherwise in UTF-8; read as UTF-8 where valid, else as
 // Windows-1252. So every text of whole characters survives the way out and back.

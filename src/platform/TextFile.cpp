@@ -15,7 +15,8 @@ namespace tunedex {
 
 namespace {
 
-constexpr std::size_t kBufferBytes = 262144;
+constexpr std::size_t kBufferBytes = 65536;
+constexpr std::size_t kDirectBytes = 16384;
 
 [[noreturn]] void Fail(int errorCode) {
     throw ErrorFromErrno(errorCode, FileTask::WriteFile);
@@ -39,6 +40,15 @@ std::string ResolveLinks(std::string path) {
 
 bool FolderForbidsNewFiles(int errorCode) {
     return errorCode == EACCES || errorCode == EPERM || errorCode == EROFS;
+}
+
+// A shared folder like /tmp takes new files from everybody, but only owners may put one in an old one's
+// place.
+bool FolderForbidsReplacing(int folder, const struct stat& old) {
+    struct stat status {};
+    const uid_t user = geteuid();
+    return fstat(folder, &status) == 0 && (status.st_mode & S_ISVTX) != 0 && user != 0 &&
+           user != status.st_uid && user != old.st_uid;
 }
 
 int OpenAt(int folder, const std::string& name, int flags, mode_t mode) {
@@ -66,7 +76,6 @@ TextFile::TextFile(const std::string& path, TextEncoding encoding) : encoding_(e
         Discard();
         throw;
     }
-    buffer_.reserve(kBufferBytes + 4096);
 }
 
 void TextFile::OpenAside(const std::string& path) {
@@ -92,7 +101,7 @@ void TextFile::OpenAside(const std::string& path) {
     if (exists && faccessat(folder_, name_.c_str(), W_OK, AT_EACCESS) != 0) {
         Fail(errno);
     }
-    if (!exists || S_ISREG(old.st_mode)) {
+    if (!exists || (S_ISREG(old.st_mode) && !FolderForbidsReplacing(folder_, old))) {
         do {
             aside_ = NewAsideName();
             descriptor_ = OpenAt(folder_, aside_, O_WRONLY | O_CREAT | O_EXCL, 0666);
@@ -141,6 +150,12 @@ void TextFile::Discard() noexcept {
 }
 
 void TextFile::Write(std::string_view text) {
+    // A large piece that no encoding changes goes to the system from where it is.
+    if (text.size() >= kDirectBytes && (encoding_ == TextEncoding::Utf8 || IsAscii(text))) {
+        Flush();
+        WriteOut(text);
+        return;
+    }
     switch (encoding_) {
     case TextEncoding::Windows1252References:
         AppendWindows1252(buffer_, text, Substitute::DecimalReference);
@@ -175,7 +190,11 @@ void TextFile::FlushIfFull() {
 }
 
 void TextFile::Flush() {
-    std::string_view rest = buffer_;
+    WriteOut(buffer_);
+    buffer_.clear();
+}
+
+void TextFile::WriteOut(std::string_view rest) const {
     while (!rest.empty()) {
         const ssize_t done = write(descriptor_, rest.data(), rest.size());
         if (done < 0 && errno == EINTR) {
@@ -186,7 +205,6 @@ void TextFile::Flush() {
         }
         rest.remove_prefix(static_cast<std::size_t>(done));
     }
-    buffer_.clear();
 }
 
 void TextFile::Close() {

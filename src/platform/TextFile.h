@@ -43,6 +43,7 @@ class TextFile {
     void OpenAside(const std::string& path);
     void FlushIfFull();
     void Flush();
+    void WriteOut(std::string_view rest) const;
     void Discard() noexcept;
 
     TextEncoding encoding_;

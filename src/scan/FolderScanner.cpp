@@ -58,10 +58,13 @@ class CollectingVisitor final : public WalkVisitor {
         return held;
     }
     // Stores what is still in flight. Returns false when the user aborted.
-    bool Finish() { return queue_.Drain(); }
+    bool Finish() { return queue_.Drain() && !aborted_; }
 
   private:
     void Store(QueuedTrack& queued) {
+        if (aborted_) {
+            return;
+        }
         if (queued.failure) {
             throw FileFailure{*queued.failure, queued.folder->Path()};
         }
@@ -78,6 +81,8 @@ class CollectingVisitor final : public WalkVisitor {
         table_.Append(reading.track);
         if (reading.decodeError) {
             reporter_.Report(kDecodeErrorTemplate, reading.track.FullPath, "", *reading.decodeError);
+            // The report may have been a box, and Abort pressed to be spared those of the files read ahead.
+            aborted_ = monitor_.AbortRequested();
         } else {
             totals_.TotalSeconds += static_cast<double>(reading.seconds);
         }

@@ -7,10 +7,8 @@
 #include <atomic>
 #include <cerrno>
 #include <dirent.h>
-#include <fcntl.h>
 #include <set>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace tunedex {
@@ -62,18 +60,9 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
 
 OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
     : path_(std::move(path)), baseFolder_(baseFolder) {
-    int descriptor = -1;
-    do {
-        descriptor = open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    } while (descriptor < 0 && errno == EINTR);
-    if (descriptor < 0) {
-        throw ErrorFromErrno(errno, FileTask::UseFolder);
-    }
-    stream_ = fdopendir(descriptor);
+    stream_ = opendir(path_.c_str());
     if (stream_ == nullptr) {
-        const int errorCode = errno;
-        close(descriptor);
-        throw ErrorFromErrno(errorCode, FileTask::UseFolder);
+        throw ErrorFromErrno(errno, FileTask::UseFolder);
     }
     ++OpenFolderCount();
 }

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
+#include <optional>
 #include <string_view>
 
 namespace tunedex {
@@ -48,32 +48,35 @@ std::string* FieldOf(std::string_view frameId, TrackInfo& track) {
 std::string ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size) {
     constexpr std::uint32_t kPiece = 65536;
     std::string content;
-    std::string piece;
-    for (std::uint32_t done = 0; done < size; done += static_cast<std::uint32_t>(piece.size())) {
-        piece.resize(std::min(kPiece, size - done));
-        file.ReadExactly(offset + done, {reinterpret_cast<std::uint8_t*>(piece.data()), piece.size()});
-        std::copy_if(piece.begin(), piece.end(), std::back_inserter(content),
-                     [](char c) { return c != '\0'; });
+    for (std::uint32_t done = 0; done < size;) {
+        const std::uint32_t count = std::min(kPiece, size - done);
+        const std::size_t kept = content.size();
+        content.resize(kept + count);
+        file.ReadExactly(offset + done, {reinterpret_cast<std::uint8_t*>(content.data()) + kept, count});
+        const auto piece = content.begin() + static_cast<std::ptrdiff_t>(kept);
+        content.erase(std::remove(piece, content.end(), '\0'), content.end());
+        done += count;
     }
     return DecodeWindows1252(content);
 }
 
-// One frame at `offset`; returns the offset of the next. Raises error 62 where padding or the file's end
-// stops the walk.
-std::uint64_t ReadFrame(ByteSource& file, std::uint64_t offset, bool moveTheArtists, TrackInfo& track) {
+// One frame at `offset`. Returns the offset of the next, or nothing where padding or the file's end stops the
+// walk.
+std::optional<std::uint64_t> ReadFrame(ByteSource& file, std::uint64_t offset, bool moveTheArtists,
+                                       TrackInfo& track) {
     // Offsets and widths: ID 0/4, size 4/4, flags 8/2, content from 10 on.
-    std::array<std::uint8_t, 4> id{};
-    std::array<std::uint8_t, 4> sizeBytes{};
-    file.ReadExactly(offset, id);
-    const std::string_view frameId(reinterpret_cast<const char*>(id.data()), id.size());
-    if (frameId.find('\0') != std::string_view::npos) {
-        throw RunTimeError(ErrorNumber::InputPastEnd); // padding
+    std::array<std::uint8_t, 8> header{};
+    if (file.Read(offset, header) < header.size()) {
+        return std::nullopt;
     }
-    file.ReadExactly(offset + 4, sizeBytes);
-    const std::uint32_t size = FrameSize(sizeBytes);
+    const std::string_view frameId(reinterpret_cast<const char*>(header.data()), 4);
+    if (frameId.find('\0') != std::string_view::npos) {
+        return std::nullopt; // padding
+    }
+    const std::uint32_t size = FrameSize(std::span<const std::uint8_t>(header).subspan<4, 4>());
     const std::uint64_t content = offset + kHeaderBytes;
     if (size > 0 && (content > file.Size() || file.Size() - content < size)) {
-        throw RunTimeError(ErrorNumber::InputPastEnd);
+        return std::nullopt;
     }
     if (std::string* field = FieldOf(frameId, track)) {
         std::string text = ReadContent(file, content, size);
@@ -81,7 +84,7 @@ std::uint64_t ReadFrame(ByteSource& file, std::uint64_t offset, bool moveTheArti
             text = kUnknownTitle;
         } else if (frameId == "TPE1") {
             text = text.empty() ? kUnknownArtist : text;
-            text = moveTheArtists ? MoveLeadingThe(text) : text;
+            text = moveTheArtists ? MoveLeadingThe(std::move(text)) : text;
         }
         *field = std::move(text);
     }
@@ -106,11 +109,12 @@ Id3v2Location DetectId3v2(ByteSource& file) {
 }
 
 void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track) {
-    std::uint64_t offset = kHeaderBytes;
     try {
+        // A tag of size 0 still gets one look.
+        std::optional<std::uint64_t> offset = kHeaderBytes;
         do {
-            offset = ReadFrame(file, offset, moveTheArtists, track);
-        } while (offset + 1 < location.searchPosition);
+            offset = ReadFrame(file, *offset, moveTheArtists, track);
+        } while (offset && *offset + 1 < location.searchPosition);
     } catch (const RunTimeError&) {
         return; // the fields taken so far stay
     }

@@ -33,21 +33,27 @@ class SearchWindow {
         const bool inside = offset >= start_ && offset - start_ <= bytes_.size() &&
                             bytes_.size() - (offset - start_) >= needed;
         if (!inside) {
-            Load(offset, std::min<std::uint64_t>(left, looks_++ == 0 ? kFirstLook : kLaterLook));
+            Load(offset, left);
         }
-        return std::span<const std::uint8_t>(bytes_).subspan(offset - start_);
+        return bytes_.subspan(offset - start_);
     }
 
   private:
     static constexpr std::size_t kFirstLook = 2048;
     static constexpr std::size_t kLaterLook = 65536;
 
-    void Load(std::uint64_t offset, std::size_t count) {
-        bytes_.resize(count);
+    void Load(std::uint64_t offset, std::uint64_t left) {
+        std::span<std::uint8_t> buffer = first_;
+        if (looked_) {
+            later_.resize(kLaterLook);
+            buffer = later_;
+        }
+        looked_ = true;
+        buffer = buffer.first(std::min<std::uint64_t>(left, buffer.size()));
+        const std::size_t got = file_.Read(offset, buffer);
         start_ = offset;
-        const std::size_t got = file_.Read(offset, bytes_);
-        bytes_.resize(got);
-        if (got < count) {
+        bytes_ = buffer.first(got);
+        if (got < buffer.size()) {
             size_ = offset + got; // the file has shrunk since it was opened
         }
     }
@@ -55,8 +61,10 @@ class SearchWindow {
     ByteSource& file_;
     std::uint64_t size_;
     std::uint64_t start_ = 0;
-    std::vector<std::uint8_t> bytes_;
-    unsigned looks_ = 0;
+    std::span<const std::uint8_t> bytes_; // those from start_ on, in one of the two buffers
+    std::array<std::uint8_t, kFirstLook> first_;
+    std::vector<std::uint8_t> later_;
+    bool looked_ = false;
 };
 
 // Finds "Xing" behind each candidate while looking at every byte once, however many candidates there are.

@@ -15,14 +15,14 @@ namespace {
 
 struct SortAborted {};
 
-// Asks whether to stop, once in a few thousand steps: often enough to answer at once, seldom enough to cost
-// nothing.
+// Asks whether to stop, at the first step and then once in a few thousand: often enough to answer at once,
+// seldom enough to cost nothing.
 class AbortPoll {
   public:
     explicit AbortPoll(RunMonitor& monitor) : monitor_(monitor) {}
 
     void Step() {
-        if ((++steps_ & 0x1FFFU) == 0 && monitor_.AbortRequested()) {
+        if ((steps_++ & 0x1FFFU) == 0 && monitor_.AbortRequested()) {
             throw SortAborted();
         }
     }

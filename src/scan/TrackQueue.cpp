@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <sys/resource.h>
 #include <system_error>
 
 namespace tunedex {
@@ -33,6 +34,16 @@ void ReadOne(QueuedTrack& track, const ReadOptions& options) {
     }
 }
 
+// Folders must never take the last descriptors: the files in them could not be opened then, however long one
+// waits for the readers.
+int MostOpenFolders() {
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur / 4 >= kMostOpenFolders) {
+        return kMostOpenFolders;
+    }
+    return std::max(1, static_cast<int>(limit.rlim_cur / 4));
+}
+
 bool LackedDescriptor(const QueuedTrack& track) {
     const auto lacked = [](const std::optional<RunTimeError>& error) {
         return error && error->Number() == static_cast<int>(ErrorNumber::TooManyFiles);
@@ -43,8 +54,8 @@ bool LackedDescriptor(const QueuedTrack& track) {
 } // namespace
 
 TrackQueue::TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest)
-    : fixedReaders_(readers), options_(options), receiver_(std::move(receiver)),
-      stopTest_(std::move(stopTest)) {}
+    : fixedReaders_(readers), mostOpenFolders_(MostOpenFolders()), options_(options),
+      receiver_(std::move(receiver)), stopTest_(std::move(stopTest)) {}
 
 TrackQueue::~TrackQueue() {
     StopReaders();
@@ -79,7 +90,7 @@ bool TrackQueue::Submit(const std::shared_ptr<OpenFolder>& folder, const char* n
         filling_->tracks.reserve(kBatchFiles);
     }
     filling_->tracks.push_back({folder, name, {}, {}});
-    if (filling_->tracks.size() < kBatchFiles && OpenFolder::OpenCount() < kMostOpenFolders) {
+    if (filling_->tracks.size() < kBatchFiles && OpenFolder::OpenCount() < mostOpenFolders_) {
         return true;
     }
     return Publish();
@@ -108,7 +119,7 @@ bool TrackQueue::Publish() {
     while (!batches_.empty() && ReceiveFront(false)) {
     }
     while (state_ == State::Running && !batches_.empty() &&
-           (batches_.size() >= kMostBatches || OpenFolder::OpenCount() >= kMostOpenFolders)) {
+           (batches_.size() >= kMostBatches || OpenFolder::OpenCount() >= mostOpenFolders_)) {
         ReceiveFront(true);
     }
     return state_ != State::Stopped;

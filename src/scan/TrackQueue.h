@@ -73,6 +73,7 @@ class TrackQueue {
     void StopReaders();
 
     const unsigned fixedReaders_;
+    const int mostOpenFolders_;
     const ReadOptions options_;
     const Receiver receiver_;
     const StopTest stopTest_;

@@ -12,15 +12,6 @@ constexpr std::size_t kBlockBytes = 65536;
 
 } // namespace
 
-std::string_view SharedText::View() const {
-    if (record_ == nullptr) {
-        return {};
-    }
-    std::uint32_t length = 0;
-    std::memcpy(&length, record_, sizeof length);
-    return {record_ + sizeof length, length};
-}
-
 SharedText TextStore::Add(std::string_view text) {
     if (text.empty()) {
         return {};

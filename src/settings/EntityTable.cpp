@@ -67,7 +67,7 @@ void EntityTable::Load(const std::vector<std::string>& lines, std::string_view n
 
 void EntityTable::BuildExpansions() {
     expansions_.assign(kCodePageSize, "");
-    changes_.assign(kCodePageSize, false);
+    changes_.fill(false);
     std::vector<std::string> characters(kCodePageSize);
     for (std::size_t code = 0; code < kCodePageSize; ++code) {
         characters[code] = CharacterOf(code);
@@ -84,7 +84,7 @@ void EntityTable::BuildExpansions() {
                 throw RunTimeError(ErrorNumber::Overflow);
             }
         }
-        changes_[code] = expansion != characters[code];
+        changes_.at(code) = expansion != characters[code];
         expansions_[code] = std::move(expansion);
     }
 }
@@ -92,6 +92,11 @@ void EntityTable::BuildExpansions() {
 void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
     std::size_t done = 0; // what is before this is in the result
     for (std::size_t i = 0; i < text.size();) {
+        const auto ascii = static_cast<unsigned char>(text[i]);
+        if (ascii < 0x80 && !changes_[ascii]) { // nearly every character of nearly every text
+            ++i;
+            continue;
+        }
         const TextStep step = StepAt(text, i);
         const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
         if (byte && changes_[*byte]) {

@@ -1,6 +1,7 @@
 // The user's table of characters and the HTML entities that replace them.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <ostream>
 #include <string>
@@ -44,7 +45,7 @@ class EntityTable {
     // What all slots together make of one character, by its byte in Windows-1252. Each slot replaces single
     // characters, so a text's result is its characters' results side by side.
     std::vector<std::string> expansions_;
-    std::vector<bool> changes_; // whether the character differs from its expansion
+    std::array<bool, 256> changes_{}; // whether the character differs from its expansion
 };
 
 } // namespace tunedex

@@ -12,6 +12,9 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace tunedex {
@@ -78,8 +81,12 @@ void OfferFilters(QFileDialog& dialog, const QList<FileFilter>& filters, const Q
 // What the user picks from the list of kinds is what he gets: the name's extension goes along with it.
 void FollowFilter(QFileDialog& dialog, const QList<FileFilter>& filters) {
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, filters](const QString& name) {
-        const qsizetype index = dialog.nameFilters().indexOf(name);
-        if (index < 0) {
+        // Qt's own dialog tells the description that it shows, a desktop's the whole filter.
+        const auto index = std::distance(
+            filters.begin(), std::find_if(filters.begin(), filters.end(), [&](const FileFilter& filter) {
+                return name == filter.description || name == QtNameFilter(filter);
+            }));
+        if (index == filters.size()) {
             return;
         }
         dialog.setDefaultSuffix(ExtensionOf(filters[index]));
@@ -133,6 +140,7 @@ std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& 
     chooser->setLabelText(QFileDialog::Accept, QDialog::tr("&OK"));
     chooser->setWindowFlags(Qt::Widget);
     chooser->setSizeGripEnabled(false);
+    chooser->layout()->setContentsMargins(0, 0, 0, 0);
     QObject::connect(chooser, &QDialog::accepted, &window, &QDialog::accept);
     QObject::connect(chooser, &QDialog::rejected, &window, &QDialog::reject);
 

@@ -24,8 +24,7 @@ bool IsFolder(const std::string& path) {
 
 // From the address's bytes: a QString would have lost those that are no UTF-8.
 std::string NativePath(const QUrl& url) {
-    const QByteArray encoded = url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveQuery);
-    return QByteArray::fromPercentEncoding(encoded).toStdString();
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 #include "frmTip.h"
 
 #include <QApplication>
-#include <QIcon>
 
 #include <cstdio>
 #include <cstdlib>
@@ -43,14 +42,6 @@ std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
     return qtApplication;
 }
 
-QIcon ProgramIcon() {
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        icon.addFile(u":/icons/tunedex-%1.png"_s.arg(size), QSize(size, size));
-    }
-    return icon;
-}
-
 bool SaveStatisticsOrSay(const Application& application, UserInterface& ui) {
     try {
         SaveStatisticsAtExit(application);
@@ -80,11 +71,9 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
 int RunWindows(int argc, char** argv, Application& application, bool automatic) {
     const std::vector<std::string> arguments(argv + 1, argv + argc); // before Qt takes its own out
     const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
-    Q_INIT_RESOURCE(icons);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(u"tunedex"_s);
-    QApplication::setWindowIcon(ProgramIcon());
+    InstallProgramIcon();
 
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);

@@ -3,7 +3,9 @@
 #include "Functions.h"
 #include "Text.h"
 
+#include <QApplication>
 #include <QDesktopServices>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
@@ -13,6 +15,11 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
+
+// Declares a function of the enclosing namespace, which has to be the global one.
+static void InitResources() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace tunedex {
 namespace {
@@ -123,6 +130,15 @@ void RestoreWindowGeometry(QWidget& window) {
 
 void SaveWindowGeometry(const QWidget& window) {
     WindowStore().setValue(GeometryKey(window), window.saveGeometry());
+}
+
+void InstallProgramIcon() {
+    InitResources();
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(u":/icons/tunedex-%1.png"_s.arg(size), QSize(size, size));
+    }
+    QApplication::setWindowIcon(icon);
 }
 
 void OpenHelp(const Application& application, UserInterface& ui) {

@@ -48,6 +48,9 @@ void FocusAndSelectAll(QLineEdit& field);
 void RestoreWindowGeometry(QWidget& window);
 void SaveWindowGeometry(const QWidget& window);
 
+// Gives the program's windows its icon. To be called once there is a QApplication.
+void InstallProgramIcon();
+
 // Opens the help file in the user's browser, or says that it could not be found.
 void OpenHelp(const Application& application, UserInterface& ui);
 // Opens an address with the program that the desktop has for it; a failure ends in a message.

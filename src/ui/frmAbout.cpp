@@ -19,6 +19,7 @@ namespace tunedex {
 namespace {
 
 constexpr int kIconSize = 64;
+constexpr int kTextWidthInCharacters = 48;
 
 QString VersionSentence() {
     return ToQt(std::string("Version ") + kMajorVersion + "." + kMinorVersion + " - Build " + kBuildNumber);
@@ -42,6 +43,7 @@ frmAbout::frmAbout(const Application& application, UserInterface& ui, QWidget* p
     auto* lblStats = new QLabel(ToQtDisplay(StatisticsText(application.statistics)).trimmed());
     NameControl(*lblStats, u"lblStats"_s, QString(), QString());
     lblStats->setWordWrap(true);
+    lblStats->setMinimumWidth(fontMetrics().averageCharWidth() * kTextWidthInCharacters);
 
     auto* cmdHomePage = new QPushButton(tr("&Home Page"));
     NameControl(*cmdHomePage, u"cmdHomePage"_s, tr("Home page"), ToQt(kHomePage));
@@ -75,6 +77,7 @@ frmAbout::frmAbout(const Application& application, UserInterface& ui, QWidget* p
     layout->addLayout(top);
     layout->addSpacing(fontMetrics().height() / 2);
     layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize); // so that the wrapped text always has its height
 
     SetTabOrders({cmdHomePage, cmdEmail, cmdOK});
     cmdOK->setFocus();

@@ -54,7 +54,6 @@ frmDirSelection::frmDirSelection(Application& application, UserInterface& ui, Di
     connect(lvwDirs_, &QTreeWidget::itemSelectionChanged, this, &frmDirSelection::UpdateState);
     SelectRow(0);
     UpdateState();
-    lvwDirs_->resizeColumnToContents(0);
     RestoreWindowGeometry(*this);
     if (lvwDirs_->topLevelItemCount() == 0) {
         cmdAdd_->setFocus();
@@ -72,7 +71,6 @@ void frmDirSelection::BuildList() {
     lvwDirs_->setUniformRowHeights(true);
     lvwDirs_->setAlternatingRowColors(true);
     lvwDirs_->setTextElideMode(Qt::ElideNone); // long paths are scrolled to
-    lvwDirs_->header()->setStretchLastSection(false);
     lvwDirs_->setTabKeyNavigation(false);
     lvwDirs_->setMinimumWidth(fontMetrics().averageCharWidth() * kListWidthInCharacters);
     auto* remove = new QShortcut(QKeySequence::Delete, lvwDirs_);
@@ -165,7 +163,6 @@ void frmDirSelection::AddFolder(const std::string& folder) {
     }
     new QTreeWidgetItem(lvwDirs_, {ToQt(folder)});
     lastFolder_ = folder;
-    lvwDirs_->resizeColumnToContents(0);
     SelectRow(lvwDirs_->topLevelItemCount() - 1);
     UpdateState();
 }
@@ -281,9 +278,21 @@ void frmDirSelection::ExchangeTexts(int row, int otherRow) {
     other->setText(0, text);
 }
 
+// The column is as wide as the list, and wider where a folder needs it.
+void frmDirSelection::FitColumn() {
+    int widest = 0;
+    for (int row = 0; row < lvwDirs_->topLevelItemCount(); ++row) {
+        const QModelIndex index = lvwDirs_->model()->index(row, 0);
+        widest = std::max(widest, lvwDirs_->sizeHintForIndex(index).width());
+    }
+    lvwDirs_->header()->setMinimumSectionSize(widest);
+    lvwDirs_->header()->resizeSection(0, widest);
+}
+
 void frmDirSelection::UpdateState() {
     const int count = lvwDirs_->topLevelItemCount();
     const int selected = SelectedRow();
+    FitColumn();
     lblNumOfDirs_->setText(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
 
     const QWidget* focus = focusWidget();

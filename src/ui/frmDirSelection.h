@@ -53,6 +53,7 @@ class frmDirSelection final : public QDialog {
     int SelectedRow() const; // -1 where there is none
     void SelectRow(int row);
     void ExchangeTexts(int row, int otherRow);
+    void FitColumn();
     void UpdateState();
 
     Application& application_;

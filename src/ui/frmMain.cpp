@@ -32,7 +32,8 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr int kFieldWidthInCharacters = 44;
+constexpr int kFieldWidthInCharacters = 40;
+constexpr int kFirstWidthInCharacters = 100; // of the window, before the user makes it another
 
 constexpr auto kOutputFilters =
     u"HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|Winamp Playlist (*.m3u)|*.m3u|";
@@ -78,6 +79,7 @@ frmMain::frmMain(Application& application, UserInterface& ui, Dialogs& dialogs)
     setCentralWidget(centre);
     OrderControls();
     UpdateFolderControls();
+    resize(fontMetrics().averageCharWidth() * kFirstWidthInCharacters, sizeHint().height());
     RestoreWindowGeometry(*this);
     txtInputDir_->setFocus();
 }
@@ -165,6 +167,10 @@ QPushButton* frmMain::MakeButton(const char* name, const QString& caption, const
     return button;
 }
 
+int frmMain::LabelWidth() const {
+    return fontMetrics().size(Qt::TextShowMnemonic, tr("Window &title:")).width();
+}
+
 QGroupBox* frmMain::BuildFolderGroup() {
     lblInputDir_ = MakeLabelFor(*txtInputDir_, tr("Fol&der:"));
     cmdSelectDir_ = MakeButton("cmdSelectDir", tr("&Browse..."), tr("Browse for the folder"),
@@ -183,6 +189,7 @@ QGroupBox* frmMain::BuildFolderGroup() {
     auto* group = new QGroupBox(tr("Music"));
     auto* grid = new QGridLayout(group);
     grid->setColumnStretch(1, 1);
+    grid->setColumnMinimumWidth(0, LabelWidth());
     grid->addWidget(lblInputDir_, 0, 0);
     grid->addWidget(txtInputDir_, 0, 1);
     grid->addWidget(cmdSelectDir_, 0, 2);
@@ -199,13 +206,13 @@ QGroupBox* frmMain::BuildOutputGroup() {
         MakeButton("cmdSelectOutputFile", tr("Bro&wse..."), tr("Browse for the output file"),
                    tr("Lets you pick the folder and the name of the list"));
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
-    auto* hint = new QLabel(tr("Ending in .htm: a web page; in .txt: plain text; in .m3u: a playlist."));
+    auto* hint = new QLabel(tr("A name in .htm gives a web page, .txt a plain text, .m3u a playlist."));
     hint->setObjectName(u"lblOutputHint"_s);
-    hint->setWordWrap(true);
 
     auto* group = new QGroupBox(tr("List"));
     auto* grid = new QGridLayout(group);
     grid->setColumnStretch(1, 1);
+    grid->setColumnMinimumWidth(0, LabelWidth());
     grid->addWidget(MakeLabelFor(*txtOutputFile_, tr("&Output file:")), 0, 0);
     grid->addWidget(txtOutputFile_, 0, 1);
     grid->addWidget(cmdSelectOutputFile_, 0, 2);
@@ -246,9 +253,7 @@ QWidget* frmMain::BuildCommandRow() {
     cmdQuit_ = MakeButton("cmdQuit", tr("&Quit"), tr("Quit"), tr("Ends the program"));
     cmdCreateList_ = MakeButton("cmdCreateList", tr("&Create List"), tr("Create list"),
                                 tr("Searches the folders and writes the list"));
-    QFont bold = cmdCreateList_->font();
-    bold.setBold(true);
-    cmdCreateList_->setFont(bold);
+    cmdCreateList_->setDefault(true); // looks it; the fields' Enter key does it
     connect(cmdOptions_, &QPushButton::clicked, this, &frmMain::OptionsRequested);
     connect(cmdAbout_, &QPushButton::clicked, this, &frmMain::ShowAbout);
     connect(cmdQuit_, &QPushButton::clicked, this, &QWidget::close);
@@ -266,9 +271,10 @@ QWidget* frmMain::BuildCommandRow() {
 }
 
 void frmMain::OrderControls() {
-    SetTabOrders({txtInputDir_, cmdSelectDir_, chkMultipleDirs_, cmdSelectDirs_, txtOutputFile_, cmdSelectOutputFile_,
-                  txtWindowTitle_, cmdWindowTitlePlaceHolders_, txtPageTitle_, cmdPageTitlePlaceHolders_, txtPageFooter_,
-                  cmdPageFooterPlaceHolders_, cmdCreateList_, cmdOptions_, cmdAbout_, cmdQuit_});
+    SetTabOrders({txtInputDir_, cmdSelectDir_, chkMultipleDirs_, cmdSelectDirs_, txtOutputFile_,
+                  cmdSelectOutputFile_, txtWindowTitle_, cmdWindowTitlePlaceHolders_, txtPageTitle_,
+                  cmdPageTitlePlaceHolders_, txtPageFooter_, cmdPageFooterPlaceHolders_, cmdCreateList_,
+                  cmdOptions_, cmdAbout_, cmdQuit_});
 }
 
 MainFields frmMain::Fields() const {

@@ -56,6 +56,7 @@ class frmMain final : public QMainWindow {
     QWidget* BuildCommandRow();
     QPushButton* MakeButton(const char* name, const QString& caption, const QString& accessibleName,
                             const QString& description);
+    int LabelWidth() const; // of the longest, so that the fields of all groups are in line
     void OrderControls();
 
     void BrowseFolder();

@@ -1,11 +1,13 @@
 #include "Numbers.h"
 
+#include "Raises.h"
 #include "RunTimeError.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace tunedex {
 namespace {
@@ -27,6 +29,40 @@ TEST(LeadingNumber, TakesWhatATextBeginsWithAndIgnoresTheRest) {
         EXPECT_EQ(LeadingNumber(row.text), row.value) << '"' << row.text << '"';
     }
     EXPECT_EQ(LeadingNumber("1e999"), std::numeric_limits<double>::infinity());
+}
+
+TEST(LeadingNumber, TellsNumbersTooLargeFromNumbersTooSmall) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const std::string zeros(400, '0');
+    const std::pair<std::string, double> rows[] = {
+        {"1" + zeros, infinity},
+        {"-1" + zeros, -infinity},
+        {"0." + zeros + "1", 0},
+        {"1" + zeros + "e-5", infinity},
+        {"1" + zeros + "e-400", 1},
+        {"0." + zeros + "1e+5", 0},
+        {"0." + zeros + "1e401", 1},
+        {"1e99999999999999999999", infinity},
+        {"1e-99999999999999999999", 0},
+        {"0e99999999999999999999", 0},
+        {"0." + zeros + "1e999", infinity},
+        {zeros + "1e-999", 0},
+    };
+    for (const auto& [text, value] : rows) {
+        EXPECT_EQ(LeadingNumber(text), value) << text;
+    }
+}
+
+TEST(LeadingNumber, SkipsTabsAmongTheBlanksBeforeIt) {
+    EXPECT_EQ(LeadingNumber(" \t 7"), 7);
+    EXPECT_EQ(LeadingNumber("\n7"), 0);
+}
+
+TEST(RequireNumber, RaisesTypeMismatchForAnyOtherText) {
+    EXPECT_EQ(RequireNumber(" 12 "), 12);
+    for (const char* text : {"", "x", "12x", "1 2"}) {
+        EXPECT_EQ(test::RaisedBy([text] { RequireNumber(text); }), 13) << text;
+    }
 }
 
 TEST(IsNumeric, AsksForAWholeNumberTextBlanksAside) {
@@ -54,6 +90,29 @@ TEST(ToInt16, RoundsHalvesToEvenAndRaisesOverflow) {
             EXPECT_EQ(error.Number(), 6);
         }
     }
+}
+
+TEST(ToInt32, RoundsHalvesToEvenAndRaisesOverflow) {
+    EXPECT_EQ(ToInt32(2147483647.4), 2147483647);
+    EXPECT_EQ(ToInt32(-2147483648.5), -2147483648);
+    EXPECT_EQ(ToInt32(100000.5), 100000);
+    for (const double value : {2147483647.5, -2147483649.0, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(test::RaisedBy([value] { ToInt32(value); }), 6) << value;
+    }
+}
+
+TEST(CheckedAdd, RaisesOverflowInsteadOfWrappingRound) {
+    EXPECT_EQ(CheckedAdd(2147483646, 1), 2147483647);
+    EXPECT_EQ(CheckedAdd(-2147483647, -1), -2147483648);
+    EXPECT_EQ(test::RaisedBy([] { CheckedAdd(2147483647, 1); }), 6);
+    EXPECT_EQ(test::RaisedBy([] { CheckedAdd(-2147483648, -1); }), 6);
+}
+
+TEST(PadNumber, FillsUpWithZerosBehindTheSign) {
+    EXPECT_EQ(PadNumber(7, 3), "007");
+    EXPECT_EQ(PadNumber(1234, 3), "1234");
+    EXPECT_EQ(PadNumber(0, 1), "0");
+    EXPECT_EQ(PadNumber(-7, 3), "-007");
 }
 
 } // namespace

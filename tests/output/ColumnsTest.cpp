@@ -1,0 +1,293 @@
+#include "Columns.h"
+
+#include "RunTimeError.h"
+#include "SizeText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tunedex {
+namespace {
+
+TEST(ColumnKeyOf, KnowsEveryColumnInAnyCase) {
+    const std::vector<std::pair<std::string_view, ColumnKey>> rows = {
+        {"Number", ColumnKey::Number},
+        {"Artist", ColumnKey::Artist},
+        {"Album", ColumnKey::Album},
+        {"Title", ColumnKey::Title},
+        {"Year", ColumnKey::Year},
+        {"Genre", ColumnKey::Genre},
+        {"MPEG Type", ColumnKey::MpegType},
+        {"Mode", ColumnKey::Mode},
+        {"Bitrate", ColumnKey::Bitrate},
+        {"Frequency", ColumnKey::Frequency},
+        {"Duration", ColumnKey::Duration},
+        {"File Size", ColumnKey::FileSize},
+        {"Filename", ColumnKey::Filename},
+        {"Folder Path", ColumnKey::FolderPath},
+        {"Full Path", ColumnKey::FullPath},
+        {"ArtistTitle", ColumnKey::ArtistTitle},
+        {"ArtistAlbumTitle", ColumnKey::ArtistAlbumTitle},
+        {"nUmBeR", ColumnKey::Number},
+        {"MPEG TYPE", ColumnKey::MpegType},
+        {"folder path", ColumnKey::FolderPath},
+        {"Foo", ColumnKey::Unknown},
+        {"", ColumnKey::Unknown},
+        {" Number", ColumnKey::Unknown},
+        {"Number ", ColumnKey::Unknown},
+        {"MPEGType", ColumnKey::Unknown},
+        {"File Name", ColumnKey::Unknown},
+    };
+    for (const auto& [name, key] : rows) {
+        EXPECT_EQ(ColumnKeyOf(name), key) << name;
+    }
+}
+
+struct MergeRow {
+    std::string columns;
+    std::int16_t merge;
+    std::string_view merged;
+};
+
+TEST(MergeColumns, PutsOneColumnInThePlaceOfTheFirst) {
+    const MergeRow rows[] = {
+        {"Number|Artist|Album|Title|Duration", 0, "Number|Artist|Album|Title|Duration"},
+        {"Number|Artist|Album|Title|Duration", -1, "Number|Artist|Album|Title|Duration"},
+        {"Number|Artist|Album|Title|Duration", 1, "Number|ArtistTitle|Album|Duration"},
+        {"Number|Artist|Album|Title|Duration", 2, "Number|ArtistAlbumTitle|Duration"},
+        {"Number|Title|Artist", 1, "Number|ArtistTitle"},
+        {"Number|Title|Artist", 2, "Number|ArtistAlbumTitle"},
+        {"Artist|Title", 1, "ArtistTitle"},
+        {"Title|Artist", 1, "ArtistTitle"},
+        {"Artist|Title", 2, "ArtistAlbumTitle"},
+        {"Artist|Album|Title", 2, "ArtistAlbumTitle"},
+        {"Title|Year|Artist|Genre", 1, "ArtistTitle|Year|Genre"},
+        {"Artist|Year|Title", 1, "ArtistTitle|Year"},
+        {"Artist|Title|Album", 2, "ArtistAlbumTitle"},
+        {"Artist|Title|Album|Mode", 2, "ArtistAlbumTitle|Mode"},
+    };
+    for (const MergeRow& row : rows) {
+        EXPECT_EQ(MergeColumns(row.columns, row.merge), row.merged) << row.columns << " " << row.merge;
+    }
+}
+
+TEST(MergeColumns, LeavesTheListWhereArtistOrTitleIsMissing) {
+    for (const char* columns :
+         {"", "Number", "Number|Artist|Album", "Title|Album", "|", "|Artist|", "Album"}) {
+        for (const std::int16_t merge : {1, 2, 3}) {
+            EXPECT_EQ(MergeColumns(columns, merge), columns);
+        }
+    }
+}
+
+TEST(MergeColumns, CutsByThePositionsFromBeforeTheRemovals) {
+    const MergeRow rows[] = {
+        // With the album first, its removal moves the rest under the measured positions.
+        {"Album|Artist|Title|Year", 2, "ArtisArtistAlbumTitle"},
+        {"Album|Number|Artist|Title|Duration", 2, "Number|ArtisArtistAlbumTitletion"},
+        // Any other positive value has no name for the merged column.
+        {"Number|Artist|Title|Year", 3, "Number||Year"},
+        {"Artist|Title", 3, ""},
+        // Names are found in any case, and removed as they are written only.
+        {"artist|title|Year", 1, "ArtistTitle|title|Year"},
+        {"ARTIST|Title", 1, "ArtistTitle"},
+        {"title|Artist|Year", 1, "ArtistTitle|Year"},
+        // Empty entries shrink with the removals, too.
+        {"|Artist||Title|Year", 1, "ArtistTitle||Year"},
+        {"Artist|Title|", 1, "ArtistTitle"},
+        {"|Artist|Title", 1, "ArtistTitle"},
+        {"||Artist|Title", 1, "AArtistTitle"},
+        {"Artist|Title||", 1, "ArtistTitle|"},
+        // A name that holds both.
+        {"ArtistTitle", 1, "ArtistTitleArtist"},
+        {"Subtitle|Artist", 1, "SubArtistTitle"},
+    };
+    for (const MergeRow& row : rows) {
+        EXPECT_EQ(MergeColumns(row.columns, row.merge), row.merged) << row.columns << " " << row.merge;
+    }
+}
+
+// The steps as they are prescribed, with positions counted from 1 and texts cut with Left and Right.
+std::string ReferenceMerge(std::string list, std::int16_t merge) {
+    const auto upper = [](std::string text) {
+        for (char& c : text) {
+            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        }
+        return text;
+    };
+    const auto replaceAll = [](std::string& text, const std::string& from, const std::string& to) {
+        for (std::size_t at = text.find(from); at != std::string::npos;
+             at = text.find(from, at + to.size())) {
+            text.replace(at, from.size(), to);
+        }
+    };
+    const int artist = static_cast<int>(upper(list).find("ARTIST") + 1);
+    const int title = static_cast<int>(upper(list).find("TITLE") + 1);
+    if (merge <= 0 || artist == 0 || title == 0) {
+        return list;
+    }
+    const int start = artist < title ? artist : title;
+    const int prefix = start - 1;
+    const int bar = static_cast<int>(list.find('|', static_cast<std::size_t>(start - 1)) + 1);
+    const std::string original = list;
+    replaceAll(list, artist < title ? "Title" : "Artist", "");
+    replaceAll(list, "||", "|");
+    std::string name = merge == 1 ? "ArtistTitle" : "";
+    if (merge == 2) {
+        name = "ArtistAlbumTitle";
+        replaceAll(list, "Album", "");
+        replaceAll(list, "||", "|");
+    }
+    const int right = static_cast<int>(list.size()) - bar + 1;
+    if (right < 0) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    const std::size_t tail = std::min<std::size_t>(static_cast<std::size_t>(right), list.size());
+    list = list.substr(0, static_cast<std::size_t>(prefix)) + name + list.substr(list.size() - tail);
+    if (!list.empty() && list.back() == '|') {
+        list.pop_back();
+    }
+    if (!list.empty() && list.front() == '|') {
+        list.erase(0, 1);
+    }
+    return list;
+}
+
+std::string Attempt(std::string (*merge)(std::string, std::int16_t), const std::string& columns,
+                    std::int16_t kind) {
+    try {
+        return merge(columns, kind);
+    } catch (const RunTimeError& error) {
+        return "error " + std::to_string(error.Number());
+    }
+}
+
+TEST(MergeColumns, AgreesWithThePrescribedStepsOnEveryOrderOfSixColumns) {
+    std::vector<std::string> names = {"", "Album", "Artist", "Number", "Title", "artist"};
+    int errors = 0;
+    do {
+        for (std::size_t count = 0; count <= names.size(); ++count) {
+            std::string columns;
+            for (std::size_t i = 0; i < count; ++i) {
+                columns += (i > 0 ? "|" : "") + names[i];
+            }
+            for (const std::int16_t merge : {0, 1, 2, 3}) {
+                const std::string expected = Attempt(ReferenceMerge, columns, merge);
+                errors += expected == "error 5" ? 1 : 0;
+                ASSERT_EQ(
+                    Attempt([](std::string list, std::int16_t kind) { return MergeColumns(list, kind); },
+                            columns, merge),
+                    expected)
+                    << columns << " " << merge;
+            }
+        }
+    } while (std::next_permutation(names.begin(), names.end()));
+    EXPECT_GT(errors, 0);
+}
+
+TEST(MergeColumns, RaisesError5WhereNothingIsLeftBehindTheMergedColumn) {
+    // The album is gone, and with it more than stood behind the artist.
+    EXPECT_EQ(Attempt([](std::string list, std::int16_t kind) { return MergeColumns(list, kind); },
+                      "Album|Album|Artist|Title", 2),
+              "error 5");
+    EXPECT_EQ(MergeColumns("Album|Album|Artist|Title", 1), "Album|Album|ArtistTitle");
+}
+
+TEST(SplitColumns, KeepsUnknownNamesAndMakesNoneOfNothing) {
+    EXPECT_TRUE(SplitColumns("").empty());
+    const auto columns = SplitColumns("Number|Foo|ARTIST||x");
+    ASSERT_EQ(columns.size(), 5U);
+    EXPECT_EQ(columns[1].name, "Foo");
+    EXPECT_EQ(columns[1].key, ColumnKey::Unknown);
+    EXPECT_EQ(columns[2].name, "ARTIST");
+    EXPECT_EQ(columns[2].key, ColumnKey::Artist);
+    EXPECT_EQ(columns[3].name, "");
+}
+
+TEST(HeaderText, NamesTheMergedColumnsAndLeavesTheOthersAsTheyAreWritten) {
+    EXPECT_EQ(HeaderText({"ArtistTitle", ColumnKey::ArtistTitle}), "Artist: Title");
+    EXPECT_EQ(HeaderText({"ARTISTALBUMTITLE", ColumnKey::ArtistAlbumTitle}), "Artist (Album): Title");
+    EXPECT_EQ(HeaderText({"nUMBER", ColumnKey::Number}), "nUMBER");
+    EXPECT_EQ(HeaderText({"Foo", ColumnKey::Unknown}), "Foo");
+}
+
+struct PathRow {
+    std::string path;
+    PathStyle style;
+    std::string_view name;
+    std::string_view folder;
+};
+
+TEST(AppendCellText, SplitsThePathOfATrack) {
+    const PathRow rows[] = {
+        {"C:\\Music\\a.mp3", PathStyle::Windows(), "a.mp3", "C:\\Music"},
+        {"C:\\a.mp3", PathStyle::Windows(), "a.mp3", "C:"},
+        {"a.mp3", PathStyle::Windows(), "a.mp3", ""},
+        {"/music/b/a.mp3", PathStyle::Unix(), "a.mp3", "/music/b"},
+        {"/a.mp3", PathStyle::Unix(), "a.mp3", ""},
+        {"/music/a\\b.mp3", PathStyle::Unix(), "a\\b.mp3", "/music"},
+    };
+    const Locale locale;
+    for (const PathRow& row : rows) {
+        TrackTable table;
+        TrackInfo track;
+        track.FullPath = row.path;
+        table.Append(track);
+        const auto cell = [&](ColumnKey key) {
+            std::string text;
+            AppendCellText(text, key, table.At(1), 1, {0, locale, row.style});
+            return text;
+        };
+        EXPECT_EQ(cell(ColumnKey::Filename), row.name);
+        EXPECT_EQ(cell(ColumnKey::FolderPath), row.folder);
+        EXPECT_EQ(cell(ColumnKey::FullPath), row.path);
+    }
+}
+
+struct SizeRow {
+    std::int64_t bytes;
+    std::string_view inBytes;
+    std::string_view inKilobytes;
+    std::string_view inMegabytes;
+};
+
+TEST(SizeText, GroupsRoundsAndNamesTheUnit) {
+    const SizeRow rows[] = {
+        {0, "0 b.", "0.00 kB", "0.00 MB"},
+        {1, "1 b.", "0.00 kB", "0.00 MB"},
+        {5, "5 b.", "0.00 kB", "0.00 MB"},
+        {6, "6 b.", "0.01 kB", "0.00 MB"},
+        {128, "128 b.", "0.13 kB", "0.00 MB"}, // 0.125: a tie goes up
+        {384, "384 b.", "0.38 kB", "0.00 MB"}, // 0.375: and again
+        {640, "640 b.", "0.63 kB", "0.00 MB"}, // 0.625
+        {896, "896 b.", "0.88 kB", "0.00 MB"}, // 0.875
+        {999, "999 b.", "0.98 kB", "0.00 MB"},
+        {1000, "1,000 b.", "0.98 kB", "0.00 MB"},
+        {1018, "1,018 b.", "0.99 kB", "0.00 MB"},
+        {1019, "1,019 b.", "1.00 kB", "0.00 MB"},
+        {1024, "1,024 b.", "1.00 kB", "0.00 MB"},
+        {131072, "131,072 b.", "128.00 kB", "0.13 MB"}, // 0.125
+        {1234567, "1,234,567 b.", "1,205.63 kB", "1.18 MB"},
+        {1048575, "1,048,575 b.", "1,024.00 kB", "1.00 MB"},
+        {2147483647, "2,147,483,647 b.", "2,097,152.00 kB", "2,048.00 MB"},
+        {1125899906842624, "1,125,899,906,842,624 b.", "1,099,511,627,776.00 kB", "1,073,741,824.00 MB"},
+    };
+    const Locale locale;
+    for (const SizeRow& row : rows) {
+        EXPECT_EQ(SizeText(row.bytes, 0, locale), row.inBytes);
+        EXPECT_EQ(SizeText(row.bytes, 1, locale), row.inKilobytes);
+        EXPECT_EQ(SizeText(row.bytes, 2, locale), row.inMegabytes);
+        for (const std::int16_t other : {-1, 3, 7}) {
+            EXPECT_EQ(SizeText(row.bytes, other, locale), "");
+        }
+    }
+}
+
+} // namespace
+} // namespace tunedex

@@ -1,0 +1,116 @@
+#include "FileSystem.h"
+
+#include "OrdinaryUser.h"
+#include "Raises.h"
+#include "TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tunedex {
+namespace {
+
+class FileSystemTest : public testing::Test {
+  protected:
+    FileSystemTest() {
+        folder_.Make("folder");
+        folder_.Write("file", "x");
+        EXPECT_EQ(symlink("folder", (folder_ / "to-folder").c_str()), 0);
+        EXPECT_EQ(symlink("file", (folder_ / "to-file").c_str()), 0);
+        EXPECT_EQ(symlink("nowhere", (folder_ / "dangling").c_str()), 0);
+        EXPECT_EQ(symlink("self", (folder_ / "self").c_str()), 0);
+    }
+
+    const test::TestFolder folder_;
+};
+
+TEST_F(FileSystemTest, TellsFoldersFromFilesAndFromNothing) {
+    EXPECT_TRUE(FolderExists(folder_ / "folder"));
+    EXPECT_TRUE(FolderExists(folder_ / "folder/"));
+    EXPECT_TRUE(FolderExists(folder_ / "to-folder"));
+    EXPECT_TRUE(FolderExists("/"));
+    for (const char* name : {"file", "to-file", "dangling", "none", "none/below", "file/below"}) {
+        EXPECT_FALSE(FolderExists(folder_ / name)) << name;
+    }
+    EXPECT_TRUE(FileExists(folder_ / "file"));
+    EXPECT_TRUE(FileExists(folder_ / "to-file"));
+    for (const char* name : {"folder", "to-folder", "dangling", "none", "file/below"}) {
+        EXPECT_FALSE(FileExists(folder_ / name)) << name;
+    }
+    EXPECT_FALSE(FileExists(""));
+}
+
+TEST_F(FileSystemTest, AnEmptyFolderTextIsTheCurrentFolder) {
+    EXPECT_TRUE(FolderExists(""));
+}
+
+TEST_F(FileSystemTest, AFolderTestThatCannotBeAnsweredRaisesErrorFiftyTwo) {
+    EXPECT_EQ(test::RaisedBy([&] { FolderExists(folder_ / "self"); }), 52);
+    EXPECT_EQ(test::RaisedBy([&] { FolderExists(folder_ / std::string(256, 'n')); }), 52);
+    EXPECT_EQ(test::RaisedBy([&] { FolderExists(std::string("a\0b", 3)); }), 52);
+    test::AsOrdinaryUser(folder_, [&] {
+        folder_.Make("closed/inner");
+        ASSERT_EQ(chmod((folder_ / "closed").c_str(), 0), 0);
+        EXPECT_TRUE(FolderExists(folder_ / "closed"));
+        EXPECT_EQ(test::RaisedBy([&] { FolderExists(folder_ / "closed/inner"); }), 52);
+        EXPECT_EQ(test::RaisedBy([&] { FileExists(folder_ / "closed/inner"); }), 75);
+    });
+}
+
+TEST_F(FileSystemTest, CreatesOneFolderAtATime) {
+    CreateFolder(folder_ / "new/");
+    EXPECT_TRUE(FolderExists(folder_ / "new"));
+    EXPECT_EQ(test::RaisedBy([&] { CreateFolder(folder_ / "a/b"); }), 76);
+    EXPECT_EQ(test::RaisedBy([&] { CreateFolder(folder_ / "file/b"); }), 76);
+    EXPECT_EQ(test::RaisedBy([&] { CreateFolder(folder_ / std::string(256, 'n')); }), 52);
+    EXPECT_EQ(test::RaisedBy([&] { CreateFolder(std::string("a\0b", 3)); }), 52);
+    test::AsOrdinaryUser(folder_, [&] {
+        ASSERT_EQ(chmod((folder_ / "folder").c_str(), 0555), 0);
+        EXPECT_EQ(test::RaisedBy([&] { CreateFolder(folder_ / "folder/new"); }), 75);
+    });
+}
+
+TEST_F(FileSystemTest, DeletesAFileAndSaysSoWhenThereIsNone) {
+    DeleteFile(folder_ / "file");
+    EXPECT_FALSE(folder_.Exists("file"));
+    EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / "file"); }), 53);
+    EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / "folder"); }), 75);
+}
+
+TEST_F(FileSystemTest, ListsTheFilesOfAFolderLinksToFilesIncluded) {
+    folder_.Write(".hidden", "x");
+    ASSERT_EQ(mkfifo((folder_ / "fifo").c_str(), 0600), 0);
+    std::vector<std::string> names = FileNamesIn(folder_.Path());
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{".hidden", "file", "to-file"}));
+    EXPECT_TRUE(FileNamesIn(folder_ / "folder").empty());
+    EXPECT_TRUE(FileNamesIn(folder_ / "none").empty());
+    test::AsOrdinaryUser(folder_, [&] {
+        ASSERT_EQ(chmod((folder_ / "folder").c_str(), 0), 0);
+        EXPECT_EQ(test::RaisedBy([&] { FileNamesIn(folder_ / "folder"); }), 75);
+    });
+}
+
+TEST_F(FileSystemTest, KnowsWhetherTheUserMayCreateFilesInAFolder) {
+    EXPECT_FALSE(FolderIsWritable(folder_ / "none"));
+    test::AsOrdinaryUser(folder_, [&] {
+        EXPECT_TRUE(FolderIsWritable(folder_ / "folder"));
+        ASSERT_EQ(chmod((folder_ / "folder").c_str(), 0555), 0);
+        EXPECT_FALSE(FolderIsWritable(folder_ / "folder"));
+        ASSERT_EQ(chmod((folder_ / "folder").c_str(), 0666), 0);
+        EXPECT_FALSE(FolderIsWritable(folder_ / "folder"));
+    });
+}
+
+TEST_F(FileSystemTest, KnowsTheRunningProgramAndItsFolder) {
+    const std::string program = RunningProgram();
+    EXPECT_TRUE(std::filesystem::equivalent(program, "/proc/self/exe"));
+    EXPECT_EQ(RunningProgramFolder() + "platform_test", program);
+}
+
+} // namespace
+} // namespace tunedex

@@ -1,0 +1,275 @@
+#include "FolderWalk.h"
+
+#include "FileRights.h"
+#include "RunTimeError.h"
+#include "TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <dirent.h>
+#include <filesystem>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace tunedex {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TestFolder;
+
+class Recorder final : public WalkVisitor {
+  public:
+    void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) override {
+        files.push_back(folder->Path() + name);
+        bases.push_back(folder->BaseFolder());
+    }
+    bool AfterEntry() override { return ++entries != stopAt; }
+    bool ReleaseFolders() override { return false; }
+
+    std::vector<std::string> files;
+    std::vector<std::string> bases;
+    int entries = 0;
+    int stopAt = 0;
+};
+
+std::vector<std::string> Walk(const std::string& folder, bool recurse) {
+    Recorder recorder;
+    FolderWalk walk;
+    const auto starts = StartFolders(folder, PathStyle::Unix());
+    EXPECT_EQ(starts.size(), 1U);
+    EXPECT_TRUE(walk.Run(starts.front(), recurse, recorder));
+    return recorder.files;
+}
+
+std::vector<std::string> Without(std::vector<std::string> files, const std::string& prefix) {
+    for (std::string& file : files) {
+        EXPECT_TRUE(file.starts_with(prefix)) << file;
+        file.erase(0, prefix.size());
+    }
+    return files;
+}
+
+std::vector<std::string> SortedNames(std::vector<std::string> files) {
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+// The prescribed order, by a recursion of its own over the names as the directory returns them.
+void ExpectedWalk(const std::string& folder, std::vector<std::string>& files) {
+    std::vector<std::string> folders;
+    DIR* const stream = opendir(folder.c_str());
+    ASSERT_NE(stream, nullptr);
+    while (const dirent* entry = readdir(stream)) {
+        const std::string name = entry->d_name;
+        if (name.front() == '.') {
+            continue;
+        }
+        if (fs::is_directory(folder + name)) {
+            folders.push_back(folder + name + "/");
+        } else if (name.size() >= 4 && strcasecmp(name.c_str() + name.size() - 4, ".mp3") == 0) {
+            files.push_back(folder + name);
+        }
+    }
+    closedir(stream);
+    for (auto sub = folders.rbegin(); sub != folders.rend(); ++sub) {
+        ExpectedWalk(*sub, files);
+    }
+}
+
+TEST(FolderWalk, VisitsFilesInDirectoryOrderAndSiblingsInReverse) {
+    const TestFolder folder;
+    for (const char* sub :
+         {"", "A/", "B/", "C/", "A/x/", "A/y/", "A/x/deep/", "B/z/", "C/one/", "C/two/", "C/three/"}) {
+        for (const char* name : {"3.mp3", "1.mp3", "2.mp3", "note.txt"}) {
+            folder.Write(std::string(sub) + name, "");
+        }
+    }
+    std::vector<std::string> expected;
+    ExpectedWalk(folder.Path(), expected);
+    ASSERT_EQ(expected.size(), 33U);
+    EXPECT_EQ(Walk(folder.Path(), true), expected);
+}
+
+TEST(FolderWalk, VisitsAFoldersOwnFilesBeforeThoseOfItsSubfolders) {
+    const TestFolder folder;
+    folder.Write("a/x.mp3", "");
+    folder.Write("b.mp3", "");
+    EXPECT_EQ(Without(Walk(folder.Path(), true), folder.Path()),
+              (std::vector<std::string>{"b.mp3", "a/x.mp3"}));
+}
+
+TEST(FolderWalk, StaysInTheFolderWithoutRecursion) {
+    const TestFolder folder;
+    folder.Write("a/x.mp3", "");
+    folder.Write("b.mp3", "");
+    EXPECT_EQ(Without(Walk(folder.Path(), false), folder.Path()), std::vector<std::string>{"b.mp3"});
+}
+
+TEST(FolderWalk, KnowsAnMp3FileByTheEndOfItsNameInAnyCase) {
+    const TestFolder folder;
+    for (const char* name : {"song.Mp3", "SONG.MP3", "song.mp3", "a.b.mP3", "song.mp3.bak", "song.mp2",
+                             "song.mp33", "songmp3", "mp3", "song.mp3 ", "x.m3u"}) {
+        folder.Write(name, "");
+    }
+    EXPECT_EQ(SortedNames(Without(Walk(folder.Path(), false), folder.Path())),
+              (std::vector<std::string>{"SONG.MP3", "a.b.mP3", "song.Mp3", "song.mp3"}));
+}
+
+TEST(FolderWalk, NeverListsHiddenAndSystemEntries) {
+    const TestFolder folder;
+    folder.Write(".hidden.mp3", "");
+    folder.Write(".mp3", "");
+    folder.Write("..mp3", "");
+    folder.Write(".folder/a.mp3", "");
+    folder.Write("a.mp3", "");
+    ASSERT_EQ(mkfifo((folder / "fifo.mp3").c_str(), 0600), 0);
+    fs::create_symlink("nowhere", folder / "dangling.mp3");
+    fs::create_symlink("loop.mp3", folder / "loop.mp3");
+    fs::create_symlink("fifo.mp3", folder / "to fifo.mp3");
+    fs::create_symlink("/dev/null", folder / "device.mp3");
+    for (const bool recurse : {false, true}) {
+        EXPECT_EQ(Without(Walk(folder.Path(), recurse), folder.Path()), std::vector<std::string>{"a.mp3"});
+    }
+}
+
+TEST(FolderWalk, FollowsLinksToFilesAndFolders) {
+    const TestFolder folder;
+    folder.Write("elsewhere/a.mp3", "");
+    folder.Make("start");
+    fs::create_symlink("../elsewhere/a.mp3", folder / "start/link.mp3");
+    fs::create_symlink("../elsewhere", folder / "start/folder");
+    EXPECT_EQ(Without(Walk(folder / "start", true), folder / "start/"),
+              (std::vector<std::string>{"link.mp3", "folder/a.mp3"}));
+    EXPECT_EQ(Without(Walk(folder / "start", false), folder / "start/"),
+              std::vector<std::string>{"link.mp3"});
+}
+
+TEST(FolderWalk, WalksAFolderOnceHoweverManyLinksLeadToIt) {
+    const TestFolder folder;
+    folder.Write("a/x.mp3", "");
+    folder.Write("top.mp3", "");
+    fs::create_symlink("..", folder / "a/up");
+    fs::create_symlink("a", folder / "also a");
+    fs::create_symlink(".", folder / "self");
+    const auto files = Walk(folder.Path(), true);
+    EXPECT_EQ(files.size(), 2U) << testing::PrintToString(files);
+}
+
+TEST(FolderWalk, WalksAFolderAgainForAnotherStartFolder) {
+    const TestFolder folder;
+    folder.Write("a/x.mp3", "");
+    Recorder recorder;
+    FolderWalk walk;
+    for (const StartFolder& start :
+         StartFolders("%MULT%" + (folder / "a") + "%||%" + folder.Path() + "%||%" + (folder / "a"),
+                      PathStyle::Unix())) {
+        EXPECT_TRUE(walk.Run(start, true, recorder));
+    }
+    EXPECT_EQ(Without(recorder.files, folder.Path()),
+              (std::vector<std::string>{"a/x.mp3", "a/x.mp3", "a/x.mp3"}));
+    EXPECT_EQ(recorder.bases, (std::vector<std::string>{folder / "a/", folder.Path(), folder / "a"}));
+}
+
+TEST(FolderWalk, DescendsIntoAFolderNamedLikeAFileOnlyWithRecursion) {
+    const TestFolder folder;
+    folder.Write("Live.mp3/one.mp3", "");
+    EXPECT_EQ(Without(Walk(folder.Path(), true), folder.Path()),
+              std::vector<std::string>{"Live.mp3/one.mp3"});
+    EXPECT_EQ(Without(Walk(folder.Path(), false), folder.Path()), std::vector<std::string>{"Live.mp3"});
+}
+
+TEST(FolderWalk, StopsAfterTheEntryAtWhichTheVisitorSaysSo) {
+    const TestFolder folder;
+    for (const char* name : {"1.mp3", "2.txt", "3.mp3", "4.mp3", "sub/5.mp3", "sub/6.mp3"}) {
+        folder.Write(name, "");
+    }
+    for (int stopAt = 1; stopAt <= 7; ++stopAt) {
+        Recorder recorder;
+        recorder.stopAt = stopAt;
+        FolderWalk walk;
+        EXPECT_FALSE(walk.Run(StartFolders(folder.Path(), PathStyle::Unix()).front(), true, recorder));
+        EXPECT_EQ(recorder.entries, stopAt);
+    }
+    Recorder recorder;
+    recorder.stopAt = 8;
+    FolderWalk walk;
+    EXPECT_TRUE(walk.Run(StartFolders(folder.Path(), PathStyle::Unix()).front(), true, recorder));
+    EXPECT_EQ(recorder.entries, 7) << "every name counts, whatever it stands for";
+}
+
+int WalkError(const std::string& folder, std::string& where) {
+    Recorder recorder;
+    FolderWalk walk;
+    try {
+        walk.Run(StartFolders(folder, PathStyle::Unix()).front(), true, recorder);
+        return 0;
+    } catch (const RunTimeError& error) {
+        where = walk.CurrentFolder();
+        return error.Number();
+    }
+}
+
+TEST(FolderWalk, RaisesTheErrorOfAFolderThatCannotBeListed) {
+    const TestFolder folder;
+    folder.Write("file", "");
+    folder.Write("ok/a.mp3", "");
+    folder.Make("ok/closed");
+    fs::permissions(folder.Path(), fs::perms::all);
+    fs::permissions(folder / "ok/closed", fs::perms::none);
+    std::string where;
+    EXPECT_EQ(WalkError(folder / "gone", where), 76);
+    EXPECT_EQ(where, folder / "gone/");
+    EXPECT_EQ(WalkError(folder / "file", where), 76);
+    const test::OrdinaryRights rights;
+    EXPECT_EQ(WalkError(folder / "ok", where), 75);
+    EXPECT_EQ(where, folder / "ok/closed/");
+}
+
+struct StartRow {
+    std::string value;
+    std::vector<std::pair<std::string, std::string>> folders; // base folder, path
+};
+
+TEST(StartFolders, MakesOneOfEachEntry) {
+    const StartRow rows[] = {
+        {"C:\\Music", {{"C:\\Music", "C:\\Music\\"}}},
+        {"C:\\Music\\", {{"C:\\Music\\", "C:\\Music\\"}}},
+        {"%MULT%C:\\A%||%D:\\B\\", {{"C:\\A\\", "C:\\A\\"}, {"D:\\B\\", "D:\\B\\"}}},
+        {"%MULT%C:\\Music%||%D:\\More\\%||%E:\\Old",
+         {{"C:\\Music\\", "C:\\Music\\"}, {"D:\\More\\", "D:\\More\\"}, {"E:\\Old", "E:\\Old\\"}}},
+        {"%MULT%C:\\A", {{"C:\\A", "C:\\A\\"}}},
+        {"%MULT%", {}},
+        {"%MULT%%||%", {}},
+        {"%MULT%%||%C:\\A%||%%||%D:\\B%||%", {{"C:\\A\\", "C:\\A\\"}, {"D:\\B\\", "D:\\B\\"}}},
+        {"%MULT%C:\\%MULT%A%||%B",
+         {{"C:\\A\\", "C:\\A\\"}, {"B", "B\\"}}}, // the mark goes wherever it stands
+        {"%mult%C:\\A%||%B", {{"%mult%C:\\A%||%B", "%mult%C:\\A%||%B\\"}}},
+        {"C:\\A%||%D:\\B", {{"C:\\A%||%D:\\B", "C:\\A%||%D:\\B\\"}}},
+        {" %MULT%C:\\A", {{" %MULT%C:\\A", " %MULT%C:\\A\\"}}},
+    };
+    for (const StartRow& row : rows) {
+        std::vector<std::pair<std::string, std::string>> folders;
+        for (const StartFolder& start : StartFolders(row.value, PathStyle::Windows())) {
+            folders.emplace_back(start.baseFolder, start.path);
+        }
+        EXPECT_EQ(folders, row.folders) << row.value;
+    }
+}
+
+TEST(StartFolders, TakesALoneSeparatorForTheRootFolder) {
+    for (const char* value : {"%MULT%/%||%/music", "%MULT%/music%||%/"}) {
+        const auto folders = StartFolders(value, PathStyle::Unix());
+        ASSERT_EQ(folders.size(), 2U);
+        const bool first = folders[0].path == "/";
+        EXPECT_EQ(folders[first ? 0 : 1].baseFolder, "/");
+        EXPECT_EQ(folders[first ? 0 : 1].path, "/");
+        EXPECT_EQ(folders[first ? 1 : 0].path, "/music/");
+    }
+    EXPECT_EQ(StartFolders("/", PathStyle::Unix()).front().path, "/");
+}
+
+} // namespace
+} // namespace tunedex

@@ -1,0 +1,107 @@
+#include "TrackQueue.h"
+
+#include "Mp3Builder.h"
+#include "TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tunedex {
+namespace {
+
+using test::TestFolder;
+
+class TrackQueueTest : public testing::TestWithParam<unsigned> {
+  protected:
+    TrackQueueTest() {
+        for (int i = 0; i < 100; ++i) {
+            names_.push_back(std::to_string(i) + ".mp3");
+            files_.Write(names_.back(), test::Audio(417U * static_cast<unsigned>(i % 7 + 1)));
+        }
+        folder_ = std::make_shared<OpenFolder>(files_.Path(), "");
+    }
+
+    TestFolder files_;
+    std::vector<std::string> names_;
+    std::shared_ptr<OpenFolder> folder_;
+};
+
+TEST_P(TrackQueueTest, HandsReadingsOutInTheOrderInWhichFilesWentIn) {
+    std::vector<std::string> received;
+    TrackQueue queue(
+        GetParam(), {},
+        [&](QueuedTrack& track) {
+            EXPECT_FALSE(track.failure);
+            EXPECT_EQ(track.reading.track.FullPath, files_ / track.name);
+            received.push_back(track.name);
+        },
+        [] { return false; });
+    std::vector<std::string> sent;
+    for (int round = 0; round < 30; ++round) {
+        for (const std::string& name : names_) {
+            EXPECT_TRUE(queue.Submit(folder_, name.c_str()));
+            sent.push_back(name);
+        }
+    }
+    EXPECT_TRUE(queue.Drain());
+    EXPECT_TRUE(queue.Empty());
+    EXPECT_EQ(received, sent);
+}
+
+TEST_P(TrackQueueTest, TellsOfAFileThatIsGone) {
+    int failures = 0;
+    TrackQueue queue(
+        GetParam(), {}, [&](QueuedTrack& track) { failures += track.failure ? track.failure->Number() : 0; },
+        [] { return false; });
+    queue.Submit(folder_, "gone.mp3");
+    queue.Submit(folder_, "0.mp3");
+    EXPECT_TRUE(queue.Drain());
+    EXPECT_EQ(failures, 53);
+}
+
+TEST_P(TrackQueueTest, GivesNothingMoreOnceTheReceiverHasThrown) {
+    int received = 0;
+    TrackQueue queue(
+        GetParam(), {},
+        [&](QueuedTrack& /*track*/) {
+            if (++received == 20) {
+                throw std::runtime_error("enough");
+            }
+        },
+        [] { return false; });
+    const auto submitAll = [&] {
+        for (int round = 0; round < 30; ++round) {
+            for (const std::string& name : names_) {
+                queue.Submit(folder_, name.c_str());
+            }
+        }
+        queue.Drain();
+    };
+    EXPECT_THROW(submitAll(), std::runtime_error);
+    EXPECT_EQ(received, 20);
+    queue.Submit(folder_, "1.mp3");
+    EXPECT_TRUE(queue.Drain());
+    EXPECT_EQ(received, 20);
+}
+
+TEST_P(TrackQueueTest, MayBeThrownAwayWithFilesInFlight) {
+    int received = 0;
+    {
+        TrackQueue queue(
+            GetParam(), {}, [&](QueuedTrack& /*track*/) { ++received; }, [] { return false; });
+        for (const std::string& name : names_) {
+            queue.Submit(folder_, name.c_str());
+        }
+    }
+    EXPECT_LE(received, 100);
+}
+
+INSTANTIATE_TEST_SUITE_P(Readers, TrackQueueTest, testing::Values(1U, 2U, 8U, 32U, 0U), [](const auto& info) {
+    return info.param == 0 ? std::string("automatic") : std::to_string(info.param);
+});
+
+} // namespace
+} // namespace tunedex

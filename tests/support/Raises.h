@@ -1,0 +1,18 @@
+// The number of the run-time error that a call raises.
+#pragma once
+
+#include "RunTimeError.h"
+
+namespace tunedex::test {
+
+// 0 where nothing is raised.
+template <typename Call> int RaisedBy(Call&& call) {
+    try {
+        call();
+    } catch (const RunTimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+} // namespace tunedex::test

@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# Uses the program as a user does, by keyboard on a screen: types a folder and an output file, creates the list, sees
+# the progress window, finds the list, quits with the question, and finds the run counted.
+#
+# usage: RunOnScreen.sh PROGRAM        on the screen that DISPLAY names
+set -euo pipefail
+program=$1
+folder=$(mktemp -d)
+pid=
+finish() {
+    [[ -z $pid ]] || kill "$pid" 2>/dev/null || true
+    rm -rf -- "$folder"
+}
+trap finish EXIT
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+# Waits until a visible window has that name (a regular expression) and prints its number.
+window() {
+    timeout 30 xdotool search --sync --onlyvisible --name "$1" | head -n 1 || fail "no window is called $1"
+}
+# Waits until no visible window has that name.
+gone() {
+    for ((i = 0; i < 300; i++)); do
+        xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || return 0
+        sleep 0.1
+    done
+    fail "the window $1 stays"
+}
+
+mkdir -p "$folder/program" "$folder/config/Corvale Works" "$folder/music/more"
+printf '[General]\nInstallationPath=%s\n' "$folder/program" >"$folder/config/Corvale Works/Tunedex.conf"
+for name in one two more/three; do
+    { printf '\xFF\xFB\x90\x64' && head -c 4000 /dev/zero; } >"$folder/music/$name.mp3"
+done
+
+export QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder LC_ALL=C.UTF-8 QT_LOGGING_RULES='*=false'
+"$program" &
+pid=$!
+
+main=$(window '^Tunedex v')
+xdotool windowfocus --sync "$main"
+xdotool key alt+d type --delay 5 "$folder/music"
+xdotool key alt+o type --delay 5 "$folder/lists/list.htm"
+xdotool key alt+c
+
+# The output folder is missing; Yes is the default answer.
+question=$(window '^Error!$')
+xdotool windowfocus --sync "$question"
+xdotool key Return
+progress=$(window '^Creating List$')
+[[ -n $progress ]] || fail "no progress window"
+gone '^Creating List$'
+
+list=$folder/lists/list.htm
+[[ -f $list ]] || fail "no list was written"
+for name in one two three; do
+    grep -q "$name.mp3" "$list" || fail "$name.mp3 is not listed"
+done
+
+# Cancelled, the question leaves the program running.
+for answer in Escape Return; do
+    kill -0 "$pid" || fail "the program has ended"
+    xdotool windowfocus --sync "$main"
+    xdotool key ctrl+q
+    quit=$(window '^Quit\?$')
+    xdotool windowfocus --sync "$quit"
+    xdotool key "$answer"
+    gone '^Quit\?$'
+done
+status=0
+wait "$pid" || status=$?
+pid=
+((status == 0)) || fail "the program ended with $status"
+
+mapfile -t counts < <(tr -d '\r' <"$folder/program/stats.lst")
+[[ ${counts[0]} == \"????-??-??\" ]] || fail "first started: ${counts[0]}"
+[[ "${counts[*]:1}" == "1 1 3" ]] || fail "counted: ${counts[*]:1}"
+echo "typed, created, listed, quitted and counted"

@@ -1,0 +1,124 @@
+#include "WindowTest.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+using namespace tunedex;
+using namespace tunedex::test;
+
+class WidgetHelpersTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void ATextPassesThroughAFieldUnharmed_data() {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("nothing") << QByteArray("");
+        QTest::newRow("ASCII") << QByteArray("/home/a.mp3");
+        QTest::newRow("letters beyond ASCII") << QByteArray("/M\xC3\xBCsik/\xE3\x81\x82");
+        QTest::newRow("a character beyond 16 bits") << QByteArray("\xF0\x9F\x8E\xB5");
+        QTest::newRow("a stray byte") << QByteArray("/old\xFCname");
+        QTest::newRow("a stray byte after a character beyond 16 bits") << QByteArray("\xF0\x9F\x8E\xB5\xB5");
+        QTest::newRow("every stray byte in a row") << [] {
+            QByteArray bytes;
+            for (int byte = 0x80; byte <= 0xFF; ++byte) {
+                bytes.append(static_cast<char>(byte)).append(' ');
+            }
+            return bytes;
+        }();
+        QTest::newRow("an encoded surrogate, which is no UTF-8") << QByteArray("\xED\xB2\x80");
+        QTest::newRow("an overlong form") << QByteArray("\xC0\xAF");
+        QTest::newRow("a TAB, a line break and a NUL") << QByteArray("a\tb\nc\0d", 7);
+        QTest::newRow("longer than a field usually allows") << QByteArray(40000, 'x');
+    }
+    void ATextPassesThroughAFieldUnharmed() {
+        QFETCH(QByteArray, text);
+        const QScopedPointer<QLineEdit> field(MakeTextField(u"field"_s, u"Field"_s, u"For texts"_s));
+        field->setText(ToQt(text.toStdString()));
+        QCOMPARE(QByteArray::fromStdString(FromQt(field->text())), text);
+    }
+
+    void ALoneSurrogateOfNoByteBecomesAReplacementCharacter() {
+        QCOMPARE(FromQt(QString(QChar(0xD800))), std::string("\xEF\xBF\xBD"));
+        QCOMPARE(FromQt(QString(QChar(0xDC41))), std::string("\xEF\xBF\xBD"));
+    }
+
+    void ForTheEyeAStrayByteIsReplacedAndALineBreakIsPlain() {
+        QCOMPARE(ToQtDisplay("a\r\nb\xFC"), u"a\nb\uFFFD"_s);
+    }
+
+    void AControlCarriesItsNameAndDescription() {
+        const QScopedPointer<QLineEdit> field(MakeTextField(u"txtField"_s, u"Field"_s, u"For texts"_s));
+        QCOMPARE(field->objectName(), u"txtField"_s);
+        QCOMPARE(field->accessibleName(), u"Field"_s);
+        QCOMPARE(field->accessibleDescription(), u"For texts"_s);
+        QCOMPARE(field->toolTip(), u"For texts"_s);
+    }
+
+    void ALabelsMnemonicMovesTheFocusToItsField() {
+        QWidget window;
+        auto* other = new QLineEdit(&window);
+        auto* field = MakeTextField(u"txtField"_s, u"Field"_s, QString());
+        field->setParent(&window);
+        MakeLabelFor(*field, u"&Field:"_s)->setParent(&window);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other->setFocus();
+        QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
+        QVERIFY(field->hasFocus());
+    }
+
+    void AWindowRemembersItsSizeUnderItsName() {
+        QDialog first;
+        first.setObjectName(u"frmFirst"_s);
+        first.resize(321, 234);
+        SaveWindowGeometry(first);
+
+        QDialog again;
+        again.setObjectName(u"frmFirst"_s);
+        RestoreWindowGeometry(again);
+        QCOMPARE(again.size(), QSize(321, 234));
+
+        QDialog other;
+        other.setObjectName(u"frmOther"_s);
+        other.resize(111, 112);
+        RestoreWindowGeometry(other);
+        QCOMPARE(other.size(), QSize(111, 112));
+    }
+
+    void AMissingHelpFileIsSaid() {
+        TestFolder folder;
+        FakeApplication fake(folder.Path());
+        FakeUserInterface ui;
+        OpenHelp(fake.application, ui);
+        const std::vector<FakeUserInterface::Message> expected{
+            {"The help file could not be found!", kOkExclamation, "Error!"}};
+        QVERIFY(ui.messages == expected);
+    }
+
+    void TheHelpFileOpensWhateverBytesItsPathHolds() {
+        FakeBrowser browser;
+        TestFolder folder;
+        FakeApplication fake(folder.Path());
+        fake.application.helpFile = "/srv/a b/\xFC#%/Help.html";
+        FakeUserInterface ui;
+        OpenHelp(fake.application, ui);
+        QVERIFY(ui.messages.empty());
+        QCOMPARE(browser.opened.size(), std::size_t(1));
+        QCOMPARE(browser.opened[0].toEncoded(), QByteArray("file:///srv/a%20b/%FC%23%25/Help.html"));
+    }
+
+    void AnAddressThatNothingOpensIsSaid() {
+        TestFolder folder;
+        FakeApplication fake(folder.Path());
+        FakeUserInterface ui;
+        OpenAddress(u"https://tunedex.example/"_s, fake.application, ui);
+        const std::vector<FakeUserInterface::Message> expected{
+            {"No program could be found to open\r\nhttps://tunedex.example/", kOkExclamation, "Error!"}};
+        QVERIFY(ui.messages == expected);
+    }
+};
+
+TUNEDEX_WINDOW_TEST(WidgetHelpersTest)
+#include "WidgetHelpersTest.moc"

@@ -1,0 +1,489 @@
+#include "frmMain.h"
+
+#include "WindowTest.h"
+
+#include "SettingsFuncs.h"
+#include "Startup.h"
+#include "frmAbout.h"
+#include "frmDirSelection.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace tunedex;
+using namespace tunedex::test;
+
+namespace {
+
+// The lines of a settings file without its head, which holds the time.
+bool HoldsLine(const std::string& path, const std::string& line) {
+    return ReadBytes(path).find("\n" + line + "\r\n") != std::string::npos;
+}
+
+QAction& PlaceholderItem(Desk& desk, int index) {
+    return *Find<QMenu>(desk.Main(), "mnuPlaceholders").actions()[index];
+}
+
+} // namespace
+
+class frmMainTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void TheCaptionNamesTheVersion() {
+        Desk desk;
+        QCOMPARE(desk.Main().windowTitle(), u"Tunedex v1.0"_s);
+    }
+
+    void StartUpFillsTheFields() {
+        Desk desk;
+        desk.folder.Write("Tunedex.cfg",
+                          "Directory=/music\r\nOutputFile=/out/list.htm\r\nWindowTitle=W %D\r\n"
+                          "PageTitle=P\r\nPageFooter=F\r\n");
+        StartUp(desk.fake.application, desk.frontEnd, {});
+        QCOMPARE(TextOf(desk.Main(), "txtInputDir"), std::string("/music"));
+        QCOMPARE(TextOf(desk.Main(), "txtOutputFile"), std::string("/out/list.htm"));
+        QCOMPARE(TextOf(desk.Main(), "txtWindowTitle"), std::string("W %D"));
+        QCOMPARE(TextOf(desk.Main(), "txtPageTitle"), std::string("P"));
+        QCOMPARE(TextOf(desk.Main(), "txtPageFooter"), std::string("F"));
+        QVERIFY(!Find<QCheckBox>(desk.Main(), "chkMultipleDirs").isChecked());
+    }
+
+    void AStoredFolderListSurvivesStartUp() {
+        Desk desk;
+        desk.folder.Write("Tunedex.cfg", "Directory=%MULT%/a%||%/b\r\n");
+        StartUp(desk.fake.application, desk.frontEnd, {});
+        QVERIFY(Find<QCheckBox>(desk.Main(), "chkMultipleDirs").isChecked());
+        QCOMPARE(TextOf(desk.Main(), "txtInputDir"), std::string());
+        QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string("2 folders chosen"));
+        QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%/a%||%/b"));
+    }
+
+    void FieldsCopyTheirTextsAtOnce_data() {
+        QTest::addColumn<QByteArray>("field");
+        QTest::addColumn<int>("setting");
+        QTest::newRow("txtInputDir") << QByteArray("txtInputDir") << 0;
+        QTest::newRow("txtOutputFile") << QByteArray("txtOutputFile") << 1;
+        QTest::newRow("txtWindowTitle") << QByteArray("txtWindowTitle") << 2;
+        QTest::newRow("txtPageTitle") << QByteArray("txtPageTitle") << 3;
+        QTest::newRow("txtPageFooter") << QByteArray("txtPageFooter") << 4;
+    }
+    void FieldsCopyTheirTextsAtOnce() {
+        QFETCH(QByteArray, field);
+        QFETCH(int, setting);
+        Desk desk;
+        desk.Show();
+        const Settings before = desk.TheSettings();
+        Type(desk.Main(), field.constData(), "x%D y");
+        Settings expected = before;
+        std::string* const targets[] = {&expected.Directory, &expected.OutputFile, &expected.WindowTitle,
+                                        &expected.PageTitle, &expected.PageFooter};
+        *targets[setting] = "x%D y";
+        QVERIFY(desk.TheSettings() == expected);
+    }
+
+    void WhileTheListIsUsedTheFolderFieldCopiesNothing() {
+        Desk desk;
+        desk.TheSettings().Directory = "%MULT%/a";
+        MainFields fields;
+        fields.multipleFolders = true;
+        desk.frontEnd.FillFields(fields);
+        Find<QLineEdit>(desk.Main(), "txtInputDir").setText(u"/other"_s);
+        QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%/a"));
+    }
+
+    void APathThatIsNoUtf8ComesThroughItsField() {
+        Desk desk;
+        MainFields fields;
+        fields.inputFolder = "/old\xFCname";
+        fields.outputFile = "/\xFF/list.htm";
+        desk.frontEnd.FillFields(fields);
+        QCOMPARE(desk.frontEnd.Fields().inputFolder, fields.inputFolder);
+        QCOMPARE(desk.frontEnd.Fields().outputFile, fields.outputFile);
+        QCOMPARE(desk.TheSettings().Directory, fields.inputFolder);
+    }
+
+    void TheCheckBoxSwitchesBetweenOneFolderAndAList() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtInputDir", "/music");
+        auto& box = Find<QCheckBox>(desk.Main(), "chkMultipleDirs");
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
+        QVERIFY(box.isChecked());
+        QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%"));
+        QVERIFY(!IsEnabled(desk.Main(), "txtInputDir"));
+        QVERIFY(!IsEnabled(desk.Main(), "cmdSelectDir"));
+        QVERIFY(IsEnabled(desk.Main(), "cmdSelectDirs"));
+        QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string("0 folders chosen"));
+        QCOMPARE(TextOf(desk.Main(), "txtInputDir"), std::string("/music"));
+
+        PressMnemonic(desk.Main(), Qt::Key_M);
+        QVERIFY(!box.isChecked());
+        QCOMPARE(desk.TheSettings().Directory, std::string("/music"));
+        QVERIFY(IsEnabled(desk.Main(), "txtInputDir"));
+        QVERIFY(IsEnabled(desk.Main(), "cmdSelectDir"));
+        QVERIFY(!IsEnabled(desk.Main(), "cmdSelectDirs"));
+        QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string());
+    }
+
+    void BrowsingPutsTheFolderIntoItsField() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtInputDir", "/before");
+        desk.dialogs.folders = {"/mus\xFC"
+                                "c",
+                                std::nullopt};
+        Click(desk.Main(), "cmdSelectDir");
+        QCOMPARE(desk.dialogs.folderQuestions[0].prompt,
+                 std::string(
+                     "Select the folder that you would like Tunedex to scan for MP3 files, and click OK."));
+        QCOMPARE(desk.dialogs.folderQuestions[0].start, std::string("/before"));
+        QCOMPARE(desk.TheSettings().Directory, std::string("/mus\xFC"
+                                                           "c"));
+        Click(desk.Main(), "cmdSelectDir");
+        QCOMPARE(desk.TheSettings().Directory, std::string("/mus\xFC"
+                                                           "c"));
+    }
+
+    void TheFolderListIsChosenInItsDialog() {
+        Desk desk;
+        desk.Show();
+        const std::string one = desk.folder.Make("One");
+        const std::string two = desk.folder.Make("Two");
+        PressMnemonic(desk.Main(), Qt::Key_M);
+        Click(desk.Main(), "cmdSelectDirs");
+        auto& window = OpenWindow<frmDirSelection>(desk.Main());
+        QVERIFY(window.isModal());
+        desk.dialogs.folders = {one, two};
+        Click(window, "cmdAdd");
+        Click(window, "cmdAdd");
+        Click(window, "cmdOK");
+        QCOMPARE(desk.TheSettings().Directory, "%MULT%" + one + "%||%" + two);
+        QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string("2 folders chosen"));
+    }
+
+    void TheOutputFileIsChosenAmongThreeKinds() {
+        Desk desk;
+        desk.Show();
+        desk.dialogs.files = {"/out/list.m3u", std::nullopt};
+        Click(desk.Main(), "cmdSelectOutputFile");
+        QVERIFY(desk.dialogs.fileQuestions[0].forSaving);
+        QCOMPARE(
+            desk.dialogs.fileQuestions[0].filters,
+            u"HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|Winamp Playlist (*.m3u)|*.m3u|"_s);
+        QCOMPARE(TextOf(desk.Main(), "txtOutputFile"), std::string("/out/list.m3u"));
+        Click(desk.Main(), "cmdSelectOutputFile");
+        QCOMPARE(desk.dialogs.fileQuestions[1].start, std::string("/out/list.m3u"));
+        QCOMPARE(desk.TheSettings().OutputFile, std::string("/out/list.m3u"));
+    }
+
+    void QuittingAsksWhenItIsWanted_data() {
+        QTest::addColumn<QByteArray>("how");
+        QTest::newRow("button") << QByteArray("cmdQuit");
+        QTest::newRow("menu") << QByteArray("itmFileExit");
+        QTest::newRow("shortcut") << QByteArray("Ctrl+Q");
+        QTest::newRow("title bar") << QByteArray("close");
+    }
+    void QuittingAsksWhenItIsWanted() {
+        QFETCH(QByteArray, how);
+        Desk desk;
+        desk.Show();
+        const QSignalSpy closed(&desk.Main(), &frmMain::Closed);
+        const auto quit = [&] {
+            if (how == "cmdQuit") {
+                Click(desk.Main(), "cmdQuit");
+            } else if (how == "itmFileExit") {
+                Choose(desk.Main(), "itmFileExit");
+            } else if (how == "Ctrl+Q") {
+                QTest::keyClick(&desk.Main(), Qt::Key_Q, Qt::ControlModifier);
+            } else {
+                desk.Main().close();
+            }
+        };
+        desk.TheSettings().ConfirmQuit = true;
+        const Settings before = desk.TheSettings();
+        desk.dialogs.answers = {kAnswerCancel};
+        quit();
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+        QCOMPARE(desk.dialogs.messages[0].text, std::string("Do you really want\nto quit Tunedex?"));
+        QCOMPARE(desk.dialogs.messages[0].buttons, 33);
+        QCOMPARE(desk.dialogs.messages[0].title, std::string("Quit?"));
+        QVERIFY(desk.Main().isVisible());
+        QCOMPARE(closed.count(), 0);
+        QVERIFY(desk.TheSettings() == before);
+
+        desk.dialogs.answers = {kAnswerOk};
+        quit();
+        QVERIFY(!desk.Main().isVisible());
+        QCOMPARE(closed.count(), 1);
+    }
+
+    void QuittingWithoutConfirmationAsksNothing() {
+        Desk desk;
+        desk.Show();
+        desk.TheSettings().ConfirmQuit = false;
+        Click(desk.Main(), "cmdQuit");
+        QVERIFY(desk.dialogs.messages.empty());
+        QVERIFY(!desk.Main().isVisible());
+    }
+
+    void HelpOpensTheHelpFileOrOnlySaysThatItIsMissing() {
+        FakeBrowser browser;
+        Desk desk;
+        desk.Show();
+        desk.fake.application.errorTitle = "Error!";
+        Choose(desk.Main(), "itmHelpTopics");
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+        QCOMPARE(desk.dialogs.messages[0].text, std::string("The help file could not be found!"));
+        QCOMPARE(desk.dialogs.messages[0].buttons, 48);
+        QCOMPARE(desk.dialogs.messages[0].title, std::string("Error!"));
+        QVERIFY(browser.opened.empty());
+
+        desk.fake.application.helpFile = "/srv/Help.html";
+        QTest::keyClick(&desk.Main(), Qt::Key_F1);
+        QCOMPARE(browser.opened.size(), std::size_t(1));
+        QCOMPARE(browser.opened[0], QUrl(u"file:///srv/Help.html"_s));
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+    }
+
+    void SavingTakesTheControlsAndWritesTheDefaultFile() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtInputDir", "/music");
+        Type(desk.Main(), "txtWindowTitle", "My list");
+        QTest::keyClick(&desk.Main(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(desk.dialogs.fileQuestions.empty());
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "Directory=/music"));
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "WindowTitle=My list"));
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "DocumentType=HTML"));
+        QVERIFY(desk.dialogs.messages.empty());
+    }
+
+    void SavingAsWritesTheChosenFileAndLaterSavesGoThere() {
+        Desk desk;
+        desk.Show();
+        desk.dialogs.files = {desk.folder / "mine"};
+        QTest::keyClick(&desk.Main(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(desk.dialogs.fileQuestions[0].forSaving);
+        QCOMPARE(desk.dialogs.fileQuestions[0].filters,
+                 u"Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*"_s);
+        QVERIFY(HoldsLine(desk.folder / "mine.cfg", "PageTitle="));
+        Type(desk.Main(), "txtPageTitle", "Later");
+        Choose(desk.Main(), "itmFileSaveSettings");
+        QVERIFY(HoldsLine(desk.folder / "mine.cfg", "PageTitle=Later"));
+        QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
+        QCOMPARE(desk.Main().windowTitle(), u"Tunedex v1.0"_s);
+    }
+
+    void CancellingADialogSavesAndLoadsNothing() {
+        Desk desk;
+        desk.Show();
+        const Settings before = desk.TheSettings();
+        Choose(desk.Main(), "itmFileSaveSettingsAs");
+        QTest::keyClick(&desk.Main(), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(desk.dialogs.fileQuestions.size(), std::size_t(2));
+        QVERIFY(desk.TheSettings() == before);
+        QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
+    }
+
+    void OpeningLoadsTheFileOverTheSettingsAndRefreshesTheFields() {
+        Desk desk;
+        desk.Show();
+        desk.TheSettings().PageFooter = "kept";
+        desk.frontEnd.FillFields(FieldsFor(desk.TheSettings()));
+        const std::string path =
+            desk.folder.Write("other.cfg", "Directory=%MULT%/a%||%/b\r\nOutputFile=/o.txt\r\nSpanning=7\r\n");
+        desk.dialogs.files = {path};
+        QTest::keyClick(&desk.Main(), Qt::Key_O, Qt::ControlModifier);
+        QVERIFY(!desk.dialogs.fileQuestions[0].forSaving);
+        QCOMPARE(desk.dialogs.fileQuestions[0].filters,
+                 u"Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*"_s);
+        QCOMPARE(TextOf(desk.Main(), "txtOutputFile"), std::string("/o.txt"));
+        QCOMPARE(TextOf(desk.Main(), "txtPageFooter"), std::string("kept"));
+        QVERIFY(desk.frontEnd.Fields().multipleFolders);
+        QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%/a%||%/b"));
+        QCOMPARE(desk.TheSettings().Spanning, std::int16_t(7));
+
+        Choose(desk.Main(), "itmFileSaveSettings"); // into the file that was opened
+        QVERIFY(HoldsLine(path, "PageFooter=kept"));
+        QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
+    }
+
+    void ASettingsFileThatFailsIsSaid_data() {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QByteArray>("error");
+        QTest::newRow("opening what is gone") << QByteArray("itmFileOpenSettings") << QByteArray("gone.cfg")
+                                              << QByteArray("Error number 53 - File not found");
+        QTest::newRow("saving into a missing folder")
+            << QByteArray("itmFileSaveSettingsAs") << QByteArray("none/a.cfg")
+            << QByteArray("Error number 76 - Path not found");
+    }
+    void ASettingsFileThatFailsIsSaid() {
+        QFETCH(QByteArray, item);
+        QFETCH(QByteArray, path);
+        QFETCH(QByteArray, error);
+        Desk desk;
+        desk.Show();
+        desk.dialogs.files = {desk.folder / path.toStdString()};
+        Choose(desk.Main(), item.constData());
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+        QCOMPARE(desk.dialogs.messages[0].text,
+                 "An unexpected error occurred. The error was: \n\n" + error.toStdString());
+        QCOMPARE(desk.dialogs.messages[0].buttons, 48);
+        QCOMPARE(desk.dialogs.messages[0].title, std::string("Error!"));
+        Choose(desk.Main(), "itmFileSaveSettings"); // the failed name is not kept
+        QVERIFY(desk.folder.Exists("Tunedex.cfg"));
+    }
+
+    void TheMenuListsAllEightPlaceholders() {
+        Desk desk;
+        QStringList labels;
+        for (const QAction* action : Find<QMenu>(desk.Main(), "mnuPlaceholders").actions()) {
+            QCOMPARE(action->objectName(), u"itmPlaceholder"_s);
+            labels.append(action->text());
+        }
+        const QStringList expected{u"%D - Current date"_s,
+                                   u"%T - Current time"_s,
+                                   u"%C - Number of files"_s,
+                                   u"%N - Number of non-tagged files"_s,
+                                   u"%S - Total size of all files"_s,
+                                   u"%P - Total play-time of all files"_s,
+                                   u"%% - Percent sign"_s,
+                                   u"%L - Line break"_s};
+        QCOMPARE(labels, expected);
+    }
+
+    void APlaceholderGoesInAtTheCaret_data() {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<QByteArray>("field");
+        QTest::newRow("window title")
+            << QByteArray("cmdWindowTitlePlaceHolders") << QByteArray("txtWindowTitle");
+        QTest::newRow("page title") << QByteArray("cmdPageTitlePlaceHolders") << QByteArray("txtPageTitle");
+        QTest::newRow("page footer") << QByteArray("cmdPageFooterPlaceHolders")
+                                     << QByteArray("txtPageFooter");
+    }
+    void APlaceholderGoesInAtTheCaret() {
+        QFETCH(QByteArray, button);
+        QFETCH(QByteArray, field);
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), field.constData(), "ab");
+        auto& line = Find<QLineEdit>(desk.Main(), field.constData());
+        QTest::keyClick(&line, Qt::Key_Left);
+        Click(desk.Main(), button.constData());
+        auto& menu = Find<QMenu>(desk.Main(), "mnuPlaceholders");
+        QTRY_VERIFY(menu.isVisible());
+        QTest::keyClick(&menu, Qt::Key_Down); // from the first item to the second
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QTRY_VERIFY(!menu.isVisible());
+        QCOMPARE(TextOf(desk.Main(), field.constData()), std::string("a%Tb"));
+        QCOMPARE(line.cursorPosition(), 3);
+        QTRY_VERIFY(line.hasFocus());
+        QVERIFY(!line.hasSelectedText());
+        line.undo();
+        QCOMPARE(line.text(), u"ab"_s);
+    }
+
+    void APlaceholderReplacesWhatTheUserHasSelected() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtPageTitle", "abcd");
+        auto& line = Find<QLineEdit>(desk.Main(), "txtPageTitle");
+        QTest::keyClick(&line, Qt::Key_Left);
+        QTest::keyClick(&line, Qt::Key_Left, Qt::ShiftModifier);
+        QTest::keyClick(&line, Qt::Key_Left, Qt::ShiftModifier);
+        Click(desk.Main(), "cmdPageTitlePlaceHolders");
+        PlaceholderItem(desk, 7).trigger();
+        QCOMPARE(line.text(), u"a%Ld"_s);
+        QCOMPARE(desk.TheSettings().PageTitle, std::string("a%Ld"));
+    }
+
+    void PassingThroughAFieldByTabDoesNotGiveItsTextAway() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtPageTitle", "precious");
+        Find<QPushButton>(desk.Main(), "cmdWindowTitlePlaceHolders").setFocus();
+        auto* window = desk.Main().windowHandle();
+        QTest::keyClick(window, Qt::Key_Tab);
+        auto& line = Find<QLineEdit>(desk.Main(), "txtPageTitle");
+        QVERIFY(line.hasFocus());
+        QCOMPARE(line.selectedText(), u"precious"_s);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QTest::keyClick(window, Qt::Key_Space);
+        PlaceholderItem(desk, 0).trigger();
+        QCOMPARE(line.text(), u"precious%D"_s);
+    }
+
+    void AnAbandonedPlaceholderMenuChangesNothing() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtPageFooter", "footer");
+        Click(desk.Main(), "cmdPageFooterPlaceHolders");
+        auto& menu = Find<QMenu>(desk.Main(), "mnuPlaceholders");
+        QTest::keyClick(&menu, Qt::Key_Escape);
+        QVERIFY(!menu.isVisible());
+        QCOMPARE(TextOf(desk.Main(), "txtPageFooter"), std::string("footer"));
+    }
+
+    void TheMenusHaveTheirItemsAndShortcuts() {
+        Desk desk;
+        const auto shortcut = [&](const char* name) {
+            return Find<QAction>(desk.Main(), name).shortcut().toString(QKeySequence::PortableText);
+        };
+        QCOMPARE(shortcut("itmFileOpenSettings"), u"Ctrl+O"_s);
+        QCOMPARE(shortcut("itmFileSaveSettings"), u"Ctrl+S"_s);
+        QCOMPARE(shortcut("itmFileSaveSettingsAs"), u"Ctrl+Shift+S"_s);
+        QCOMPARE(shortcut("itmFileExit"), u"Ctrl+Q"_s);
+        QCOMPARE(shortcut("itmHelpTopics"), u"F1"_s);
+        QVERIFY(Find<QMenu>(desk.Main(), "mnuHelp")
+                    .actions()
+                    .contains(&Find<QAction>(desk.Main(), "itmTipOfTheDay")));
+    }
+
+    void EnterInAFieldCreatesTheList_data() {
+        QTest::addColumn<QByteArray>("field");
+        for (const char* name :
+             {"txtInputDir", "txtOutputFile", "txtWindowTitle", "txtPageTitle", "txtPageFooter"}) {
+            QTest::newRow(name) << QByteArray(name);
+        }
+    }
+    void EnterInAFieldCreatesTheList() {
+        QFETCH(QByteArray, field);
+        Desk desk;
+        desk.Show();
+        QTest::keyClick(&Find<QLineEdit>(desk.Main(), field.constData()), Qt::Key_Return);
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+        QCOMPARE(desk.dialogs.messages[0].text, std::string("No input directory specified!"));
+    }
+
+    void EscLeavesTheWindowOpen() {
+        Desk desk;
+        desk.Show();
+        QTest::keyClick(&desk.Main(), Qt::Key_Escape);
+        QVERIFY(desk.Main().isVisible());
+        QVERIFY(desk.dialogs.messages.empty());
+    }
+
+    void ItsSizeIsRemembered() {
+        QSize size;
+        {
+            Desk desk;
+            desk.Show();
+            size = desk.Main().size() + QSize(50, 20);
+            desk.Main().resize(size);
+            desk.Main().close();
+        }
+        Desk desk;
+        QCOMPARE(desk.Main().size(), size);
+    }
+};
+
+TUNEDEX_WINDOW_TEST(frmMainTest)
+#include "frmMainTest.moc"
