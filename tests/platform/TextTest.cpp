@@ -204,15 +204,6 @@ TEST(TrimBlanks, TakesBlanksAndNothingElse) {
     EXPECT_EQ(TrimBlanksRight("  "), "");
 }
 
-TEST(DropLast, ShortensByOneAndRaisesErrorFiveForAnEmptyText) {
-    std::string text = "a,";
-    DropLast(text);
-    EXPECT_EQ(text, "a");
-    DropLast(text);
-    EXPECT_EQ(text, "");
-    EXPECT_EQ(test::RaisedBy([&] { DropLast(text); }), 5);
-}
-
 TEST(FileLine, IsWindows1252WhereThatCanHoldItAndUtf8Otherwise) {
     EXPECT_EQ(EncodeFileLine("plain"), "plain");
     EXPECT_EQ(EncodeFileLine("Café"), "Caf\xE9");
