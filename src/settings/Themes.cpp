@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view kThemeFolderName = "Themes";
 constexpr std::string_view kThemeExtension = ".thm";
+constexpr std::size_t kLongestFileName = 255; // bytes, on every common file system
 
 std::string IndexedKey(std::string_view key, std::size_t index) {
     return std::string(key) + "(" + std::to_string(index) + ")=";
@@ -26,6 +27,20 @@ std::string ThemePath(const std::string& programFolder, const std::string& name)
     return ThemeFolder(programFolder) + name + std::string(kThemeExtension);
 }
 
+std::string StoredThemePath(const std::string& programFolder, const std::string& name) {
+    const std::string usual = ThemePath(programFolder, name);
+    if (FileExists(usual)) {
+        return usual;
+    }
+    for (const std::string& file : FileNamesIn(ThemeFolder(programFolder))) {
+        if (file.size() == name.size() + kThemeExtension.size() && file.starts_with(name) &&
+            EndsInIgnoringCase(file, ".THM")) {
+            return ThemeFolder(programFolder) + file;
+        }
+    }
+    return usual;
+}
+
 std::vector<std::string> ListThemes(const std::string& programFolder) {
     std::vector<std::string> themes;
     for (std::string& name : FileNamesIn(ThemeFolder(programFolder))) {
@@ -39,8 +54,9 @@ std::vector<std::string> ListThemes(const std::string& programFolder) {
 
 bool IsThemeName(const std::string& name) {
     const PathStyle style = PathStyle::Native();
-    return !TrimBlanks(name).empty() && name != "." && name != ".." &&
-           name.find(style.separator) == std::string::npos && name.find('\0') == std::string::npos;
+    return !TrimBlanks(name).empty() && name.size() + kThemeExtension.size() <= kLongestFileName &&
+           name != "." && name != ".." && name.find(style.separator) == std::string::npos &&
+           name.find('\0') == std::string::npos;
 }
 
 void WriteThemeFile(const std::string& path, const ThemeContent& content, const FileStamp& stamp) {

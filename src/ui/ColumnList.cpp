@@ -1,0 +1,151 @@
+#include "ColumnList.h"
+
+#include "Text.h"
+#include "WidgetHelpers.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QMimeData>
+
+namespace tunedex {
+namespace {
+
+constexpr std::string_view kColumnSeparator = "|";
+
+// What a drag carries. Only this process can make one, so a column of another program's window is never
+// taken.
+class ColumnMimeData : public QMimeData {
+    Q_OBJECT
+
+  public:
+    ColumnMimeData(ColumnList* list, int row) : source(list), sourceRow(row) {}
+
+    ColumnList* source;
+    int sourceRow;
+};
+
+const ColumnMimeData* DraggedColumn(const QDropEvent& event, const QWidget& target) {
+    const auto* data = qobject_cast<const ColumnMimeData*>(event.mimeData());
+    return data != nullptr && data->source->window() == target.window() ? data : nullptr;
+}
+
+QListWidgetItem* MakeItem(const QString& name) {
+    auto* item = new QListWidgetItem(name);
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled);
+    return item;
+}
+
+} // namespace
+
+ColumnList::ColumnList(QWidget* parent) : QListWidget(parent) {
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    setUniformItemSizes(true);
+}
+
+void ColumnList::SetColumns(std::string_view joined) {
+    clear();
+    for (const std::string& name : Split(joined, kColumnSeparator)) {
+        addItem(MakeItem(ToQt(name)));
+    }
+}
+
+std::string ColumnList::Columns() const {
+    std::string joined;
+    for (int row = 0; row < count(); ++row) {
+        if (row > 0) {
+            joined += kColumnSeparator;
+        }
+        joined += FromQt(item(row)->text());
+    }
+    return joined;
+}
+
+bool ColumnList::HoldsColumn(std::string_view name) const {
+    const std::string wanted = UpperCase(name);
+    for (int row = 0; row < count(); ++row) {
+        if (UpperCase(FromQt(item(row)->text())) == wanted) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int ColumnList::SelectedRow() const {
+    const QList<QListWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? -1 : row(selected.front());
+}
+
+void ColumnList::SelectRow(int row) {
+    setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+}
+
+void ColumnList::startDrag(Qt::DropActions) {
+    const int row = SelectedRow();
+    if (row < 0) {
+        return;
+    }
+    auto* drag = new QDrag(this);
+    drag->setMimeData(DragData(row).release());
+    drag->exec(Qt::MoveAction);
+}
+
+std::unique_ptr<QMimeData> ColumnList::DragData(int row) {
+    auto data = std::make_unique<ColumnMimeData>(this, row);
+    // The model's own format makes the view draw where the column would be dropped.
+    const std::unique_ptr<QMimeData> items(model()->mimeData({model()->index(row, 0)}));
+    for (const QString& format : items->formats()) {
+        data->setData(format, items->data(format));
+    }
+    return data;
+}
+
+void ColumnList::dragEnterEvent(QDragEnterEvent* event) {
+    if (DraggedColumn(*event, *this) != nullptr) {
+        QListWidget::dragEnterEvent(event);
+        event->acceptProposedAction();
+    }
+}
+
+void ColumnList::dragMoveEvent(QDragMoveEvent* event) {
+    if (DraggedColumn(*event, *this) != nullptr) {
+        QListWidget::dragMoveEvent(event);
+        event->acceptProposedAction();
+    }
+}
+
+void ColumnList::dropEvent(QDropEvent* event) {
+    const ColumnMimeData* dragged = DraggedColumn(*event, *this);
+    if (dragged == nullptr) {
+        return;
+    }
+    event->acceptProposedAction();
+    emit ColumnDropped(dragged->source, dragged->sourceRow, DropRow(*event));
+    stopAutoScroll();
+    setState(NoState);
+    viewport()->update();
+}
+
+int ColumnList::DropRow(const QDropEvent& event) const {
+    const QPoint position = event.position().toPoint();
+    const QModelIndex index = indexAt(position);
+    if (!index.isValid()) {
+        return count();
+    }
+    return index.row() + (position.y() > visualRect(index).center().y() ? 1 : 0);
+}
+
+void MoveColumn(ColumnList& source, int sourceRow, ColumnList& target, int targetRow) {
+    QListWidgetItem* item = source.takeItem(sourceRow);
+    if (item == nullptr) {
+        return;
+    }
+    const int row = &source == &target && sourceRow < targetRow ? targetRow - 1 : targetRow;
+    target.insertItem(row, item);
+    target.SelectRow(row);
+}
+
+} // namespace tunedex
+
+#include "ColumnList.moc"

@@ -1,0 +1,244 @@
+#include "ColumnsPage.h"
+
+#include "ColumnList.h"
+#include "PageControls.h"
+#include "WidgetHelpers.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+QLayout* LabelledList(ColumnList& list, const QString& label) {
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(MakeLabelFor(list, label));
+    layout->addWidget(&list);
+    return layout;
+}
+
+// A disabled button hands the focus on to a neighbour that does something else, so the list takes it first.
+void EnableCommand(QPushButton& command, bool enabled, ColumnList& list) {
+    if (!enabled && command.hasFocus()) {
+        list.setFocus();
+    }
+    command.setEnabled(enabled);
+}
+
+} // namespace
+
+ColumnsPage::ColumnsPage(QWidget* parent)
+    : QFrame(parent), lstInactiveColumns_(new ColumnList), lstActiveColumns_(new ColumnList) {
+    NameControl(*lstInactiveColumns_, u"lstInactiveColumns"_s, u"Hidden columns"_s,
+                u"Columns that the listing leaves out. Double-click or drag one to show it."_s);
+    NameControl(
+        *lstActiveColumns_, u"lstActiveColumns"_s, u"Shown columns, in display order"_s,
+        u"Double-click a column to hide it. Drag it, or press Alt+Up or Alt+Down, to change its place."_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(BuildLists(), 1);
+    layout->addLayout(BuildMerges());
+    SetTabOrder();
+
+    for (ColumnList* list : {lstInactiveColumns_, lstActiveColumns_}) {
+        connect(list, &QListWidget::itemSelectionChanged, this, &ColumnsPage::EnableCommands);
+        connect(
+            list, &ColumnList::ColumnDropped, this,
+            [this, list](ColumnList* source, int sourceRow, int row) { Drop(source, sourceRow, list, row); });
+    }
+    connect(lstInactiveColumns_, &QListWidget::itemDoubleClicked, cmdActive_, &QPushButton::click);
+    connect(lstActiveColumns_, &QListWidget::itemDoubleClicked, cmdInactive_, &QPushButton::click);
+    const auto shortcut = [this](Qt::Key key, QPushButton* command) {
+        auto* keys = new QShortcut(QKeySequence(Qt::ALT | key), lstActiveColumns_, nullptr, nullptr,
+                                   Qt::WidgetShortcut);
+        connect(keys, &QShortcut::activated, command, &QPushButton::click);
+    };
+    shortcut(Qt::Key_Up, cmdUp_);
+    shortcut(Qt::Key_Down, cmdDown_);
+}
+
+QLayout* ColumnsPage::BuildLists() {
+    auto* layout = new QHBoxLayout;
+    layout->addLayout(LabelledList(*lstInactiveColumns_, u"Hidden colu&mns:"_s), 1);
+    layout->addLayout(BuildMoves());
+    layout->addLayout(LabelledList(*lstActiveColumns_, u"Shown, in this o&rder:"_s), 1);
+    return layout;
+}
+
+QLayout* ColumnsPage::BuildMoves() {
+    cmdActive_ =
+        MakeButton(u"cmdActive"_s, u"&Show \u203A"_s, u"Show the selected hidden column, as the last one"_s);
+    cmdInactive_ = MakeButton(u"cmdInactive"_s, u"\u2039 Hid&e"_s, u"Hide the selected shown column"_s);
+    cmdAllActive_ = MakeButton(u"cmdAllActive"_s, u"Show &all \u00BB"_s, u"Show every column"_s);
+    cmdAllInactive_ = MakeButton(u"cmdAllInactive"_s, u"\u00AB H&ide all"_s, u"Hide every column"_s);
+    cmdTop_ = MakeButton(u"cmdTop"_s, u"To&p"_s, u"Make the selected shown column the first"_s);
+    cmdUp_ = MakeButton(u"cmdUp"_s, u"&Up"_s, u"Move the selected shown column one place up (Alt+Up)"_s);
+    cmdDown_ =
+        MakeButton(u"cmdDown"_s, u"Do&wn"_s, u"Move the selected shown column one place down (Alt+Down)"_s);
+    cmdBottom_ = MakeButton(u"cmdBottom"_s, u"&Bottom"_s, u"Make the selected shown column the last"_s);
+
+    connect(cmdActive_, &QPushButton::clicked, this,
+            [this] { MoveSelected(*lstInactiveColumns_, *lstActiveColumns_); });
+    connect(cmdInactive_, &QPushButton::clicked, this,
+            [this] { MoveSelected(*lstActiveColumns_, *lstInactiveColumns_); });
+    connect(cmdAllActive_, &QPushButton::clicked, this, [this] {
+        MoveAll(*lstInactiveColumns_, *lstActiveColumns_);
+        UpdateColumnLists();
+    });
+    connect(cmdAllInactive_, &QPushButton::clicked, this, [this] {
+        MoveAll(*lstActiveColumns_, *lstInactiveColumns_);
+        UpdateColumnLists();
+    });
+    connect(cmdTop_, &QPushButton::clicked, this, [this] { Reorder(0); });
+    connect(cmdUp_, &QPushButton::clicked, this, [this] { Reorder(lstActiveColumns_->SelectedRow() - 1); });
+    connect(cmdDown_, &QPushButton::clicked, this, [this] { Reorder(lstActiveColumns_->SelectedRow() + 1); });
+    connect(cmdBottom_, &QPushButton::clicked, this, [this] { Reorder(lstActiveColumns_->count() - 1); });
+
+    auto* layout = new QVBoxLayout;
+    layout->addStretch();
+    for (QPushButton* command : {cmdActive_, cmdInactive_, cmdAllActive_, cmdAllInactive_}) {
+        layout->addWidget(command);
+    }
+    layout->addStretch();
+    for (QPushButton* command : {cmdTop_, cmdUp_, cmdDown_, cmdBottom_}) {
+        layout->addWidget(command);
+    }
+    layout->addStretch();
+    return layout;
+}
+
+QLayout* ColumnsPage::BuildMerges() {
+    chkArtistTitleMerge_ =
+        MakeCheckBox(u"chkArtistTitleMerge"_s, u"Mer&ge Artist and Title into one column"_s,
+                     u"Shows \u201CArtist: Title\u201D. Both columns must be shown."_s);
+    chkAlbumMerge_ = MakeCheckBox(
+        u"chkAlbumMerge"_s, u"Ta&ke Album into that column, too"_s,
+        u"Shows \u201CArtist (Album): Title\u201D. Counts only where artist and title are merged."_s);
+    chkTheSubstitution_ = MakeCheckBox(u"chkTheSubstitution"_s,
+                                       u"Displa&y a leading \u201CThe\u201D behind the artist's name"_s,
+                                       u"So that artists are sorted by the word that matters"_s);
+    auto* layout = new QVBoxLayout;
+    for (QCheckBox* box : {chkArtistTitleMerge_, chkAlbumMerge_, chkTheSubstitution_}) {
+        connect(box, &QCheckBox::toggled, this, &ColumnsPage::Edited);
+        layout->addWidget(box);
+    }
+    return layout;
+}
+
+void ColumnsPage::SetTabOrder() {
+    const std::initializer_list<QWidget*> order = {lstInactiveColumns_,
+                                                   cmdActive_,
+                                                   cmdInactive_,
+                                                   cmdAllActive_,
+                                                   cmdAllInactive_,
+                                                   lstActiveColumns_,
+                                                   cmdTop_,
+                                                   cmdUp_,
+                                                   cmdDown_,
+                                                   cmdBottom_,
+                                                   chkArtistTitleMerge_,
+                                                   chkAlbumMerge_,
+                                                   chkTheSubstitution_};
+    for (const auto* next = order.begin() + 1; next != order.end(); ++next) {
+        setTabOrder(*(next - 1), *next);
+    }
+}
+
+void ColumnsPage::LoadControls(const Settings& settings) {
+    lstActiveColumns_->SetColumns(settings.ActiveColumns);
+    lstInactiveColumns_->SetColumns(settings.InactiveColumns);
+    chkArtistTitleMerge_->setChecked(settings.Merge == 1 || settings.Merge == 2);
+    chkAlbumMerge_->setChecked(settings.Merge == 2);
+    chkTheSubstitution_->setChecked(settings.MoveTheArtists);
+    UpdateColumnLists();
+}
+
+void ColumnsPage::StoreControls(Settings& settings) const {
+    settings.ActiveColumns = activeColumns_;
+    settings.InactiveColumns = inactiveColumns_;
+    settings.Merge = 0;
+    if (chkArtistTitleMerge_->isChecked()) {
+        settings.Merge = chkAlbumMerge_->isChecked() ? 2 : 1;
+    }
+    settings.MoveTheArtists = MovesTheArtists();
+}
+
+bool ColumnsPage::MovesTheArtists() const {
+    return chkTheSubstitution_->isChecked();
+}
+
+void ColumnsPage::MoveSelected(ColumnList& source, ColumnList& target) {
+    const int row = source.SelectedRow();
+    if (row < 0) {
+        return;
+    }
+    {
+        const QSignalBlocker quiet(source);
+        target.addItem(source.takeItem(row));
+        if (source.count() > 0) {
+            source.SelectRow(std::min(row, source.count() - 1));
+        }
+    }
+    UpdateColumnLists();
+}
+
+void ColumnsPage::MoveAll(ColumnList& source, ColumnList& target) {
+    while (source.count() > 0) {
+        target.addItem(source.takeItem(0));
+    }
+}
+
+void ColumnsPage::Reorder(int row) {
+    ColumnList& list = *lstActiveColumns_;
+    const int selected = list.SelectedRow();
+    if (selected < 0 || row < 0 || row >= list.count()) {
+        return;
+    }
+    {
+        // The commands are enabled by where the column arrives, not by what is selected on the way.
+        const QSignalBlocker quiet(list);
+        MoveColumn(list, selected, list, row > selected ? row + 1 : row);
+    }
+    UpdateColumnLists();
+}
+
+void ColumnsPage::Drop(ColumnList* source, int sourceRow, ColumnList* target, int row) {
+    MoveColumn(*source, sourceRow, *target, row);
+    target->setFocus();
+    UpdateColumnLists();
+}
+
+void ColumnsPage::UpdateColumnLists() {
+    activeColumns_ = lstActiveColumns_->Columns();
+    inactiveColumns_ = lstInactiveColumns_->Columns();
+    EnableCommands();
+    emit Edited();
+}
+
+void ColumnsPage::EnableCommands() {
+    const int selected = lstActiveColumns_->SelectedRow();
+    const int last = lstActiveColumns_->count() - 1;
+    EnableCommand(*cmdActive_, lstInactiveColumns_->SelectedRow() >= 0, *lstInactiveColumns_);
+    EnableCommand(*cmdAllActive_, lstInactiveColumns_->count() > 0, *lstInactiveColumns_);
+    EnableCommand(*cmdInactive_, selected >= 0, *lstActiveColumns_);
+    EnableCommand(*cmdAllInactive_, last >= 0, *lstActiveColumns_);
+    EnableCommand(*cmdTop_, selected > 0, *lstActiveColumns_);
+    EnableCommand(*cmdUp_, selected > 0, *lstActiveColumns_);
+    EnableCommand(*cmdDown_, selected >= 0 && selected < last, *lstActiveColumns_);
+    EnableCommand(*cmdBottom_, selected >= 0 && selected < last, *lstActiveColumns_);
+
+    const bool mergeable =
+        lstActiveColumns_->HoldsColumn("Artist") && lstActiveColumns_->HoldsColumn("Title");
+    chkArtistTitleMerge_->setEnabled(mergeable);
+    chkAlbumMerge_->setEnabled(mergeable);
+}
+
+} // namespace tunedex

@@ -1,0 +1,63 @@
+// The layout editor's page of columns: which are shown, in which order, and how artist, album and title are
+// merged.
+#pragma once
+
+#include "Settings.h"
+
+#include <QFrame>
+
+class QCheckBox;
+class QLayout;
+class QPushButton;
+
+namespace tunedex {
+
+class ColumnList;
+
+class ColumnsPage : public QFrame {
+    Q_OBJECT
+
+  public:
+    explicit ColumnsPage(QWidget* parent = nullptr);
+
+    void LoadControls(const Settings& settings);
+    // ActiveColumns, InactiveColumns, Merge and MoveTheArtists.
+    void StoreControls(Settings& settings) const;
+    bool MovesTheArtists() const;
+
+  signals:
+    void Edited();
+
+  private:
+    QLayout* BuildLists();
+    QLayout* BuildMoves();
+    QLayout* BuildMerges();
+    void SetTabOrder();
+
+    // Moves the selected column to the end of the other list and selects its neighbour.
+    void MoveSelected(ColumnList& source, ColumnList& target);
+    static void MoveAll(ColumnList& source, ColumnList& target);
+    void Reorder(int row);
+    void Drop(ColumnList* source, int sourceRow, ColumnList* target, int row);
+
+    void UpdateColumnLists();
+    void EnableCommands();
+
+    ColumnList* lstInactiveColumns_;
+    ColumnList* lstActiveColumns_;
+    QPushButton* cmdActive_ = nullptr;
+    QPushButton* cmdInactive_ = nullptr;
+    QPushButton* cmdAllActive_ = nullptr;
+    QPushButton* cmdAllInactive_ = nullptr;
+    QPushButton* cmdTop_ = nullptr;
+    QPushButton* cmdUp_ = nullptr;
+    QPushButton* cmdDown_ = nullptr;
+    QPushButton* cmdBottom_ = nullptr;
+    QCheckBox* chkArtistTitleMerge_ = nullptr;
+    QCheckBox* chkAlbumMerge_ = nullptr;
+    QCheckBox* chkTheSubstitution_ = nullptr;
+    std::string activeColumns_;
+    std::string inactiveColumns_;
+};
+
+} // namespace tunedex

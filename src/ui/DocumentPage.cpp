@@ -1,0 +1,45 @@
+#include "DocumentPage.h"
+
+#include "ThemePanel.h"
+#include "WidgetHelpers.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kHtml = 0;
+constexpr int kXhtml = 1;
+
+} // namespace
+
+DocumentPage::DocumentPage(ThemePanel* themes, QWidget* parent)
+    : QFrame(parent), cmbDocumentType_(new QComboBox) {
+    NameControl(*cmbDocumentType_, u"cmbDocumentType"_s, u"Document type"_s,
+                u"The kind of page that listings are written as"_s);
+    cmbDocumentType_->addItems({u"HTML 4.01"_s, u"XHTML 1.0"_s});
+    connect(cmbDocumentType_, &QComboBox::currentIndexChanged, this, &DocumentPage::Edited);
+
+    auto* type = new QHBoxLayout;
+    type->addWidget(MakeLabelFor(*cmbDocumentType_, u"Doc&ument type:"_s));
+    type->addWidget(cmbDocumentType_);
+    type->addStretch();
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(type);
+    layout->addWidget(themes, 1);
+}
+
+void DocumentPage::LoadControls(const Settings& settings) {
+    cmbDocumentType_->setCurrentIndex(settings.DocumentType == "XHTML" ? kXhtml : kHtml);
+}
+
+std::string DocumentPage::DocumentType() const {
+    return cmbDocumentType_->currentIndex() == kXhtml ? "XHTML" : "HTML";
+}
+
+} // namespace tunedex

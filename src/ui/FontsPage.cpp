@@ -1,0 +1,139 @@
+#include "FontsPage.h"
+
+#include "FontChoice.h"
+#include "PageControls.h"
+#include "WidgetHelpers.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kSizes = 7;
+
+QString FontTitle(std::size_t index) {
+    static const std::array<QString, kFontCount> titles = {u"Page heading and text"_s, u"Table headers"_s,
+                                                           u"Table cells"_s};
+    return titles.at(index);
+}
+
+// Any size a settings file may hold can be shown and stored again; those beyond 1 to 7 are listed while they
+// are in use.
+void ShowSize(QComboBox& sizes, const QString& size) {
+    while (sizes.count() > kSizes) {
+        sizes.removeItem(kSizes);
+    }
+    if (sizes.findText(size) < 0) {
+        sizes.addItem(size);
+    }
+    sizes.setCurrentIndex(sizes.findText(size));
+}
+
+} // namespace
+
+FontsPage::FontsPage(const Choosers& choosers, QWidget* parent)
+    : QFrame(parent), choosers_(choosers),
+      chkFontsCSS_(MakeCheckBox(u"chkFontsCSS"_s, u"&Use CSS for fonts."_s,
+                                u"Write the fonts into the page's style sheet"_s)),
+      chkFontsFontTags_(
+          MakeCheckBox(u"chkFontsFontTags"_s, u"Use FONT ta&gs for fonts."_s,
+                       u"Write the fonts into the markup, for readers without style sheets"_s)) {
+    auto* layout = new QVBoxLayout(this);
+    for (std::size_t index = 0; index < kFontCount; ++index) {
+        layout->addWidget(BuildRow(index));
+    }
+    for (QCheckBox* box : {chkFontsCSS_, chkFontsFontTags_}) {
+        connect(box, &QCheckBox::toggled, this, &FontsPage::Edited);
+        layout->addWidget(box);
+    }
+    layout->addStretch();
+}
+
+QGroupBox* FontsPage::BuildRow(std::size_t index) {
+    const int number = static_cast<int>(index);
+    const QString title = FontTitle(index);
+    Row& row = rows_.at(index);
+    row.txtFontList = MakeTextField(ArrayName(u"txtFontList"_s, number), title + u": typefaces"_s,
+                                    u"Typefaces in order of preference, with commas between them"_s);
+    row.cmbFontSize = new QComboBox;
+    NameControl(*row.cmbFontSize, ArrayName(u"cmbFontSize"_s, number), title + u": size"_s,
+                u"From 1, the smallest, to 7, the largest; 3 is the size of ordinary text"_s);
+    for (int size = 1; size <= kSizes; ++size) {
+        row.cmbFontSize->addItem(QString::number(size));
+    }
+    row.chkBold = MakeCheckBox(ArrayName(u"chkBold"_s, number), u"&Bold"_s, title + u" in bold type"_s);
+    row.chkBold->setAccessibleName(title + u": bold"_s);
+    row.chkItalic =
+        MakeCheckBox(ArrayName(u"chkItalic"_s, number), u"&Italic"_s, title + u" in italic type"_s);
+    row.chkItalic->setAccessibleName(title + u": italic"_s);
+    row.cmdSelectFont = MakeButton(ArrayName(u"cmdSelectFont"_s, number), u"&Select..."_s,
+                                   u"Select a font of this computer"_s);
+    row.cmdSelectFont->setAccessibleName(title + u": select font"_s);
+
+    connect(row.txtFontList, &QLineEdit::textChanged, this, &FontsPage::Edited);
+    connect(row.cmbFontSize, &QComboBox::currentIndexChanged, this, &FontsPage::Edited);
+    connect(row.chkBold, &QCheckBox::toggled, this, &FontsPage::Edited);
+    connect(row.chkItalic, &QCheckBox::toggled, this, &FontsPage::Edited);
+    connect(row.cmdSelectFont, &QPushButton::clicked, this, [this, index] { SelectFont(index); });
+
+    auto* group = new QGroupBox(title);
+    auto* grid = new QGridLayout(group);
+    grid->addWidget(MakeLabelFor(*row.txtFontList, u"T&ypefaces:"_s), 0, 0);
+    grid->addWidget(row.txtFontList, 0, 1, 1, 4);
+    grid->addWidget(MakeLabelFor(*row.cmbFontSize, u"Si&ze:"_s), 1, 0);
+    grid->addWidget(row.cmbFontSize, 1, 1);
+    grid->addWidget(row.chkBold, 1, 2);
+    grid->addWidget(row.chkItalic, 1, 3);
+    grid->addWidget(row.cmdSelectFont, 1, 4, Qt::AlignRight);
+    grid->setColumnStretch(4, 1);
+    return group;
+}
+
+void FontsPage::SelectFont(std::size_t index) {
+    const Row& row = rows_.at(index);
+    const ListingFont font{row.txtFontList->text(), row.cmbFontSize->currentText(), row.chkBold->isChecked(),
+                           row.chkItalic->isChecked()};
+    const std::optional<QFont> chosen = choosers_.font(window(), FontOf(font));
+    if (!chosen) {
+        return;
+    }
+    const ListingFont result = WithChosenFont(font, *chosen);
+    row.txtFontList->setText(result.faces);
+    ShowSize(*row.cmbFontSize, result.size);
+    row.chkBold->setChecked(result.bold);
+    row.chkItalic->setChecked(result.italic);
+}
+
+void FontsPage::LoadControls(const Settings& settings) {
+    for (std::size_t index = 0; index < kFontCount; ++index) {
+        const Row& row = rows_.at(index);
+        const FontSetting& font = settings.Font.at(index);
+        row.txtFontList->setText(ToQt(font.face));
+        ShowSize(*row.cmbFontSize, ToQt(font.size));
+        row.chkBold->setChecked(font.bold);
+        row.chkItalic->setChecked(font.italic);
+    }
+    chkFontsCSS_->setChecked(settings.FontCSS);
+    chkFontsFontTags_->setChecked(settings.FontHTML);
+}
+
+void FontsPage::StoreControls(Settings& settings) const {
+    for (std::size_t index = 0; index < kFontCount; ++index) {
+        const Row& row = rows_.at(index);
+        settings.Font.at(index) = {FromQt(row.txtFontList->text()), FromQt(row.cmbFontSize->currentText()),
+                                   row.chkBold->isChecked(), row.chkItalic->isChecked()};
+    }
+    settings.FontCSS = chkFontsCSS_->isChecked();
+    settings.FontHTML = chkFontsFontTags_->isChecked();
+}
+
+} // namespace tunedex

@@ -1,0 +1,105 @@
+#include "PreviewPane.h"
+
+#include "Path.h"
+#include "RichTextPage.h"
+#include "RunTimeError.h"
+#include "SamplePage.h"
+#include "WidgetHelpers.h"
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include <chrono>
+#include <sstream>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
+
+} // namespace
+
+PreviewPane::PreviewPane(const Application& application, std::function<Settings()> settings, QWidget* parent)
+    : QWidget(parent), application_(application), settings_(std::move(settings)), caption_(new QLabel),
+      browser_(new QTextBrowser) {
+    setObjectName(u"PreviewPane"_s);
+    NameControl(*browser_, u"txtPreview"_s, u"Preview of the listing"_s,
+                u"A few made-up tracks as they would be listed with what the editor shows now"_s);
+    // Nothing to follow, so Tab goes past the links in it.
+    browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    browser_->setTabChangesFocus(true);
+    browser_->setOpenLinks(false);
+    browser_->setToolTip({});
+    browser_->setMinimumSize(180, 120);
+    // As browsers do: a column is never narrower than its longest word.
+    browser_->setWordWrapMode(QTextOption::WordWrap);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    caption_->setObjectName(u"lblPreview"_s);
+    caption_->setWordWrap(true);
+    layout->addWidget(caption_);
+    layout->addWidget(browser_);
+
+    delay_.setSingleShot(true);
+    connect(&delay_, &QTimer::timeout, this, &PreviewPane::ShowNow);
+    try {
+        std::ostringstream faults; // the run itself reports them
+        entities_.Load(application_.programFolder + std::string(kEntityFileName), faults);
+    } catch (const RunTimeError&) {
+        entities_ = EntityTable();
+    }
+}
+
+void PreviewPane::ShowSoon() {
+    if (isVisible()) {
+        delay_.start(kPauseBeforeUpdate);
+    }
+}
+
+void PreviewPane::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    delay_.start(0); // once the window itself shows
+}
+
+void PreviewPane::ShowNow() {
+    delay_.stop();
+    try {
+        const std::string folder = FromQt(folder_.path()) + PathStyle::Native().separator;
+        ShowPage(ToQtDisplay(WriteSamplePage(settings_(), application_, entities_, folder)));
+    } catch (const RunTimeError& error) {
+        ShowPage(u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"
+                 "<p>Where Album is merged, it must not stand before both Artist and Title.</p>"_s.arg(
+                     QString::fromLatin1(error.Description())));
+    }
+}
+
+void PreviewPane::ShowPage(const QString& page) {
+    const RichTextPage richText = PrepareRichText(page);
+    caption_->setText(
+        richText.styleSheetIgnored
+            ? u"Preview: browsers pass over the style sheet of XHTML listings; FONT tags style them."_s
+            : u"Preview with sample tracks"_s);
+    QPalette colours;
+    const auto set = [&](QPalette::ColorRole role, const std::optional<QColor>& colour) {
+        if (colour) {
+            colours.setColor(role, *colour);
+        }
+    };
+    set(QPalette::Text, richText.text);
+    set(QPalette::Base, richText.background);
+    browser_->setPalette(colours);
+    const int across = browser_->horizontalScrollBar()->value();
+    const int down = browser_->verticalScrollBar()->value();
+    // Rich text knows no link colour in the body tag.
+    const QString links = richText.link ? u"a {color: %1;}"_s.arg(richText.link->name()) : QString();
+    browser_->document()->setDefaultStyleSheet(richText.styleSheet + links);
+    browser_->setHtml(richText.html);
+    browser_->horizontalScrollBar()->setValue(across);
+    browser_->verticalScrollBar()->setValue(down);
+}
+
+} // namespace tunedex

@@ -1,0 +1,100 @@
+#include "RichTextPage.h"
+
+#include "HexColour.h"
+
+#include <QRegularExpression>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+// The size names of a browser's style sheets in its usual pixels. Qt's rich text knows not all of the names.
+struct NamedSize {
+    QString name;
+    QString pixels;
+};
+
+// Takes the style element out of the page and returns what is in it.
+QString TakeStyleElement(QString& page) {
+    static const QRegularExpression element(u"<style[^>]*>(.*?)</style>"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = element.match(page);
+    if (!match.hasMatch()) {
+        return {};
+    }
+    page.remove(match.capturedStart(), match.capturedLength());
+    return match.captured(1);
+}
+
+// The rules that a browser takes from a style element. One without properties is written as "tr }", which
+// makes the selector of the next rule unreadable, so that browsers skip that one, too; Qt's reader would skip
+// all that follow.
+QString ReadableRules(QString text) {
+    if (text.contains(u"<![CDATA["_s)) {
+        return {};
+    }
+    text.remove(u"<!--"_s);
+    static const QRegularExpression rule(u"([^{]*)(\\{[^}]*\\})"_s);
+    static const QRegularExpression selector(u"^[\\w\\s.,]+$"_s);
+    QString rules;
+    for (const QRegularExpressionMatch& match : rule.globalMatch(text)) {
+        if (selector.match(match.captured(1)).hasMatch()) {
+            rules += match.captured(1).trimmed() + u' ' + match.captured(2) + u'\n';
+        }
+    }
+    return rules;
+}
+
+QString WithSizesInPixels(QString rules) {
+    static const std::array<NamedSize, 7> sizes = {{{u"xx-small"_s, u"9px"_s},
+                                                    {u"x-small"_s, u"10px"_s},
+                                                    {u"small"_s, u"13px"_s},
+                                                    {u"medium"_s, u"16px"_s},
+                                                    {u"large"_s, u"18px"_s},
+                                                    {u"x-large"_s, u"24px"_s},
+                                                    {u"xx-large"_s, u"32px"_s}}};
+    for (const NamedSize& size : sizes) {
+        rules.replace(u"font-size: "_s + size.name + u';', u"font-size: "_s + size.pixels + u';');
+    }
+    return rules;
+}
+
+// Half-typed colours: Qt would complain of each on standard error.
+void RemoveUnreadableColours(QString& page) {
+    static const QRegularExpression colour(u" (?:bgcolor|color)=\"#(?![0-9A-Fa-f]{6}\")[^\"]*\""_s);
+    page.remove(colour);
+}
+
+std::optional<QColor> FirstColour(const QString& text, const QRegularExpression& pattern) {
+    const QRegularExpressionMatch match = pattern.match(text);
+    return match.hasMatch() ? ColourFromText(match.captured(1)) : std::nullopt;
+}
+
+// The colour of the rule where there is one, else of the tag.
+std::optional<QColor> PageColour(const QString& rules, const QString& rule, const QString& page,
+                                 const QString& attribute) {
+    const QRegularExpression inRule(u"(?:^|\\s)"_s + rule + u": #([0-9A-Fa-f]{6});"_s);
+    const QRegularExpression inTag(u"<body [^>]*"_s + attribute + u"=\"#([0-9A-Fa-f]{6})\""_s);
+    const std::optional<QColor> colour = FirstColour(rules, inRule);
+    return colour ? colour : FirstColour(page, inTag);
+}
+
+} // namespace
+
+RichTextPage PrepareRichText(QString page) {
+    RichTextPage result;
+    const QString styles = TakeStyleElement(page);
+    result.styleSheet = WithSizesInPixels(ReadableRules(styles));
+    result.styleSheetIgnored = styles.contains(u'{') && result.styleSheet.isEmpty();
+    result.text = PageColour(result.styleSheet, u"body \\{color"_s, page, u"text"_s);
+    result.background = PageColour(result.styleSheet, u"body \\{[^}]*background-color"_s, page, u"bgcolor"_s);
+    result.link = PageColour(result.styleSheet, u"a \\{color"_s, page, u"link"_s);
+    RemoveUnreadableColours(page);
+    result.html = std::move(page);
+    return result;
+}
+
+} // namespace tunedex

@@ -1,0 +1,100 @@
+#include "SamplePage.h"
+
+#include "ByteSource.h"
+#include "Id3v1.h"
+#include "OutputList.h"
+#include "Sorting.h"
+#include "Text.h"
+
+#include <array>
+#include <vector>
+
+namespace tunedex {
+namespace {
+
+// Nobody watches a page of eight tracks being written.
+class SilentMonitor final : public RunMonitor {
+  public:
+    void SetStatus(std::string_view) override {}
+    void SetCountedStatus(std::string_view, std::int32_t, std::int32_t, std::string_view) override {}
+    void SetMaximum(std::int32_t) override {}
+    void SetPosition(std::int32_t) override {}
+    bool AbortRequested() override { return false; }
+};
+
+struct Sample {
+    const char* artist;
+    const char* album;
+    const char* title;
+    const char* year;
+    const char* genre;
+    const char* bitrate;
+    std::int32_t seconds;
+    std::int32_t fileSize;
+};
+
+// Made up. One track lacks its album and year, as many do.
+constexpr std::array kSamples = {
+    Sample{"Amber Lantern", "Harbour Lights", "First Ferry Home", "1998", "Folk", "192", 221, 5306412},
+    Sample{"Amber Lantern", "Harbour Lights", "Salt & Rope", "1998", "Folk", "192", 187, 4489021},
+    Sample{"The Clockmakers", "Nine Small Hours", "Quarter Past", "2003", "Rock", "128", 245, 3921408},
+    Sample{"The Clockmakers", "", "Pendulum (live)", "", "Rock", "128", 402, 6433280},
+    Sample{"Marisol Ferreira", "Caf\u00E9 Central", "A Pequena Valsa", "2001", "Jazz", "256", 312, 9985123},
+    Sample{"North by Night", "Signals", "Long Wave", "2005", "Electronic", "160", 364, 7281664},
+};
+
+constexpr const char* kFolder = "/home/music/";
+
+std::string Duration(std::int32_t seconds) {
+    const std::string rest = std::to_string(seconds % 60);
+    return std::to_string(seconds / 60) + (rest.size() < 2 ? ":0" : ":") + rest;
+}
+
+TrackInfo TrackOf(const Sample& sample, bool moveTheArtists) {
+    TrackInfo track;
+    track.BaseFolder = kFolder;
+    track.FullPath = std::string(kFolder) + sample.artist + " - " + sample.title + ".mp3";
+    track.FileSize = sample.fileSize;
+    track.Artist = moveTheArtists ? MoveLeadingThe(sample.artist) : sample.artist;
+    track.Title = sample.title;
+    track.Album = sample.album;
+    track.Year = sample.year;
+    track.Genre = sample.genre;
+    track.Bitrate = sample.bitrate;
+    track.Frequency = "44100";
+    track.Mode = "Joint Stereo";
+    track.MpegType = "1.0 III";
+    track.Duration = Duration(sample.seconds);
+    track.TagType = kId3v1Tag;
+    return track;
+}
+
+} // namespace
+
+std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
+                            const std::string& folder) {
+    SilentMonitor monitor;
+    TrackTable tracks(kSamples.size());
+    RunTotals totals;
+    for (const Sample& sample : kSamples) {
+        tracks.Append(TrackOf(sample, settings.MoveTheArtists));
+        totals.TotalBytes += sample.fileSize;
+        totals.TotalSeconds += sample.seconds;
+    }
+    totals.FoundCount = static_cast<std::int32_t>(kSamples.size());
+    totals.StoredCount = totals.FoundCount;
+    if (settings.SortOrder != 0) {
+        SortTracks(tracks, settings.SortOrder, monitor);
+    }
+    settings.OutputFile = folder + "preview.htm";
+    settings.Spanning = 0;
+    Listing listing{settings, tracks, totals, entities, application.locale, application.clock, monitor};
+    WriteListing(kHtmlOutput, listing);
+
+    FileByteSource page(settings.OutputFile);
+    std::vector<std::uint8_t> bytes(page.Size());
+    page.ReadExactly(0, bytes);
+    return DecodeWindows1252({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
+} // namespace tunedex

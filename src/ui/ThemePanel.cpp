@@ -1,0 +1,161 @@
+#include "ThemePanel.h"
+
+#include "FileSystem.h"
+#include "Functions.h"
+#include "PageControls.h"
+#include "RunTimeError.h"
+#include "Text.h"
+#include "WidgetHelpers.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr const char* kErrorTitle = "Error";
+constexpr const char* kSaveTitle = "Save Theme";
+constexpr const char* kBadName = "This cannot be the name of a theme.\r\n\r\n"
+                                 "A name must be short enough for a file name, without a slash,\r\n"
+                                 "and neither \".\" nor \"..\".";
+
+} // namespace
+
+ThemePanel::ThemePanel(Application& application, UserInterface& ui, const Choosers& choosers,
+                       std::function<ThemeContent()> content, QWidget* parent)
+    : QGroupBox(u"Themes"_s, parent), application_(application), ui_(ui), choosers_(choosers),
+      content_(std::move(content)), lvwThemes_(new QListWidget),
+      cmdLoadTheme_(MakeButton(u"cmdLoadTheme"_s, u"Lo&ad theme"_s,
+                               u"Use the selected theme's fonts, colours and table settings at once"_s)),
+      cmdSaveTheme_(MakeButton(u"cmdSaveTheme"_s, u"&Save theme..."_s,
+                               u"Save the fonts, colours and table settings shown here as a theme"_s)),
+      cmdDeleteTheme_(
+          MakeButton(u"cmdDeleteTheme"_s, u"Delete the&me..."_s, u"Delete the selected theme's file"_s)),
+      lblThemeStatus_(new QLabel) {
+    NameControl(*lvwThemes_, u"lvwThemes"_s, u"Themes"_s, u"Double-click a theme to load it"_s);
+    lvwThemes_->setMinimumHeight(lvwThemes_->fontMetrics().height() * 4);
+    lblThemeStatus_->setObjectName(u"lblThemeStatus"_s);
+    lblThemeStatus_->setTextFormat(Qt::PlainText);
+    auto* about =
+        new QLabel(u"Themes are preset colour, font, and table settings that you can import into your own "
+                   "settings.\n\nYou can also export your own settings as a theme."_s);
+    about->setObjectName(u"lblAboutThemes"_s);
+    about->setWordWrap(true);
+
+    auto* grid = new QGridLayout;
+    grid->addWidget(MakeLabelFor(*lvwThemes_, u"Availa&ble themes:"_s), 0, 0);
+    grid->addWidget(lvwThemes_, 1, 0, 4, 1);
+    grid->addWidget(cmdLoadTheme_, 1, 1);
+    grid->addWidget(cmdSaveTheme_, 2, 1);
+    grid->addWidget(cmdDeleteTheme_, 3, 1);
+    grid->setRowStretch(4, 1);
+    grid->setColumnStretch(0, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(about);
+    layout->addSpacing(8);
+    layout->addLayout(grid, 1);
+    layout->addWidget(lblThemeStatus_);
+
+    connect(cmdLoadTheme_, &QPushButton::clicked, this, [this] { LoadTheme(SelectedTheme()); });
+    connect(lvwThemes_, &QListWidget::itemDoubleClicked, cmdLoadTheme_, &QPushButton::click);
+    connect(cmdSaveTheme_, &QPushButton::clicked, this, &ThemePanel::SaveTheme);
+    connect(cmdDeleteTheme_, &QPushButton::clicked, this, [this] { DeleteTheme(SelectedTheme()); });
+    connect(lvwThemes_, &QListWidget::itemSelectionChanged, this, &ThemePanel::EnableCommands);
+}
+
+void ThemePanel::ListThemes() {
+    lvwThemes_->clear();
+    Attempt([this] {
+        for (const std::string& name : tunedex::ListThemes(application_.programFolder)) {
+            lvwThemes_->addItem(ToQt(name));
+        }
+    });
+    if (lvwThemes_->count() > 0) {
+        lvwThemes_->setCurrentRow(0);
+    }
+    EnableCommands();
+}
+
+void ThemePanel::EnableCommands() {
+    const bool selected = !lvwThemes_->selectedItems().isEmpty();
+    cmdLoadTheme_->setEnabled(selected);
+    cmdDeleteTheme_->setEnabled(selected);
+}
+
+std::string ThemePanel::SelectedTheme() const {
+    const QList<QListWidgetItem*> selected = lvwThemes_->selectedItems();
+    return selected.isEmpty() ? std::string() : FromQt(selected.front()->text());
+}
+
+bool ThemePanel::Attempt(const std::function<void()>& command) {
+    try {
+        command();
+        return true;
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
+        return false;
+    }
+}
+
+void ThemePanel::LoadTheme(const std::string& name) {
+    bool applied = false;
+    Attempt([&] {
+        const std::string path = StoredThemePath(application_.programFolder, name);
+        applied = FileExists(path) && LoadSettings(application_.settings, path, application_.programFolder,
+                                                   application_.faults) == LoadOutcome::Loaded;
+    });
+    if (applied) {
+        emit ThemeLoaded();
+        lblThemeStatus_->setText(u"Theme loaded successfully."_s);
+    }
+}
+
+void ThemePanel::SaveTheme() {
+    const std::optional<QString> answer =
+        choosers_.text(window(), QString::fromLatin1(kSaveTitle), u"Please enter a name for your theme:"_s);
+    const std::string name = FromQt(answer.value_or(QString()));
+    if (TrimBlanks(name).empty()) {
+        return;
+    }
+    if (!IsThemeName(name)) {
+        ShowMessage(ui_, kBadName, kOkExclamation, kErrorTitle);
+        return;
+    }
+    const bool saved = Attempt([&] { WriteThemeFile(StoredThemePath(application_.programFolder, name)); });
+    if (saved) {
+        lblThemeStatus_->setText(u"Theme saved successfully."_s);
+        ListThemes();
+    }
+}
+
+void ThemePanel::WriteThemeFile(const std::string& path) {
+    if (FileExists(path)) {
+        const int answer =
+            ShowMessage(ui_, "This theme already exists!\r\n\r\nOverwrite?", kYesNoQuestion, kSaveTitle);
+        if (answer != kAnswerYes) {
+            return;
+        }
+    }
+    const std::string folder = ThemeFolder(application_.programFolder);
+    if (!FolderExists(folder)) {
+        CreateFolder(folder);
+    }
+    tunedex::WriteThemeFile(path, content_(), StampNow(application_));
+}
+
+void ThemePanel::DeleteTheme(const std::string& name) {
+    const std::string question =
+        "Are you sure you want to delete\r\nthe " + name + " theme?\r\n\r\nYou cannot recover it afterwards!";
+    if (ShowMessage(ui_, question, kYesNoExclamation, "Delete Theme") != kAnswerYes) {
+        return;
+    }
+    Attempt([&] { DeleteFile(StoredThemePath(application_.programFolder, name)); });
+    ListThemes();
+}
+
+} // namespace tunedex

@@ -1,0 +1,169 @@
+#include "frmEditLayout.h"
+
+#include "ColoursPage.h"
+#include "ColumnsPage.h"
+#include "DocumentPage.h"
+#include "FontsPage.h"
+#include "Functions.h"
+#include "NumberBox.h"
+#include "PageControls.h"
+#include "PreviewPane.h"
+#include "Startup.h"
+#include "TablePage.h"
+#include "ThemePanel.h"
+#include "WidgetHelpers.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr const char* kValidationTitle = "Error";
+constexpr QSize kUsualSize{1040, 600};
+const QList<int> kUsualShares{490, 530};
+
+} // namespace
+
+frmEditLayout::frmEditLayout(Application& application, UserInterface& ui, QWidget* parent)
+    : QDialog(parent), application_(application), ui_(ui), tabStrip_(new QTabWidget),
+      columns_(new ColumnsPage), fonts_(new FontsPage(choosers_)), colours_(new ColoursPage(choosers_)),
+      table_(new TablePage),
+      themes_(new ThemePanel(application, ui, choosers_, [this] { return CurrentTheme(); })),
+      document_(new DocumentPage(themes_)), preview_(new PreviewPane(application, [this] {
+          Settings settings = previewBase_ ? previewBase_() : application_.settings;
+          StoreControls(settings);
+          return settings;
+      })) {
+    setObjectName(u"frmEditLayout"_s);
+    setWindowTitle(u"Edit Layout"_s);
+    setSizeGripEnabled(true);
+    NameControl(*tabStrip_, u"TabStrip"_s, u"Pages of the layout editor"_s, {});
+    tabStrip_->setUsesScrollButtons(false); // so that every page's title always shows
+    AddPage(columns_, u"&Columns"_s);
+    AddPage(fonts_, u"&Fonts"_s);
+    AddPage(colours_, u"Co&lours"_s);
+    AddPage(table_, u"&Table"_s);
+    AddPage(document_, u"&Document and themes"_s);
+
+    auto* splitter = new QSplitter;
+    splitter->addWidget(tabStrip_);
+    splitter->addWidget(preview_);
+    splitter->setCollapsible(0, false);
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes(kUsualShares);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(splitter, 1);
+    layout->addLayout(BuildButtons());
+
+    ConnectPages();
+    LoadControls();
+    themes_->ListThemes();
+    resize(kUsualSize);
+    RestoreWindowGeometry(*this);
+}
+
+void frmEditLayout::AddPage(QWidget* page, const QString& title) {
+    page->setObjectName(ArrayName(u"Frames"_s, tabStrip_->count()));
+    tabStrip_->addTab(page, title);
+}
+
+QBoxLayout* frmEditLayout::BuildButtons() {
+    cmdHelp_ = MakeButton(u"cmdHelp"_s, u"&Help"_s, u"Open the help file"_s);
+    cmdPreview_ = MakeButton(u"cmdPreview"_s, u"Pre&view"_s, u"Show or hide the preview"_s);
+    cmdOK_ = MakeButton(u"cmdOK"_s, u"&OK"_s, u"Use this layout"_s);
+    cmdCancel_ =
+        MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Close without changing anything but a loaded theme"_s);
+    cmdHelp_->setShortcut(QKeySequence::HelpContents);
+    cmdPreview_->setCheckable(true);
+    cmdPreview_->setChecked(true);
+    cmdOK_->setDefault(true);
+    connect(cmdHelp_, &QPushButton::clicked, this, [this] { OpenHelp(application_, ui_); });
+    connect(cmdPreview_, &QPushButton::toggled, preview_, &QWidget::setVisible);
+    connect(cmdOK_, &QPushButton::clicked, this, &frmEditLayout::Accept);
+    connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* layout = new QHBoxLayout;
+    layout->addWidget(cmdHelp_);
+    layout->addWidget(cmdPreview_);
+    layout->addStretch();
+    layout->addWidget(cmdOK_);
+    layout->addWidget(cmdCancel_);
+    return layout;
+}
+
+void frmEditLayout::ConnectPages() {
+    connect(columns_, &ColumnsPage::Edited, preview_, &PreviewPane::ShowSoon);
+    connect(fonts_, &FontsPage::Edited, preview_, &PreviewPane::ShowSoon);
+    connect(colours_, &ColoursPage::Edited, preview_, &PreviewPane::ShowSoon);
+    connect(table_, &TablePage::Edited, preview_, &PreviewPane::ShowSoon);
+    connect(document_, &DocumentPage::Edited, preview_, &PreviewPane::ShowSoon);
+    connect(themes_, &ThemePanel::ThemeLoaded, this, &frmEditLayout::FollowTheme);
+}
+
+void frmEditLayout::LoadControls() {
+    const Settings& settings = application_.settings;
+    columns_->LoadControls(settings);
+    fonts_->LoadControls(settings);
+    colours_->LoadControls(settings);
+    table_->LoadControls(settings);
+    document_->LoadControls(settings);
+}
+
+// A theme file may hold any setting, so every window follows.
+void frmEditLayout::FollowTheme() {
+    LoadControls();
+    ui_.FillFields(FieldsFor(application_.settings));
+    emit SettingsReloaded();
+}
+
+void frmEditLayout::StoreRunControls(Settings& settings) const {
+    settings.MoveTheArtists = columns_->MovesTheArtists();
+    settings.DocumentType = document_->DocumentType();
+}
+
+void frmEditLayout::StoreControls(Settings& settings) const {
+    settings.DocumentType = document_->DocumentType();
+    columns_->StoreControls(settings);
+    fonts_->StoreControls(settings);
+    colours_->StoreControls(settings);
+    table_->StoreControls(settings);
+}
+
+ThemeContent frmEditLayout::CurrentTheme() const {
+    Settings edited = application_.settings;
+    StoreControls(edited);
+    ThemeContent content;
+    content.fonts = edited.Font;
+    content.colours = edited.Colour;
+    // A theme takes whether rows alternate from the settings in use, not from this editor.
+    content.alternateRows = application_.settings.AltRows;
+    table_->StoreTexts(content);
+    return content;
+}
+
+void frmEditLayout::Accept() {
+    // The document type counts even when a number is then refused.
+    application_.settings.DocumentType = document_->DocumentType();
+    if (const auto fault = table_->FirstFault()) {
+        ShowMessage(ui_, fault->message, kOkExclamation, kValidationTitle);
+        tabStrip_->setCurrentWidget(table_);
+        FocusAndSelectAll(*fault->box);
+        return;
+    }
+    StoreControls(application_.settings);
+    accept();
+}
+
+void frmEditLayout::done(int result) {
+    SaveWindowGeometry(*this);
+    QDialog::done(result);
+}
+
+} // namespace tunedex

@@ -1,0 +1,345 @@
+#include "frmOptions.h"
+
+#include "Functions.h"
+#include "NumberBox.h"
+#include "OptionGroup.h"
+#include "PageControls.h"
+#include "RunTimeError.h"
+#include "Startup.h"
+#include "WidgetHelpers.h"
+#include "frmEditLayout.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <span>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr const char* kValidationTitle = "Error";
+
+struct Option {
+    QString objectName;
+    QString text;
+    QString description;
+};
+
+// The options' numbers are their places.
+void AddOptions(OptionGroup& group, QLayout& layout, std::initializer_list<Option> options) {
+    int number = 0;
+    for (const Option& option : options) {
+        QRadioButton* button = MakeOption(option.objectName, option.text, option.description);
+        group.addButton(button, number++);
+        layout.addWidget(button);
+    }
+}
+
+} // namespace
+
+frmOptions::frmOptions(Application& application, UserInterface& ui, QWidget* parent)
+    : QDialog(parent), application_(application), ui_(ui), sizeType_(new OptionGroup(this)),
+      sortOrder_(new OptionGroup(this)), linkType_(new OptionGroup(this)) {
+    setObjectName(u"frmOptions"_s);
+    setWindowTitle(u"Options"_s);
+
+    auto* grid = new QGridLayout;
+    grid->addWidget(BuildListGroup(), 0, 0, 1, 2);
+    grid->addWidget(BuildSizeGroup(), 1, 0);
+    grid->addWidget(BuildSortGroup(), 1, 1);
+    grid->addWidget(BuildErrorGroup(), 2, 0, 1, 2);
+    grid->addWidget(BuildLinkGroup(), 3, 0, 1, 2);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(grid);
+    layout->addStretch();
+    layout->addLayout(BuildButtons());
+    BuildMenu();
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
+
+    SetTabOrder();
+    LoadControls();
+    RestoreWindowGeometry(*this);
+}
+
+QGroupBox* frmOptions::BuildListGroup() {
+    chkRecursive_ = MakeCheckBox(u"chkRecursive"_s, u"Search &subfolders"_s,
+                                 u"Look for MP3 files in the folders below the input folder, too"_s);
+    chkSpan_ = MakeCheckBox(u"chkSpan"_s, u"Split HTML listings into &pages"_s,
+                            u"Write several page files that link to each other instead of one long page"_s);
+    txtFilesPerPage_ =
+        new NumberBox(u"txtFilesPerPage"_s, u"Files per page"_s, u"How many MP3 files each page lists"_s);
+    connect(chkSpan_, &QCheckBox::toggled, this, &frmOptions::EnableSpanning);
+
+    auto* group = new QGroupBox(u"Searching and pages"_s);
+    auto* pages = new QHBoxLayout;
+    pages->addWidget(chkSpan_);
+    pages->addStretch();
+    pages->addWidget(MakeLabelFor(*txtFilesPerPage_, u"&Files per page:"_s));
+    pages->addWidget(txtFilesPerPage_);
+    txtFilesPerPage_->setFixedWidth(txtFilesPerPage_->fontMetrics().horizontalAdvance(u'0') * 8 + 16);
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(chkRecursive_);
+    layout->addLayout(pages);
+    return group;
+}
+
+QGroupBox* frmOptions::BuildSizeGroup() {
+    auto* group = new QGroupBox(u"Show file sizes in"_s);
+    group->setObjectName(u"fraSizeOptions"_s);
+    auto* layout = new QVBoxLayout(group);
+    AddOptions(*sizeType_, *layout,
+               {{u"optBytes"_s, u"&Bytes"_s, u"1,234,567 b."_s},
+                {u"optKilobytes"_s, u"&Kilobytes"_s, u"1,205.63 kB"_s},
+                {u"optMegabytes"_s, u"&Megabytes"_s, u"1.18 MB"_s}});
+    return group;
+}
+
+QGroupBox* frmOptions::BuildSortGroup() {
+    auto* group = new QGroupBox(u"Sort by artist, album and title"_s);
+    group->setObjectName(u"fraSortOrder"_s);
+    auto* layout = new QVBoxLayout(group);
+    AddOptions(*sortOrder_, *layout,
+               {{u"optNoSort"_s, u"&No sorting"_s, u"List files in the order in which they are found"_s},
+                {u"optAscSort"_s, u"&Ascending"_s, u"A to Z"_s},
+                {u"optDescSort"_s, u"&Descending"_s, u"Z to A"_s}});
+    return group;
+}
+
+QGroupBox* frmOptions::BuildErrorGroup() {
+    chkErrorBoxes_ = MakeCheckBox(u"chkErrorBoxes"_s, u"Show &errors in message boxes"_s,
+                                  u"Stop at each folder or file that cannot be read and say why"_s);
+    chkErrorLog_ =
+        MakeCheckBox(u"chkErrorLog"_s, u"&Write errors to a log file"_s,
+                     u"The file Tunedex.log in the program's folder holds the errors of the latest run"_s);
+    chkConfirmQuit_ = MakeCheckBox(u"chkConfirmQuit"_s, u"Ask before &quitting"_s,
+                                   u"Ask whether you really want to quit"_s);
+
+    auto* group = new QGroupBox(u"Errors and questions"_s);
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(chkErrorBoxes_);
+    layout->addWidget(chkErrorLog_);
+    layout->addWidget(chkConfirmQuit_);
+    return group;
+}
+
+QGroupBox* frmOptions::BuildLinkGroup() {
+    chkLinks_ = MakeCheckBox(u"chkLinks"_s, u"&Link each entry to its file"_s,
+                             u"Add a column whose links open the MP3 files"_s);
+    txtLinkPrefix_ = MakeTextField(u"txtLinkPrefix"_s, u"Link prefix"_s,
+                                   u"Stands in front of every link: file:/// or a web address, say"_s);
+    connect(chkLinks_, &QCheckBox::toggled, this, &frmOptions::EnableLinks);
+
+    auto* group = new QGroupBox(u"Links in HTML listings"_s);
+    group->setObjectName(u"fraLinks"_s);
+    auto* options = new QHBoxLayout;
+    AddOptions(*linkType_, *options,
+               {{u"optNormalLinks"_s, u"N&ormal"_s, u"The full path of the file"_s},
+                {u"optUNIXLinks"_s, u"UN&IX style"_s, u"A slash and the full path without colons"_s},
+                {u"optRelativeLinks"_s, u"&Relative"_s, u"The path below the input folder"_s}});
+    options->addStretch();
+    auto* prefix = new QHBoxLayout;
+    prefix->addWidget(MakeLabelFor(*txtLinkPrefix_, u"Link prefi&x:"_s));
+    prefix->addWidget(txtLinkPrefix_);
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(chkLinks_);
+    layout->addLayout(options);
+    layout->addLayout(prefix);
+    return group;
+}
+
+QLayout* frmOptions::BuildButtons() {
+    cmdEditLayout_ =
+        MakeButton(u"cmdEditLayout"_s, u"Edit la&yout..."_s,
+                   u"Columns, fonts, colours, table, document type and themes of HTML listings"_s);
+    cmdUse_ = MakeButton(u"cmdUse"_s, u"&Use"_s, u"Use these options until the program ends"_s);
+    cmdSave_ =
+        MakeButton(u"cmdSave"_s, u"Sa&ve"_s, u"Use these options and save all settings as the default"_s);
+    cmdCancel_ = MakeButton(u"cmdCancel"_s, u"&Cancel"_s, u"Close without changing anything"_s);
+    cmdUse_->setDefault(true);
+    connect(cmdEditLayout_, &QPushButton::clicked, this, &frmOptions::EditLayout);
+    connect(cmdUse_, &QPushButton::clicked, this, &frmOptions::Use);
+    connect(cmdSave_, &QPushButton::clicked, this, &frmOptions::Save);
+    connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* layout = new QHBoxLayout;
+    layout->addWidget(cmdEditLayout_);
+    layout->addStretch();
+    layout->addWidget(cmdUse_);
+    layout->addWidget(cmdSave_);
+    layout->addWidget(cmdCancel_);
+    return layout;
+}
+
+void frmOptions::BuildMenu() {
+    auto* bar = new QMenuBar;
+    QAction* topics = bar->addMenu(u"&Help"_s)->addAction(u"Help &topics"_s);
+    topics->setObjectName(u"itmHelpTopics"_s);
+    topics->setShortcut(QKeySequence::HelpContents);
+    connect(topics, &QAction::triggered, this, [this] { OpenHelp(application_, ui_); });
+    layout()->setMenuBar(bar);
+}
+
+void frmOptions::SetTabOrder() {
+    QList<QWidget*> order{chkRecursive_, chkSpan_, txtFilesPerPage_};
+    for (const OptionGroup* group : {sizeType_, sortOrder_}) {
+        for (QAbstractButton* option : group->buttons()) {
+            order << option;
+        }
+    }
+    order << chkErrorBoxes_ << chkErrorLog_ << chkConfirmQuit_ << chkLinks_;
+    for (QAbstractButton* option : linkType_->buttons()) {
+        order << option;
+    }
+    order << txtLinkPrefix_ << cmdEditLayout_ << cmdUse_ << cmdSave_ << cmdCancel_;
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        setTabOrder(order[i - 1], order[i]);
+    }
+}
+
+void frmOptions::LoadControls() {
+    const Settings& settings = application_.settings;
+    chkRecursive_->setChecked(settings.Recurse);
+    chkSpan_->setChecked(settings.Spanning != 0);
+    if (settings.Spanning != 0) {
+        txtFilesPerPage_->SetNumber(settings.Spanning);
+    }
+    sizeType_->Select(settings.SizeType);
+    sortOrder_->Select(settings.SortOrder);
+    chkErrorBoxes_->setChecked(settings.ErrorWarnings);
+    chkErrorLog_->setChecked(settings.ErrorLog);
+    chkConfirmQuit_->setChecked(settings.ConfirmQuit);
+    chkLinks_->setChecked(settings.DoLinks);
+    linkType_->Select(settings.LinkType);
+    txtLinkPrefix_->setText(ToQt(settings.LinkPrefix));
+    EnableSpanning();
+    EnableLinks();
+    GreyDisabledFields();
+}
+
+void frmOptions::EnableSpanning() {
+    txtFilesPerPage_->setEnabled(chkSpan_->isChecked());
+}
+
+void frmOptions::EnableLinks() {
+    const bool links = chkLinks_->isChecked();
+    for (QAbstractButton* option : linkType_->buttons()) {
+        option->setEnabled(links);
+    }
+    txtLinkPrefix_->setEnabled(links);
+}
+
+// Styles differ in whether they show a disabled text box by its background; here it always has the colour of
+// buttons.
+void frmOptions::GreyDisabledFields() {
+    for (QLineEdit* field : {static_cast<QLineEdit*>(txtFilesPerPage_), txtLinkPrefix_}) {
+        QPalette colours = field->palette();
+        colours.setColor(QPalette::Disabled, QPalette::Base,
+                         palette().color(QPalette::Disabled, QPalette::Button));
+        field->setPalette(colours);
+    }
+}
+
+void frmOptions::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && txtLinkPrefix_ != nullptr) {
+        GreyDisabledFields();
+    }
+}
+
+void frmOptions::done(int result) {
+    SaveWindowGeometry(*this);
+    QDialog::done(result);
+}
+
+bool frmOptions::Validate() {
+    if (!txtFilesPerPage_->isEnabled() || txtFilesPerPage_->HoldsSetting()) {
+        return true;
+    }
+    const char* fault = txtFilesPerPage_->IsNumeric() ? "Files per page must be between -32768 and 32767."
+                                                      : "Files per page must be a numeric value.";
+    ShowMessage(ui_, fault, kOkExclamation, kValidationTitle);
+    FocusAndSelectAll(*txtFilesPerPage_);
+    return false;
+}
+
+void frmOptions::StoreOwnControls(Settings& settings) const {
+    const std::int16_t spanning = chkSpan_->isChecked() ? txtFilesPerPage_->Number() : std::int16_t{0};
+    settings.Recurse = chkRecursive_->isChecked();
+    settings.Spanning = spanning;
+    sizeType_->Store(settings.SizeType);
+    sortOrder_->Store(settings.SortOrder);
+    settings.ErrorWarnings = chkErrorBoxes_->isChecked();
+    settings.ErrorLog = chkErrorLog_->isChecked();
+    settings.ConfirmQuit = chkConfirmQuit_->isChecked();
+    settings.DoLinks = chkLinks_->isChecked();
+    linkType_->Store(settings.LinkType);
+    settings.LinkPrefix = FromQt(txtLinkPrefix_->text());
+}
+
+void frmOptions::StoreControls(Settings& settings) const {
+    StoreOwnControls(settings);
+    if (editor_) {
+        editor_->StoreRunControls(settings);
+    } else {
+        TakeLayoutControls(settings);
+    }
+}
+
+void frmOptions::Use() {
+    if (Validate()) {
+        StoreOwnControls(application_.settings);
+        accept();
+    }
+}
+
+void frmOptions::Save() {
+    if (!Validate()) {
+        return;
+    }
+    ui_.TakeControls(application_.settings);
+    try {
+        SaveSettings(application_.settings, "", application_.programFolder, StampNow(application_));
+    } catch (const RunTimeError& error) {
+        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kValidationTitle);
+        return;
+    }
+    accept();
+}
+
+void frmOptions::EditLayout() {
+    editor_ = new frmEditLayout(application_, ui_, this);
+    connect(editor_, &frmEditLayout::SettingsReloaded, this, &frmOptions::LoadControls);
+    connect(editor_, &QDialog::finished, this, [this] {
+        editor_->deleteLater();
+        editor_.clear();
+        setEnabled(true);
+        activateWindow();
+        cmdEditLayout_->setFocus();
+    });
+    editor_->SetPreviewBase([this] {
+        Settings settings = application_.settings;
+        try {
+            StoreOwnControls(settings);
+        } catch (const RunTimeError&) {
+            // Files per page is half typed: the preview is one page in any case.
+        }
+        return settings;
+    });
+    editor_->setWindowModality(Qt::WindowModal);
+    // A disabled window disables the windows it owns as well, so the editor comes second.
+    setEnabled(false);
+    editor_->setEnabled(true);
+    editor_->show();
+}
+
+} // namespace tunedex

@@ -1,0 +1,87 @@
+// The options dialog: searching, file sizes, sorting, errors and links, and the way to the layout editor.
+#pragma once
+
+#include "Application.h"
+#include "UserInterface.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class QCheckBox;
+class QGroupBox;
+class QLayout;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace tunedex {
+
+class NumberBox;
+class OptionGroup;
+class frmEditLayout;
+
+class frmOptions : public QDialog {
+    Q_OBJECT
+
+  public:
+    // The controls show the settings as they are now.
+    frmOptions(Application& application, UserInterface& ui, QWidget* parent = nullptr);
+
+    // Sets every control from the settings.
+    void LoadControls();
+
+    // Takes the controls into `settings`, and those of the layout editor that count for every run:
+    // MoveTheArtists and DocumentType. Raises error 13 or 6, before anything is stored, when the pages are on
+    // and files per page is no number or does not fit.
+    void StoreControls(Settings& settings) const;
+
+    // Null while the layout editor is closed.
+    frmEditLayout* Editor() const { return editor_; }
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void done(int result) override;
+
+  private:
+    QGroupBox* BuildListGroup();
+    QGroupBox* BuildSizeGroup();
+    QGroupBox* BuildSortGroup();
+    QGroupBox* BuildErrorGroup();
+    QGroupBox* BuildLinkGroup();
+    QLayout* BuildButtons();
+    void BuildMenu();
+    void SetTabOrder();
+
+    void EnableSpanning();
+    void EnableLinks();
+    void GreyDisabledFields();
+
+    // Says what is wrong with the files per page, if anything is; whether all is well.
+    bool Validate();
+    void StoreOwnControls(Settings& settings) const;
+    void Use();
+    void Save();
+    void EditLayout();
+
+    Application& application_;
+    UserInterface& ui_;
+    QPointer<frmEditLayout> editor_;
+
+    QCheckBox* chkRecursive_ = nullptr;
+    QCheckBox* chkSpan_ = nullptr;
+    NumberBox* txtFilesPerPage_ = nullptr;
+    OptionGroup* sizeType_ = nullptr;
+    OptionGroup* sortOrder_ = nullptr;
+    QCheckBox* chkErrorBoxes_ = nullptr;
+    QCheckBox* chkErrorLog_ = nullptr;
+    QCheckBox* chkConfirmQuit_ = nullptr;
+    QCheckBox* chkLinks_ = nullptr;
+    OptionGroup* linkType_ = nullptr;
+    QLineEdit* txtLinkPrefix_ = nullptr;
+    QPushButton* cmdEditLayout_ = nullptr;
+    QPushButton* cmdUse_ = nullptr;
+    QPushButton* cmdSave_ = nullptr;
+    QPushButton* cmdCancel_ = nullptr;
+};
+
+} // namespace tunedex

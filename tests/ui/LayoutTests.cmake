@@ -1,0 +1,19 @@
+# The options dialog, the layout editor and what they are made of.
+set(LAYOUT_TEST_CLASSES OptionsTest EditLayoutTest ColumnsPageTest ThemePanelTest PreviewTest SettingsRoundTripTest
+                        LayoutAccessibilityTest)
+list(TRANSFORM LAYOUT_TEST_CLASSES APPEND ".cpp" OUTPUT_VARIABLE LAYOUT_TEST_SOURCES)
+add_executable(layout_test LayoutTestMain.cpp ${LAYOUT_TEST_SOURCES})
+target_link_libraries(layout_test PRIVATE tunedex_ui tunedex_test_support tunedex_flags Qt6::Test)
+foreach(CLASS IN LISTS LAYOUT_TEST_CLASSES)
+    add_test(NAME layout_test.${CLASS} COMMAND layout_test ${CLASS})
+    set_tests_properties(layout_test.${CLASS} PROPERTIES TIMEOUT 300 ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+endforeach()
+# The same windows on screens of higher resolution.
+foreach(SCALE 1.5 2)
+    add_test(NAME layout_test.LayoutAccessibilityTest.scale${SCALE} COMMAND layout_test LayoutAccessibilityTest)
+    set_tests_properties(layout_test.LayoutAccessibilityTest.scale${SCALE} PROPERTIES
+        TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${SCALE}")
+endforeach()
+
+add_executable(layout_screenshots EXCLUDE_FROM_ALL LayoutScreenshots.cpp)
+target_link_libraries(layout_screenshots PRIVATE tunedex_ui tunedex_test_support tunedex_flags Qt6::Test)
