@@ -13,6 +13,7 @@ folder is the file system's.
 import argparse
 import concurrent.futures
 import datetime
+import locale
 import os
 import re
 import shutil
@@ -23,7 +24,7 @@ import tempfile
 sys.dont_write_bytecode = True
 
 from generator import Case  # noqa: E402
-from model import Model, to_disk  # noqa: E402
+from model import Model, Region, to_disk  # noqa: E402
 
 NO_SLEEP = """
 #include <time.h>
@@ -33,8 +34,12 @@ int clock_nanosleep(clockid_t clock, int flags, const struct timespec* wanted, s
 """
 
 # Texts of the progress display that the program is free to leave out when they would follow each other too fast.
-FLEETING = re.compile(rb"(Retrieving MPEG/ID3 information \(\d+/\d+\)|Writing entry for file \d+/\d+)\.\.\.\Z")
+FLEETING = re.compile(
+    rb"(^|\[OK\] |\[No\] )(?:Retrieving MPEG/ID3 information \(\d+/\d+\)|Writing entry for file \d+/\d+)\.\.\.\n",
+    re.MULTILINE,
+)
 PROMPTS = {48: b"[OK] ", 64: b"[OK] ", 52: b"Yes or No? [No] "}
+REASON = b"\0reason"
 TOO_LARGE_TO_READ = 4 << 20
 
 
@@ -61,7 +66,10 @@ def snapshot(folder):
                 found[entry.path] = ("link", os.readlink(entry.path))
             elif entry.is_dir(follow_symlinks=False):
                 found[entry.path] = ("folder",)
-                pending.append(entry.path)
+                if os.access(entry.path, os.R_OK | os.X_OK):
+                    pending.append(entry.path)
+            elif not os.access(entry.path, os.R_OK):
+                found[entry.path] = ("locked",)
             elif entry.is_file(follow_symlinks=False):
                 size = entry.stat(follow_symlinks=False).st_size
                 if size > TOO_LARGE_TO_READ:
@@ -74,45 +82,90 @@ def snapshot(folder):
     return found
 
 
+def remove(folder):
+    for path, folders, _ in os.walk(os.fsencode(folder)):
+        for name in folders:
+            if not os.path.islink(os.path.join(path, name)):
+                os.chmod(os.path.join(path, name), 0o755)
+    shutil.rmtree(folder, ignore_errors=True)
+
+
 def printed(events):
-    """What standard error holds for the events of the model, fleeting texts aside; None stands for any reason."""
-    lines = []
+    """The lines of standard error for the events of the model. After REASON a line goes on with any reason."""
+    out = b""
     for event in events:
         if event[0] == "status":
-            text = to_disk(event[1])
-            if not FLEETING.match(text):
-                lines.append(text)
+            out += to_disk(event[1]) + b"\n"
         elif event[0] == "message":
-            _, title, text, buttons = event
-            lines += to_disk(title + "\n" + text.replace("\r\n", "\n")).split(b"\n")
-            lines.append(PROMPTS[buttons])
+            _, title, text, buttons, answered = event
+            out += to_disk(title + "\n" + text.replace("\r\n", "\n")) + b"\n" + PROMPTS[buttons]
+            out += b"" if answered else b"\n"
         else:
-            lines.append((to_disk(event[1]) + b":%d: line skipped: " % event[2],))
-    return lines
+            out += to_disk(event[1]) + b":%d: line skipped: " % event[2] + REASON + b"\n"
+    return error_lines(out)
+
+
+def error_lines(data):
+    before = None
+    while before != data:
+        before = data
+        data = FLEETING.sub(rb"\1", data)
+    return data.split(b"\n")
+
+
+def same_line(expected, actual):
+    if expected.endswith(REASON):
+        expected = expected[: -len(REASON)]
+        return actual.startswith(expected) and len(actual) > len(expected)
+    return expected == actual
 
 
 def same_lines(expected, actual):
-    if len(expected) != len(actual):
-        return False
-    for wanted, got in zip(expected, actual):
-        if isinstance(wanted, tuple):
-            if not got.startswith(wanted[0]) or len(got) <= len(wanted[0]):
-                return False
-        elif wanted != got:
+    return len(expected) == len(actual) and all(map(same_line, expected, actual))
+
+
+def region(settings):
+    """What the locale of these environment variables says now."""
+
+    def in_force(category):
+        for name in ("LC_ALL", category, "LANG"):
+            if settings.get(name):
+                return settings[name]
+        return "C"
+
+    def take(category, name):
+        if in_force(name) in ("C", "POSIX", "C.UTF-8", "C.utf8"):
             return False
-    return True
+        try:
+            locale.setlocale(category, in_force(name))
+            return True
+        except locale.Error:
+            return False
 
-
-def clock():
     now = datetime.datetime.now()
-    return now.strftime("%Y-%m-%d"), now.strftime("%H:%M")
+    found = Region(now.strftime("%Y-%m-%d"), now.strftime("%H:%M"))
+    try:
+        if take(locale.LC_TIME, "LC_TIME"):
+            locale.setlocale(locale.LC_CTYPE, in_force("LC_TIME"))
+            twelve = re.search("%[rIlp]", locale.nl_langinfo(locale.T_FMT))
+            found.date = now.strftime("%x")
+            found.time = now.strftime("%I:%M %p" if twelve else "%H:%M")
+        if take(locale.LC_NUMERIC, "LC_NUMERIC"):
+            locale.setlocale(locale.LC_CTYPE, in_force("LC_NUMERIC"))
+            found.thousands = locale.localeconv()["thousands_sep"]
+            found.point = locale.localeconv()["decimal_point"]
+    finally:
+        locale.setlocale(locale.LC_ALL, "C")
+    return found
 
 
 def model_outcome(case, before, now):
-    result = Model(case.program_folder, now[0], now[1], case.root).run()
+    result = Model(case.program_folder, now, case.root, case.answers).run()
     files = dict(before)
     for path, data in result.files.items():
         files[path] = ("file", data)
+    for path in result.folders:
+        files[path] = ("folder",)
     return files, printed(result.events), result.exit_status
 
 
@@ -122,7 +175,7 @@ def difference(name, expected, actual):
         for i in range(max(len(expected), len(actual))):
             wanted = expected[i] if i < len(expected) else None
             got = actual[i] if i < len(actual) else None
-            if not (isinstance(wanted, tuple) and got and got.startswith(wanted[0])) and wanted != got:
+            if wanted is None or got is None or not same_line(wanted, got):
                 lines += [f"    line {i + 1}", f"      model:   {wanted!r}", f"      program: {got!r}"]
                 break
     elif isinstance(expected, tuple) and isinstance(actual, tuple) and expected[0] == actual[0] == "file":
@@ -134,31 +187,34 @@ def difference(name, expected, actual):
 
 def compare_case(seed, program, no_sleep, scratch, keep):
     root = os.path.join(scratch, f"case{seed}")
-    shutil.rmtree(root, ignore_errors=True)
+    remove(root)
     os.makedirs(root)
     case = Case(seed, root)
-    environment = {"PATH": os.environ["PATH"], "HOME": root, "XDG_CONFIG_HOME": case.config_folder, "LC_ALL": "C"}
+    environment = {"PATH": os.environ["PATH"], "HOME": root, "XDG_CONFIG_HOME": case.config_folder}
+    environment.update(case.locale)
     for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
         if name in os.environ:
             environment[name] = os.environ[name]
     if no_sleep:
         environment["LD_PRELOAD"] = no_sleep
     before = snapshot(root)
-    first_clock = clock()
-    expected = model_outcome(case, before, first_clock)
+    now = region(case.locale)
+    expected = model_outcome(case, before, now)
     run = subprocess.run(
-        [program, "/AUTO"], cwd=root, env=environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=300
+        [program, *case.arguments],
+        cwd=root,
+        env=environment,
+        input=b"Yes\n" * case.answers,
+        capture_output=True,
+        timeout=300,
     )
     after = snapshot(root)
-    lines = run.stderr.split(b"\n")
-    if lines and lines[-1] == b"":
-        lines.pop()
-    lines = [line for line in lines if not FLEETING.match(line)]
+    lines = error_lines(run.stderr)
 
     def agrees(outcome):
-        return outcome[0] == after and same_lines(outcome[1], lines) and outcome[2] == run.returncode
+        return run.stdout == b"" and outcome[0] == after and same_lines(outcome[1], lines) and outcome[2] == run.returncode
 
-    if not agrees(expected) and clock() != first_clock:
+    if not agrees(expected) and vars(region(case.locale)) != vars(now):
         # The minute changed between the model and the program.
         return compare_case(seed, program, no_sleep, scratch, keep)
     problem = ""
@@ -177,7 +233,7 @@ def compare_case(seed, program, no_sleep, scratch, keep):
         problem = "\n".join(parts)
     written = sum(1 for path, what in after.items() if before.get(path) != what)
     if not (keep and (problem or keep == "always")):
-        shutil.rmtree(root, ignore_errors=True)
+        remove(root)
     return seed, problem, written, run.returncode
 
 

@@ -27,18 +27,23 @@ ACTIVE = [
 ]  # fmt: skip
 
 NUMBERS = [
-    "0", "1", "2", "3", "4", "7", "10", "-1", "-2", "", " 1", "  2", "+1", "+3", "1.5", "2.5", "0.5", "0.51", "-0.5", "1e1",
-    "1E0", "2e-1", "1e", "5x", "x", "yes", "1 2", "32767", "32768", "-32768", "-32769", "32767.5", "32767.4", "1e9", "--1",
+    "0", "1", "2", "3", "4", "7", "10", "-1", "-2", "", " 1", "  2", "+1", "+3", "1.5", "2.5", "0.5", "0.51", "-0.5",
+    "1e1",
+    "1E0", "2e-1", "1e", "5x", "x", "yes", "1 2", "32767", "32768", "-32768", "-32769", "32767.5", "32767.4", "1e9",
+    "--1",
     "1.", "1.5.5", "1,5", "99999999999999999999", "007", "\u0662", "1e+1", "&H10", "0x10", "-", "+", ".", "e5",
 ]  # fmt: skip
 
 TITLES = [
-    "MP3 List (%D)", "%C files", "%N without tags", "%S", "%P", "100%% done", "%%L", "%L", "a%Lb%%%Lc", "%d", "%", "%%%C",
-    "%%C", "%T", "Plain", "", "<b>bold</b>", "Müsik", "日本語 %C", "\u0081\u0080", "🎵", "a=b", "a(b)=c", "%%D", "%%%%L", "&amp;",
+    "MP3 List (%D)", "%C files", "%N without tags", "%S", "%P", "100%% done", "%%L", "%L", "a%Lb%%%Lc", "%d", "%",
+    "%%%C",
+    "%%C", "%T", "Plain", "", "<b>bold</b>", "Müsik", "日本語 %C", "\u0081\u0080", "🎵", "a=b", "a(b)=c", "%%D", "%%%%L",
+    "&amp;",
     "tab\there", "  blanks  ", "#x", "\u20ac %S",
 ]  # fmt: skip
 
-COLOURS = ["000000", "FFFFFF", "FFFF00", "000066", "CECECE", "", "red", "#123456", "12", "é", "日", '"', "ffeedd", "00 00"]
+COLOURS = ["000000", "FFFFFF", "FFFF00", "000066", "CECECE", "", "red", "#123456", "12", "é", "日", '"', "ffeedd",
+"00 00"]
 FACES = ["Arial", "Tahoma, Arial, sans-serif", "", "Times New Roman, serif", "é", "日本", '"Q"', "a|b", "%", "a=b(c)"]
 
 
@@ -59,6 +64,11 @@ class Case:
         self._settings()
         self._entities()
         self._statistics()
+        self.answers = self.pick([0, 0, 1, 30])
+        self.arguments = self.pick([["/AUTO"], ["/AUTO"], ["/auto"], ["some.cfg", "x/aUtOy"], ["-x", "/AUTO", "/AUTO"]])
+        self._locale()
+        if os.geteuid() != 0:
+            self._locks()
 
     # -- small helpers
 
@@ -84,6 +94,27 @@ class Case:
         ending = self.pick(["", "/"])
         text = f"[General]\nInstallationPath={self.program_folder}{ending}\nTipsOnStartup=0\n"
         self.write(os.path.join(folder, "Tunedex.conf"), text.encode())
+
+    def _locale(self):
+        """The variables that choose the locale; the collection itself does not depend on them."""
+        self.locale = {"LC_ALL": "C"}
+        if self.chance(0.4):
+            names = ["de_DE.UTF-8", "en_US.UTF-8", "fr_FR.UTF-8", "C", "POSIX", "C.UTF-8", "xx_YY.UTF-8", ""]
+            self.locale = {name: self.pick(names) for name in ("LC_ALL", "LC_TIME", "LC_NUMERIC",
+            "LANG") if self.chance(0.5)}
+
+    def _locks(self):
+        """What the user may not read or write; pointless for the superuser."""
+        own = (os.fsencode(self.program_folder), os.fsencode(self.config_folder))
+        for path, _, files in list(os.walk(os.fsencode(self.root), topdown=False)):
+            if path.startswith(own):
+                continue
+            for name in files:
+                if self.chance(0.03) and os.path.isfile(os.path.join(path, name)):
+                    if not os.path.islink(os.path.join(path, name)):
+                        os.chmod(os.path.join(path, name), self.pick([0o444, 0o000]))
+            if path != os.fsencode(self.root) and self.chance(0.03):
+                os.chmod(path, self.pick([0o555, 0o555, 0o000]))
 
     # -- the collection
 
@@ -126,8 +157,17 @@ class Case:
             if os.path.basename(path) in (b".", b"..") or os.path.lexists(path):
                 continue
             self._file(path)
+        if self.chance(0.015):
+            self._crowd(self.pick([200, 1001]))
         for _ in range(self.pick([0, 0, 1, 3])):
             self._odd_entry(self.pick(self.folders))
+
+    def _crowd(self, count):
+        """Many small files, whose tags often agree in all but case."""
+        artists = [self.tag_text(30) for _ in range(5)]
+        for i in range(count):
+            tag = b"TAG" + self.tag_text(30)[:3].ljust(30) + self.pick(artists) + self.pick(artists) + bytes(35)
+            self.write(os.path.join(self.music, b"crowd%d.mp3" % i), self.header() + bytes(40) + tag)
 
     def _odd_entry(self, folder):
         path = os.path.join(folder, self.pick([self.file_name(), self.name()]))
@@ -183,7 +223,8 @@ class Case:
                         file.write(self.id3v1())
 
     def _large_file(self, path):
-        size = self.pick([268_435_455, 268_435_456, 268_435_457, 300_000_000, 2**31 - 1, 2**31, 2**31 + 5, 2**32, 2**32 + 1])
+        size = self.pick([268_435_455, 268_435_456, 268_435_457, 300_000_000, 2**31 - 1, 2**31, 2**31 + 5, 2**32,
+            2**32 + 1])
         head = self.pick([b"\xff\xfb\x90\x64", b"\xff\xfb\x90\x64" + bytes(32) + b"Xing\0\0\0\x0f\0\0\x10\0\0\0\x10\0"])
         with open(path, "wb") as file:
             file.write(head)
@@ -201,7 +242,8 @@ class Case:
             return bytes(count)
         if kind == 1:
             return self.random.randbytes(count)
-        alphabet = bytes([0xFF, 0xFF, 0xE0, 0xE1, 0xE2, 0xE3, 0xF3, 0xFB, 0xFA, 0x90, 0xEB, 0xEC, 0xED, 0x00, 0x0C, 0xDF])
+        alphabet = bytes([0xFF, 0xFF, 0xE0, 0xE1, 0xE2, 0xE3, 0xF3, 0xFB, 0xFA, 0x90, 0xEB, 0xEC, 0xED, 0x00, 0x0C,
+        0xDF])
         if kind == 2:
             return bytes(self.random.choices(alphabet, k=count))
         return b"\xff" * count
@@ -219,13 +261,15 @@ class Case:
 
     def refused_header_before_a_cut_xing(self):
         """A Xing header that is cut short fails for every candidate that gets as far as being read in full."""
-        refused = self.pick([b"\xff\xe0\x90\x00", b"\xff\xfb\xec\x00", b"\xff\xe1\x90\x00", b"\xff\xfb\xeb\x00",
+        refused = self.pick([b"\xff\xe0\x90\x00", b"\xff\xe0\x90\x00", b"\xff\xfb\xec\x00", b"\xff\xe1\x90\x00",
+            b"\xff\xfb\xeb\x00",
                              b"\xff\xe9\x90\x00", b"\xff\xdf\x90\x00"])  # fmt: skip
-        return refused + bytes(self.random.randrange(40)) + b"Xing" + self.header() + bytes(self.random.randrange(9))
+        return refused + bytes(self.random.randrange(40)) + b"Xing\xff\xfb\x90\x64" + bytes(self.random.randrange(9))
 
     def frame_count(self):
         return self.pick([
-            0, 1, 2, 3, 5, 9, 50, 1000, 9000, 2**32 - 1, 2**31, self.random.randrange(1, 200), self.random.randrange(2**32),
+            0, 1, 2, 3, 5, 9, 50, 1000, 9000, 2**32 - 1, 2**31, self.random.randrange(1, 200),
+            self.random.randrange(2**32),
         ]).to_bytes(4, "big")  # fmt: skip
 
     def audio(self):
@@ -289,15 +333,15 @@ class Case:
             )
         else:
             body = b"".join(self.frame() for _ in range(self.pick([0, 1, 3, 5, 8])))
-        if self.chance(0.6):
+        kind = self.random.randrange(11)
+        if kind < 10 and self.chance(0.6):
             body += bytes(self.random.randrange(self.pick([10, 300])))
         size = len(body)
-        kind = self.random.randrange(11)
         if kind == 10:
             # A tag that ends right before, at or right after the end of its last frame, with one more frame behind it.
-            size += self.pick([-1, 0, 1, 2])
-            size = max(0, size)
-            body += self.frame()
+            body = b"TPE1\0\0\0\x05\0\0\0Abba"
+            size = len(body) + self.pick([-1, 0, 1, 2])
+            body += b"TIT2\0\0\0\x06\0\0\0After"
         if kind == 0:
             size = self.pick([0, 1, 255, 127, 128, max(0, size - 1), size + 1, size // 2, 2**28 - 1])
         data = bytes([(size >> 21) & 127, (size >> 14) & 127, (size >> 7) & 127, size & 127])
@@ -314,7 +358,8 @@ class Case:
     def columns(self):
         kind = self.random.randrange(12)
         if kind == 0:
-            return self.pick(["", "|", "||", "Foo", "Number", "Artist|Title", "Title|Artist", "TitleArtist", "artist|title",
+            return self.pick(["", "|", "||", "Foo", "Number", "Artist|Title", "Title|Artist", "TitleArtist",
+            "artist|title",
                               "Artist", "Title", "Album|Artist|Title", "Number||Artist", "|Number|", "ArtistTitle",
                               "ArtistAlbumTitle|Number", "Artist|TITLE|Title", "ARTIST|Title|Album"])  # fmt: skip
         columns = list(ACTIVE)
@@ -325,7 +370,8 @@ class Case:
                 if name not in columns:
                     columns.insert(self.random.randrange(len(columns) + 1), name)
         if kind == 1:
-            columns.insert(self.random.randrange(len(columns) + 1), self.pick(["Foo", "", "artist", "Album", "日", "Number "]))
+            columns.insert(self.random.randrange(len(columns) + 1), self.pick(["Foo", "", "artist", "Album", "日",
+            "Number "]))
         if kind == 2:
             columns = [self.pick([name.upper(), name.lower(), name]) for name in columns]
         text = "|".join(columns)
@@ -367,8 +413,10 @@ class Case:
         if self.chance(0.03 if self.tame else 0.12):
             folder = self.pick(["missing/", self.root + "/a/b/c/", "x" * 300 + "/", "prog/stats.lst/"])
         name = self.pick([
-            "list.htm", "list.htm", "list.HTML", "list.Htm", "list.html", "list.txt", "list.txt", "list.TEXT", "list.text",
-            "list.TXT", "list.m3u", "list.M3U", "list.xml", "list", "txt", "m3u", "a.b.htm", "list.html5", "é.htm", "日本.txt",
+            "list.htm", "list.htm", "list.HTML", "list.Htm", "list.html", "list.txt", "list.txt", "list.TEXT",
+            "list.text",
+            "list.TXT", "list.m3u", "list.M3U", "list.xml", "list", "txt", "m3u", "a.b.htm", "list.html5", "é.htm",
+            "日本.txt",
             "x.y/list", ".htm", ".txt", "a b.htm", "tab\t.m3u", "é日.html", "list.", "list.txt.", '"q".htm', "a=b.txt",
         ])  # fmt: skip
         if self.chance(0.02):
@@ -431,13 +479,14 @@ class Case:
             "PageTitle": lambda: self.pick(TITLES) + self.pick(["", self.pick(TITLES)]),
             "PageFooter": lambda: self.pick(TITLES) + self.pick(["", self.pick(TITLES)]),
             "Recurse": lambda: "1" if self.chance(0.6) else self.flag(),
-            "Spanning": lambda: self.number(["0", "1", "2", "3", "5", "100", "-1", "-100"]),
+            "Spanning": lambda: self.number(["0", "1", "2", "3", "5", "100", "-1", "-100", str(len(self.folders))]),
             "SizeType": lambda: self.number(["0", "1", "2", "3"]),
             "SortOrder": lambda: self.number(["0", "1", "1", "2", "3"]),
             "ErrorWarnings": self.flag,
             "ErrorLog": self.flag,
             "ConfirmQuit": self.flag,
-            "DocumentType": lambda: self.pick(["HTML", "HTML", "XHTML", "XHTML", "xhtml", "", "html", "XHTML ", "Text"]),
+            "DocumentType": lambda: self.pick(["HTML", "HTML", "XHTML", "XHTML", "xhtml", "", "html", "XHTML ",
+            "Text"]),
             "DoLinks": self.flag,
             "LinkType": lambda: self.number(["0", "1", "2", "2", "3"]),
             "LinkPrefix": lambda: self.pick(["file:///", "", "http://x/", "é", "日", '"', "%D"]),
@@ -497,11 +546,15 @@ class Case:
                 lines[i] = self.pick([key.upper(), key.lower(), key + b" ", b" " + key]) + b"=" + value
         for _ in range(self.random.randrange(6)):
             odd = self.pick([
-                b"# comment", b"", b"", b"#", b"no equals", b"Colour(12)=FF0000", b"Colour(x)=1", b"Colour()=2", b"Font(3)=a%|%1%|%0%|%0",
-                b"Font(x)=a%|%1%|%0%|%0", b"Colour(=5", b"Font(1", b"=", b"=value", b"Unknown=1", b"Unknown(x)=1", b"(=", b"(1)=2",
-                b"Recurse(1)=1", b"Recurse(=0", b"COLOUR=ABCDEF", b"FONT=Face%|%2%|%1%|%1", b"colour(9=123456", b"Font(0)", b" ",
+                b"# comment", b"", b"", b"#", b"no equals", b"Colour(12)=FF0000", b"Colour(x)=1", b"Colour()=2",
+                b"Font(3)=a%|%1%|%0%|%0",
+                b"Font(x)=a%|%1%|%0%|%0", b"Colour(=5", b"Font(1", b"=", b"=value", b"Unknown=1", b"Unknown(x)=1",
+                b"(=", b"(1)=2",
+                b"Recurse(1)=1", b"Recurse(=0", b"COLOUR=ABCDEF", b"FONT=Face%|%2%|%1%|%1", b"colour(9=123456",
+                b"Font(0)", b" ",
                 b" # not a comment", b"\t", b"Colour(-1)=x", b"Title(1)=x", b"PageTitle(0)=bracket", "Größe=1".encode(),
-                b"Font(1)=A%|%4%|%0%|%1", b"DocumentType=XHTML", "colour(\u0663)=1".encode(), "Colour(é)=1".encode(), b"Colour( 1)=7",
+                b"Font(1)=A%|%4%|%0%|%1", b"DocumentType=XHTML", "colour(\u0663)=1".encode(), "Colour(é)=1".encode(),
+                b"Colour( 1)=7",
                 b"Spanning(x)=3", b"Colour(1)x=5",
             ])  # fmt: skip
             lines.insert(self.random.randrange(len(lines) + 1), odd)
@@ -513,15 +566,19 @@ class Case:
         kind = self.random.randrange(6)
         if kind == 0:
             return
-        entries = [b"38\t&amp;", b"60\t&lt;", b"62\t&gt;", b"34\t&quot;", b"233\t&eacute;", b"201\t&Eacute;", b"128\t&euro;"]
+        entries = [b"38\t&amp;", b"60\t&lt;", b"62\t&gt;", b"34\t&quot;", b"233\t&eacute;", b"201\t&Eacute;",
+        b"128\t&euro;"]
         if kind == 1:
             self.random.shuffle(entries)
         if kind >= 4:
             for _ in range(self.random.randrange(8)):
                 odd = self.pick([
-                    b"# comment", b"", b"256\tx", b"-1\tx", b"abc\tx", b"65", b"\tx", b" 66 \tb", b"67.5\tX", b"1e2\td", b"97\t",
-                    b"98\tbb\tignored", b"0\tnul", b"129\tC1", b"32\t_", b"195\tA", b"169\t(c)", b"47\t|", "101\té".encode(), b"102\t\xe9",
-                    "103\t日".encode(), b"99999\tx", b"38x\ty", b"1e400\tx", b"46.4\t.dot.", b"-0.2\tx", b"255.5\tx", b"\t", b"65\t",
+                    b"# comment", b"", b"256\tx", b"-1\tx", b"abc\tx", b"65", b"\tx", b" 66 \tb", b"67.5\tX",
+                    b"1e2\td", b"97\t",
+                    b"98\tbb\tignored", b"0\tnul", b"129\tC1", b"32\t_", b"195\tA", b"169\t(c)", b"47\t|",
+                    "101\té".encode(), b"102\t\xe9",
+                    "103\t日".encode(), b"99999\tx", b"38x\ty", b"1e400\tx", b"46.4\t.dot.", b"-0.2\tx", b"255.5\tx",
+                    b"\t", b"65\t",
                     b"+70\tF", b"255.4\tyy",
                 ])  # fmt: skip
                 entries.insert(self.random.randrange(len(entries) + 1), odd)
@@ -538,7 +595,8 @@ class Case:
         if kind >= 9:
             index = self.random.randrange(4)
             lines[index] = self.pick([
-                b"", b"x", b"5", b"12", b" 7 ", b"2147483647", b"2147483646", b"2147483648", b"1.5", b"5x", b"-3", b"1e3", b"2147483646.4",
+                b"", b"x", b"5", b"12", b" 7 ", b"2147483647", b"2147483646", b"2147483648", b"1.5", b"5x", b"-3",
+                b"1e3", b"2147483646.4",
                 b"2147483647.5", b"-2147483649", b"1e99", b"2147483646.5",
             ])  # fmt: skip
             if self.chance(0.2):

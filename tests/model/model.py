@@ -8,6 +8,7 @@ one of them is wrong, and it is worth finding out which.
 Texts are Python strings in which a byte that is no UTF-8 is a lone surrogate ("surrogateescape").
 """
 
+import errno
 import os
 import re
 import stat
@@ -46,6 +47,19 @@ class RunTimeError(Exception):
         super().__init__(number)
         self.number = number
         self.description = ERRORS[number]
+
+
+def file_error(error):
+    number = 57
+    if error.errno in (errno.EINVAL, errno.ENAMETOOLONG, errno.ELOOP):
+        number = 52
+    if error.errno == errno.ENOENT:
+        number = 53
+    if error.errno in (errno.EACCES, errno.EPERM, errno.EROFS, errno.EISDIR):
+        number = 75
+    if error.errno == errno.ENOTDIR:
+        number = 76
+    return RunTimeError(number)
 
 
 class FaultyLine(Exception):
@@ -191,9 +205,22 @@ def two_digits(number):
     return f"{number:02d}"
 
 
-def size_text(size, size_type):
+class Region:
+    """What the environment's locale says about dates, times and numbers."""
+
+    def __init__(self, date="", time="", thousands=",", point="."):
+        self.date = date
+        self.time = time
+        self.thousands = thousands
+        self.point = point
+
+    def grouped(self, number):
+        return f"{number:,}".replace(",", self.thousands)
+
+
+def size_text(size, size_type, region):
     if size_type == 0:
-        return f"{size:,} b."
+        return region.grouped(size) + " b."
     if size_type not in (1, 2):
         return ""
     value = Fraction(size) / 1024
@@ -202,7 +229,7 @@ def size_text(size, size_type):
         value /= 1024
         unit = "MB"
     hundredths = int(value * 100 + Fraction(1, 2))
-    return f"{hundredths // 100:,}.{hundredths % 100:02d} {unit}"
+    return region.grouped(hundredths // 100) + f"{region.point}{hundredths % 100:02d} {unit}"
 
 
 def left(text, count):
@@ -380,7 +407,10 @@ class Bytes:
     """A file read by 1-based positions; every read past the end fails."""
 
     def __init__(self, path):
-        self.handle = os.open(to_disk(path), os.O_RDONLY)
+        try:
+            self.handle = os.open(to_disk(path), os.O_RDONLY)
+        except OSError as error:
+            raise file_error(error) from error
         self.length = os.fstat(self.handle).st_size
 
     def __enter__(self):
@@ -423,10 +453,13 @@ def move_the(artist, settings):
 
 
 def read_id3v1(track, settings):
-    with Bytes(track.full_path) as file:
-        if file.length < 128:
-            return False
-        tag = from_code_page(file.read(file.length - 127, 128))
+    try:
+        with Bytes(track.full_path) as file:
+            if file.length < 128:
+                return False
+            tag = from_code_page(file.read(file.length - 127, 128))
+    except RunTimeError:
+        return False
     if tag[0:3] != "TAG":
         return False
 
@@ -558,18 +591,19 @@ def decode_header(track, search_position):
 
 class Result:
     def __init__(self):
-        self.events = []  # ("message", title, text, buttons), ("status", text), ("warning", file, line number)
+        self.events = []  # ("message", title, text, buttons, answered), ("status", text), ("warning", file, line number)
         self.files = {}  # path as bytes -> bytes
+        self.folders = []  # paths of the folders created, as bytes
         self.exit_status = 1
 
 
 class Model:
-    """One unattended run. `date` and `time` are what the pages show; `current_folder` takes relative paths."""
+    """One unattended run in `current_folder`; the first `answers` messages get one, Yes where there is a choice."""
 
-    def __init__(self, program_folder, date, time, current_folder):
+    def __init__(self, program_folder, region, current_folder, answers=0):
         self.app_folder = program_folder if program_folder.endswith("/") else program_folder + "/"
-        self.date = date
-        self.time = time
+        self.region = region
+        self.answers = answers
         self.current_folder = current_folder
         self.result = Result()
         self.settings = Settings()
@@ -600,7 +634,11 @@ class Model:
     # -- helpers
 
     def _message(self, text, buttons, title):
-        self.result.events.append(("message", title, text, buttons))
+        """Whether the answer was Yes; at the end of the answers it is No."""
+        answered = self.answers > 0
+        self.answers -= 1
+        self.result.events.append(("message", title, text, buttons, answered))
+        return answered and buttons == YES_NO_EXCLAMATION
 
     def _status(self, text):
         self.result.events.append(("status", text))
@@ -612,39 +650,44 @@ class Model:
         )
 
     def _store(self, path, data):
-        path = os.path.join(to_disk(self.current_folder), to_disk(path))
-        self.result.files[os.path.realpath(path)] = data
+        self.result.files[self._absolute(path)] = data
 
     def _check_writable(self, path):
         """The error that opening the file for writing raises, if any."""
         try:
-            name = os.path.basename(to_disk(path))
-            if len(name) > 255:
-                raise RunTimeError(52)
             if stat.S_ISDIR(os.stat(to_disk(path)).st_mode):
                 raise RunTimeError(75)
+            if not os.access(to_disk(path), os.W_OK):
+                raise RunTimeError(75)
         except FileNotFoundError:
-            pass
+            folder = os.path.dirname(self._absolute(path))
+            if len(os.path.basename(to_disk(path))) > 255:
+                raise RunTimeError(52) from None
+            if folder not in self.result.folders and not os.access(folder, os.W_OK | os.X_OK):
+                raise RunTimeError(75) from None
         except OSError as error:
-            raise self._file_error(error) from error
+            raise file_error(error) from error
 
-    @staticmethod
-    def _file_error(error):
-        import errno
+    def _absolute(self, path):
+        return os.path.realpath(os.path.join(to_disk(self.current_folder), to_disk(path)))
 
-        if error.errno in (errno.EINVAL, errno.ENAMETOOLONG, errno.ELOOP):
-            return RunTimeError(52)
-        if error.errno in (errno.ENOENT,):
-            return RunTimeError(53)
-        if error.errno in (errno.EACCES, errno.EPERM, errno.EROFS, errno.EISDIR):
-            return RunTimeError(75)
-        if error.errno in (errno.ENOTDIR,):
-            return RunTimeError(76)
-        return RunTimeError(57)
+    def _create_folder(self, path):
+        """Remembers what would be created; the program is still to run and must find nothing done."""
+        whole = self._absolute(path)
+        if len(os.path.basename(whole)) > 255:
+            raise RunTimeError(52)
+        if os.path.lexists(whole):
+            raise RunTimeError(57)
+        parent = os.path.dirname(whole)
+        if parent not in self.result.folders:
+            if not os.path.isdir(parent):
+                raise RunTimeError(76)
+            if not os.access(parent, os.W_OK | os.X_OK):
+                raise RunTimeError(75)
+        self.result.folders.append(whole)
 
-    @staticmethod
-    def _folder_exists(path):
-        if path == "":
+    def _folder_exists(self, path):
+        if path == "" or self._absolute(path) in self.result.folders:
             return True
         try:
             return stat.S_ISDIR(os.stat(to_disk(path)).st_mode)
@@ -762,11 +805,14 @@ class Model:
             return
         folder = "".join(piece + "/" for piece in s.OutputFile.split("/")[:-1])
         if not self._folder_exists(folder):
-            # At the end of the answers it is No.
-            self._message(
-                "The output directory does not exist!\r\n\r\nDo you want to create it?", YES_NO_EXCLAMATION, ERROR_TITLE
-            )
-            return
+            question = "The output directory does not exist!\r\n\r\nDo you want to create it?"
+            if not self._message(question, YES_NO_EXCLAMATION, ERROR_TITLE):
+                return
+            path = ""
+            for piece in s.OutputFile.split("/")[:-1]:
+                path += piece + "/"
+                if not self._folder_exists(path):
+                    self._create_folder(path)
         extension = "." + upper(s.OutputFile.split(".")[-1]) if "." in s.OutputFile else ""
         output_type = {".HTM": 0, ".HTML": 0, ".TXT": 1, ".TEXT": 1, ".M3U": 2}.get(extension, 0)
         if s.ErrorLog:
@@ -830,7 +876,7 @@ class Model:
                 seen.add((what.st_dev, what.st_ino))
                 names = [from_disk(entry.name) for entry in os.scandir(to_disk(current))]
             except OSError as error:
-                raise RunTimeError(76) if isinstance(error, FileNotFoundError) else self._file_error(error)
+                raise RunTimeError(76) if isinstance(error, FileNotFoundError) else file_error(error)
             for name in names:
                 if name.startswith("."):
                     continue
@@ -979,7 +1025,7 @@ class Model:
             "BITRATE": track.bitrate,
             "FREQUENCY": track.frequency,
             "DURATION": track.duration,
-            "FILE SIZE": size_text(track.file_size, self.settings.SizeType),
+            "FILE SIZE": size_text(track.file_size, self.settings.SizeType, self.region),
             "FILENAME": pieces[-1],
             "FOLDER PATH": "".join(piece + "/" for piece in pieces[:-1])[:-1],
             "FULL PATH": track.full_path,
@@ -1009,11 +1055,11 @@ class Model:
     def _expand(self, text, line_break):
         hours_text = self._play_time()
         for placeholder, value in [
-            ("%D", self.date),
-            ("%T", self.time),
+            ("%D", self.region.date),
+            ("%T", self.region.time),
             ("%C", str(len(self.tracks))),
             ("%N", str(self.untagged_count)),
-            ("%S", size_text(self.total_bytes, self.settings.SizeType)),
+            ("%S", size_text(self.total_bytes, self.settings.SizeType, self.region)),
             ("%P", hours_text),
             ("%%", "%"),
             ("%L", line_break),
