@@ -80,7 +80,7 @@ bool IsTiny(std::string_view number) {
 
 ParsedNumber ParseNumber(std::string_view text) {
     std::size_t position = 0;
-    while (position < text.size() && (text[position] == ' ' || text[position] == '\t')) {
+    while (position < text.size() && text[position] == ' ') {
         ++position;
     }
     bool negative = false;

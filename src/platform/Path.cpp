@@ -15,8 +15,8 @@ std::string WithSeparator(std::string_view path, PathStyle style) {
 }
 
 std::string WithoutSeparator(std::string_view path, PathStyle style) {
-    const bool root = path.size() == 1 || (style.driveLetters && path.size() == 3 && path[1] == ':');
-    if (EndsInSeparator(path, style) && !root) {
+    const std::size_t root = style.driveLetters && path.size() > 2 && path[1] == ':' ? 3 : 1;
+    while (path.size() > root && EndsInSeparator(path, style)) {
         path.remove_suffix(1);
     }
     return std::string(path);

