@@ -53,7 +53,7 @@ TEST(LeadingNumber, TellsNumbersTooLargeFromNumbersTooSmall) {
     }
 }
 
-TEST(LeadingNumber, SkipsTabsAmongTheBlanksBeforeIt) {
+TEST(LeadingNumber, SkipsNothingButBlanksBeforeIt) {
     EXPECT_EQ(LeadingNumber("\t7"), 0);
     EXPECT_EQ(LeadingNumber("\n7"), 0);
 }
