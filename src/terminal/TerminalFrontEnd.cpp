@@ -33,7 +33,8 @@ bool WaitForInput(int input) {
         sigaddset(&signals, number);
     }
     pthread_sigmask(SIG_BLOCK, &signals, &before);
-    while (interrupted == 0) {
+    while (interrupted == 0 &&
+           input >= 0) { // a descriptor below 0 would never be ready; reading from it tells
         pollfd waiting{input, POLLIN, 0};
         if (ppoll(&waiting, 1, nullptr, &before) >= 0 || errno != EINTR) {
             break;
