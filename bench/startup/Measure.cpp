@@ -3,9 +3,9 @@
 // usage: startup_bench EMPTY-PROGRAM TUNEDEX-PROGRAM [ROUNDS]
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <iostream>
 #include <stdexcept>
 #include <string>
@@ -20,12 +20,12 @@ long long NowInNanoseconds() {
 double MillisecondsToFirstPaint(const std::string& program) {
     const long long start = NowInNanoseconds();
     std::FILE* output = popen(("exec '" + program + "'").c_str(), "r");
-    long long painted = 0;
-    const bool told = output != nullptr && std::fscanf(output, "%lld", &painted) == 1;
+    std::array<char, 64> line{};
+    const bool told = output != nullptr && std::fgets(line.data(), line.size(), output) != nullptr;
     if (output == nullptr || pclose(output) != 0 || !told) {
         throw std::runtime_error(program + " failed");
     }
-    return static_cast<double>(painted - start) / 1e6;
+    return static_cast<double>(std::stoll(line.data()) - start) / 1e6;
 }
 
 double Median(std::vector<double> values) {

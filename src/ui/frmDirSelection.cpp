@@ -253,6 +253,7 @@ void frmDirSelection::done(int result) {
 
 std::vector<std::string> frmDirSelection::Rows() const {
     std::vector<std::string> rows;
+    rows.reserve(static_cast<std::size_t>(lvwDirs_->topLevelItemCount()));
     for (int i = 0; i < lvwDirs_->topLevelItemCount(); ++i) {
         rows.push_back(FromQt(lvwDirs_->topLevelItem(i)->text(0)));
     }
