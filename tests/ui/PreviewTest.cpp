@@ -344,12 +344,12 @@ void PreviewTest::SaysSoWhereNoListingCouldBeWritten() {
 void PreviewTest::CanBeHiddenAndShowsTheLatestWhenItIsBack() {
     Preview with;
     with.Open();
-    Button(*with.editor, u"cmdPreview"_s).click();
+    Set(*with.editor, u"chkPreview"_s, false);
     QVERIFY(!with.Browser().isVisible());
     Set(*with.editor, u"chkTheSubstitution"_s, false);
     QTest::qWait(300);
     QVERIFY(with.Shown().contains(u"Clockmakers, The"_s)); // nothing is made that nobody sees
-    Button(*with.editor, u"cmdPreview"_s).click();
+    Set(*with.editor, u"chkPreview"_s, true);
     QVERIFY(with.Browser().isVisible());
     QTRY_VERIFY(with.Shown().contains(u"The Clockmakers"_s));
 }
