@@ -87,7 +87,7 @@ QBoxLayout* frmEditLayout::BuildButtons() {
     cmdOK_->setDefault(true);
     connect(cmdHelp_, &QPushButton::clicked, this, [this] { OpenHelp(application_, ui_); });
     connect(chkPreview_, &QCheckBox::toggled, preview_, &QWidget::setVisible);
-    connect(cmdOK_, &QPushButton::clicked, this, &frmEditLayout::Accept);
+    connect(cmdOK_, &QPushButton::clicked, this, &frmEditLayout::UseLayout);
     connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* layout = new QHBoxLayout;
@@ -149,7 +149,7 @@ ThemeContent frmEditLayout::CurrentTheme() const {
     return content;
 }
 
-void frmEditLayout::Accept() {
+void frmEditLayout::UseLayout() {
     // The document type counts even when a number is then refused.
     application_.settings.DocumentType = document_->DocumentType();
     if (const auto fault = table_->FirstFault()) {

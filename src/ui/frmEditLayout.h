@@ -61,7 +61,7 @@ class frmEditLayout : public QDialog {
     void ConnectPages();
     void FollowTheme();
     ThemeContent CurrentTheme() const;
-    void Accept();
+    void UseLayout();
 
     Application& application_;
     UserInterface& ui_;
