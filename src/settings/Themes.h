@@ -21,8 +21,8 @@ std::string StoredThemePath(const std::string& programFolder, const std::string&
 // The names of the themes, in the order in which the folder returns them; none when there is no folder.
 std::vector<std::string> ListThemes(const std::string& programFolder);
 
-// Whether a file of that name can be a theme in the folder: not a path, not empty once trimmed of blanks, no NUL, and
-// with the extension no longer than a file name may be.
+// Whether a file of that name can be a theme in the folder: not a path, not empty once trimmed of blanks, no
+// NUL, and with the extension no longer than a file name may be.
 bool IsThemeName(const std::string& name);
 
 // What a theme holds of the settings, the table's width as the text of the editor's box.

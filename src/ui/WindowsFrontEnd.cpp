@@ -2,6 +2,8 @@
 
 #include "Startup.h"
 #include "WidgetHelpers.h"
+#include "frmEditLayout.h"
+#include "frmOptions.h"
 #include "frmProgress.h"
 
 #include <QApplication>
@@ -29,6 +31,7 @@ WindowsFrontEnd::WindowsFrontEnd(Application& application, Dialogs& dialogs)
     : application_(application), dialogs_(dialogs), monitor_(application),
       main_(application, *this, dialogs) {
     QObject::connect(&main_, &frmMain::CreateListRequested, &main_, [this] { CreateList(); });
+    QObject::connect(&main_, &frmMain::OptionsRequested, &main_, [this] { OpenOptions(); });
 }
 
 WindowsFrontEnd::~WindowsFrontEnd() = default;
@@ -52,11 +55,32 @@ MainFields WindowsFrontEnd::Fields() const {
 
 void WindowsFrontEnd::FillFields(const MainFields& fields) {
     main_.FillFields(fields);
+    if (options_ != nullptr) {
+        options_->LoadControls();
+    }
+}
+
+frmOptions* WindowsFrontEnd::Options() const {
+    return options_;
+}
+
+void WindowsFrontEnd::OpenOptions() {
+    if (options_ == nullptr) {
+        options_ = new frmOptions(application_, *this, &main_);
+        options_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    options_->show();
+    options_->raise();
+    options_->activateWindow();
 }
 
 void WindowsFrontEnd::TakeControls(Settings& settings) {
     TakeMainFields(settings, Fields());
-    TakeLayoutControls(settings);
+    if (options_ != nullptr) {
+        options_->StoreControls(settings);
+    } else {
+        TakeLayoutControls(settings);
+    }
 }
 
 QWidget* WindowsFrontEnd::MessageOwner() {
@@ -76,17 +100,30 @@ void WindowsFrontEnd::FocusAndSelect(MainField field) {
 
 void WindowsFrontEnd::EnableWindows() {
     main_.setEnabled(true);
+    if (options_ != nullptr && options_->Editor() == nullptr) { // it waits for its layout editor otherwise
+        options_->setEnabled(true);
+    }
+}
+
+// The progress window disables the main window; what is open above that must not be changed during a run
+// either.
+void WindowsFrontEnd::DisableWindows() {
+    if (options_ != nullptr) {
+        options_->setEnabled(false);
+    }
 }
 
 RunMonitor& WindowsFrontEnd::ShowProgress() {
     CloseProgress();
     progress_ = std::make_unique<frmProgress>(main_);
+    DisableWindows();
     progress_->SetRunning(running_);
     QObject::connect(progress_.get(), &frmProgress::AbortPressed, &main_,
                      [this] { application_.abortRequested = true; });
     QObject::connect(progress_.get(), &frmProgress::Closed, &main_, [this] {
         monitor_.SetWindow(nullptr);
         progress_.release()->deleteLater(); // it is still handling its own close
+        EnableWindows();
     });
     monitor_.SetWindow(progress_.get());
     progress_->show();
@@ -102,7 +139,10 @@ void WindowsFrontEnd::SetProgressCaption(std::string_view caption) {
 
 void WindowsFrontEnd::CloseProgress() {
     monitor_.SetWindow(nullptr);
-    progress_.reset();
+    if (progress_ != nullptr) {
+        progress_.reset();
+        EnableWindows();
+    }
 }
 
 } // namespace tunedex

@@ -9,10 +9,12 @@
 
 #include <QPointer>
 
+#include <QPointer>
 #include <memory>
 
 namespace tunedex {
 
+class frmOptions;
 class frmProgress;
 
 class WindowsFrontEnd final : public UserInterface {
@@ -34,13 +36,20 @@ class WindowsFrontEnd final : public UserInterface {
     void SetProgressCaption(std::string_view caption) override;
     void CloseProgress() override;
 
+    // Shows the options dialog, which lets the user go on at the main window meanwhile.
+    void OpenOptions();
+    // Null while the options dialog is closed.
+    frmOptions* Options() const;
+
   private:
     QWidget* MessageOwner();
+    void DisableWindows();
 
     Application& application_;
     Dialogs& dialogs_;
     ProgressMonitor monitor_;
     frmMain main_;
+    QPointer<frmOptions> options_;
     std::unique_ptr<frmProgress> progress_; // exists while the window is open
     bool running_ = false;
 };

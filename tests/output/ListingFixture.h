@@ -34,6 +34,24 @@ inline std::vector<TrackInfo> SevenTracks() {
     };
 }
 
+// The line, without its end, that holds the first occurrence of `part`.
+inline std::string LineWith(const std::string& page, const std::string& part) {
+    const std::size_t at = page.find(part);
+    if (at == std::string::npos) {
+        return "nothing with " + part;
+    }
+    const std::size_t from = page.rfind('\n', at) + 1;
+    return page.substr(from, page.find("\r\n", at) - from);
+}
+
+inline std::size_t CountOf(const std::string& page, const std::string& part) {
+    std::size_t count = 0;
+    for (std::size_t at = page.find(part); at != std::string::npos; at = page.find(part, at + part.size())) {
+        ++count;
+    }
+    return count;
+}
+
 class ListingTest : public testing::Test {
   protected:
     ListingTest() {

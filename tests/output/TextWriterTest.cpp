@@ -1,10 +1,11 @@
+#include "TextWriter.h"
+
 #include "ListingFixture.h"
 
 namespace tunedex {
 namespace {
 
 using TextWriterTest = ListingTest;
-using M3uWriterTest = ListingTest;
 
 constexpr const char* kAllColumns =
     "Number|Artist|Album|Title|Year|Genre|MPEG Type|Mode|Bitrate|Frequency|Duration|"
@@ -139,128 +140,6 @@ TEST_F(TextWriterTest, KeepsTabsLineBreaksAndStrayBytes) {
     settings.Merge = 0;
     EXPECT_FALSE(Write(kTextOutput));
     EXPECT_EQ(Written("list.txt"), "Title\tFilename\r\na\tb\r\nc\t\xFF\xE3\x81.mp3\r\n");
-}
-
-TEST_F(M3uWriterTest, WritesLengthNameAndPathOfEveryTrack) {
-    auto tracks = SevenTracks();
-    Use({tracks[0], tracks[2], tracks[3], tracks[6]});
-    settings.OutputFile = folder / "list.m3u";
-    settings.ActiveColumns = "";
-    EXPECT_FALSE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"),
-              "#EXTM3U\r\n"
-              "#EXTINF:250,Abba: Waterloo\r\n/music/Abba/01 Waterloo.mp3\r\n"
-              "#EXTINF:0,Nobody: Alone\r\n/music/no album.mp3\r\n"
-              "#EXTINF:4503,R&B \"All\" <Stars>: 1 < 2 & 3 > 2\r\n/music/R&B/\"quoted\" <b>.mp3\r\n"
-              "#EXTINF:65,Zz Top: La Grange\r\n/music/Zz Top/La Grange.mp3\r\n");
-    EXPECT_EQ(monitor.positions, (std::vector<std::int32_t>{1, 2, 3, 4}));
-}
-
-TEST_F(M3uWriterTest, IsInWindows1252WhileAllPathsAreAscii) {
-    TrackInfo track = SevenTracks()[5];
-    track.FullPath = "/music/a.mp3";
-    track.Artist = "Bj\xC3\xB6rk \xE3\x81\x82";
-    Use({track});
-    settings.OutputFile = folder / "list.m3u";
-    EXPECT_FALSE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:1568,Bj\xF6rk ?: ? \x80 5\r\n/music/a.mp3\r\n");
-}
-
-TEST_F(M3uWriterTest, IsInUtf8AsSoonAsOnePathIsNotAscii) {
-    TrackInfo first = SevenTracks()[1];
-    first.FullPath = "/music/a.mp3";
-    TrackInfo last = SevenTracks()[5];
-    TrackInfo stray = first;
-    stray.FullPath = "/music/J\xF3ga.mp3"; // an old name, in Latin-1
-    settings.OutputFile = folder / "list.m3u";
-    Use({first, last});
-    EXPECT_FALSE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:51,Bj\xC3\xB6rk: J\xC3\xB3ga\r\n/music/a.mp3\r\n"
-                                   "#EXTINF:1568,\xE6\x97\xA5\xE6\x9C\xAC: \xE3\x81\x82 \xE2\x82\xAC 5\r\n"
-                                   "/music/\xE6\x97\xA5\xE6\x9C\xAC/\xE3\x81\x82.mp3\r\n");
-    Use({first, stray});
-    EXPECT_FALSE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:51,Bj\xC3\xB6rk: J\xC3\xB3ga\r\n/music/a.mp3\r\n"
-                                   "#EXTINF:51,Bj\xC3\xB6rk: J\xC3\xB3ga\r\n/music/J\xF3ga.mp3\r\n");
-}
-
-struct LengthRow {
-    const char* duration;
-    const char* seconds;
-};
-
-TEST_F(M3uWriterTest, TakesTheLengthFromTheDurationText) {
-    settings.OutputFile = folder / "list.m3u";
-    for (const LengthRow& row : {LengthRow{"4:05", "245"}, LengthRow{"0:00", "0"}, LengthRow{"75:03", "4503"},
-                                 LengthRow{":7", "7"}, LengthRow{"1:", "60"}, LengthRow{"x:y", "0"},
-                                 LengthRow{"1:02:03", "62"}, LengthRow{"2x:3y", "123"}}) {
-        TrackInfo track = SevenTracks()[0];
-        track.Duration = row.duration;
-        Use({track});
-        EXPECT_FALSE(Write(kPlaylistOutput));
-        EXPECT_EQ(Written("list.m3u"), std::string("#EXTM3U\r\n#EXTINF:") + row.seconds +
-                                           ",Abba: Waterloo\r\n/music/Abba/01 Waterloo.mp3\r\n");
-    }
-}
-
-TEST_F(M3uWriterTest, RaisesError5ForATrackWithoutDurationAndKeepsTheOldFile) {
-    Use(SevenTracks()); // the untagged one has none
-    settings.OutputFile = folder.Write("list.m3u", "old");
-    EXPECT_EQ(ErrorOf(kPlaylistOutput), 5);
-    EXPECT_EQ(Written("list.m3u"), "old");
-}
-
-TEST_F(M3uWriterTest, LeavesAnEmptyArtistEmpty) {
-    TrackInfo track = SevenTracks()[0];
-    track.Artist = "";
-    Use({track});
-    settings.OutputFile = folder / "list.m3u";
-    EXPECT_FALSE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:250,: Waterloo\r\n/music/Abba/01 Waterloo.mp3\r\n");
-}
-
-TEST_F(M3uWriterTest, HoldsOnlyItsFirstLineWithoutTracks) {
-    settings.OutputFile = folder / "list.m3u";
-    EXPECT_FALSE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n");
-}
-
-TEST_F(M3uWriterTest, AppendsItsExtensionWhereItIsMissing) {
-    for (const NameRow& row : {NameRow{"a.m3u", "a.m3u"}, NameRow{"a.M3U", "a.M3U"}, NameRow{"a", "a.m3u"},
-                               NameRow{"a.m3u8", "a.m3u8.m3u"}}) {
-        settings.OutputFile = folder / row.name;
-        EXPECT_FALSE(Write(kPlaylistOutput));
-        EXPECT_TRUE(folder.Exists(row.written)) << row.name;
-        EXPECT_EQ(settings.OutputFile, folder / row.written);
-    }
-}
-
-TEST_F(M3uWriterTest, KeepsTheTracksBeforeAnAbort) {
-    UseMany(5);
-    settings.OutputFile = folder / "list.m3u";
-    monitor.abortAtQuestion = 2;
-    EXPECT_TRUE(Write(kPlaylistOutput));
-    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:250,Abba: Title 1\r\n/music/Abba/01 Waterloo.mp3\r\n"
-                                   "#EXTINF:250,Abba: Title 2\r\n/music/Abba/01 Waterloo.mp3\r\n");
-}
-
-TEST(OutputTypeOf, LooksAtWhatFollowsTheLastFullStop) {
-    for (const auto& [name, type] : std::vector<std::pair<std::string, int>>{{"a.htm", 0},
-                                                                             {"a.html", 0},
-                                                                             {"a.TXT", 1},
-                                                                             {"a.text", 1},
-                                                                             {"a.m3u", 2},
-                                                                             {"a.M3U", 2},
-                                                                             {"a", 0},
-                                                                             {"txt", 0},
-                                                                             {"", 0},
-                                                                             {"a.txt.htm", 0},
-                                                                             {"a.htm.txt", 1},
-                                                                             {"/x.txt/a", 0},
-                                                                             {"a.m3u8", 0},
-                                                                             {".txt", 1}}) {
-        EXPECT_EQ(OutputTypeOf(name), type) << name;
-    }
 }
 
 } // namespace

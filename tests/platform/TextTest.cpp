@@ -152,9 +152,9 @@ TEST(UpperCase, MapsEveryLetterOfTheCodePageThatHasAPartnerThereAndNothingElse) 
     for (int byte = 0; byte < 256; ++byte) {
         const char32_t character = FromWindows1252(static_cast<unsigned char>(byte));
         char32_t upper = character;
-        if (byte >= 'a' && byte <= 'z') {
-            upper = character - 32;
-        } else if (byte >= 0xE0 && byte <= 0xFE && byte != 0xF7) {
+        const bool ascii = byte >= 'a' && byte <= 'z';
+        const bool letterOfThePage = byte >= 0xE0 && byte <= 0xFE && byte != 0xF7;
+        if (ascii || letterOfThePage) {
             upper = character - 32;
         } else if (special.contains(character)) {
             upper = special.at(character);
@@ -232,7 +232,9 @@ TEST(FileLine, BringsBackEveryTextOfWholeCharacters) {
     for (const std::string& first : pieces) {
         for (const std::string& second : pieces) {
             for (const std::string& last : third) {
-                const std::string text = first + second + last;
+                std::string text = first;
+                text += second;
+                text += last;
                 ASSERT_EQ(DecodeFileLine(EncodeFileLine(text)), text) << testing::PrintToString(text);
             }
         }

@@ -282,8 +282,9 @@ TEST(ScanFolders, TellsWhenTheUserAborts) {
         EXPECT_TRUE(collecting.Collect(folder.Path()));
         EXPECT_LE(collecting.table.Count(), 5U);
         EXPECT_TRUE(collecting.reporter.reports.empty());
+        EXPECT_EQ(static_cast<std::size_t>(collecting.totals.StoredCount), collecting.table.Count());
         if (readers == 1) {
-            EXPECT_EQ(collecting.totals.StoredCount, 5);
+            EXPECT_GE(collecting.table.Count(), 2U) << "what was read before stays";
         }
     }
 }

@@ -170,7 +170,8 @@ TEST(ReadId3v2, MovesALeadingTheOnlyWhenAsked) {
 TEST(ReadId3v2, StopsAtPadding) {
     const std::string late = Frame({"TIT2", Latin1("too late")});
     for (const std::string& id : {"\0\0\0\0"s, "TIT\0"s, "T\0T2"s, "\0IT2"s}) {
-        const std::string body = Frame({"TALB", Latin1("Album")}) + id + std::string(6, '\0') + late;
+        std::string body = Frame({"TALB", Latin1("Album")});
+        body.append(id).append(6, '\0').append(late);
         const TrackInfo track = ReadTag(Id3v2Header(static_cast<std::uint32_t>(body.size())) + body);
         EXPECT_EQ(track.Album, "Album");
         EXPECT_EQ(track.Title, "old title");

@@ -14,7 +14,6 @@ namespace tunedex {
 namespace {
 
 using namespace std::string_literals;
-using test::Audio;
 using test::FailingByteSource;
 using test::XingAudio;
 
