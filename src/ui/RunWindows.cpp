@@ -69,7 +69,7 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
 } // namespace
 
 int RunWindows(int argc, char** argv, Application& application, bool automatic) {
-    const std::vector<std::string> arguments(argv + 1, argv + argc); // before Qt takes its own out
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc); // before Qt takes its own out
     const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setDesktopFileName(u"tunedex"_s);

@@ -9,7 +9,6 @@
 
 #include <QPointer>
 
-#include <QPointer>
 #include <memory>
 
 namespace tunedex {

@@ -208,6 +208,10 @@ void frmOptions::SetTabOrder() {
     }
 }
 
+frmEditLayout* frmOptions::Editor() const {
+    return editor_;
+}
+
 void frmOptions::LoadControls() {
     const Settings& settings = application_.settings;
     chkRecursive_->setChecked(settings.Recurse);

@@ -36,7 +36,7 @@ class frmOptions : public QDialog {
     void StoreControls(Settings& settings) const;
 
     // Null while the layout editor is closed.
-    frmEditLayout* Editor() const { return editor_; }
+    frmEditLayout* Editor() const;
 
   protected:
     void changeEvent(QEvent* event) override;

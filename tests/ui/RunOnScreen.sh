@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Uses the program as a user does, by keyboard on a screen: types a folder and an output file, creates the list, sees
-# the progress window, finds the list, quits with the question, and finds the run counted.
+# Uses the program as a user does, by keyboard on a screen: sees the tip, types a folder and an output file, creates the
+# list, sees the progress window, finds the list, quits with the question, and finds the run counted. Then starts where
+# it cannot start, and quits where it cannot save.
 #
 # usage: RunOnScreen.sh PROGRAM        on the screen that DISPLAY names
 set -euo pipefail
@@ -30,7 +31,7 @@ gone() {
 }
 
 mkdir -p "$folder/program" "$folder/config/Corvale Works" "$folder/music/more"
-printf '[General]\nInstallationPath=%s\n' "$folder/program" >"$folder/config/Corvale Works/Tunedex.conf"
+printf '[General]\nInstallationPath=%s\nTipsOnStartup=1\n' "$folder/program" >"$folder/config/Corvale Works/Tunedex.conf"
 for name in one two more/three; do
     { printf '\xFF\xFB\x90\x64' && head -c 4000 /dev/zero; } >"$folder/music/$name.mp3"
 done
@@ -40,6 +41,11 @@ export QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folde
 pid=$!
 
 main=$(window '^Tunedex v')
+tip=$(window '^Tip of the Day$')
+xdotool windowfocus --sync "$tip"
+xdotool key alt+s sleep 0.5 key Return # no more tips
+gone '^Tip of the Day$'
+grep -q '^TipsOnStartup=0$' "$folder/config/Corvale Works/Tunedex.conf" || fail "the choice of tips was not kept"
 xdotool windowfocus --sync "$main"
 xdotool key alt+d type --delay 5 "$folder/music"
 xdotool key alt+o type --delay 5 "$folder/lists/list.htm"
@@ -77,4 +83,31 @@ pid=
 mapfile -t counts < <(tr -d '\r' <"$folder/program/stats.lst")
 [[ ${counts[0]} == \"????-??-??\" ]] || fail "first started: ${counts[0]}"
 [[ "${counts[*]:1}" == "1 1 3" ]] || fail "counted: ${counts[*]:1}"
+# Answers the one message that appears, and waits for the program's end.
+answer_and_end() {
+    local message status=0
+    message=$(window '^Error!$')
+    xdotool windowfocus --sync "$message"
+    xdotool key Return
+    wait "$pid" || status=$?
+    pid=
+    ((status == $1)) || fail "after the message the program ended with $status, not with $1"
+}
+mkdir "$folder/broken"
+printf '[General]\nInstallationPath=%s\n' "$folder/broken" >"$folder/config/Corvale Works/Tunedex.conf"
+ln -s Tunedex.cfg "$folder/broken/Tunedex.cfg" # a link to itself cannot be read
+"$program" &
+pid=$!
+answer_and_end 2
+
+rm "$folder/broken/Tunedex.cfg"
+printf 'ConfirmQuit=0\r\n' >"$folder/broken/Tunedex.cfg"
+mkdir "$folder/broken/stats.lst" # a folder cannot be written over
+"$program" &
+pid=$!
+main=$(window '^Tunedex v')
+xdotool windowfocus --sync "$main"
+xdotool key alt+q
+answer_and_end 1
+
 echo "typed, created, listed, quitted and counted"

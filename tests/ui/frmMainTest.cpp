@@ -6,6 +6,7 @@
 #include "Startup.h"
 #include "frmAbout.h"
 #include "frmDirSelection.h"
+#include "frmOptions.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -181,6 +182,27 @@ class frmMainTest : public QObject {
         Click(desk.Main(), "cmdSelectOutputFile");
         QCOMPARE(desk.dialogs.fileQuestions[1].start, std::string("/out/list.m3u"));
         QCOMPARE(desk.TheSettings().OutputFile, std::string("/out/list.m3u"));
+    }
+
+    void OptionsOpenInTheirDialogAndItsSaveTakesTheFieldsToo() {
+        Desk desk;
+        desk.Show();
+        desk.TheSettings().SetDefaults();
+        desk.frontEnd.FillFields(FieldsFor(desk.TheSettings()));
+        Type(desk.Main(), "txtPageTitle", "Mine");
+        Click(desk.Main(), "cmdOptions");
+        auto& window = OpenWindow<frmOptions>(desk.Main());
+        QCOMPARE(desk.frontEnd.Options(), &window);
+        Find<QCheckBox>(window, "chkErrorLog").setChecked(true);
+        QVERIFY(!desk.TheSettings().ErrorLog);
+        Click(window, "cmdSave");
+        QVERIFY(!window.isVisible());
+        QVERIFY(desk.TheSettings().ErrorLog);
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "PageTitle=Mine"));
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "ErrorLog=1"));
+        QTRY_COMPARE(desk.frontEnd.Options(), nullptr);
+        Click(desk.Main(), "cmdOptions");
+        QVERIFY(desk.frontEnd.Options() != nullptr);
     }
 
     void QuittingAsksWhenItIsWanted_data() {
