@@ -336,6 +336,7 @@ void PreviewTest::SaysSoWhereNoListingCouldBeWritten() {
     with.Open();
     QVERIFY(with.Shown().startsWith(u"There is no preview"_s));
     QVERIFY(with.Shown().contains(u"Invalid procedure call or argument"_s));
+    QVERIFY(with.Shown().contains(u"Album"_s));
     QVERIFY(with.Messages().empty());
     Set(*with.editor, u"chkAlbumMerge"_s, false);
     QTRY_VERIFY(with.Shown().contains(u"Amber Lantern: First Ferry Home"_s));
