@@ -21,6 +21,16 @@ namespace {
 
 constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
 
+QString NoPreviewText(const RunTimeError& error) {
+    QString text =
+        u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"_s.arg(
+            QString::fromLatin1(error.Description()));
+    if (error.Number() == static_cast<int>(ErrorNumber::InvalidProcedureCall)) {
+        text += u"<p>Where Album is merged, it must not stand before both Artist and Title.</p>"_s;
+    }
+    return text;
+}
+
 } // namespace
 
 PreviewPane::PreviewPane(const Application& application, std::function<Settings()> settings, QWidget* parent)
@@ -68,12 +78,13 @@ void PreviewPane::showEvent(QShowEvent* event) {
 void PreviewPane::ShowNow() {
     delay_.stop();
     try {
+        if (!folder_.isValid()) {
+            throw RunTimeError(ErrorNumber::PathFileAccess);
+        }
         const std::string folder = FromQt(folder_.path()) + PathStyle::Native().separator;
         ShowPage(ToQtDisplay(WriteSamplePage(settings_(), application_, entities_, folder)));
     } catch (const RunTimeError& error) {
-        ShowPage(u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"
-                 "<p>Where Album is merged, it must not stand before both Artist and Title.</p>"_s.arg(
-                     QString::fromLatin1(error.Description())));
+        ShowPage(NoPreviewText(error));
     }
 }
 

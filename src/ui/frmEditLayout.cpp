@@ -13,6 +13,7 @@
 #include "ThemePanel.h"
 #include "WidgetHelpers.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSplitter>
@@ -76,22 +77,22 @@ void frmEditLayout::AddPage(QWidget* page, const QString& title) {
 
 QBoxLayout* frmEditLayout::BuildButtons() {
     cmdHelp_ = MakeButton(u"cmdHelp"_s, u"&Help"_s, u"Open the help file"_s);
-    cmdPreview_ = MakeButton(u"cmdPreview"_s, u"Pre&view"_s, u"Show or hide the preview"_s);
+    chkPreview_ =
+        MakeCheckBox(u"chkPreview"_s, u"Show pre&view"_s, u"Show what a listing would look like now"_s);
     cmdOK_ = MakeButton(u"cmdOK"_s, u"&OK"_s, u"Use this layout"_s);
     cmdCancel_ =
         MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Close without changing anything but a loaded theme"_s);
     cmdHelp_->setShortcut(QKeySequence::HelpContents);
-    cmdPreview_->setCheckable(true);
-    cmdPreview_->setChecked(true);
+    chkPreview_->setChecked(true);
     cmdOK_->setDefault(true);
     connect(cmdHelp_, &QPushButton::clicked, this, [this] { OpenHelp(application_, ui_); });
-    connect(cmdPreview_, &QPushButton::toggled, preview_, &QWidget::setVisible);
-    connect(cmdOK_, &QPushButton::clicked, this, &frmEditLayout::Accept);
+    connect(chkPreview_, &QCheckBox::toggled, preview_, &QWidget::setVisible);
+    connect(cmdOK_, &QPushButton::clicked, this, &frmEditLayout::UseLayout);
     connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* layout = new QHBoxLayout;
     layout->addWidget(cmdHelp_);
-    layout->addWidget(cmdPreview_);
+    layout->addWidget(chkPreview_);
     layout->addStretch();
     layout->addWidget(cmdOK_);
     layout->addWidget(cmdCancel_);
@@ -148,7 +149,7 @@ ThemeContent frmEditLayout::CurrentTheme() const {
     return content;
 }
 
-void frmEditLayout::Accept() {
+void frmEditLayout::UseLayout() {
     // The document type counts even when a number is then refused.
     application_.settings.DocumentType = document_->DocumentType();
     if (const auto fault = table_->FirstFault()) {

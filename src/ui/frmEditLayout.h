@@ -10,6 +10,7 @@
 #include <functional>
 
 class QBoxLayout;
+class QCheckBox;
 class QPushButton;
 class QSplitter;
 class QTabWidget;
@@ -60,7 +61,7 @@ class frmEditLayout : public QDialog {
     void ConnectPages();
     void FollowTheme();
     ThemeContent CurrentTheme() const;
-    void Accept();
+    void UseLayout();
 
     Application& application_;
     UserInterface& ui_;
@@ -78,7 +79,7 @@ class frmEditLayout : public QDialog {
     QPushButton* cmdOK_ = nullptr;
     QPushButton* cmdCancel_ = nullptr;
     QPushButton* cmdHelp_ = nullptr;
-    QPushButton* cmdPreview_ = nullptr;
+    QCheckBox* chkPreview_ = nullptr;
 };
 
 } // namespace tunedex

@@ -96,22 +96,24 @@ QGroupBox* frmOptions::BuildListGroup() {
 QGroupBox* frmOptions::BuildSizeGroup() {
     auto* group = new QGroupBox(u"Show file sizes in"_s);
     group->setObjectName(u"fraSizeOptions"_s);
-    auto* layout = new QVBoxLayout(group);
+    auto* layout = new QVBoxLayout;
     AddOptions(*sizeType_, *layout,
                {{u"optBytes"_s, u"&Bytes"_s, u"1,234,567 b."_s},
                 {u"optKilobytes"_s, u"&Kilobytes"_s, u"1,205.63 kB"_s},
                 {u"optMegabytes"_s, u"&Megabytes"_s, u"1.18 MB"_s}});
+    group->setLayout(layout);
     return group;
 }
 
 QGroupBox* frmOptions::BuildSortGroup() {
     auto* group = new QGroupBox(u"Sort by artist, album and title"_s);
     group->setObjectName(u"fraSortOrder"_s);
-    auto* layout = new QVBoxLayout(group);
+    auto* layout = new QVBoxLayout;
     AddOptions(*sortOrder_, *layout,
                {{u"optNoSort"_s, u"&No sorting"_s, u"List files in the order in which they are found"_s},
                 {u"optAscSort"_s, u"&Ascending"_s, u"A to Z"_s},
                 {u"optDescSort"_s, u"&Descending"_s, u"Z to A"_s}});
+    group->setLayout(layout);
     return group;
 }
 

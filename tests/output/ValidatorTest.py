@@ -91,6 +91,14 @@ class PagesAreValid(Validity):
                             "FontHTML": "1", "AltRows": "0", "TableWidth": "0/700", "PageTitle": "%C files%L%S",
                             "PageFooter": ""}])
 
+    def test_with_every_theme_that_ships(self):
+        themes = sorted((pathlib.Path(DATA) / "Themes").glob("*.thm"))
+        self.assertGreaterEqual(len(themes), 8)
+        lines = [[line.split("=", 1) for line in theme.read_text(encoding="cp1252").splitlines() if re.match(r"\w", line)]
+                 for theme in themes]
+        self.expect_valid([{re.sub(r"\W", "", key): value for key, value in theme} | switches
+                           for theme in lines for switches in ({}, {"FontHTML": "1", "ColourHTML": "1"})])
+
     def test_with_empty_colours(self):
         # A colour is any text to both document types: bgcolor="#" is valid, if useless.
         self.expect_valid([dict({f"Colour{i}": "" for i in range(10)}, ColourHTML="1")])

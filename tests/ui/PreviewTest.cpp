@@ -336,6 +336,7 @@ void PreviewTest::SaysSoWhereNoListingCouldBeWritten() {
     with.Open();
     QVERIFY(with.Shown().startsWith(u"There is no preview"_s));
     QVERIFY(with.Shown().contains(u"Invalid procedure call or argument"_s));
+    QVERIFY(with.Shown().contains(u"Album"_s));
     QVERIFY(with.Messages().empty());
     Set(*with.editor, u"chkAlbumMerge"_s, false);
     QTRY_VERIFY(with.Shown().contains(u"Amber Lantern: First Ferry Home"_s));
@@ -344,12 +345,12 @@ void PreviewTest::SaysSoWhereNoListingCouldBeWritten() {
 void PreviewTest::CanBeHiddenAndShowsTheLatestWhenItIsBack() {
     Preview with;
     with.Open();
-    Button(*with.editor, u"cmdPreview"_s).click();
+    Set(*with.editor, u"chkPreview"_s, false);
     QVERIFY(!with.Browser().isVisible());
     Set(*with.editor, u"chkTheSubstitution"_s, false);
     QTest::qWait(300);
     QVERIFY(with.Shown().contains(u"Clockmakers, The"_s)); // nothing is made that nobody sees
-    Button(*with.editor, u"cmdPreview"_s).click();
+    Set(*with.editor, u"chkPreview"_s, true);
     QVERIFY(with.Browser().isVisible());
     QTRY_VERIFY(with.Shown().contains(u"The Clockmakers"_s));
 }
