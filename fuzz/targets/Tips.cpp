@@ -1,9 +1,10 @@
 // The bytes are a file of lines, as the tips are.
-#include "TextLines.h"
+#include "Tips.h"
 
 #include "Targets.h"
 #include "Text.h"
 #include "TextFile.h"
+#include "TextLines.h"
 
 #include <algorithm>
 #include <string>
@@ -33,6 +34,21 @@ void RunTips(Bytes bytes) {
     }
     written.Close();
     Require(ReadTextLines(path) == lines, "lines survive writing and reading");
+
+    Tips tips;
+    tips.Load(path);
+    RequireEqual(tips.Current(), "", "no tip is chosen at first");
+    for (std::size_t i = 0; i <= lines.size(); ++i) {
+        tips.Next();
+        RequireEqual(tips.Current(), lines.empty() ? "" : lines[i % lines.size()],
+                     "tips come in the file's order");
+    }
+    for (const double random : {0.0, 0.5, 0.9999999999999999}) {
+        tips.PickRandom(random);
+        Require(lines.empty() ||
+                    (tips.Number() >= 1 && static_cast<std::size_t>(tips.Number()) <= lines.size()),
+                "a tip by chance is one of the file's");
+    }
 }
 
 } // namespace tunedex::fuzz
