@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Makes every file call of a small run fail, one at a time, and judges what comes of it.
 
-usage: FaultMatrix.py PROGRAM INTERPOSER [--full] [--windows]
-    --full     every error at every call, not a sample of them
+usage: FaultMatrix.py PROGRAM INTERPOSER [--sample] [--windows]
+    --sample   some errors at every call, not every one
     --windows  PROGRAM is the one with windows, and somebody answers its messages
 """
 import collections
@@ -24,6 +24,8 @@ TIMEOUT = 60
 WINDOWS = "--windows" in sys.argv
 # What a run gives for good when nothing fails, and when something does that nobody is to notice.
 UNNOTICED = {"EINTR", "short"}
+MESSAGES = [b"error occurred", b"could not start", b"specified directory does not exist!",
+            b"No input directory specified!", b"No output file specified!", b"No MP3 files were found"]
 OLD_LISTING = b"the old listing\r\n"
 OLD_STATISTICS = b'"2026-01-01"\r\n7\r\n3\r\n99\r\n'
 
@@ -184,13 +186,13 @@ def violations(scenario, outcome, right, before, kind, error):
             rows += rows_in(held[1]) or 0
         elif held != right.files.get(name):
             found.append(f"damaged: {name}")
-    told = outcome.log != right.log or b"could not start" in outcome.stderr or \
-        outcome.stderr.count(b"error occurred") > right.stderr.count(b"error occurred")
+    told = outcome.log != right.log or any(outcome.stderr.count(text) > right.stderr.count(text) for text in MESSAGES)
     listed = {name for name in right.files if is_listing(name) and right.files[name] != before.get(name)}
     complete = sum(rows_in(right.files[name][1]) for name in listed if right.files[name][0] == "file")
     if outcome.status == 0:
-        # A link whose file is not there is no track, and what tells so is this very error.
-        gone = 1 if kind == "stat" and error == "ENOENT" else 0
+        # A link whose file is not there is no track, and a link that is not there has no file to write to: what tells so
+        # is this very error.
+        gone = 1 if kind in ("stat", "other") and error == "ENOENT" else 0
         if not told and (rows < complete - gone or (gone == 0 and written != listed)):
             found.append(f"{rows} of {complete} tracks in {sorted(written)}, and nobody is told")
         if not written:
@@ -214,7 +216,7 @@ def sample(point):
 
 def main():
     program, interposer = (os.path.abspath(path) for path in sys.argv[1:3])
-    full = "--full" in sys.argv
+    full = "--sample" not in sys.argv
     bad = []
     print(f"{'scenario':26}{'call':9}{'points':>7}{'runs':>6}  outcomes")
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
