@@ -69,7 +69,7 @@ void MakeFile(const std::string& folder, std::size_t number, const std::string& 
 
 void RunParallelRead(Bytes bytes) {
     constexpr std::size_t kMostFiles = 60;
-    const std::string folder = EmptyFolder();
+    const std::string& folder = EmptyFolder();
     Input input(bytes);
     const std::int32_t missing = input.Byte() % 3;
     std::string rest = input.Rest();

@@ -12,7 +12,7 @@ namespace tunedex::fuzz {
 void RunSettings(Bytes bytes) {
     const Settings read = ReadSettingsText(TextOf(bytes));
     // What was read is written and read again as it is; only the table's spacing is never written.
-    const std::string folder = EmptyFolder();
+    const std::string& folder = EmptyFolder();
     SaveSettings(read, "", folder, {"1.0", "2026-11-21", "14:05"});
     Settings again;
     std::ostringstream faults;

@@ -85,7 +85,7 @@ void TerminalFrontEnd::TakeControls(Settings& settings) {
     TakeLayoutControls(settings);
 }
 
-void TerminalFrontEnd::Print(std::string text) const {
+void TerminalFrontEnd::Print(std::string_view text) const {
     std::string_view rest = text;
     while (!rest.empty()) {
         const ssize_t done = write(output_, rest.data(), rest.size());

@@ -40,10 +40,10 @@ TEST(Numbers, OfHundredsOfDigitsAreNeitherLostNorMistakenForLargeOnes) {
         const std::string many(zeros, '0');
         for (const char* exponent :
              {"", "e5", "e-5", "e400", "e-400", "e-99999999999999999999", "e99999999999999999999"}) {
-            Compare("0." + many + "1" + exponent);
-            Compare("1" + many + exponent);
-            Compare("-00" + many + "1." + many + "1" + exponent);
-            Compare("0" + many + exponent);
+            for (const std::string& digits :
+                 {"0." + many + "1", "1" + many, "-00" + many + "1." + many + "1", "0" + many}) {
+                Compare(std::string(digits).append(exponent));
+            }
         }
     }
 }

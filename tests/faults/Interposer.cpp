@@ -66,13 +66,17 @@ const char* Setting(const char* name) {
     return value == nullptr ? "" : value;
 }
 
+int NumberOf(const char* text) {
+    return static_cast<int>(std::strtol(text, nullptr, 10));
+}
+
 struct Plan {
     std::string_view prefix = Setting("TUNEDEX_FAULT_PREFIX");
     std::string_view call = Setting("TUNEDEX_FAULT_CALL");
-    int n = std::atoi(Setting("TUNEDEX_FAULT_N"));
+    int n = NumberOf(Setting("TUNEDEX_FAULT_N"));
     int error = std::strcmp(Setting("TUNEDEX_FAULT_ERROR"), "short") == 0
                     ? kShort
-                    : std::atoi(Setting("TUNEDEX_FAULT_ERROR"));
+                    : NumberOf(Setting("TUNEDEX_FAULT_ERROR"));
     bool stays = *Setting("TUNEDEX_FAULT_STAYS") != '\0';
     bool kills = *Setting("TUNEDEX_FAULT_KILL") != '\0';
     const char* command = Setting("TUNEDEX_FAULT_RUN");

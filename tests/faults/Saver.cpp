@@ -40,9 +40,9 @@ int main(int argc, char** argv) {
     if (argc != 4) {
         return 2;
     }
-    const int count = std::atoi(argv[3]);
+    const long count = std::strtol(argv[3], nullptr, 10);
     try {
-        for (int i = 0; i < count; ++i) {
+        for (long i = 0; i < count; ++i) {
             Save(argv[1], argv[2], i % 2 == 1);
         }
     } catch (const tunedex::RunTimeError& error) {

@@ -18,6 +18,8 @@
 #include <sys/stat.h>
 #include <utility>
 
+// Short and obvious comes before fast here.
+// NOLINTBEGIN(performance-inefficient-string-concatenation,performance-inefficient-vector-operation)
 namespace tunedex::plain {
 
 namespace {
@@ -397,3 +399,4 @@ std::map<std::string, std::string> List(Settings settings, const Collected& coll
 }
 
 } // namespace tunedex::plain
+// NOLINTEND(performance-inefficient-string-concatenation,performance-inefficient-vector-operation)
