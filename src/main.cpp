@@ -62,6 +62,9 @@ int main(int argc, char** argv) {
     OpenStandardStreams();
     // A reader of our messages that goes away must not end a run.
     std::signal(SIGPIPE, SIG_IGN);
+    // A listing that grows beyond the largest file the user may write fails as on a full disk, and is cleared
+    // away.
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         return Run(argc, argv);
     } catch (const std::exception& error) {

@@ -22,6 +22,7 @@ struct Application {
 
     Settings settings = {};
     Statistics statistics = {};
+    bool statisticsUnread = false; // the file is there and could not be read: it is left as it is
     EntityTable entities = {};
 
     std::string programFolder = {}; // settings file, statistics, log, themes; ends in a separator

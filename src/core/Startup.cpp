@@ -14,13 +14,28 @@ std::string StatisticsPath(const Application& application) {
     return application.programFolder + std::string(kStatisticsFileName);
 }
 
+// Whether the error is the file's content's, and not of reading it.
+bool IsMalformed(const RunTimeError& error) {
+    switch (static_cast<ErrorNumber>(error.Number())) {
+    case ErrorNumber::InvalidProcedureCall:
+    case ErrorNumber::Overflow:
+    case ErrorNumber::TypeMismatch:
+    case ErrorNumber::InputPastEnd:
+        return true;
+    default:
+        return false;
+    }
+}
+
 void StartStatistics(Application& application, UserInterface& ui) {
+    application.statisticsUnread = false;
     const std::string today = application.locale.ShortDate(application.clock.LocalTime());
     try {
         application.statistics = LoadStatistics(StatisticsPath(application), today);
     } catch (const RunTimeError& error) {
         ShowMessage(ui, UnexpectedErrorText(error), kOkExclamation, application.errorTitle);
         application.statistics = FirstStatistics(today);
+        application.statisticsUnread = !IsMalformed(error);
     }
 }
 
@@ -87,6 +102,9 @@ bool CreateListCommand(Application& application, UserInterface& ui) {
 }
 
 void SaveStatisticsAtExit(const Application& application) {
+    if (application.statisticsUnread) {
+        return; // years of counting are not lost to a moment without a free file
+    }
     SaveStatistics(application.statistics, StatisticsPath(application));
 }
 

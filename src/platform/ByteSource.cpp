@@ -1,6 +1,7 @@
 #include "ByteSource.h"
 
 #include "RunTimeError.h"
+#include "Uninterrupted.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -30,15 +31,14 @@ FileByteSource::FileByteSource(const std::string& path)
     : FileByteSource(AT_FDCWD, path.find('\0') == std::string::npos ? path.c_str() : "") {}
 
 FileByteSource::FileByteSource(int folder, const char* name) {
-    do {
-        // Not to hang where a FIFO has taken the file's place since its folder was listed.
-        descriptor_ = openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    } while (descriptor_ < 0 && errno == EINTR);
+    // Not to hang where a FIFO has taken the file's place since its folder was listed.
+    descriptor_ =
+        Uninterrupted([&] { return openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); });
     if (descriptor_ < 0) {
         throw ErrorFromErrno(errno, FileTask::ReadFile);
     }
     struct stat status {};
-    if (fstat(descriptor_, &status) != 0) {
+    if (Uninterrupted([&] { return fstat(descriptor_, &status); }) != 0) {
         const int errorCode = errno;
         close(descriptor_);
         throw ErrorFromErrno(errorCode, FileTask::ReadFile);
@@ -57,11 +57,10 @@ FileByteSource::~FileByteSource() {
 std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer) const {
     std::size_t done = 0;
     while (done < buffer.size()) {
-        const ssize_t got =
-            pread(descriptor_, buffer.data() + done, buffer.size() - done, static_cast<off_t>(offset + done));
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t got = Uninterrupted([&] {
+            return pread(descriptor_, buffer.data() + done, buffer.size() - done,
+                         static_cast<off_t>(offset + done));
+        });
         if (got < 0) {
             throw ErrorFromErrno(errno, FileTask::ReadFile);
         }

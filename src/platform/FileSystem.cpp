@@ -2,10 +2,10 @@
 
 #include "Path.h"
 #include "RunTimeError.h"
+#include "Uninterrupted.h"
 
 #include <array>
 #include <cerrno>
-#include <dirent.h>
 #include <memory>
 #include <string_view>
 #include <sys/stat.h>
@@ -25,6 +25,37 @@ bool HoldsNul(const std::string& path) {
 
 } // namespace
 
+DIR* OpenFolderStream(const std::string& path) {
+    DIR* stream = nullptr;
+    do {
+        stream = opendir(path.c_str());
+    } while (stream == nullptr && errno == EINTR);
+    return stream;
+}
+
+const dirent* NextEntry(DIR* stream) {
+    const dirent* entry = nullptr;
+    do {
+        errno = 0;
+        entry = readdir(stream);
+    } while (entry == nullptr && errno == EINTR);
+    if (entry == nullptr && errno != 0) {
+        throw ErrorFromErrno(errno, FileTask::UseFolder);
+    }
+    return entry;
+}
+
+std::optional<mode_t> ModeBehindLinks(int folder, const char* name) {
+    struct stat status {};
+    if (Uninterrupted([&] { return fstatat(folder, name, &status, 0); }) == 0) {
+        return status.st_mode;
+    }
+    if (NotThere(errno) || errno == ELOOP) {
+        return std::nullopt;
+    }
+    throw ErrorFromErrno(errno, FileTask::ReadFile);
+}
+
 bool FolderExists(const std::string& path) {
     if (path.empty()) {
         return true;
@@ -33,7 +64,7 @@ bool FolderExists(const std::string& path) {
     if (HoldsNul(path)) {
         throw ErrorFromErrno(EINVAL, FileTask::TestFolder);
     }
-    if (stat(path.c_str(), &status) == 0) {
+    if (Uninterrupted([&] { return stat(path.c_str(), &status); }) == 0) {
         return S_ISDIR(status.st_mode);
     }
     if (NotThere(errno)) {
@@ -47,7 +78,7 @@ bool FileExists(const std::string& path) {
     if (HoldsNul(path)) {
         throw ErrorFromErrno(EINVAL, FileTask::ReadFile);
     }
-    if (stat(path.c_str(), &status) == 0) {
+    if (Uninterrupted([&] { return stat(path.c_str(), &status); }) == 0) {
         return !S_ISDIR(status.st_mode);
     }
     if (NotThere(errno)) {
@@ -60,7 +91,7 @@ void CreateFolder(const std::string& path) {
     if (HoldsNul(path)) {
         throw ErrorFromErrno(EINVAL, FileTask::UseFolder);
     }
-    if (mkdir(path.c_str(), 0777) != 0) {
+    if (Uninterrupted([&] { return mkdir(path.c_str(), 0777); }) != 0) {
         throw ErrorFromErrno(errno, FileTask::UseFolder);
     }
 }
@@ -69,14 +100,14 @@ void DeleteFile(const std::string& path) {
     if (HoldsNul(path)) {
         throw ErrorFromErrno(EINVAL, FileTask::ReadFile);
     }
-    if (unlink(path.c_str()) != 0) {
+    if (Uninterrupted([&] { return unlink(path.c_str()); }) != 0) {
         throw ErrorFromErrno(errno, FileTask::ReadFile);
     }
 }
 
 std::vector<std::string> FileNamesIn(const std::string& folder) {
     std::vector<std::string> names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(OpenFolderStream(folder), closedir);
     if (!stream) {
         if (NotThere(errno)) {
             return names;
@@ -84,18 +115,12 @@ std::vector<std::string> FileNamesIn(const std::string& folder) {
         throw ErrorFromErrno(errno, FileTask::UseFolder);
     }
     while (true) {
-        errno = 0;
-        const dirent* entry = readdir(stream.get());
+        const dirent* entry = NextEntry(stream.get());
         if (entry == nullptr) {
-            if (errno != 0) {
-                throw ErrorFromErrno(errno, FileTask::UseFolder);
-            }
             return names;
         }
-        struct stat status {};
-        const bool isFile =
-            fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
-        if (isFile) {
+        const std::optional<mode_t> mode = ModeBehindLinks(dirfd(stream.get()), entry->d_name);
+        if (mode && S_ISREG(*mode)) {
             names.emplace_back(entry->d_name);
         }
     }

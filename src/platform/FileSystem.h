@@ -1,7 +1,10 @@
 // Questions to the file system and small changes in it. Paths are native, as bytes.
 #pragma once
 
+#include <dirent.h>
+#include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace tunedex {
@@ -24,6 +27,15 @@ void DeleteFile(const std::string& path);
 // The names of the files in a folder (folders left out), as the directory returns them. A folder
 // that does not exist has none; any other failure raises its error.
 std::vector<std::string> FileNamesIn(const std::string& folder);
+
+// The parts of such a listing. Opens a folder, or returns nullptr and leaves errno.
+DIR* OpenFolderStream(const std::string& path);
+// The next name, or nullptr at the end. Raises the error of a folder that cannot be read on.
+const dirent* NextEntry(DIR* stream);
+// The kind and permissions of what a name in an open folder stands for, links followed; nothing for a name
+// that is gone or a link to nothing. Raises the error of any other failure: that something cannot be looked
+// at does not mean that it is not there.
+std::optional<mode_t> ModeBehindLinks(int folder, const char* name);
 
 // Whether the user may create files in this folder.
 bool FolderIsWritable(const std::string& path);

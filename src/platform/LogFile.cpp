@@ -2,6 +2,7 @@
 
 #include "RunTimeError.h"
 #include "Text.h"
+#include "Uninterrupted.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -10,9 +11,8 @@
 namespace tunedex {
 
 LogFile::LogFile(const std::string& path) {
-    do {
-        descriptor_ = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOCTTY, 0666);
-    } while (descriptor_ < 0 && errno == EINTR);
+    descriptor_ = Uninterrupted(
+        [&] { return open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOCTTY, 0666); });
     if (descriptor_ < 0) {
         throw ErrorFromErrno(errno, FileTask::WriteFile);
     }
@@ -28,10 +28,7 @@ void LogFile::WriteLine(std::string_view text) {
     const std::string line = EncodeFileLine(text) + "\r\n";
     std::string_view rest = line;
     while (!rest.empty()) {
-        const ssize_t done = write(descriptor_, rest.data(), rest.size());
-        if (done < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t done = Uninterrupted([&] { return write(descriptor_, rest.data(), rest.size()); });
         if (done < 0) {
             throw ErrorFromErrno(errno, FileTask::WriteFile);
         }

@@ -3,6 +3,7 @@
 #include "Path.h"
 #include "RunTimeError.h"
 #include "Text.h"
+#include "Uninterrupted.h"
 
 #include <array>
 #include <atomic>
@@ -27,9 +28,13 @@ std::string ResolveLinks(std::string path) {
     constexpr int kMostLinks = 40; // as the kernel counts
     std::array<char, 4096> target{};
     for (int i = 0; i < kMostLinks; ++i) {
-        const ssize_t length = readlink(path.c_str(), target.data(), target.size());
+        const ssize_t length =
+            Uninterrupted([&] { return readlink(path.c_str(), target.data(), target.size()); });
+        if (length < 0 && (errno == EINVAL || errno == ENOENT)) {
+            return path; // no link, or nothing there
+        }
         if (length < 0) {
-            return path; // no link, or nothing there: opening it tells
+            Fail(errno); // were it taken for no link, the new file would take the link's place
         }
         const std::string_view next(target.data(), static_cast<std::size_t>(length));
         path = next.starts_with('/') ? std::string(next)
@@ -52,11 +57,7 @@ bool FolderForbidsReplacing(int folder, const struct stat& old) {
 }
 
 int OpenAt(int folder, const std::string& name, int flags, mode_t mode) {
-    int descriptor = -1;
-    do {
-        descriptor = openat(folder, name.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode);
-    } while (descriptor < 0 && errno == EINTR);
-    return descriptor;
+    return Uninterrupted([&] { return openat(folder, name.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); });
 }
 
 std::string NewAsideName() {
@@ -90,7 +91,7 @@ void TextFile::OpenAside(const std::string& path) {
         Fail(errno);
     }
     struct stat old {};
-    const bool exists = fstatat(folder_, name_.c_str(), &old, 0) == 0;
+    const bool exists = Uninterrupted([&] { return fstatat(folder_, name_.c_str(), &old, 0); }) == 0;
     if (!exists && errno != ENOENT) {
         Fail(errno);
     }
@@ -98,7 +99,7 @@ void TextFile::OpenAside(const std::string& path) {
         Fail(EISDIR);
     }
     // A new name in the folder could take the place of a file that its owner made read-only: ask first.
-    if (exists && faccessat(folder_, name_.c_str(), W_OK, AT_EACCESS) != 0) {
+    if (exists && Uninterrupted([&] { return faccessat(folder_, name_.c_str(), W_OK, AT_EACCESS); }) != 0) {
         Fail(errno);
     }
     if (!exists || (S_ISREG(old.st_mode) && !FolderForbidsReplacing(folder_, old))) {
@@ -125,7 +126,7 @@ void TextFile::OpenAside(const std::string& path) {
         if (old.st_uid != geteuid() || old.st_gid != getegid()) {
             (void)!fchown(descriptor_, old.st_uid, old.st_gid);
         }
-        if (fchmod(descriptor_, old.st_mode & 07777U) != 0) {
+        if (Uninterrupted([&] { return fchmod(descriptor_, old.st_mode & 07777U); }) != 0) {
             Fail(errno);
         }
     }
@@ -141,7 +142,7 @@ void TextFile::Discard() noexcept {
         descriptor_ = -1;
     }
     if (!aside_.empty()) {
-        unlinkat(folder_, aside_.c_str(), 0);
+        Uninterrupted([&] { return unlinkat(folder_, aside_.c_str(), 0); });
         aside_.clear();
     }
     if (folder_ >= 0) {
@@ -197,10 +198,7 @@ void TextFile::Flush() {
 
 void TextFile::WriteOut(std::string_view rest) const {
     while (!rest.empty()) {
-        const ssize_t done = write(descriptor_, rest.data(), rest.size());
-        if (done < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t done = Uninterrupted([&] { return write(descriptor_, rest.data(), rest.size()); });
         if (done < 0) {
             Fail(errno);
         }
@@ -217,7 +215,8 @@ void TextFile::Close() {
         Fail(errno);
     }
     if (!aside_.empty()) {
-        if (renameat(folder_, aside_.c_str(), folder_, name_.c_str()) != 0) {
+        const auto rename = [&] { return renameat(folder_, aside_.c_str(), folder_, name_.c_str()); };
+        if (Uninterrupted(rename) != 0) {
             Fail(errno);
         }
         aside_.clear();

@@ -1,12 +1,15 @@
 #include "FolderWalk.h"
 
+#include "FileSystem.h"
 #include "RunTimeError.h"
 #include "Settings.h"
 #include "Text.h"
+#include "Uninterrupted.h"
 
 #include <atomic>
 #include <cerrno>
 #include <dirent.h>
+#include <optional>
 #include <set>
 #include <sys/stat.h>
 #include <utility>
@@ -35,13 +38,11 @@ EntryKind KindOf(int folder, const dirent& entry) {
     default:
         return EntryKind::Neither;
     }
-    struct stat status {};
-    if (fstatat(folder, entry.d_name, &status, 0) != 0) {
+    const std::optional<mode_t> mode = ModeBehindLinks(folder, entry.d_name);
+    if (!mode) {
         return EntryKind::Neither; // a link to nothing
     }
-    return S_ISDIR(status.st_mode)   ? EntryKind::Folder
-           : S_ISREG(status.st_mode) ? EntryKind::File
-                                     : EntryKind::Neither;
+    return S_ISDIR(*mode) ? EntryKind::Folder : S_ISREG(*mode) ? EntryKind::File : EntryKind::Neither;
 }
 
 std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
@@ -60,7 +61,7 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
 
 OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
     : path_(std::move(path)), baseFolder_(baseFolder) {
-    stream_ = opendir(path_.c_str());
+    stream_ = OpenFolderStream(path_);
     if (stream_ == nullptr) {
         throw ErrorFromErrno(errno, FileTask::UseFolder);
     }
@@ -106,7 +107,7 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
         pending_.pop_back();
         const auto folder = OpenForWalk(currentFolder_, start.baseFolder, visitor);
         struct stat status {};
-        if (fstat(folder->Descriptor(), &status) != 0) {
+        if (Uninterrupted([&] { return fstat(folder->Descriptor(), &status); }) != 0) {
             throw ErrorFromErrno(errno, FileTask::UseFolder);
         }
         if (walked.emplace(status.st_dev, status.st_ino).second && !WalkOne(folder, recurse, visitor)) {
@@ -119,15 +120,8 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
 bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor) {
     auto* const stream = static_cast<DIR*>(folder->Stream());
     while (true) {
-        errno = 0;
-        const dirent* entry = readdir(stream);
+        const dirent* entry = NextEntry(stream);
         if (entry == nullptr) {
-            if (errno == EINTR) {
-                continue;
-            }
-            if (errno != 0) {
-                throw ErrorFromErrno(errno, FileTask::UseFolder);
-            }
             return true;
         }
         const std::string_view name(entry->d_name);

@@ -3,6 +3,7 @@
 #include "Id3v1.h"
 #include "Id3v2.h"
 #include "MpegHeader.h"
+#include "Uninterrupted.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -24,7 +25,7 @@ void MarkUntagged(TrackInfo& track) {
 
 std::int32_t MeasureFile(int folder, const char* name) {
     struct stat status {};
-    if (fstatat(folder, name, &status, 0) != 0) {
+    if (Uninterrupted([&] { return fstatat(folder, name, &status, 0); }) != 0) {
         throw ErrorFromErrno(errno, FileTask::ReadFile);
     }
     if (!S_ISREG(status.st_mode)) {

@@ -74,10 +74,17 @@ int AnswerIn(std::string_view line, const Choice& choice) {
 
 // A name from a file system must not steer the terminal.
 std::string WithoutControls(std::string_view text) {
-    std::string clean(text);
-    std::replace_if(
-        clean.begin(), clean.end(), [](char c) { return (c >= 0 && c < 0x20 && c != '\n') || c == 0x7F; },
-        '?');
+    std::string clean;
+    for (std::size_t i = 0; i < text.size();) {
+        const TextStep step = StepAt(text, i);
+        const char32_t c = step.character; // of a stray byte its value, which an 8-bit terminal takes for it
+        if ((c < 0x20 && c != '\n') || (c >= 0x7F && c <= 0x9F)) {
+            clean += '?';
+        } else {
+            clean += text.substr(i, step.length);
+        }
+        i += step.length;
+    }
     return clean;
 }
 
@@ -100,7 +107,7 @@ void TerminalFrontEnd::TakeControls(Settings& settings) {
     TakeLayoutControls(settings);
 }
 
-void TerminalFrontEnd::Print(std::string text) const {
+void TerminalFrontEnd::Print(std::string_view text) const {
     std::string_view rest = text;
     while (!rest.empty()) {
         const ssize_t done = write(output_, rest.data(), rest.size());

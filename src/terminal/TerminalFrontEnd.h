@@ -53,7 +53,7 @@ class TerminalFrontEnd final : public UserInterface, public RunMonitor {
     std::string Bar() const;
     void Paint();
     void FinishStatus();
-    void Print(std::string text) const;
+    void Print(std::string_view text) const;
     // One line of input without its end; nothing where the input ends or a signal interrupts.
     bool ReadLine(std::string& line) const;
 

@@ -1,0 +1,8 @@
+// One target under libFuzzer; the build says which.
+#include "Fuzzing.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const tunedex::fuzz::Target& target = tunedex::fuzz::FindTarget(TUNEDEX_FUZZ_TARGET);
+    target.run({data, size});
+    return 0;
+}

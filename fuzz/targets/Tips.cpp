@@ -1,0 +1,54 @@
+// The bytes are a file of lines, as the tips are.
+#include "Tips.h"
+
+#include "Targets.h"
+#include "Text.h"
+#include "TextFile.h"
+#include "TextLines.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace tunedex::fuzz {
+
+void RunTips(Bytes bytes) {
+    const std::string file = TextOf(bytes);
+    // Line ends made all the same first, then split.
+    std::vector<std::string> expected = Split(ReplaceAll(ReplaceAll(file, "\r\n", "\n"), "\r", "\n"), "\n");
+    if (file.ends_with('\n') || file.ends_with('\r')) {
+        expected.pop_back();
+    }
+    const std::vector<std::string> lines = SplitTextLines(file);
+    Require(lines.size() == expected.size(), "a file has the lines it has");
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        RequireEqual(lines[i], IsValidUtf8(expected[i]) ? expected[i] : DecodeWindows1252(expected[i]),
+                     "a line");
+        RequireEqual(DecodeFileLine(EncodeFileLine(lines[i])), lines[i], "a line written and read again");
+    }
+    // The whole file written and read again.
+    const std::string path = EmptyFolder() + "tips.lst";
+    TextFile written(path, TextEncoding::FileLine);
+    for (const std::string& line : lines) {
+        written.WriteLine(line);
+    }
+    written.Close();
+    Require(ReadTextLines(path) == lines, "lines survive writing and reading");
+
+    Tips tips;
+    tips.Load(path);
+    RequireEqual(tips.Current(), "", "no tip is chosen at first");
+    for (std::size_t i = 0; i <= lines.size(); ++i) {
+        tips.Next();
+        RequireEqual(tips.Current(), lines.empty() ? "" : lines[i % lines.size()],
+                     "tips come in the file's order");
+    }
+    for (const double random : {0.0, 0.5, 0.9999999999999999}) {
+        tips.PickRandom(random);
+        Require(lines.empty() ||
+                    (tips.Number() >= 1 && static_cast<std::size_t>(tips.Number()) <= lines.size()),
+                "a tip by chance is one of the file's");
+    }
+}
+
+} // namespace tunedex::fuzz

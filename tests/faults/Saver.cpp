@@ -1,0 +1,52 @@
+// saver KIND FOLDER COUNT: saves a file in the folder COUNT times, one of two contents in turn, and is the
+// program as far as saving goes. KIND: settings, statistics, theme. Ends with the number of the error that
+// stopped it.
+#include "RunTimeError.h"
+#include "SettingsFuncs.h"
+#include "Statistics.h"
+#include "Themes.h"
+
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+const tunedex::FileStamp kStamp{"1.0", "2026-11-21", "14:05"};
+
+// Long enough to need more than one write to a small disk.
+std::string LongText(char c) {
+    return std::string(200000, c);
+}
+
+void Save(const std::string& kind, const std::string& folder, bool second) {
+    const std::string text = LongText(second ? 'b' : 'a');
+    if (kind == "settings") {
+        tunedex::Settings settings;
+        settings.SetDefaults();
+        settings.PageTitle = text;
+        tunedex::SaveSettings(settings, "", folder, kStamp);
+    } else if (kind == "statistics") {
+        tunedex::SaveStatistics({text, second ? 2 : 1, 3, 4}, folder + "stats.lst");
+    } else {
+        tunedex::ThemeContent content;
+        content.tableWidth = text;
+        tunedex::WriteThemeFile(folder + "theme.thm", content, kStamp);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4) {
+        return 2;
+    }
+    const long count = std::strtol(argv[3], nullptr, 10);
+    try {
+        for (long i = 0; i < count; ++i) {
+            Save(argv[1], argv[2], i % 2 == 1);
+        }
+    } catch (const tunedex::RunTimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}

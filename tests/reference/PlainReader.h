@@ -1,0 +1,35 @@
+// One file's bytes to one record, step by step and byte by byte.
+#pragma once
+
+#include "TrackInfo.h"
+
+#include <cstdint>
+#include <string>
+
+namespace tunedex::plain {
+
+struct Reading {
+    TrackInfo track;
+    std::int64_t seconds = 0;
+    int error = 0; // the number of the error that the audio header ended in
+};
+
+struct Header {
+    int error = 0; // 0, or the number of the error that ended the search; then nothing else is set
+    std::size_t offset = 0;
+    std::string bits; // of the header, one character each
+    bool vbr = false;
+    std::uint32_t frames = 0;
+};
+
+// `position` counts from 1.
+Header FindHeader(const std::string& bytes, std::size_t position);
+
+bool ReadId3v1(const std::string& bytes, bool moveTheArtists, TrackInfo& track);
+// 1 where there is no tag.
+std::size_t Id3v2SearchPosition(const std::string& bytes);
+void ReadId3v2(const std::string& bytes, bool moveTheArtists, TrackInfo& track);
+
+Reading ReadTrack(const std::string& bytes, const std::string& fullPath, bool moveTheArtists);
+
+} // namespace tunedex::plain

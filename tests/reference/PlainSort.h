@@ -1,0 +1,14 @@
+// The prescribed exchanges, made on the records themselves.
+#pragma once
+
+#include "TrackInfo.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace tunedex::plain {
+
+// `tracks` holds the records 1 to N in the places 0 to N - 1.
+void SortTracks(std::vector<TrackInfo>& tracks, std::int16_t sortOrder);
+
+} // namespace tunedex::plain
