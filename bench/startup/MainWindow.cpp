@@ -17,11 +17,11 @@ int main(int argc, char** argv) {
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
     QApplication qtApplication(argc, argv);
-    tunedex::InstallProgramIcon();
     tunedex::Dialogs dialogs;
     tunedex::WindowsFrontEnd frontEnd(application, dialogs);
     tunedex::StartUp(application, frontEnd, {});
     const FirstPaint painted(frontEnd.MainWindow());
     frontEnd.MainWindow().show();
+    QTimer::singleShot(100, &frontEnd.MainWindow(), &tunedex::InstallProgramIcon);
     return QApplication::exec();
 }

@@ -9,6 +9,7 @@
 #include "frmTip.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +23,7 @@ namespace tunedex {
 namespace {
 
 constexpr int kCannotStart = 2;
+constexpr int kIconDelay = 100; // milliseconds; by then the window has been painted
 
 // Qt ends a program that finds no display with abort(). This takes its word and ends it as any failed start.
 void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
@@ -57,6 +59,8 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
     // Not when the last window closes: a message box can be that.
     QObject::connect(&window, &frmMain::Closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     window.show();
+    // Its sizes take a while to unpack; the window need not wait for them.
+    QTimer::singleShot(kIconDelay, &window, &InstallProgramIcon);
     if (TipsOnStartup(application.registry)) {
         auto* tip = new frmTip(application, frontEnd, &window);
         tip->setAttribute(Qt::WA_DeleteOnClose);
@@ -69,11 +73,11 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
 } // namespace
 
 int RunWindows(int argc, char** argv, Application& application, bool automatic) {
-    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc); // before Qt takes its own out
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0),
+                                             argv + argc); // before Qt takes its own out
     const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setDesktopFileName(u"tunedex"_s);
-    InstallProgramIcon();
 
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);
@@ -84,6 +88,7 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
         return kCannotStart;
     }
     if (automatic) {
+        InstallProgramIcon();
         return frontEnd.CreateList() ? 0 : 1;
     }
     return RunInteractively(application, frontEnd);
