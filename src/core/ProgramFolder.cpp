@@ -54,7 +54,7 @@ void FillProgramFolder(const std::string& folder) {
     }
 }
 
-std::string FindProgramFolder(const Registry& registry) {
+std::string FindProgramFolder(Registry& registry) {
     const std::string installed = registry.Read("InstallationPath");
     if (!installed.empty()) {
         return WithSeparator(installed, PathStyle::Native());
@@ -64,8 +64,12 @@ std::string FindProgramFolder(const Registry& registry) {
         return own;
     }
     const std::string folder = UserDataFolder();
+    const bool firstUse = !FolderExists(folder);
     MakeFolders(folder);
     FillProgramFolder(folder);
+    if (firstUse && registry.Read("TipsOnStartup").empty()) {
+        registry.Write("TipsOnStartup", "1"); // absent it means no, and a new user is to see them
+    }
     return folder;
 }
 

@@ -20,7 +20,7 @@ frmProgress::frmProgress(QWidget& mainWindow)
     setWindowTitle(tr("Creating List"));
     NameControl(*lblStatus_, u"lblStatus"_s, QString(), QString());
     NameControl(*progressBar_, u"ProgressBar"_s, tr("Progress"), tr("How much of the work is done"));
-    NameControl(*cmdAbort_, u"cmdAbort"_s, tr("Abort"), tr("Stops the run; no list is written"));
+    NameControl(*cmdAbort_, u"cmdAbort"_s, tr("Abort"), tr("Stops the run; what is written by then stays"));
     // A held Enter key that has started the run must not stop it again.
     cmdAbort_->setAutoDefault(false);
     connect(cmdAbort_, &QPushButton::clicked, this, &frmProgress::AbortPressed);
