@@ -28,7 +28,7 @@ std::string ThemePath(const std::string& programFolder, const std::string& name)
 }
 
 std::string StoredThemePath(const std::string& programFolder, const std::string& name) {
-    const std::string usual = ThemePath(programFolder, name);
+    std::string usual = ThemePath(programFolder, name);
     if (FileExists(usual)) {
         return usual;
     }
