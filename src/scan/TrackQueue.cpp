@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <ctime>
 #include <sys/resource.h>
-#include <system_error>
 
 namespace tunedex {
 
@@ -97,12 +96,12 @@ bool TrackQueue::Submit(const std::shared_ptr<OpenFolder>& folder, const char* n
 }
 
 bool TrackQueue::Publish() {
-    if (readers_.empty()) {
+    if (!haveReaders_) {
         StartFirstReaders();
     }
     batches_.push_back(std::move(filling_));
     Batch& batch = *batches_.back();
-    if (readers_.empty()) {
+    if (!haveReaders_) {
         ReadBatch(batch); // the system has no thread left for us: it will do without
         batch.done = true;
     } else {
@@ -202,6 +201,7 @@ void TrackQueue::StartFirstReaders() {
     const std::lock_guard lock(mutex_);
     while (readers_.size() < count && StartReader()) {
     }
+    haveReaders_ = !readers_.empty();
 }
 
 // Called under the mutex. Returns false when the system gives us no thread.
@@ -209,7 +209,7 @@ bool TrackQueue::StartReader() {
     try {
         readers_.emplace_back([this] { ReadLoop(); });
         return true;
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) { // no thread, or no memory for one
         return false;
     }
 }

@@ -86,6 +86,8 @@ class TrackQueue {
     std::unique_ptr<Batch> filling_;
     std::deque<std::unique_ptr<Batch>> batches_; // published, in order
 
+    bool haveReaders_ = false; // readers_ itself grows under the readers' hands
+
     // Shared with the readers, under the mutex.
     std::mutex mutex_;
     std::condition_variable work_;

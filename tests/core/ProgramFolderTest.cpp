@@ -42,7 +42,7 @@ class DataFolder : public testing::Test {
     }
 
     const test::TestFolder folder_;
-    const test::FakeRegistry registry_;
+    const test::FakeRegistry registry_{};
 };
 
 TEST_F(DataFolder, StandsInForAProgramsFolderThatCannotBeWrittenAndIsFilledOnFirstUse) {
