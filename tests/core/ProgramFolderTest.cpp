@@ -29,7 +29,9 @@ TEST(ProgramFolder, IsTheRunningProgramsWhenThatCanBeWritten) {
     if (!FolderIsWritable(RunningProgramFolder())) {
         GTEST_SKIP() << "the test program's own folder cannot be written";
     }
-    EXPECT_EQ(FindProgramFolder(test::FakeRegistry()), RunningProgramFolder());
+    test::FakeRegistry registry;
+    EXPECT_EQ(FindProgramFolder(registry), RunningProgramFolder());
+    EXPECT_EQ(registry.Read("TipsOnStartup"), "") << "that is for a user's own data folder";
 }
 
 // Becomes a user who may not write where the test program is.
@@ -42,7 +44,7 @@ class DataFolder : public testing::Test {
     }
 
     const test::TestFolder folder_;
-    const test::FakeRegistry registry_{};
+    test::FakeRegistry registry_{};
 };
 
 TEST_F(DataFolder, StandsInForAProgramsFolderThatCannotBeWrittenAndIsFilledOnFirstUse) {
@@ -53,10 +55,13 @@ TEST_F(DataFolder, StandsInForAProgramsFolderThatCannotBeWrittenAndIsFilledOnFir
         for (const ShippedFile& shipped : ShippedFiles()) {
             EXPECT_EQ(test::ReadBytes(folder_ / "data/tunedex/" + std::string(shipped.path)), shipped.bytes);
         }
-        // Found again, it is left alone but for what is missing.
+        EXPECT_EQ(registry_.Read("TipsOnStartup"), "1") << "a new user is shown the tips";
+        // Found again, it is left alone but for what is missing, and so is the user's choice of tips.
+        registry_.values["TipsOnStartup"] = "";
         folder_.Write("data/tunedex/tips.lst", "my tips");
         ASSERT_EQ(unlink((folder_ / "data/tunedex/html_entities.lst").c_str()), 0);
         EXPECT_EQ(FindProgramFolder(registry_), folder_ / "data/tunedex/");
+        EXPECT_EQ(registry_.Read("TipsOnStartup"), "");
         EXPECT_EQ(test::ReadBytes(folder_ / "data/tunedex/tips.lst"), "my tips");
         EXPECT_TRUE(folder_.Exists("data/tunedex/html_entities.lst"));
     });
