@@ -244,6 +244,9 @@ void TrackQueue::ReadLoop() {
 void TrackQueue::ReadBatch(Batch& batch) const {
     try {
         for (QueuedTrack& track : batch.tracks) {
+            if (stopping_) {
+                return; // nobody takes these any more
+            }
             ReadOne(track, options_);
         }
     } catch (...) {

@@ -5,6 +5,7 @@
 #include "FolderWalk.h"
 #include "MP3Info.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -95,7 +96,7 @@ class TrackQueue {
     std::deque<Batch*> unread_;
     std::vector<std::thread> readers_;
     unsigned idle_ = 0;
-    bool stopping_ = false;
+    std::atomic<bool> stopping_ = false; // read between files too, so that nobody waits for a batch to end
     bool callerWaits_ = false;
 };
 
