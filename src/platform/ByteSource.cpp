@@ -76,6 +76,9 @@ std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_
 }
 
 std::size_t FileByteSource::Read(std::uint64_t offset, std::span<std::uint8_t> buffer) {
+    if (buffer.empty()) {
+        return 0;
+    }
     const bool inWindow = offset >= window_.offset && offset - window_.offset < window_.length &&
                           window_.length - (offset - window_.offset) >= buffer.size();
     if (!inWindow) {
