@@ -280,7 +280,7 @@ void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow
 void TrackRowWriter::WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const {
     const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
     const TrackRow& track = listing_.tracks.At(position);
-    listing_.tracks.PrefetchAhead(position);
+    listing_.tracks.PrefetchAhead(position, listing_.settings.DoLinks);
     for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
         page += frame.pieces[i];
         AppendCell(page, listing_.columns[i].key, track, position);

@@ -16,6 +16,7 @@ constexpr std::size_t kPieceBytes = 65536;
 // path is not ASCII, the whole file is UTF-8.
 TextEncoding EncodingFor(const TrackTable& tracks) {
     for (std::size_t position = 1; position <= tracks.Count(); ++position) {
+        tracks.PrefetchAhead(position, true);
         if (!IsAscii(tracks.At(position).FullPath)) {
             return TextEncoding::Utf8;
         }
@@ -44,7 +45,7 @@ bool WriteM3uListing(Listing& listing) {
     std::string text = "#EXTM3U\r\n";
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
-        listing.tracks.PrefetchAhead(position);
+        listing.tracks.PrefetchAhead(position, true);
         text += "#EXTINF:";
         AppendNumber(text, static_cast<std::int64_t>(SecondsOf(track.Duration)));
         text += ',';

@@ -24,7 +24,7 @@ void EndLine(std::string& text, std::size_t start) {
 // Appends one track's line. Returns false, with the text as it was, when the user aborted.
 bool AppendLine(std::string& text, const Listing& listing, std::size_t position) {
     const TrackRow& track = listing.tracks.At(position);
-    listing.tracks.PrefetchAhead(position);
+    listing.tracks.PrefetchAhead(position, true);
     const CellContext cells = listing.Cells();
     const std::size_t start = text.size();
     for (const Column& column : listing.columns) {

@@ -85,6 +85,7 @@ void EntityTable::BuildExpansions() {
             }
         }
         changes_.at(code) = expansion != characters[code];
+        staysAscii_.at(code) = code < 0x80 && !changes_.at(code);
         expansions_[code] = std::move(expansion);
     }
 }
@@ -92,10 +93,12 @@ void EntityTable::BuildExpansions() {
 void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
     std::size_t done = 0; // what is before this is in the result
     for (std::size_t i = 0; i < text.size();) {
-        const auto ascii = static_cast<unsigned char>(text[i]);
-        if (ascii < 0x80 && !changes_[ascii]) { // nearly every character of nearly every text
+        // Nearly every character of nearly every text is ASCII that stays as it is.
+        while (i < text.size() && staysAscii_[static_cast<unsigned char>(text[i])]) {
             ++i;
-            continue;
+        }
+        if (i == text.size()) {
+            break;
         }
         const TextStep step = StepAt(text, i);
         const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);

@@ -45,7 +45,8 @@ class EntityTable {
     // What all slots together make of one character, by its byte in Windows-1252. Each slot replaces single
     // characters, so a text's result is its characters' results side by side.
     std::vector<std::string> expansions_;
-    std::array<bool, 256> changes_{}; // whether the character differs from its expansion
+    std::array<bool, 256> changes_{};    // whether the character differs from its expansion
+    std::array<bool, 256> staysAscii_{}; // by byte of UTF-8: whether it is a character that does not change
 };
 
 } // namespace tunedex
