@@ -1,16 +1,43 @@
 #include "TrackTable.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <new>
+#include <sys/mman.h>
+#include <utility>
 
 namespace tunedex {
 
 namespace {
 
-constexpr std::size_t kBlockBytes = 65536;
+constexpr std::size_t kFirstBlocks = 16;
+constexpr std::size_t kSmallBlock = 65536;
+constexpr std::size_t kLargeBlock = 2097152; // a huge page
 
 } // namespace
+
+void TextStore::FreeBlock::operator()(char* block) const {
+    std::free(block); // NOLINT(cppcoreguidelines-no-malloc): from aligned_alloc
+}
+
+// A small table takes little; a large one lies in huge pages, where the system has them: its texts are
+// visited in no order, and half of the waiting would be for the addresses of pages.
+void TextStore::AddBlock(std::size_t needed) {
+    const std::size_t unit = blocks_.size() < kFirstBlocks ? kSmallBlock : kLargeBlock;
+    const std::size_t size = (needed + unit - 1) / unit * unit;
+    std::unique_ptr<char, FreeBlock> block(static_cast<char*>(std::aligned_alloc(unit, size)));
+    if (!block) {
+        throw std::bad_alloc();
+    }
+    if (unit == kLargeBlock) {
+        madvise(block.get(), size, MADV_HUGEPAGE);
+    }
+    next_ = block.get();
+    left_ = size;
+    blocks_.push_back(std::move(block));
+}
 
 SharedText TextStore::Add(std::string_view text) {
     if (text.empty()) {
@@ -19,10 +46,7 @@ SharedText TextStore::Add(std::string_view text) {
     const auto length = static_cast<std::uint32_t>(text.size());
     const std::size_t needed = sizeof length + text.size();
     if (left_ < needed) {
-        const std::size_t size = std::max(kBlockBytes, needed);
-        blocks_.push_back(std::make_unique_for_overwrite<char[]>(size)); // NOLINT(modernize-avoid-c-arrays)
-        next_ = blocks_.back().get();
-        left_ = size;
+        AddBlock(needed);
     }
     char* const record = next_;
     std::memcpy(record, &length, sizeof length);

@@ -48,8 +48,14 @@ class TextStore {
   private:
     void GrowIndex();
 
-    std::vector<std::unique_ptr<char[]>> blocks_; // NOLINT(modernize-avoid-c-arrays): raw storage
-    std::size_t left_ = 0;                        // bytes free in the last block
+    struct FreeBlock {
+        void operator()(char* block) const;
+    };
+
+    void AddBlock(std::size_t needed);
+
+    std::vector<std::unique_ptr<char, FreeBlock>> blocks_;
+    std::size_t left_ = 0; // bytes free in the last block
     char* next_ = nullptr;
     std::vector<SharedText> index_; // open addressing, a power of two long
     std::size_t indexed_ = 0;
