@@ -93,11 +93,7 @@ bool ListRun::ValidateOutput() {
         ui_.FocusAndSelect(MainField::OutputFile);
         return false;
     }
-    for (const std::string& level : FolderLevels(folder, PathStyle::Native())) {
-        if (!FolderExists(level)) {
-            CreateFolder(level);
-        }
-    }
+    CreateFolders(folder);
     return true;
 }
 

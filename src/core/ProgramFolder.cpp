@@ -31,14 +31,6 @@ std::string UserDataFolder() {
     return WithSeparator(base, PathStyle::Native()) + "tunedex/";
 }
 
-void MakeFolders(const std::string& folder) {
-    for (const std::string& level : FolderLevels(folder, PathStyle::Native())) {
-        if (!FolderExists(level)) {
-            CreateFolder(level);
-        }
-    }
-}
-
 } // namespace
 
 void FillProgramFolder(const std::string& folder) {
@@ -47,7 +39,7 @@ void FillProgramFolder(const std::string& folder) {
         if (FileExists(path) || FolderExists(path)) {
             continue;
         }
-        MakeFolders(std::string(FolderPrefixOf(path, PathStyle::Native())));
+        CreateFolders(std::string(FolderPrefixOf(path, PathStyle::Native())));
         TextFile file(path, TextEncoding::Utf8);
         file.WriteRaw(shipped.bytes);
         file.Close();
@@ -65,7 +57,7 @@ std::string FindProgramFolder(Registry& registry) {
     }
     const std::string folder = UserDataFolder();
     const bool firstUse = !FolderExists(folder);
-    MakeFolders(folder);
+    CreateFolders(folder);
     FillProgramFolder(folder);
     if (firstUse && registry.Read("TipsOnStartup").empty()) {
         registry.Write("TipsOnStartup", "1"); // absent it means no, and a new user is to see them

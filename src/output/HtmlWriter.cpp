@@ -13,9 +13,6 @@ namespace tunedex {
 
 namespace {
 
-// How much of a page is kept before it goes to the file's buffer.
-constexpr std::size_t kPieceBytes = 65536;
-
 std::string_view LineBreakMarkup(const Settings& settings) {
     return settings.DocumentType == "XHTML" ? "<br />" : "<br>";
 }
@@ -86,7 +83,7 @@ class HtmlPages {
         for (std::size_t position = first; position <= last; ++position) {
             kind = NextKind(kind, settings_.AltRows);
             rows.WriteTrackRow(page_, kind, position);
-            if (page_.size() >= kPieceBytes) {
+            if (page_.size() >= TextFile::kPieceBytes) {
                 HandOver(file);
             }
             if (listing_.monitor.AbortRequested()) {

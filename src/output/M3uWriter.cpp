@@ -9,9 +9,6 @@ namespace tunedex {
 
 namespace {
 
-// How much text is kept before it goes to the file.
-constexpr std::size_t kPieceBytes = 65536;
-
 // Players take a playlist to be in one encoding throughout, and a path must reach them byte for byte: once a
 // path is not ASCII, the whole file is UTF-8.
 TextEncoding EncodingFor(const TrackTable& tracks) {
@@ -55,7 +52,7 @@ bool WriteM3uListing(Listing& listing) {
         text += "\r\n";
         text += track.FullPath.View();
         text += "\r\n";
-        if (text.size() >= kPieceBytes) {
+        if (text.size() >= TextFile::kPieceBytes) {
             file.Write(text);
             text.clear();
         }

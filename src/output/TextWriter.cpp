@@ -8,9 +8,6 @@ namespace tunedex {
 
 namespace {
 
-// How much text is kept before it goes to the file.
-constexpr std::size_t kPieceBytes = 65536;
-
 // Ends the line that begins at `start`: its last TAB gives way. A line without a single column cannot be
 // ended.
 void EndLine(std::string& text, std::size_t start) {
@@ -61,7 +58,7 @@ bool WriteTextListing(Listing& listing) {
         } else {
             aborted = true;
         }
-        if (text.size() >= kPieceBytes) {
+        if (text.size() >= TextFile::kPieceBytes) {
             file.Write(text);
             text.clear();
         }

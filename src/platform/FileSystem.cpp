@@ -96,6 +96,24 @@ void CreateFolder(const std::string& path) {
     }
 }
 
+void CreateFolders(const std::string& folderPrefix) {
+    for (const std::string& level : FolderLevels(folderPrefix, PathStyle::Native())) {
+        if (!FolderExists(level)) {
+            CreateFolder(level);
+        }
+    }
+}
+
+void WriteWhole(int descriptor, std::string_view rest) {
+    while (!rest.empty()) {
+        const ssize_t done = Uninterrupted([&] { return write(descriptor, rest.data(), rest.size()); });
+        if (done < 0) {
+            throw ErrorFromErrno(errno, FileTask::WriteFile);
+        }
+        rest.remove_prefix(static_cast<std::size_t>(done));
+    }
+}
+
 void DeleteFile(const std::string& path) {
     if (HoldsNul(path)) {
         throw ErrorFromErrno(EINVAL, FileTask::ReadFile);

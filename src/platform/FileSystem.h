@@ -4,6 +4,7 @@
 #include <dirent.h>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <sys/types.h>
 #include <vector>
 
@@ -20,6 +21,13 @@ bool FileExists(const std::string& path);
 
 // Creates one folder. Raises errors 61, 75, 76 and the like.
 void CreateFolder(const std::string& path);
+
+// Creates every folder on the way to `folderPrefix` (a path that ends in a separator) that is not there,
+// outermost first. Raises the errors of FolderExists and CreateFolder.
+void CreateFolders(const std::string& folderPrefix);
+
+// Writes all the bytes to an open file. Raises errors 61, 57 and the like.
+void WriteWhole(int descriptor, std::string_view bytes);
 
 // Removes a file. Raises error 53 when it is not there.
 void DeleteFile(const std::string& path);

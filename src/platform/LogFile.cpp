@@ -1,5 +1,6 @@
 #include "LogFile.h"
 
+#include "FileSystem.h"
 #include "RunTimeError.h"
 #include "Text.h"
 #include "Uninterrupted.h"
@@ -25,15 +26,7 @@ LogFile::~LogFile() {
 }
 
 void LogFile::WriteLine(std::string_view text) {
-    const std::string line = EncodeFileLine(text) + "\r\n";
-    std::string_view rest = line;
-    while (!rest.empty()) {
-        const ssize_t done = Uninterrupted([&] { return write(descriptor_, rest.data(), rest.size()); });
-        if (done < 0) {
-            throw ErrorFromErrno(errno, FileTask::WriteFile);
-        }
-        rest.remove_prefix(static_cast<std::size_t>(done));
-    }
+    WriteWhole(descriptor_, EncodeFileLine(text) + "\r\n");
 }
 
 void LogFile::Close() {

@@ -1,5 +1,6 @@
 #include "TextFile.h"
 
+#include "FileSystem.h"
 #include "Path.h"
 #include "RunTimeError.h"
 #include "Text.h"
@@ -155,7 +156,7 @@ void TextFile::Write(std::string_view text) {
     // A large piece that no encoding changes goes to the system from where it is.
     if (text.size() >= kDirectBytes && (encoding_ == TextEncoding::Utf8 || IsAscii(text))) {
         Flush();
-        WriteOut(text);
+        WriteWhole(descriptor_, text);
         return;
     }
     switch (encoding_) {
@@ -192,18 +193,8 @@ void TextFile::FlushIfFull() {
 }
 
 void TextFile::Flush() {
-    WriteOut(buffer_);
+    WriteWhole(descriptor_, buffer_);
     buffer_.clear();
-}
-
-void TextFile::WriteOut(std::string_view rest) const {
-    while (!rest.empty()) {
-        const ssize_t done = Uninterrupted([&] { return write(descriptor_, rest.data(), rest.size()); });
-        if (done < 0) {
-            Fail(errno);
-        }
-        rest.remove_prefix(static_cast<std::size_t>(done));
-    }
 }
 
 void TextFile::Close() {

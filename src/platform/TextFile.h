@@ -25,6 +25,9 @@ enum class TextEncoding {
 // other failures.
 class TextFile {
   public:
+    // How many bytes of text a writer best hands over at a time: that much goes to the system without a copy.
+    static constexpr std::size_t kPieceBytes = 65536;
+
     TextFile(const std::string& path, TextEncoding encoding);
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
@@ -43,7 +46,6 @@ class TextFile {
     void OpenAside(const std::string& path);
     void FlushIfFull();
     void Flush();
-    void WriteOut(std::string_view rest) const;
     void Discard() noexcept;
 
     TextEncoding encoding_;
