@@ -39,7 +39,9 @@ TrackInfo Read(const std::string& file, unsigned choices) {
     const std::string path = "/music/<a href=\"x\"> & \xE9\xE3\x81\x82.mp3";
     MemoryByteSource source(BytesOf(file));
     const bool moveTheArtists = (choices & 1U) != 0;
-    const TrackReading reading = ReadTrackInfo(source, path, {moveTheArtists});
+    TrackReading reading;
+    reading.track.FullPath = path;
+    ReadTrackInfo(source, {moveTheArtists}, reading);
     const plain::Reading expected = plain::ReadTrack(file, path, moveTheArtists);
     RequireEqualTracks(reading.track, expected.track, "the record of a file");
     Require(reading.seconds == expected.seconds, "the playing time of a file");

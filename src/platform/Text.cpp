@@ -147,6 +147,11 @@ std::optional<unsigned char> ToWindows1252(char32_t character) {
 std::string DecodeWindows1252(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
+    AppendDecodedWindows1252(text, bytes);
+    return text;
+}
+
+void AppendDecodedWindows1252(std::string& text, std::string_view bytes) {
     for (std::size_t i = 0; i < bytes.size();) {
         const std::size_t run = AsciiRun(bytes, i);
         text.append(bytes, i, run);
@@ -156,7 +161,6 @@ std::string DecodeWindows1252(std::string_view bytes) {
             ++i;
         }
     }
-    return text;
 }
 
 void AppendWindows1252(std::string& bytes, std::string_view text, Substitute substitute) {

@@ -33,6 +33,7 @@ std::optional<unsigned char> ToWindows1252(char32_t character);
 
 // Bytes of a tag as a text.
 std::string DecodeWindows1252(std::string_view bytes);
+void AppendDecodedWindows1252(std::string& text, std::string_view bytes);
 
 // What takes the place of a character that Windows-1252 lacks.
 enum class Substitute { QuestionMark, DecimalReference };

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace tunedex {
 
@@ -16,13 +17,21 @@ constexpr std::size_t kTagBytes = 128;
 
 // ID3v1 pads its fields with NULs or blanks. Blanks go first: those that stand before NULs are part of the
 // text.
-std::string FieldText(std::string_view field) {
-    std::string bytes(TrimBlanksRight(field));
-    std::erase(bytes, '\0');
-    return DecodeWindows1252(bytes);
+void SetFieldText(std::string& text, std::string_view field) {
+    SetTagText(text, TrimBlanksRight(field));
 }
 
 } // namespace
+
+void SetTagText(std::string& text, std::string_view bytes) {
+    text.clear();
+    while (!bytes.empty()) {
+        const std::size_t run = std::min(bytes.find('\0'), bytes.size());
+        AppendDecodedWindows1252(text, bytes.substr(0, run));
+        bytes.remove_prefix(run);
+        bytes.remove_prefix(std::min(bytes.find_first_not_of('\0'), bytes.size()));
+    }
+}
 
 std::string MoveLeadingThe(std::string artist) {
     constexpr std::size_t kPrefix = 4;
@@ -48,17 +57,21 @@ bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track) {
     }
     // Offsets and widths: marker 0/3, title 3/30, artist 33/30, album 63/30, year 93/4, comment 97/30, genre
     // 127/1.
-    const std::string title = FieldText(tag.substr(3, 30));
-    const std::string artist = FieldText(tag.substr(33, 30));
-    track.Album = FieldText(tag.substr(63, 30));
-    track.Year = FieldText(tag.substr(93, 4));
+    SetFieldText(track.Title, tag.substr(3, 30));
+    SetFieldText(track.Artist, tag.substr(33, 30));
+    SetFieldText(track.Album, tag.substr(63, 30));
+    SetFieldText(track.Year, tag.substr(93, 4));
     track.Genre = GenreName(bytes[127]);
 
-    track.Artist = artist.empty() ? kUnknownArtist : artist;
-    if (moveTheArtists) {
-        track.Artist = MoveLeadingThe(track.Artist);
+    if (track.Artist.empty()) {
+        track.Artist = kUnknownArtist;
     }
-    track.Title = title.empty() ? kUnknownTitle : title;
+    if (moveTheArtists) {
+        track.Artist = MoveLeadingThe(std::move(track.Artist));
+    }
+    if (track.Title.empty()) {
+        track.Title = kUnknownTitle;
+    }
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "TrackInfo.h"
 
 #include <string>
+#include <string_view>
 
 namespace tunedex {
 
@@ -14,6 +15,10 @@ inline constexpr const char* kUnknownTitle = "Unknown Title";
 // Fills artist, title, album, year and genre and returns true when the file ends in a tag; otherwise, also
 // when it cannot be read, leaves the track as it is and returns false.
 bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track);
+
+// Sets `text` to the bytes of a tag field as a text, without the NULs that writers pad, end and (UTF-16) fill
+// fields with.
+void SetTagText(std::string& text, std::string_view bytes);
 
 // "The Beatles" as "Beatles, The"; any other artist as it is.
 std::string MoveLeadingThe(std::string artist);

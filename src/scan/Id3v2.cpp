@@ -2,12 +2,12 @@
 
 #include "Id3v1.h"
 #include "RunTimeError.h"
-#include "Text.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace tunedex {
 
@@ -43,9 +43,9 @@ std::string* FieldOf(std::string_view frameId, TrackInfo& track) {
     return frameId == "TCON" ? &track.Genre : nullptr;
 }
 
-// The content without its NULs, piece by piece: a frame may claim, and a sparse file hold, a gigabyte of
+// Reads a content piece by piece, dropping its NULs: a frame may claim, and a sparse file hold, a gigabyte of
 // them.
-std::string ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size) {
+std::string ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t size) {
     constexpr std::uint32_t kPiece = 65536;
     std::string content;
     for (std::uint32_t done = 0; done < size;) {
@@ -57,7 +57,18 @@ std::string ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t si
         content.erase(std::remove(piece, content.end(), '\0'), content.end());
         done += count;
     }
-    return DecodeWindows1252(content);
+    return content;
+}
+
+// Sets `field` to the content of a frame; leaves it as it is when the content cannot be read.
+void ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size, std::string& field) {
+    std::array<char, 512> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): read into
+    if (size > bytes.size()) {
+        SetTagText(field, ReadLongContent(file, offset, size));
+        return;
+    }
+    file.ReadExactly(offset, {reinterpret_cast<std::uint8_t*>(bytes.data()), size});
+    SetTagText(field, {bytes.data(), size});
 }
 
 // One frame at `offset`. Returns the offset of the next, or nothing where padding or the file's end stops the
@@ -79,14 +90,15 @@ std::optional<std::uint64_t> ReadFrame(ByteSource& file, std::uint64_t offset, b
         return std::nullopt;
     }
     if (std::string* field = FieldOf(frameId, track)) {
-        std::string text = ReadContent(file, content, size);
-        if (frameId == "TIT2" && text.empty()) {
-            text = kUnknownTitle;
-        } else if (frameId == "TPE1") {
-            text = text.empty() ? kUnknownArtist : text;
-            text = moveTheArtists ? MoveLeadingThe(std::move(text)) : text;
+        ReadContent(file, content, size, *field);
+        if (field == &track.Title && field->empty()) {
+            *field = kUnknownTitle;
+        } else if (field == &track.Artist && field->empty()) {
+            *field = kUnknownArtist;
         }
-        *field = std::move(text);
+        if (field == &track.Artist && moveTheArtists) {
+            *field = MoveLeadingThe(std::move(*field));
+        }
     }
     return content + size;
 }

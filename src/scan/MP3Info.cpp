@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 #include <sys/stat.h>
 
 namespace tunedex {
@@ -15,6 +16,12 @@ namespace {
 
 std::int32_t HeldSize(std::uint64_t size) {
     return static_cast<std::int32_t>(std::min<std::uint64_t>(size, kLongestFileSize));
+}
+
+void StartAnew(TrackReading& reading) {
+    reading.track.Clear();
+    reading.seconds = 0;
+    reading.decodeError.reset();
 }
 
 void MarkUntagged(TrackInfo& track) {
@@ -36,10 +43,9 @@ std::int32_t MeasureFile(int folder, const char* name) {
 
 } // namespace
 
-TrackReading ReadTrackInfo(ByteSource& file, std::string fullPath, const ReadOptions& options) {
-    TrackReading reading;
+void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& reading) {
+    StartAnew(reading);
     TrackInfo& track = reading.track;
-    track.FullPath = std::move(fullPath);
     track.FileSize = HeldSize(file.Size());
 
     const Id3v2Location id3v2 = DetectId3v2(file);
@@ -57,22 +63,20 @@ TrackReading ReadTrackInfo(ByteSource& file, std::string fullPath, const ReadOpt
     } catch (const RunTimeError& error) {
         reading.decodeError = error;
     }
-    return reading;
 }
 
-TrackReading ReadTrackFile(int folder, const char* name, std::string fullPath, const ReadOptions& options) {
+void ReadTrackFile(int folder, const char* name, const ReadOptions& options, TrackReading& reading) {
     std::optional<FileByteSource> file;
     try {
         file.emplace(folder, name);
     } catch (const RunTimeError& error) {
-        TrackReading reading;
+        StartAnew(reading);
         reading.track.FileSize = MeasureFile(folder, name);
-        reading.track.FullPath = std::move(fullPath);
         MarkUntagged(reading.track);
         reading.decodeError = error;
-        return reading;
+        return;
     }
-    return ReadTrackInfo(*file, std::move(fullPath), options);
+    ReadTrackInfo(*file, options, reading);
 }
 
 } // namespace tunedex

@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 
 namespace tunedex {
 
@@ -25,12 +24,13 @@ struct TrackReading {
 // The longest file size a record holds, in bytes.
 inline constexpr std::int32_t kLongestFileSize = 2147483647;
 
-// Reads an open file. The track comes with FullPath set (it is the artist of a file without tags).
-TrackReading ReadTrackInfo(ByteSource& file, std::string fullPath, const ReadOptions& options);
+// Reads an open file. The reading comes with its track's FullPath set (it is the artist of a file without
+// tags); everything else in it is set anew, in the memory that the texts of an earlier track took.
+void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& reading);
 
-// Opens the file `name` in the open folder `folder` and reads it. A file that can be measured but not opened
-// is a track without tags and with a decode error. Raises the error of a file whose size cannot be read:
-// error 53 for what is not there or is a folder.
-TrackReading ReadTrackFile(int folder, const char* name, std::string fullPath, const ReadOptions& options);
+// Opens the file `name` in the open folder `folder` and does the same. A file that can be measured but not
+// opened is a track without tags and with a decode error. Raises the error of a file whose size cannot be
+// read: error 53 for what is not there or is a folder.
+void ReadTrackFile(int folder, const char* name, const ReadOptions& options, TrackReading& reading);
 
 } // namespace tunedex

@@ -155,12 +155,10 @@ std::int32_t XingBitrate(std::int32_t fileSize, const MpegHeader& header) {
                    (static_cast<double>(header.frameCount) * 144000.0));
 }
 
-std::string_view VersionText(MpegVersion version) {
-    return version == MpegVersion::V1 ? "1.0" : version == MpegVersion::V2 ? "2.0" : "2.5";
-}
-
-std::string_view LayerText(MpegLayer layer) {
-    return layer == MpegLayer::I ? "I" : layer == MpegLayer::II ? "II" : "III";
+std::string_view TypeText(MpegVersion version, MpegLayer layer) {
+    constexpr std::array<std::array<std::string_view, 3>, 3> kTypes = {
+        {{"1.0 I", "1.0 II", "1.0 III"}, {"2.0 I", "2.0 II", "2.0 III"}, {"2.5 I", "2.5 II", "2.5 III"}}};
+    return kTypes.at(static_cast<std::size_t>(version)).at(static_cast<std::size_t>(layer));
 }
 
 } // namespace
@@ -243,7 +241,7 @@ std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, Tr
     track.Bitrate = std::to_string(bitrate);
     track.Frequency = std::to_string(header.frequency);
     track.Mode = kModes.at(header.mode);
-    track.MpegType = std::string(VersionText(header.version)) + " " + std::string(LayerText(header.layer));
+    track.MpegType = TypeText(header.version, header.layer);
     track.Duration = std::to_string(seconds / 60) + ":" + PadNumber(seconds % 60, 2);
     return seconds;
 }

@@ -1,6 +1,7 @@
 // What is known of one MP3 file. Every text is as listings show it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -26,6 +27,20 @@ struct TrackInfo {
     std::int16_t TagType = kNoTag;
 
     bool operator==(const TrackInfo&) const = default;
+
+    // Empties everything but FullPath. The texts keep their memory for the next track, unless it is a lot.
+    void Clear() {
+        for (std::string* text : {&BaseFolder, &Artist, &Title, &Album, &Year, &Genre, &Bitrate, &Frequency,
+                                  &Mode, &MpegType, &Duration}) {
+            constexpr std::size_t kMostKept = 4096;
+            if (text->capacity() > kMostKept) {
+                *text = std::string();
+            }
+            text->clear();
+        }
+        FileSize = 0;
+        TagType = kNoTag;
+    }
 };
 
 } // namespace tunedex

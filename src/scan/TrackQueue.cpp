@@ -8,8 +8,6 @@ namespace tunedex {
 
 namespace {
 
-// Files change hands in batches, so that handing them over costs next to nothing.
-constexpr std::size_t kBatchFiles = 16;
 constexpr std::size_t kMostBatches = 128;
 // Each keeps a descriptor; the usual limit for a process is 1024.
 constexpr int kMostOpenFolders = 64;
@@ -26,8 +24,8 @@ std::chrono::nanoseconds ThreadTime() {
 void ReadOne(QueuedTrack& track, const ReadOptions& options) {
     track.failure.reset();
     try {
-        track.reading = ReadTrackFile(track.folder->Descriptor(), track.name.c_str(),
-                                      track.folder->Path() + track.name, options);
+        const char* const name = track.reading.track.FullPath.c_str() + track.folder->Path().size();
+        ReadTrackFile(track.folder->Descriptor(), name, options, track.reading);
     } catch (const RunTimeError& error) {
         track.failure = error;
     }
@@ -77,22 +75,41 @@ bool TrackQueue::Submit(const std::shared_ptr<OpenFolder>& folder, const char* n
     if (state_ != State::Running) {
         return state_ != State::Stopped;
     }
+    if (!filling_) {
+        filling_ = EmptyBatch();
+    }
+    QueuedTrack& track = filling_->tracks.at(filling_->count++);
+    track.folder = folder;
+    track.reading.track.FullPath.assign(folder->Path()).append(name);
     if (fixedReaders_ == 1) {
-        Batch single;
-        single.tracks.push_back({folder, name, {}, {}});
-        ReadOne(single.tracks.front(), options_);
-        Receive(single);
+        std::unique_ptr<Batch> single = std::move(filling_);
+        ReadOne(track, options_);
+        Receive(*single);
+        Recycle(std::move(single));
         return true;
     }
-    if (!filling_) {
-        filling_ = std::make_unique<Batch>();
-        filling_->tracks.reserve(kBatchFiles);
-    }
-    filling_->tracks.push_back({folder, name, {}, {}});
-    if (filling_->tracks.size() < kBatchFiles && OpenFolder::OpenCount() < mostOpenFolders_) {
+    if (filling_->count < kBatchFiles && OpenFolder::OpenCount() < mostOpenFolders_) {
         return true;
     }
     return Publish();
+}
+
+std::unique_ptr<TrackQueue::Batch> TrackQueue::EmptyBatch() {
+    if (spare_.empty()) {
+        return std::make_unique<Batch>();
+    }
+    std::unique_ptr<Batch> batch = std::move(spare_.back());
+    spare_.pop_back();
+    return batch;
+}
+
+void TrackQueue::Recycle(std::unique_ptr<Batch> batch) {
+    for (QueuedTrack& track : batch->Tracks()) {
+        track.folder.reset();
+    }
+    batch->count = 0;
+    batch->done = false;
+    spare_.push_back(std::move(batch));
 }
 
 bool TrackQueue::Publish() {
@@ -146,9 +163,10 @@ bool TrackQueue::ReceiveFront(bool wait) {
         state_ = State::Stopped;
         return false;
     }
-    const std::unique_ptr<Batch> batch = std::move(batches_.front());
+    std::unique_ptr<Batch> batch = std::move(batches_.front());
     batches_.pop_front();
     Receive(*batch);
+    Recycle(std::move(batch));
     return true;
 }
 
@@ -174,7 +192,7 @@ void TrackQueue::Receive(Batch& batch) {
         if (batch.fault) {
             std::rethrow_exception(batch.fault);
         }
-        for (QueuedTrack& track : batch.tracks) {
+        for (QueuedTrack& track : batch.Tracks()) {
             if (LackedDescriptor(track)) {
                 // With the readers' files closed there may be one: a single reader would not have lacked it.
                 for (const auto& other : batches_) {
@@ -231,7 +249,7 @@ void TrackQueue::ReadLoop() {
         ReadBatch(*batch);
         const auto wall = std::chrono::steady_clock::now() - begun;
         const auto processor = ThreadTime() - processorBegun;
-        const std::size_t files = batch->tracks.size();
+        const std::size_t files = batch->count;
         lock.lock();
         batch->done = true;
         if (callerWaits_) {
@@ -243,7 +261,7 @@ void TrackQueue::ReadLoop() {
 
 void TrackQueue::ReadBatch(Batch& batch) const {
     try {
-        for (QueuedTrack& track : batch.tracks) {
+        for (QueuedTrack& track : batch.Tracks()) {
             if (stopping_) {
                 return; // nobody takes these any more
             }

@@ -5,6 +5,7 @@
 #include "FolderWalk.h"
 #include "MP3Info.h"
 
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -14,7 +15,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <string>
+#include <span>
 #include <thread>
 #include <vector>
 
@@ -23,8 +24,7 @@ namespace tunedex {
 // One file on its way through the queue.
 struct QueuedTrack {
     std::shared_ptr<OpenFolder> folder;
-    std::string name;
-    TrackReading reading;
+    TrackReading reading;                // its track's FullPath is the folder's path and the file's name
     std::optional<RunTimeError> failure; // the file's size could not be read: there is no track
 };
 
@@ -56,12 +56,20 @@ class TrackQueue {
     static constexpr unsigned kMostReaders = 32;
 
   private:
+    // Files change hands in batches, so that handing them over costs next to nothing.
+    static constexpr std::size_t kBatchFiles = 16;
+
     struct Batch {
-        std::vector<QueuedTrack> tracks;
+        std::span<QueuedTrack> Tracks() { return std::span(tracks).first(count); }
+
+        std::array<QueuedTrack, kBatchFiles> tracks;
+        std::size_t count = 0;
         std::exception_ptr fault; // what no reading of a file should throw: out of memory
         bool done = false;
     };
 
+    std::unique_ptr<Batch> EmptyBatch();
+    void Recycle(std::unique_ptr<Batch> batch);
     bool Publish();
     bool ReceiveFront(bool wait);
     bool WaitFor(const Batch& batch);
@@ -86,6 +94,7 @@ class TrackQueue {
     // The caller's side.
     std::unique_ptr<Batch> filling_;
     std::deque<std::unique_ptr<Batch>> batches_; // published, in order
+    std::vector<std::unique_ptr<Batch>> spare_;  // received; the next files take over their texts' memory
 
     bool haveReaders_ = false; // readers_ itself grows under the readers' hands
 

@@ -94,17 +94,19 @@ void TextStore::GrowIndex() {
 void TrackTable::Append(const TrackInfo& track) {
     TrackRow row;
     row.FullPath = texts_.Add(track.FullPath);
-    row.BaseFolder = texts_.Share(track.BaseFolder);
+    const bool untagged = track.TagType == kNoTag;
     // A file without tags has its path for an artist: the same text, not a second one.
-    row.Artist = track.Artist == track.FullPath ? row.FullPath : texts_.Share(track.Artist);
-    row.Title = track.TagType == kNoTag ? texts_.Share(track.Title) : texts_.Add(track.Title);
-    row.Album = texts_.Share(track.Album);
-    row.Year = texts_.Share(track.Year);
-    row.Genre = texts_.Share(track.Genre);
-    row.Bitrate = texts_.Share(track.Bitrate);
-    row.Frequency = texts_.Share(track.Frequency);
-    row.Mode = texts_.Share(track.Mode);
-    row.MpegType = texts_.Share(track.MpegType);
+    row.Artist =
+        untagged && track.Artist == track.FullPath ? row.FullPath : texts_.Share(track.Artist, last_.Artist);
+    row.Title = untagged ? texts_.Share(track.Title) : texts_.Add(track.Title);
+    row.BaseFolder = texts_.Share(track.BaseFolder, last_.BaseFolder);
+    row.Album = texts_.Share(track.Album, last_.Album);
+    row.Year = texts_.Share(track.Year, last_.Year);
+    row.Genre = texts_.Share(track.Genre, last_.Genre);
+    row.Bitrate = texts_.Share(track.Bitrate, last_.Bitrate);
+    row.Frequency = texts_.Share(track.Frequency, last_.Frequency);
+    row.Mode = texts_.Share(track.Mode, last_.Mode);
+    row.MpegType = texts_.Share(track.MpegType, last_.MpegType);
     row.Duration = texts_.Share(track.Duration);
     row.FileSize = track.FileSize;
     row.TagType = track.TagType;

@@ -44,6 +44,10 @@ class TextStore {
     SharedText Add(std::string_view text);
     // The one copy of this text.
     SharedText Share(std::string_view text);
+    // The same, and remembers it in `last`: neighbours share most of what they share.
+    SharedText Share(std::string_view text, SharedText& last) {
+        return last.View() == text ? last : last = Share(text);
+    }
 
   private:
     void GrowIndex();
@@ -113,6 +117,7 @@ class TrackTable {
 
   private:
     TextStore texts_;
+    TrackRow last_; // the texts that the latest track shares
     std::vector<TrackRow> rows_;
 };
 

@@ -28,9 +28,16 @@ using test::XingAudio;
 
 constexpr const char* kPath = "/music/a.mp3";
 
+TrackReading ReadFrom(ByteSource& file, bool moveTheArtists = false) {
+    TrackReading reading;
+    reading.track.FullPath = kPath;
+    ReadTrackInfo(file, {moveTheArtists}, reading);
+    return reading;
+}
+
 TrackReading Read(const std::string& bytes, bool moveTheArtists = false) {
     FailingByteSource file(bytes);
-    return ReadTrackInfo(file, kPath, {moveTheArtists});
+    return ReadFrom(file, moveTheArtists);
 }
 
 std::string V1() {
@@ -50,6 +57,26 @@ TEST(ReadTrackInfo, NamesAFileWithoutTagsByItsPath) {
     EXPECT_EQ(reading.track.Duration, "0:01");
     EXPECT_EQ(reading.seconds, 1);
     EXPECT_FALSE(reading.decodeError);
+}
+
+TEST(ReadTrackInfo, LeavesNothingOfTheTrackBefore) {
+    const std::string full = Id3v2Tag({{"TCON", Latin1("Own genre")}}, 30) + XingAudio(1700, 3) + V1();
+    for (const std::string& bytes : {std::string("no audio"), Audio(16000), V1(), Id3v2Tag({}, 30)}) {
+        FailingByteSource earlier(full);
+        FailingByteSource file(bytes);
+        TrackReading reading = ReadFrom(earlier);
+        reading.track.BaseFolder = "/music";
+        ASSERT_NE(reading.track.Duration, "");
+        ReadTrackInfo(file, {}, reading);
+        const TrackReading fresh = Read(bytes);
+        EXPECT_EQ(reading.track, fresh.track);
+        EXPECT_EQ(reading.seconds, fresh.seconds);
+        EXPECT_EQ(reading.decodeError.has_value(), fresh.decodeError.has_value());
+    }
+    TrackReading broken = Read("no audio");
+    FailingByteSource file(full);
+    ReadTrackInfo(file, {}, broken);
+    EXPECT_FALSE(broken.decodeError);
 }
 
 TEST(ReadTrackInfo, TellsWhichTagItTook) {
@@ -189,14 +216,14 @@ TEST(ReadTrackInfo, MakesATrackHoweverManyReadsFail) {
     const std::string bytes = Id3v2Tag({{"TIT2", Latin1("new title")}, {"TALB", Latin1("new album")}}, 30) +
                               std::string(3000, 'a') + XingAudio(1700, 3) + V1();
     FailingByteSource whole(bytes);
-    const TrackInfo good = ReadTrackInfo(whole, kPath, {}).track;
+    const TrackInfo good = ReadFrom(whole).track;
     ASSERT_GT(whole.Reads(), 4);
     int harmless = 0;
     bool lostTitle = false;
     bool lostAudio = false;
     for (int failAt = 1; failAt <= whole.Reads(); ++failAt) {
         FailingByteSource file(bytes, failAt);
-        const TrackReading reading = ReadTrackInfo(file, kPath, {});
+        const TrackReading reading = ReadFrom(file);
         const TrackInfo& track = reading.track;
         EXPECT_EQ(track.FullPath, kPath);
         EXPECT_EQ(track.FileSize, static_cast<std::int32_t>(bytes.size()));
@@ -225,7 +252,10 @@ class ReadTrackFileTest : public testing::Test {
 
   protected:
     TrackReading ReadFile(const std::string& name) const {
-        return ReadTrackFile(descriptor_, name.c_str(), folder_ / name, {});
+        TrackReading reading;
+        reading.track.FullPath = folder_ / name;
+        ReadTrackFile(descriptor_, name.c_str(), {}, reading);
+        return reading;
     }
     int FailureOf(const std::string& name) const {
         try {

@@ -31,24 +31,28 @@ class TrackQueueTest : public testing::TestWithParam<unsigned> {
 
 TEST_P(TrackQueueTest, HandsReadingsOutInTheOrderInWhichFilesWentIn) {
     std::vector<std::string> received;
+    std::vector<std::int32_t> sizes;
     TrackQueue queue(
         GetParam(), {},
         [&](QueuedTrack& track) {
             EXPECT_FALSE(track.failure);
-            EXPECT_EQ(track.reading.track.FullPath, files_ / track.name);
-            received.push_back(track.name);
+            received.push_back(track.reading.track.FullPath);
+            sizes.push_back(track.reading.track.FileSize);
         },
         [] { return false; });
     std::vector<std::string> sent;
     for (int round = 0; round < 30; ++round) {
         for (const std::string& name : names_) {
             EXPECT_TRUE(queue.Submit(folder_, name.c_str()));
-            sent.push_back(name);
+            sent.push_back(files_ / name);
         }
     }
     EXPECT_TRUE(queue.Drain());
     EXPECT_TRUE(queue.Empty());
     EXPECT_EQ(received, sent);
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        EXPECT_EQ(static_cast<std::size_t>(sizes[i]), 417 * (i % names_.size() % 7 + 1));
+    }
 }
 
 TEST_P(TrackQueueTest, TellsOfAFileThatIsGone) {
