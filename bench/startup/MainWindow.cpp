@@ -3,6 +3,7 @@
 
 #include "Application.h"
 #include "Dialogs.h"
+#include "FontPreload.h"
 #include "QSettingsRegistry.h"
 #include "Startup.h"
 #include "WidgetHelpers.h"
@@ -11,12 +12,15 @@
 #include <QApplication>
 
 #include <iostream>
+#include <optional>
 
 int main(int argc, char** argv) {
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
+    std::optional<tunedex::FontPreload> fonts(std::in_place);
     QApplication qtApplication(argc, argv);
+    fonts.reset();
     tunedex::Dialogs dialogs;
     tunedex::WindowsFrontEnd frontEnd(application, dialogs);
     tunedex::StartUp(application, frontEnd, {});

@@ -1,6 +1,7 @@
 #include "RunWindows.h"
 
 #include "Dialogs.h"
+#include "FontPreload.h"
 #include "Functions.h"
 #include "Product.h"
 #include "Startup.h"
@@ -39,6 +40,7 @@ void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
 
 std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
     const QtMessageHandler before = qInstallMessageHandler(ReportMissingDisplay);
+    const FontPreload fonts;
     auto qtApplication = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(before);
     return qtApplication;

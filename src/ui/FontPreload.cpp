@@ -1,0 +1,34 @@
+#include "FontPreload.h"
+
+#include <dlfcn.h>
+#include <system_error>
+
+namespace tunedex {
+namespace {
+
+// The library that Qt is going to load anyway. It keeps what it has read for everybody in the process.
+void ReadFontList() {
+    if (void* const library = dlopen("libfontconfig.so.1", RTLD_LAZY | RTLD_LOCAL); library != nullptr) {
+        if (void* const function = dlsym(library, "FcInit"); function != nullptr) {
+            reinterpret_cast<int (*)()>(function)();
+        }
+    }
+}
+
+} // namespace
+
+FontPreload::FontPreload() {
+    try {
+        reader_ = std::thread(ReadFontList);
+    } catch (const std::system_error&) {
+        // No thread to be had: Qt reads the list when it needs it.
+    }
+}
+
+FontPreload::~FontPreload() {
+    if (reader_.joinable()) {
+        reader_.join();
+    }
+}
+
+} // namespace tunedex
