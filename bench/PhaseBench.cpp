@@ -73,6 +73,7 @@ class NoReports final : public tunedex::ErrorReporter {
                 const tunedex::RunTimeError& /*error*/) override {}
 };
 
+// As a walk finds them: the tracks of an album one after the other, albums and titles in no order.
 tunedex::TrackTable MakeTracks(std::size_t count) {
     std::mt19937 random(1);
     const auto word = [&random](std::size_t length) {
@@ -86,9 +87,13 @@ tunedex::TrackTable MakeTracks(std::size_t count) {
     std::generate(artists.begin(), artists.end(), [&] { return word(5 + random() % 8) + " " + word(6); });
     tunedex::TrackTable table(count);
     tunedex::TrackInfo track;
+    std::size_t albumEnd = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        track.Artist = artists[random() % artists.size()];
-        track.Album = "Album " + std::to_string(random() % 10) + " of " + track.Artist;
+        if (i == albumEnd) {
+            albumEnd += 8 + random() % 8;
+            track.Artist = artists[random() % artists.size()];
+            track.Album = "Album " + std::to_string(random() % 10) + " of " + track.Artist;
+        }
         track.Title = word(4 + random() % 8) + " " + word(3 + random() % 9) + " & " + word(4);
         track.FullPath = "/music/" + track.Artist + "/" + track.Album + "/" + track.Title + ".mp3";
         track.BaseFolder = "/music";

@@ -19,13 +19,23 @@ unsigned char ByteAt(std::string_view text, std::size_t position) {
     return static_cast<unsigned char>(text[position]);
 }
 
-// How many bytes from `position` on are ASCII; eight at a time, since nearly all text is.
+// How many bytes from `position` on are ASCII; many at a time, since nearly all text is.
 std::size_t AsciiRun(std::string_view text, std::size_t position) {
     const std::size_t start = position;
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    using Blocks = std::array<std::uint64_t, 4>;
+    while (text.size() - position >= sizeof(Blocks)) {
+        Blocks blocks; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
+        std::memcpy(blocks.data(), text.data() + position, sizeof blocks);
+        if (((blocks[0] | blocks[1] | blocks[2] | blocks[3]) & kHighBits) != 0) {
+            break;
+        }
+        position += sizeof blocks;
+    }
     while (text.size() - position >= sizeof(std::uint64_t)) {
         std::uint64_t block = 0;
         std::memcpy(&block, text.data() + position, sizeof block);
-        if ((block & 0x8080808080808080U) != 0) {
+        if ((block & kHighBits) != 0) {
             break;
         }
         position += sizeof block;
