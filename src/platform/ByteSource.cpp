@@ -30,7 +30,7 @@ std::size_t MemoryByteSource::Read(std::uint64_t offset, std::span<std::uint8_t>
 FileByteSource::FileByteSource(const std::string& path)
     : FileByteSource(AT_FDCWD, path.find('\0') == std::string::npos ? path.c_str() : "") {}
 
-FileByteSource::FileByteSource(int folder, const char* name) {
+FileByteSource::FileByteSource(int folder, const char* name, ReadAhead readAhead) {
     // Not to hang where a FIFO has taken the file's place since its folder was listed.
     descriptor_ =
         Uninterrupted([&] { return openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); });
@@ -48,6 +48,9 @@ FileByteSource::FileByteSource(int folder, const char* name) {
         throw RunTimeError(ErrorNumber::FileNotFound);
     }
     size_ = static_cast<std::uint64_t>(status.st_size);
+    if (readAhead == ReadAhead::Nothing) {
+        posix_fadvise(descriptor_, 0, 0, POSIX_FADV_RANDOM); // refused, the file is read all the same
+    }
 }
 
 FileByteSource::~FileByteSource() {

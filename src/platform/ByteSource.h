@@ -40,6 +40,10 @@ class MemoryByteSource final : public ByteSource {
     std::span<const std::uint8_t> bytes_;
 };
 
+// What the system may load beside what is asked for. It guesses that a file is read on, and loads four times
+// as much as a tag reader needs: that costs nothing in memory, but on a slow disk it does.
+enum class ReadAhead { AsUsual, Nothing };
+
 // A file, opened once. A small read loads a window of the file, since the next read is nearly always close
 // by: a typical file costs one read for its head and one for its tail.
 class FileByteSource final : public ByteSource {
@@ -47,7 +51,7 @@ class FileByteSource final : public ByteSource {
     // Raises error 53 for a path that is not there or is a folder, 75 where it may not be read, and so on.
     explicit FileByteSource(const std::string& path);
     // The same for a name in an open folder. `folder` is a descriptor and stays the caller's.
-    FileByteSource(int folder, const char* name);
+    FileByteSource(int folder, const char* name, ReadAhead readAhead = ReadAhead::AsUsual);
     ~FileByteSource() override;
 
     std::uint64_t Size() const override { return size_; }

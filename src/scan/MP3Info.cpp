@@ -68,7 +68,7 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
 void ReadTrackFile(int folder, const char* name, const ReadOptions& options, TrackReading& reading) {
     std::optional<FileByteSource> file;
     try {
-        file.emplace(folder, name);
+        file.emplace(folder, name, options.readAhead);
     } catch (const RunTimeError& error) {
         StartAnew(reading);
         reading.track.FileSize = MeasureFile(folder, name);

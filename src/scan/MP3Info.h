@@ -12,6 +12,7 @@ namespace tunedex {
 
 struct ReadOptions {
     bool moveTheArtists = false;
+    ReadAhead readAhead = ReadAhead::AsUsual;
 };
 
 struct TrackReading {

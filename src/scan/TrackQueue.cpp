@@ -260,12 +260,14 @@ void TrackQueue::ReadLoop() {
 }
 
 void TrackQueue::ReadBatch(Batch& batch) const {
+    ReadOptions options = options_;
+    options.readAhead = slowDisk_ ? ReadAhead::Nothing : ReadAhead::AsUsual;
     try {
         for (QueuedTrack& track : batch.Tracks()) {
             if (stopping_) {
                 return; // nobody takes these any more
             }
-            ReadOne(track, options_);
+            ReadOne(track, options);
         }
     } catch (...) {
         batch.fault = std::current_exception();
@@ -275,6 +277,7 @@ void TrackQueue::ReadBatch(Batch& batch) const {
 void TrackQueue::GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor,
                                std::size_t files) {
     const bool waits = wall > kSlowFile * files && processor * 2 < wall;
+    slowDisk_ = slowDisk_ || waits;
     if (fixedReaders_ == 0 && waits && !stopping_ && !unread_.empty() && readers_.size() < kMostReaders) {
         StartReader();
     }

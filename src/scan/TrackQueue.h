@@ -105,6 +105,7 @@ class TrackQueue {
     std::deque<Batch*> unread_;
     std::vector<std::thread> readers_;
     unsigned idle_ = 0;
+    std::atomic<bool> slowDisk_ = false; // a reader has waited for it
     std::atomic<bool> stopping_ = false; // read between files too, so that nobody waits for a batch to end
     bool callerWaits_ = false;
 };
