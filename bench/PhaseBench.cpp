@@ -199,8 +199,8 @@ void Pages(std::size_t count, const std::string& folder) {
     Bench bench(MakeTracks(count));
     QuietMonitor monitor;
     const std::string pages = folder + "/pages";
+    const std::string plain = folder + "/plain";
     Print("one-page", SecondsOf([&] { bench.Write(monitor, tunedex::kHtmlOutput, folder + "/one.htm"); }));
-    std::filesystem::remove(folder + "/one.htm");
     std::filesystem::create_directory(pages);
     Print("pages-of-100",
           SecondsOf([&] { bench.Write(monitor, tunedex::kHtmlOutput, pages + "/p.htm", 100); }));
@@ -208,16 +208,14 @@ void Pages(std::size_t count, const std::string& folder) {
     for (const auto& entry : std::filesystem::directory_iterator(pages)) {
         contents.push_back(ReadWhole(entry.path()));
     }
-    std::filesystem::remove_all(pages);
-    std::filesystem::create_directory(pages);
+    std::filesystem::create_directory(plain);
     Print("plain-files", SecondsOf([&] {
               for (std::size_t i = 0; i < contents.size(); ++i) {
-                  const std::string path = pages + "/p." + std::to_string(i);
+                  const std::string path = plain + "/p." + std::to_string(i);
                   WriteThroughBuffer(contents[i], path + ".new");
                   std::filesystem::rename(path + ".new", path);
               }
           }));
-    std::filesystem::remove_all(pages);
 }
 
 void Abort(const std::string& collection, const std::string& folder) {
