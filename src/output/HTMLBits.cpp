@@ -6,6 +6,9 @@
 #include "Text.h"
 #include "Version.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tunedex {
 
 namespace {
@@ -51,6 +54,23 @@ bool HasRightAlignedCells(ColumnKey key) {
 bool HasBlankForEmpty(ColumnKey key) {
     return key == ColumnKey::Album || key == ColumnKey::Year || key == ColumnKey::Genre;
 }
+
+// Padded, as a row takes them.
+template <std::size_t kSize> struct PaddedLiteral {
+    std::array<char, kSize - 1 + PageBuffer::kStep> bytes{};
+
+    constexpr explicit PaddedLiteral(
+        const char (&text)[kSize]) { // NOLINT(modernize-avoid-c-arrays): a literal
+        std::copy_n(text, kSize - 1, bytes.begin());
+    }
+    constexpr operator std::string_view() const { // NOLINT(google-explicit-constructor): it is a text
+        return {bytes.data(), kSize - 1};
+    }
+};
+constexpr PaddedLiteral kBoldOpen("<b>");
+constexpr PaddedLiteral kBoldClose(":</b> ");
+constexpr PaddedLiteral kAlbumOpen(" (");
+constexpr PaddedLiteral kAlbumClose(")");
 
 bool UsesFontTags(const Settings& settings) {
     return settings.FontHTML || settings.ColourHTML;
@@ -228,67 +248,70 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
             piece += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
             piece += fontOpen;
         }
-        frame.pieces.push_back(piece);
+        frame.pieces.emplace_back(piece);
         piece = close;
     }
     if (settings.DoLinks) {
         piece += R"(<td align="center">)" + fontOpen + "<a href=\"";
-        frame.linkClose = "\">Link</a>" + close + rowEnd;
+        frame.linkClose = PaddedText("\">Link</a>" + close + rowEnd);
     } else {
         piece += rowEnd;
     }
-    frame.pieces.push_back(piece);
+    frame.pieces.emplace_back(piece);
     return frame;
 }
 
-void TrackRowWriter::AppendCell(std::string& page, ColumnKey key, const TrackRow& track,
-                                std::size_t position) const {
+void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track,
+                             std::size_t position) const {
     const EntityTable& entities = listing_.entities;
     if (const auto stored = StoredText(key, track)) {
         if (stored->empty() && HasBlankForEmpty(key)) {
-            page += "&nbsp;";
+            page.Put("&nbsp;");
         } else {
-            entities.AppendEscaped(page, *stored);
+            entities.PutEscaped(page, *stored);
         }
         return;
     }
     switch (key) {
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
-        page += "<b>";
-        entities.AppendEscaped(page, track.Artist);
+        page.PutPadded(kBoldOpen);
+        entities.PutEscaped(page, track.Artist);
         if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
-            page += " (";
-            entities.AppendEscaped(page, track.Album);
-            page += ')';
+            page.PutPadded(kAlbumOpen);
+            entities.PutEscaped(page, track.Album);
+            page.PutPadded(kAlbumClose);
         }
-        page += ":</b> ";
-        entities.AppendEscaped(page, track.Title);
+        page.PutPadded(kBoldClose);
+        entities.PutEscaped(page, track.Title);
         return;
     case ColumnKey::Filename:
-        entities.AppendEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
+        entities.PutEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
         return;
     case ColumnKey::FolderPath:
-        entities.AppendEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
+        entities.PutEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
-    default: // numbers, which hold nothing to escape
-        AppendCellText(page, key, track, position, listing_.Cells());
+    default: { // numbers, which hold nothing to escape
+        std::string number;
+        AppendCellText(number, key, track, position, listing_.Cells());
+        page.Put(number);
         return;
+    }
     }
 }
 
-void TrackRowWriter::WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const {
+void TrackRowWriter::WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t position) const {
     const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
     const TrackRow& track = listing_.tracks.At(position);
     listing_.tracks.PrefetchAhead(position, listing_.settings.DoLinks);
     for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
-        page += frame.pieces[i];
-        AppendCell(page, listing_.columns[i].key, track, position);
+        page.PutPadded(frame.pieces[i]);
+        PutCell(page, listing_.columns[i].key, track, position);
     }
-    page += frame.pieces.back();
+    page.PutPadded(frame.pieces.back());
     if (listing_.settings.DoLinks) {
-        page += LinkTarget(listing_.settings, track, listing_.pathStyle);
-        page += frame.linkClose;
+        page.Put(LinkTarget(listing_.settings, track, listing_.pathStyle));
+        page.PutPadded(frame.linkClose);
     }
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),
                                       static_cast<std::int32_t>(listing_.tracks.Count()), "...");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "OutputList.h"
+#include "PageBuffer.h"
 
 #include <array>
 #include <cstdint>
@@ -46,17 +47,32 @@ class TrackRowWriter {
   public:
     explicit TrackRowWriter(const Listing& listing);
 
-    void WriteTrackRow(std::string& page, RowKind kind, std::size_t position) const;
+    void WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t position) const;
 
   private:
+    // A text with the bytes behind it that a PageBuffer wants.
+    class PaddedText {
+      public:
+        PaddedText() = default;
+        explicit PaddedText(const std::string& text)
+            : padded_(text + std::string(PageBuffer::kStep, '\0')), size_(text.size()) {}
+        operator std::string_view() const { // NOLINT(google-explicit-constructor): it is a text
+            return std::string_view(padded_).substr(0, size_);
+        }
+
+      private:
+        std::string padded_;
+        std::size_t size_ = 0;
+    };
+
     // The markup of a row: pieces[i] stands before the text of cell i, the last one behind the last cell.
     struct RowFrame {
-        std::vector<std::string> pieces;
-        std::string linkClose; // behind the link, where there are links: the end of the row
+        std::vector<PaddedText> pieces;
+        PaddedText linkClose; // behind the link, where there are links: the end of the row
     };
 
     RowFrame MakeFrame(bool alternate) const;
-    void AppendCell(std::string& page, ColumnKey key, const TrackRow& track, std::size_t position) const;
+    void PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position) const;
 
     const Listing& listing_;
     std::array<RowFrame, 2> frames_; // normal, alternate

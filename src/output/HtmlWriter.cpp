@@ -1,5 +1,6 @@
 #include "HtmlWriter.h"
 
+#include "PageBuffer.h"
 #include "Placeholders.h"
 #include "Product.h"
 #include "StyleSheet.h"
@@ -52,19 +53,23 @@ class HtmlPages {
         }
         TextFile file(several ? files_.PathOf(number) : settings_.OutputFile,
                       TextEncoding::Windows1252References);
-        WriteHead(page_, settings_, title);
+        std::string frame;
+        WriteHead(frame, settings_, title);
         if (several) {
-            WriteNavigation(page_, number, files_, listing_.pathStyle);
+            WriteNavigation(frame, number, files_, listing_.pathStyle);
         }
-        WritePageHeading(page_, settings_, number, files_.count, lineBreak_);
-        WriteTableHead(page_, settings_, listing_.columns);
+        WritePageHeading(frame, settings_, number, files_.count, lineBreak_);
+        WriteTableHead(frame, settings_, listing_.columns);
+        page_.Put(frame);
         const bool whole = WriteRows(file, number, rows);
         if (whole) {
-            WriteTableFoot(page_, settings_, listing_.columns.size());
+            frame.clear();
+            WriteTableFoot(frame, settings_, listing_.columns.size());
             if (several) {
-                WriteNavigation(page_, number, files_, listing_.pathStyle);
+                WriteNavigation(frame, number, files_, listing_.pathStyle);
             }
-            WriteEnd(page_, settings_, settings_.PageFooter, lineBreak_);
+            WriteEnd(frame, settings_, settings_.PageFooter, lineBreak_);
+            page_.Put(frame);
         }
         HandOver(file);
         file.Close();
@@ -83,7 +88,7 @@ class HtmlPages {
         for (std::size_t position = first; position <= last; ++position) {
             kind = NextKind(kind, settings_.AltRows);
             rows.WriteTrackRow(page_, kind, position);
-            if (page_.size() >= TextFile::kPieceBytes) {
+            if (page_.View().size() >= TextFile::kPieceBytes) {
                 HandOver(file);
             }
             if (listing_.monitor.AbortRequested()) {
@@ -94,15 +99,15 @@ class HtmlPages {
     }
 
     void HandOver(TextFile& file) {
-        file.Write(page_);
-        page_.clear();
+        file.Write(page_.View());
+        page_.Clear();
     }
 
     Listing& listing_;
     Settings& settings_;
     std::string_view lineBreak_;
     PageFiles files_;
-    std::string page_; // what is still to be written
+    PageBuffer page_; // what is still to be written
 };
 
 } // namespace

@@ -104,6 +104,16 @@ ParsedNumber ParseNumber(std::string_view text) {
 } // namespace
 
 double LeadingNumber(std::string_view text) {
+    constexpr std::size_t kShort = 9;
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (text.size() <= kShort && std::all_of(text.begin(), text.end(), isDigit)) {
+        // What is most often read, and a million times in a playlist.
+        std::int32_t value = 0;
+        for (const char digit : text) {
+            value = value * 10 + (digit - '0');
+        }
+        return value;
+    }
     return ParseNumber(text).value;
 }
 

@@ -23,11 +23,13 @@ unsigned char ByteAt(std::string_view text, std::size_t position) {
 std::size_t AsciiRun(std::string_view text, std::size_t position) {
     const std::size_t start = position;
     constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    using Blocks = std::array<std::uint64_t, 4>;
+    using Pair [[gnu::vector_size(16)]] = std::uint64_t;
+    using Blocks = std::array<Pair, 4>;
     while (text.size() - position >= sizeof(Blocks)) {
         Blocks blocks; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
         std::memcpy(blocks.data(), text.data() + position, sizeof blocks);
-        if (((blocks[0] | blocks[1] | blocks[2] | blocks[3]) & kHighBits) != 0) {
+        const Pair all = blocks[0] | blocks[1] | blocks[2] | blocks[3];
+        if (((all[0] | all[1]) & kHighBits) != 0) {
             break;
         }
         position += sizeof blocks;

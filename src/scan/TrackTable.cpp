@@ -1,5 +1,7 @@
 #include "TrackTable.h"
 
+#include "PageBuffer.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -45,8 +47,8 @@ SharedText TextStore::Add(std::string_view text) {
     }
     const auto length = static_cast<std::uint32_t>(text.size());
     const std::size_t needed = sizeof length + text.size();
-    if (left_ < needed) {
-        AddBlock(needed);
+    if (left_ < needed + PageBuffer::kStep) {
+        AddBlock(needed + PageBuffer::kStep);
     }
     char* const record = next_;
     std::memcpy(record, &length, sizeof length);

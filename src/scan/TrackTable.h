@@ -4,6 +4,7 @@
 
 #include "TrackInfo.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -13,7 +14,8 @@
 
 namespace tunedex {
 
-// A text in a TextStore; valid as long as the store. Copying it copies a pointer.
+// A text in a TextStore; valid as long as the store. Copying it copies a pointer. Some bytes behind it can be
+// read, whatever they hold: it is a padded text for a PageBuffer, and so is each part of it.
 class SharedText {
   public:
     SharedText() = default;
@@ -101,6 +103,7 @@ class TrackTable {
     // order: taken for a function without effect, its calls would be dropped.
     [[gnu::always_inline]] void PrefetchAhead(std::size_t position, bool paths) const {
         constexpr std::size_t kAhead = 8;
+        __builtin_prefetch(rows_.data() + std::min(position + 3 * kAhead, rows_.size()));
         if (position + kAhead <= rows_.size()) {
             const TrackRow& row = At(position + kAhead);
             for (const SharedText text : {row.Artist, row.Album, row.Title, row.Duration}) {

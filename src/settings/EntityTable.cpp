@@ -7,11 +7,16 @@
 #include "Text.h"
 #include "TextLines.h"
 
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
 namespace tunedex {
 
 namespace {
 
 constexpr std::size_t kCodePageSize = 256;
+constexpr unsigned char kNotAscii = 0x80;
 // A table that replaces a character by two of itself doubles with every such line: what is longer than this
 // is a mistake, not an entity.
 constexpr std::size_t kLongestExpansion = 1U << 20U;
@@ -27,6 +32,12 @@ EntityTable::Slot ParseEntry(const std::string& line) {
     }
     const std::size_t second = line.find('\t', tab + 1);
     return {code, line.substr(tab + 1, second == std::string::npos ? second : second - tab - 1)};
+}
+
+std::size_t FirstMarked(std::uint64_t word) {
+    return static_cast<std::size_t>(std::endian::native == std::endian::little ? std::countr_zero(word)
+                                                                               : std::countl_zero(word)) /
+           8;
 }
 
 std::string CharacterOf(std::size_t code) {
@@ -68,6 +79,8 @@ void EntityTable::Load(const std::vector<std::string>& lines, std::string_view n
 void EntityTable::BuildExpansions() {
     expansions_.assign(kCodePageSize, "");
     changes_.fill(false);
+    std::size_t marks = 0;
+    marks_.fill(StepBytes{} + kNotAscii);
     std::vector<std::string> characters(kCodePageSize);
     for (std::size_t code = 0; code < kCodePageSize; ++code) {
         characters[code] = CharacterOf(code);
@@ -87,7 +100,14 @@ void EntityTable::BuildExpansions() {
         changes_.at(code) = expansion != characters[code];
         staysAscii_.at(code) = code < 0x80 && !changes_.at(code);
         expansions_[code] = std::move(expansion);
+        if (code >= ' ' && code < kNotAscii && changes_.at(code)) {
+            if (marks < marks_.size()) {
+                marks_.at(marks) = StepBytes{} + static_cast<unsigned char>(code);
+            }
+            ++marks;
+        }
     }
+    manyMarks_ = marks > marks_.size();
 }
 
 void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
@@ -110,6 +130,44 @@ void EntityTable::AppendEscaped(std::string& result, std::string_view text) cons
         i += step.length;
     }
     result.append(text, done);
+}
+
+// How many of the bytes stand before the first that may change.
+std::size_t EntityTable::PlainLength(const StepBytes& bytes) const {
+    using StepWords [[gnu::vector_size(sizeof(StepBytes))]] = std::uint64_t;
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    StepBytes found = bytes | reinterpret_cast<StepBytes>(bytes < static_cast<unsigned char>(' '));
+    for (const StepBytes& mark : marks_) {
+        found |= reinterpret_cast<StepBytes>(bytes == mark);
+    }
+    const StepWords words = reinterpret_cast<StepWords>(found) & kHighBits;
+    if (words[0] != 0) {
+        return FirstMarked(words[0]);
+    }
+    return words[1] != 0 ? sizeof(std::uint64_t) + FirstMarked(words[1]) : sizeof bytes;
+}
+
+void EntityTable::PutEscaped(PageBuffer& page, std::string_view text) const {
+    if (manyMarks_) {
+        page.Put(EscapeEntities(text));
+        return;
+    }
+    while (!text.empty()) {
+        StepBytes bytes;
+        std::memcpy(&bytes, text.data(), sizeof bytes);
+        page.MakeRoom(sizeof bytes);
+        std::memcpy(page.End(), &bytes, sizeof bytes);
+        const std::size_t plain = std::min(PlainLength(bytes), text.size());
+        page.Advance(plain);
+        text.remove_prefix(plain);
+        if (plain < sizeof bytes && !text.empty()) {
+            const TextStep step = StepAt(text, 0);
+            const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
+            page.Put(byte && changes_[*byte] ? std::string_view(expansions_[*byte])
+                                             : text.substr(0, step.length));
+            text.remove_prefix(step.length);
+        }
+    }
 }
 
 std::string EntityTable::EscapeEntities(std::string_view text) const {

@@ -1,6 +1,8 @@
 // The user's table of characters and the HTML entities that replace them.
 #pragma once
 
+#include "PageBuffer.h"
+
 #include <array>
 #include <cstdint>
 #include <ostream>
@@ -37,9 +39,15 @@ class EntityTable {
     // one before. Stray bytes are left alone.
     void AppendEscaped(std::string& result, std::string_view text) const;
     std::string EscapeEntities(std::string_view text) const;
+    // The same for a padded text, into a page.
+    void PutEscaped(PageBuffer& page, std::string_view text) const;
 
   private:
+    // A step's bytes looked at together.
+    using StepBytes [[gnu::vector_size(PageBuffer::kStep)]] = unsigned char;
+
     void BuildExpansions();
+    std::size_t PlainLength(const StepBytes& bytes) const;
 
     std::vector<Slot> slots_;
     // What all slots together make of one character, by its byte in Windows-1252. Each slot replaces single
@@ -47,6 +55,9 @@ class EntityTable {
     std::vector<std::string> expansions_;
     std::array<bool, 256> changes_{};    // whether the character differs from its expansion
     std::array<bool, 256> staysAscii_{}; // by byte of UTF-8: whether it is a character that does not change
+    // Each filled with one of the ASCII characters that change, controls left out: a usual table has five.
+    std::array<StepBytes, 8> marks_{};
+    bool manyMarks_ = false; // there are more
 };
 
 } // namespace tunedex

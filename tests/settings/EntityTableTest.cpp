@@ -284,5 +284,56 @@ TEST_F(ShippedEntities, MakeEveryTextPlainAsciiAndNameNoCharacterTwice) {
     EXPECT_TRUE(IsAscii(table_.EscapeEntities(all)));
 }
 
+std::string RandomText(std::mt19937& random) {
+    static const std::vector<std::string> kPieces = {"a",
+                                                     "Rock",
+                                                     "&",
+                                                     "<",
+                                                     "\"",
+                                                     "\n",
+                                                     "\x7F",
+                                                     "\xC3\xA9",
+                                                     "\xE2\x82\xAC",
+                                                     "\xE3\x81\x82",
+                                                     "\xE9",
+                                                     "\xE2\x82",
+                                                     "0123456789abcdef"};
+    std::string text;
+    for (std::size_t left = random() % 12; left > 0; --left) {
+        text += kPieces[random() % kPieces.size()];
+    }
+    return text;
+}
+
+TEST(EntityTable, PutsIntoAPageWhatItAppendsToAText) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<std::string> lines;
+        for (std::size_t left = random() % 14; left > 0; --left) {
+            // Now and then one that is longer than the buffer is at first.
+            lines.push_back(std::to_string(random() % 256) + "\t" +
+                            std::string(random() % 50 == 0 ? 9000 : random() % 5, '&'));
+        }
+        EntityTable table;
+        std::ostringstream faults;
+        try {
+            table.Load(lines, "test", faults);
+        } catch (const RunTimeError&) {
+            continue; // the entries make too much of each other
+        }
+        PageBuffer page;
+        std::string expected;
+        for (int i = 0; i < 20; ++i) {
+            const std::string text = RandomText(random);
+            // What stands behind a padded text must not count.
+            const std::string padded =
+                text + std::string(PageBuffer::kStep, static_cast<char>(random() % 256));
+            table.PutEscaped(page, std::string_view(padded).substr(0, text.size()));
+            expected += table.EscapeEntities(text);
+        }
+        ASSERT_EQ(page.View(), expected);
+    }
+}
+
 } // namespace
 } // namespace tunedex
