@@ -1,8 +1,12 @@
-// Takes a picture of each window with sample content, in light and in dark colours.
+// Takes a picture of each window with sample content, in light and in dark colours, and of each theme by its
+// preview.
 //
-// usage: screenshots FOLDER            run by tools/screenshots, which gives it a screen of its own
+// usage: screenshots FOLDER DATA       DATA is the folder of the files that ship; run by tools/screenshots,
+// which gives
+//                                      it a screen of its own
 
 #include "Dialogs.h"
+#include "Palettes.h"
 #include "Registry.h"
 #include "Startup.h"
 #include "Statistics.h"
@@ -11,9 +15,12 @@
 #include "WindowsFrontEnd.h"
 #include "frmAbout.h"
 #include "frmDirSelection.h"
+#include "frmEditLayout.h"
+#include "frmOptions.h"
 #include "frmProgress.h"
 #include "frmTip.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
@@ -22,10 +29,12 @@
 #include <QSettings>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
-#include <cstdio>
+#include <filesystem>
 #include <iostream>
 
 using namespace Qt::StringLiterals;
@@ -45,18 +54,20 @@ class SampleRegistry final : public Registry {
     std::string tipsFile_;
 };
 
-QPalette DarkPalette() {
-    QPalette palette(QColor(0x32, 0x32, 0x36), QColor(0x2b, 0x2b, 0x2f));
-    palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x21));
-    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x26, 0x2a));
-    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x7f, 0x93));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x6c, 0xc3, 0xd6));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x8a, 0x8a, 0x90));
-    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3a, 0x3f));
-    palette.setColor(QPalette::ToolTipText, Qt::white);
-    return palette;
-}
+// Pictures of the same sources are the same on every day.
+class SampleClock final : public Clock {
+  public:
+    std::tm LocalTime() const override {
+        std::tm time{};
+        time.tm_year = 126;
+        time.tm_mon = 10;
+        time.tm_mday = 21;
+        time.tm_hour = 14;
+        time.tm_min = 5;
+        return time;
+    }
+    void Sleep(std::chrono::milliseconds /*duration*/) override {}
+};
 
 void FillSample(Application& application) {
     application.settings.SetDefaults();
@@ -67,18 +78,23 @@ void FillSample(Application& application) {
 
 class Pictures {
   public:
-    Pictures(QString folder, QString suffix) : folder_(std::move(folder)), suffix_(std::move(suffix)) {}
+    explicit Pictures(QString folder) : folder_(std::move(folder)) {}
+
+    // What the names of the pictures from here on end in.
+    void SetSuffix(const QString& suffix) { suffix_ = suffix; }
 
     void Take(QWidget& window, const QString& name) {
         window.show();
-        for (int turn = 0; turn < 5; ++turn) {
-            QApplication::processEvents();
-        }
+        QTest::qWait(50); // the windowing system answers, the window lays itself out
         const QString path = QDir(folder_).filePath(name + suffix_ + u".png"_s);
         if (!window.grab().save(path)) {
             std::cerr << "cannot write " << path.toStdString() << '\n';
             failed_ = true;
         }
+    }
+    void TakeSmallest(QWidget& window, const QString& name) {
+        window.resize(window.minimumSizeHint());
+        Take(window, name + u"-smallest"_s);
     }
     // The picture of a window that waits for an answer; it is dismissed afterwards.
     void TakeModal(const QString& name) {
@@ -96,8 +112,19 @@ class Pictures {
     bool failed_ = false;
 };
 
-bool TakeAll(Application& application, const QString& folder, const QString& suffix) {
-    Pictures pictures(folder, suffix);
+void TakeMessages(Pictures& pictures, WindowsFrontEnd& frontEnd, Dialogs& dialogs) {
+    pictures.TakeModal(u"message"_s);
+    frontEnd.ShowMessage("The output directory does not exist!\r\n\r\nDo you want to create it?",
+                         kYesNoExclamation, "Error!");
+    pictures.TakeModal(u"browse"_s);
+    dialogs.ChooseFolder(
+        &frontEnd.MainWindow(), u"Select a Directory"_s,
+        u"Select the folder that you would like Tunedex to scan for MP3 files, and click OK."_s,
+        QDir::rootPath().toStdString());
+}
+
+// The windows round a run.
+void TakeMain(Pictures& pictures, Application& application) {
     FillSample(application);
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);
@@ -112,13 +139,16 @@ bool TakeAll(Application& application, const QString& folder, const QString& suf
     application.settings.Directory = "%MULT%/home/lea/Music%||%/home/lea/Audio books%||%/media/archive/mp3";
     frontEnd.FillFields(FieldsFor(application.settings));
     pictures.Take(window, u"main-folders"_s);
+    pictures.TakeSmallest(window, u"main"_s);
     {
         frmDirSelection folders(application, frontEnd, dialogs, &window);
         pictures.Take(folders, u"folders"_s);
+        pictures.TakeSmallest(folders, u"folders"_s);
     }
     {
         frmTip tip(application, frontEnd, &window);
         pictures.Take(tip, u"tip"_s);
+        pictures.TakeSmallest(tip, u"tip"_s);
     }
     {
         frmAbout about(application, frontEnd, &window);
@@ -129,16 +159,49 @@ bool TakeAll(Application& application, const QString& folder, const QString& suf
         progress.Display(u"Retrieving MPEG/ID3 information (812/1250)..."_s, 1250, 812);
         pictures.Take(progress, u"progress"_s);
     }
-    pictures.TakeModal(u"message"_s);
-    frontEnd.ShowMessage("The output directory does not exist!\r\n\r\nDo you want to create it?",
-                         kYesNoExclamation, "Error!");
-    pictures.TakeModal(u"browse"_s);
-    dialogs.ChooseFolder(
-        &window, u"Select a Directory"_s,
-        u"Select the folder that you would like Tunedex to scan for MP3 files, and click OK."_s,
-        QDir::rootPath().toStdString());
+    TakeMessages(pictures, frontEnd, dialogs);
     window.hide();
-    return !pictures.Failed();
+}
+
+void TakeEveryPage(Pictures& pictures, frmEditLayout& editor, const QString& name) {
+    auto* tabs = editor.findChild<QTabWidget*>(u"TabStrip"_s);
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        pictures.Take(editor, u"%1-%2"_s.arg(name).arg(page + 1));
+    }
+}
+
+// The options, and every page of the layout editor.
+void TakeOptions(Pictures& pictures, Application& application) {
+    FillSample(application);
+    Dialogs dialogs;
+    WindowsFrontEnd frontEnd(application, dialogs);
+    {
+        frmOptions options(application, frontEnd);
+        pictures.Take(options, u"options"_s);
+        options.findChild<QAbstractButton*>(u"chkLinks"_s)->click();
+        pictures.TakeSmallest(options, u"options"_s);
+    }
+    frmEditLayout editor(application, frontEnd);
+    TakeEveryPage(pictures, editor, u"layout"_s);
+    editor.resize(editor.minimumSizeHint());
+    TakeEveryPage(pictures, editor, u"layout-smallest"_s);
+}
+
+// What each theme looks like, by the preview.
+void TakeThemes(Pictures& pictures, Application& application) {
+    Dialogs dialogs;
+    WindowsFrontEnd frontEnd(application, dialogs);
+    const QDir themes(QString::fromStdString(application.programFolder + "Themes"));
+    for (const QString& file : themes.entryList({u"*.thm"_s}, QDir::Files, QDir::Name)) {
+        FillSample(application);
+        application.settings.DoLinks = true;
+        LoadSettings(application.settings, themes.filePath(file).toStdString(), "", std::cerr);
+        frmEditLayout editor(application, frontEnd);
+        editor.show();
+        pictures.Take(*editor.findChild<QWidget*>(u"txtPreview"_s),
+                      u"theme-"_s + QFileInfo(file).completeBaseName());
+    }
 }
 
 } // namespace
@@ -147,21 +210,34 @@ int main(int argc, char** argv) {
     QApplication qtApplication(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 3) {
-        std::cerr << "usage: screenshots FOLDER TIPS-FILE\n";
+        std::cerr << "usage: screenshots FOLDER DATA\n";
         return 2;
     }
     const QTemporaryDir configuration; // pictures show windows as they are at first
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, configuration.path());
-    SystemClock clock;
-    SampleRegistry registry(arguments[2].toStdString());
-    Application application{clock, registry, std::cerr, Locale(), {}, {}, {}, "", "", false, "Error!", false};
+    const QTemporaryDir programFolder;
+    const std::filesystem::path data = arguments[2].toStdString();
+    std::filesystem::copy(data / "Themes", programFolder.filePath(u"Themes"_s).toStdString(),
+                          std::filesystem::copy_options::recursive);
+    SampleClock clock;
+    SampleRegistry registry(data / "tips.lst");
+    Application application{.clock = clock,
+                            .registry = registry,
+                            .faults = std::cerr,
+                            .locale = Locale(),
+                            .programFolder = programFolder.path().toStdString() + '/'};
 
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     InstallProgramIcon();
-    const QPalette light = QApplication::style()->standardPalette();
-    QApplication::setPalette(light);
-    const bool lightTaken = TakeAll(application, arguments[1], u"-light"_s);
-    QApplication::setPalette(DarkPalette());
-    const bool darkTaken = TakeAll(application, arguments[1], u"-dark"_s);
-    return lightTaken && darkTaken ? 0 : 1;
+    Pictures pictures(arguments[1]);
+    for (const bool dark : {false, true}) {
+        QApplication::setPalette(dark ? test::DarkPalette() : test::LightPalette());
+        pictures.SetSuffix(dark ? u"-dark"_s : u"-light"_s);
+        TakeMain(pictures, application);
+        TakeOptions(pictures, application);
+    }
+    // A page brings its own colours.
+    pictures.SetSuffix({});
+    TakeThemes(pictures, application);
+    return pictures.Failed() ? 1 : 0;
 }

@@ -14,6 +14,3 @@ foreach(SCALE 1.5 2)
     set_tests_properties(layout_test.LayoutAccessibilityTest.scale${SCALE} PROPERTIES
         TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${SCALE}")
 endforeach()
-
-add_executable(layout_screenshots EXCLUDE_FROM_ALL LayoutScreenshots.cpp)
-target_link_libraries(layout_screenshots PRIVATE tunedex_ui tunedex_test_support tunedex_flags Qt6::Test)
