@@ -41,7 +41,7 @@ std::shared_ptr<void> OpenLocale(int mask, const std::string& name) {
 // A locale's own text as UTF-8; unchanged where the system cannot convert it.
 std::string ToUtf8(std::string text, const std::string& charset) {
     const iconv_t converter = iconv_open("UTF-8", charset.c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1)) {
+    if (converter == reinterpret_cast<iconv_t>(-1)) { // NOLINT(performance-no-int-to-ptr): so POSIX says it
         return text;
     }
     std::string result(text.size() * 4 + 16, '\0');

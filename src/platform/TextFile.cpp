@@ -66,6 +66,16 @@ std::string NewAsideName() {
     return ".tunedex-" + std::to_string(getpid()) + "-" + std::to_string(++counter) + ".tmp";
 }
 
+// Another owner's file keeps its owner where the system lets us; its permissions it keeps in any case.
+void KeepOwnerAndPermissions(int descriptor, const struct stat& old) {
+    if (old.st_uid != geteuid() || old.st_gid != getegid()) {
+        (void)!fchown(descriptor, old.st_uid, old.st_gid);
+    }
+    if (Uninterrupted([&] { return fchmod(descriptor, old.st_mode & 07777U); }) != 0) {
+        Fail(errno);
+    }
+}
+
 } // namespace
 
 TextFile::TextFile(const std::string& path, TextEncoding encoding) : encoding_(encoding) {
@@ -122,14 +132,7 @@ void TextFile::OpenAside(const std::string& path) {
             Fail(errno);
         }
     } else if (exists) {
-        // Another owner's file keeps its owner where the system lets us; its permissions it keeps in any
-        // case.
-        if (old.st_uid != geteuid() || old.st_gid != getegid()) {
-            (void)!fchown(descriptor_, old.st_uid, old.st_gid);
-        }
-        if (Uninterrupted([&] { return fchmod(descriptor_, old.st_mode & 07777U); }) != 0) {
-            Fail(errno);
-        }
+        KeepOwnerAndPermissions(descriptor_, old);
     }
 }
 
