@@ -34,3 +34,13 @@ cleanup() {
     rm -rf "$work"
 }
 trap cleanup EXIT
+
+# Lays the sample collection into a new folder, for everyone to read, and counts its files in $tracks.
+lay_sample() { # folder MAKE-SAMPLE TAGGER SAMPLE_FOLDER
+    need lame python3
+    python3 -B "$2" "$4" --tagger "$3"
+    cp -r "$4" "$1" # the build folder may be closed to others
+    chmod -R a+rX "$1"
+    tracks=$(find "$1" -type f -iname '*.mp3' ! -name '.*' | wc -l)
+    [ "$tracks" -gt 50 ] || fail "the sample collection has only $tracks tracks"
+}
