@@ -46,7 +46,8 @@ void Check(ByteSource& source, const std::string& file, std::uint64_t position) 
 void RunMpegHeader(Bytes bytes) {
     Input input(bytes);
     const std::uint64_t position = 1U + input.Byte();
-    const std::size_t before = (input.Byte() * 256U + input.Byte()) * 2U;
+    const std::size_t high = input.Byte(); // on a line of its own: in one expression either could come first
+    const std::size_t before = (high * 256U + input.Byte()) * 2U;
     std::string file(before, '\0');
     file += input.Rest();
     MemoryByteSource source(BytesOf(file));

@@ -51,11 +51,11 @@ std::string FindProgramFolder(Registry& registry) {
     if (!installed.empty()) {
         return WithSeparator(installed, PathStyle::Native());
     }
-    const std::string own = RunningProgramFolder();
+    std::string own = RunningProgramFolder();
     if (FolderIsWritable(own)) {
         return own;
     }
-    const std::string folder = UserDataFolder();
+    std::string folder = UserDataFolder();
     const bool firstUse = !FolderExists(folder);
     CreateFolders(folder);
     FillProgramFolder(folder);
@@ -68,13 +68,13 @@ std::string FindProgramFolder(Registry& registry) {
 std::string FindHelpFile(const Registry& registry, const std::string& programFolder) {
     const PathStyle style = PathStyle::Native();
     const std::string own = RunningProgramFolder();
-    const std::string registered = registry.Read("HelpFilePath");
+    std::string registered = registry.Read("HelpFilePath");
     if (FileNameOf(registered, style) == kHelpFileName && FileExists(registered)) {
         return registered;
     }
     const std::string first = registered.empty() ? programFolder : own;
     for (const std::string& folder : {first, own, own + "../share/tunedex/"}) {
-        const std::string path = folder + std::string(kHelpFileName);
+        std::string path = folder + std::string(kHelpFileName);
         if (FileExists(path)) {
             return path;
         }
