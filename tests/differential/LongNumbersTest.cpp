@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace tunedex {
 namespace {
@@ -35,14 +36,17 @@ TEST(Numbers, AreReadAsTheCLibraryReadsThem) {
     }
 }
 
+// Numbers with so many zeros in a row, in front of the point and behind it.
+std::vector<std::string> NumbersWith(const std::string& zeros) {
+    return {"0." + zeros + "1", "1" + zeros, "-00" + zeros + "1." + zeros + "1", "0" + zeros};
+}
+
 TEST(Numbers, OfHundredsOfDigitsAreNeitherLostNorMistakenForLargeOnes) {
     for (const std::size_t zeros : {100U, 300U, 330U, 500U}) {
-        const std::string many(zeros, '0');
         for (const char* exponent :
              {"", "e5", "e-5", "e400", "e-400", "e-99999999999999999999", "e99999999999999999999"}) {
-            for (const std::string& digits :
-                 {"0." + many + "1", "1" + many, "-00" + many + "1." + many + "1", "0" + many}) {
-                Compare(std::string(digits).append(exponent));
+            for (const std::string& number : NumbersWith(std::string(zeros, '0'))) {
+                Compare(std::string(number).append(exponent));
             }
         }
     }

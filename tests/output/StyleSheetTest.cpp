@@ -22,18 +22,20 @@ std::string StyleBlock(const Settings& settings) {
 }
 
 TEST_F(StyleSheetTest, HoldsColoursAndFonts) {
-    EXPECT_EQ(
-        StyleBlock(settings),
-        Lines({"\t\t<style type=\"text/css\">", "\t\t<!--",
-               "\t\t\tbody {color: #000000; background-color: #FFFFFF; font-family: Times New Roman, serif; "
-               "font-size: small; font-weight: bold;}",
-               "\t\t\ttr {color: #000000; background-color: #CECECE;}",
-               "\t\t\ttr.r2 {color: #000000; background-color: #DEDEDE;}",
-               "\t\t\tth {color: #FFFF00; background-color: #000066; font-family: Tahoma, Arial, sans-serif; "
-               "font-size: x-small; font-weight: bold;}",
-               "\t\t\ttd {font-family: Tahoma, Arial, sans-serif; font-size: xx-small; font-weight: normal; "
-               "font-style: normal;}",
-               "\t\t\ta {color: #0000FF;}", "\t\t//-->", "\t\t</style>"}));
+    const std::string body =
+        "\t\t\tbody {color: #000000; background-color: #FFFFFF; font-family: Times New Roman, serif; "
+        "font-size: small; font-weight: bold;}";
+    const std::string headers =
+        "\t\t\tth {color: #FFFF00; background-color: #000066; font-family: Tahoma, Arial, sans-serif; "
+        "font-size: x-small; font-weight: bold;}";
+    const std::string cells =
+        "\t\t\ttd {font-family: Tahoma, Arial, sans-serif; font-size: xx-small; font-weight: normal; "
+        "font-style: normal;}";
+    EXPECT_EQ(StyleBlock(settings),
+              Lines({"\t\t<style type=\"text/css\">", "\t\t<!--", body,
+                     "\t\t\ttr {color: #000000; background-color: #CECECE;}",
+                     "\t\t\ttr.r2 {color: #000000; background-color: #DEDEDE;}", headers, cells,
+                     "\t\t\ta {color: #0000FF;}", "\t\t//-->", "\t\t</style>"}));
 }
 
 TEST_F(StyleSheetTest, KeepsEmptyRulesWithColoursOnly) {

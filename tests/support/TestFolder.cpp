@@ -33,7 +33,7 @@ TestFolder::~TestFolder() {
 }
 
 std::string TestFolder::Write(std::string_view name, std::string_view bytes) const {
-    const std::string path = *this / name;
+    std::string path = *this / name;
     fs::create_directories(fs::path(path).parent_path());
     std::ofstream file(path, std::ios::binary);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -45,7 +45,7 @@ std::string TestFolder::Write(std::string_view name, std::string_view bytes) con
 }
 
 std::string TestFolder::Make(std::string_view name) const {
-    const std::string path = *this / name;
+    std::string path = *this / name;
     fs::create_directories(path);
     return path;
 }

@@ -20,7 +20,7 @@ namespace {
 
 // A front end between a file to read answers from and a pipe, or a terminal, that it writes to.
 class TerminalFrontEndTest : public testing::Test {
-  protected:
+  public:
     ~TerminalFrontEndTest() override {
         for (const int descriptor : {input_, read_, write_}) {
             if (descriptor >= 0) {
@@ -29,6 +29,7 @@ class TerminalFrontEndTest : public testing::Test {
         }
     }
 
+  protected:
     void Input(const std::string& bytes) {
         input_ = open(folder_.Write("input", bytes).c_str(), O_RDONLY | O_CLOEXEC);
         ASSERT_GE(input_, 0);
