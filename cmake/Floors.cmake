@@ -28,9 +28,13 @@ if(TUNEDEX_SANITIZE)
 endif()
 if(TUNEDEX_TIDY)
     find_program(CLANG_TIDY_PROGRAM NAMES clang-tidy-14 clang-tidy REQUIRED)
-    set(CMAKE_CXX_CLANG_TIDY "${CLANG_TIDY_PROGRAM};--quiet")
-    # What Qt's tools write is theirs to mend; one check has to be named.
-    file(WRITE "${CMAKE_BINARY_DIR}/.clang-tidy" "Checks: '-*,misc-throw-by-value-catch-by-reference'\n")
+    set(CMAKE_CXX_CLANG_TIDY
+        "${CLANG_TIDY_PROGRAM};--quiet;--header-filter=^${CMAKE_SOURCE_DIR}/(src|data|tests|tools|bench|fuzz)/")
+    # Most of the time goes into the libraries' headers, so the sources of a target are looked at together, as one file that
+    # includes them. Such a file is not ours to mend.
+    set(CMAKE_UNITY_BUILD ON)
+    set(CMAKE_UNITY_BUILD_BATCH_SIZE 16)
+    file(WRITE "${CMAKE_BINARY_DIR}/.clang-tidy" "InheritParentConfig: true\nChecks: '-bugprone-suspicious-include'\n")
 endif()
 
 # tunedex_floor(NAME LINKS floors-below...): every .cpp in the current folder becomes the floor's library.

@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr const char* kValidationTitle = "Error";
+constexpr const char* kErrorTitle = "Error";
 
 struct Option {
     QString objectName;
@@ -273,7 +273,7 @@ bool frmOptions::Validate() {
     }
     const char* fault = txtFilesPerPage_->IsNumeric() ? "Files per page must be between -32768 and 32767."
                                                       : "Files per page must be a numeric value.";
-    ShowMessage(ui_, fault, kOkExclamation, kValidationTitle);
+    ShowMessage(ui_, fault, kOkExclamation, kErrorTitle);
     FocusAndSelectAll(*txtFilesPerPage_);
     return false;
 }
@@ -316,7 +316,7 @@ void frmOptions::Save() {
     try {
         SaveSettings(application_.settings, "", application_.programFolder, StampNow(application_));
     } catch (const RunTimeError& error) {
-        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kValidationTitle);
+        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
         return;
     }
     accept();

@@ -7,7 +7,7 @@ namespace {
 
 using M3uWriterTest = ListingTest;
 
-struct NameRow {
+struct PlaylistName {
     const char* name;
     const char* written;
 };
@@ -97,8 +97,8 @@ TEST_F(M3uWriterTest, HoldsOnlyItsFirstLineWithoutTracks) {
 }
 
 TEST_F(M3uWriterTest, AppendsItsExtensionWhereItIsMissing) {
-    for (const NameRow& row : {NameRow{"a.m3u", "a.m3u"}, NameRow{"a.M3U", "a.M3U"}, NameRow{"a", "a.m3u"},
-                               NameRow{"a.m3u8", "a.m3u8.m3u"}}) {
+    for (const PlaylistName& row : {PlaylistName{"a.m3u", "a.m3u"}, PlaylistName{"a.M3U", "a.M3U"},
+                                    PlaylistName{"a", "a.m3u"}, PlaylistName{"a.m3u8", "a.m3u8.m3u"}}) {
         settings.OutputFile = folder / row.name;
         EXPECT_FALSE(Write(kPlaylistOutput));
         EXPECT_TRUE(folder.Exists(row.written)) << row.name;

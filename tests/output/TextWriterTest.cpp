@@ -70,16 +70,16 @@ TEST_F(TextWriterTest, NamesAnUnknownColumnAndWritesNoFieldForIt) {
     EXPECT_EQ(Written("list.txt"), "Number\tFoo\tyear\r\n1\t1974\r\n");
 }
 
-struct NameRow {
+struct TextName {
     const char* name;
     const char* written;
 };
 
 TEST_F(TextWriterTest, AppendsItsExtensionWhereItIsMissing) {
-    const NameRow rows[] = {{"a.txt", "a.txt"}, {"a.TXT", "a.TXT"},       {"a.tXt", "a.tXt"},
-                            {"a", "a.txt"},     {"a.text", "a.text.txt"}, {"a.txt.htm", "a.txt.htm.txt"},
-                            {"txt", "txt.txt"}};
-    for (const NameRow& row : rows) {
+    const TextName rows[] = {{"a.txt", "a.txt"}, {"a.TXT", "a.TXT"},       {"a.tXt", "a.tXt"},
+                             {"a", "a.txt"},     {"a.text", "a.text.txt"}, {"a.txt.htm", "a.txt.htm.txt"},
+                             {"txt", "txt.txt"}};
+    for (const TextName& row : rows) {
         settings.OutputFile = folder / row.name;
         EXPECT_FALSE(Write(kTextOutput));
         EXPECT_TRUE(folder.Exists(row.written)) << row.name;

@@ -23,7 +23,7 @@ struct Result {
     TrackInfo track;
 };
 
-Result ReadTag(const std::string& bytes, bool moveTheArtists = false) {
+Result ReadV1Tag(const std::string& bytes, bool moveTheArtists = false) {
     FailingByteSource file(bytes);
     Result result;
     result.found = ReadId3v1(file, moveTheArtists, result.track);
@@ -31,7 +31,7 @@ Result ReadTag(const std::string& bytes, bool moveTheArtists = false) {
 }
 
 TrackInfo ReadFields(const Id3v1Fields& fields, bool moveTheArtists = false) {
-    const Result result = ReadTag("sound" + Id3v1Tag(fields), moveTheArtists);
+    const Result result = ReadV1Tag("sound" + Id3v1Tag(fields), moveTheArtists);
     EXPECT_TRUE(result.found);
     return result.track;
 }
@@ -163,7 +163,7 @@ TEST(ReadId3v1, LeavesTheTrackAsItIsWhereThereIsNoTag) {
         EXPECT_FALSE(ReadId3v1(file, true, track)) << bytes.size();
         EXPECT_EQ(track, before);
     }
-    EXPECT_TRUE(ReadTag(tag).found) << "a file may be nothing but its tag";
+    EXPECT_TRUE(ReadV1Tag(tag).found) << "a file may be nothing but its tag";
 }
 
 TEST(ReadId3v1, TakesAFailedReadForNoTag) {

@@ -35,7 +35,7 @@ TrackInfo Before() {
     return track;
 }
 
-TrackInfo ReadTag(const std::string& bytes, bool moveTheArtists = false) {
+TrackInfo ReadV2Tag(const std::string& bytes, bool moveTheArtists = false) {
     FailingByteSource file(bytes);
     const Id3v2Location location = DetectId3v2(file);
     EXPECT_TRUE(location.present);
@@ -86,16 +86,16 @@ TEST(DetectId3v2, FindsNoTagWhereThereIsNoneOrItCannotBeRead) {
 }
 
 TEST(ReadId3v2, TakesTheFiveFramesAndSkipsTheOthers) {
-    const TrackInfo track = ReadTag(Id3v2Tag({{"TXXX", Latin1("skipped")},
-                                              {"TIT2", Latin1("Song")},
-                                              {"TIT1", Latin1("skipped")},
-                                              {"TPE1", Latin1("Artist")},
-                                              {"TPE2", Latin1("skipped")},
-                                              {"TALB", Latin1("Album")},
-                                              {"TYER", Latin1("2001")},
-                                              {"TDRC", Latin1("skipped")},
-                                              {"tit2", Latin1("skipped")},
-                                              {"TCON", Latin1("Genre")}}));
+    const TrackInfo track = ReadV2Tag(Id3v2Tag({{"TXXX", Latin1("skipped")},
+                                                {"TIT2", Latin1("Song")},
+                                                {"TIT1", Latin1("skipped")},
+                                                {"TPE1", Latin1("Artist")},
+                                                {"TPE2", Latin1("skipped")},
+                                                {"TALB", Latin1("Album")},
+                                                {"TYER", Latin1("2001")},
+                                                {"TDRC", Latin1("skipped")},
+                                                {"tit2", Latin1("skipped")},
+                                                {"TCON", Latin1("Genre")}}));
     EXPECT_EQ(track.Title, "Song");
     EXPECT_EQ(track.Artist, "Artist");
     EXPECT_EQ(track.Album, "Album");
@@ -104,13 +104,13 @@ TEST(ReadId3v2, TakesTheFiveFramesAndSkipsTheOthers) {
 }
 
 TEST(ReadId3v2, LetsTheLastOfTwoEqualFramesWin) {
-    EXPECT_EQ(ReadTag(Id3v2Tag({{"TIT2", Latin1("one")}, {"TIT2", Latin1("two")}})).Title, "two");
+    EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TIT2", Latin1("one")}, {"TIT2", Latin1("two")}})).Title, "two");
 }
 
 TEST(ReadId3v2, LeavesFieldsWithoutAFrameAsTheyWere) {
     TrackInfo expected = Before();
     expected.Album = "Album";
-    EXPECT_EQ(ReadTag(Id3v2Tag({{"TALB", Latin1("Album")}})), expected);
+    EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TALB", Latin1("Album")}})), expected);
 }
 
 struct ContentRow {
@@ -133,11 +133,11 @@ TEST(ReadId3v2, DropsEveryNulAndDecodesNoEncoding) {
         {"\0line\r\nline\ttab"s, "line\r\nline\ttab"},
     };
     for (const ContentRow& row : rows) {
-        const TrackInfo track = ReadTag(Id3v2Tag({{"TIT2", row.content},
-                                                  {"TPE1", row.content},
-                                                  {"TALB", row.content},
-                                                  {"TYER", row.content},
-                                                  {"TCON", row.content}}));
+        const TrackInfo track = ReadV2Tag(Id3v2Tag({{"TIT2", row.content},
+                                                    {"TPE1", row.content},
+                                                    {"TALB", row.content},
+                                                    {"TYER", row.content},
+                                                    {"TCON", row.content}}));
         EXPECT_EQ(track.Title, row.text);
         EXPECT_EQ(track.Artist, row.text);
         EXPECT_EQ(track.Album, row.text);
@@ -148,7 +148,7 @@ TEST(ReadId3v2, DropsEveryNulAndDecodesNoEncoding) {
 
 TEST(ReadId3v2, NamesAnEmptyArtistAndTitleAndEmptiesTheRest) {
     for (const std::string& empty : {""s, "\0"s, "\0\0\0"s}) {
-        const TrackInfo track = ReadTag(
+        const TrackInfo track = ReadV2Tag(
             Id3v2Tag({{"TIT2", empty}, {"TPE1", empty}, {"TALB", empty}, {"TYER", empty}, {"TCON", empty}}));
         EXPECT_EQ(track.Title, "Unknown Title");
         EXPECT_EQ(track.Artist, "Unknown Artist");
@@ -156,15 +156,15 @@ TEST(ReadId3v2, NamesAnEmptyArtistAndTitleAndEmptiesTheRest) {
         EXPECT_EQ(track.Year, "");
         EXPECT_EQ(track.Genre, "");
     }
-    EXPECT_EQ(ReadTag(Id3v2Tag({{"TIT2", "\0 "s}})).Title, " ") << "blanks are not trimmed here";
+    EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TIT2", "\0 "s}})).Title, " ") << "blanks are not trimmed here";
 }
 
 TEST(ReadId3v2, MovesALeadingTheOnlyWhenAsked) {
     const std::string tag = Id3v2Tag({{"TPE1", Latin1("the Who")}, {"TIT2", Latin1("The Seeker")}});
-    EXPECT_EQ(ReadTag(tag, true).Artist, "Who, The");
-    EXPECT_EQ(ReadTag(tag, true).Title, "The Seeker");
-    EXPECT_EQ(ReadTag(tag, false).Artist, "the Who");
-    EXPECT_EQ(ReadTag(Id3v2Tag({{"TPE1", Latin1("Theatre")}}), true).Artist, "Theatre");
+    EXPECT_EQ(ReadV2Tag(tag, true).Artist, "Who, The");
+    EXPECT_EQ(ReadV2Tag(tag, true).Title, "The Seeker");
+    EXPECT_EQ(ReadV2Tag(tag, false).Artist, "the Who");
+    EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TPE1", Latin1("Theatre")}}), true).Artist, "Theatre");
 }
 
 TEST(ReadId3v2, StopsAtPadding) {
@@ -172,7 +172,7 @@ TEST(ReadId3v2, StopsAtPadding) {
     for (const std::string& id : {"\0\0\0\0"s, "TIT\0"s, "T\0T2"s, "\0IT2"s}) {
         std::string body = Frame({"TALB", Latin1("Album")});
         body.append(id).append(6, '\0').append(late);
-        const TrackInfo track = ReadTag(Id3v2Header(static_cast<std::uint32_t>(body.size())) + body);
+        const TrackInfo track = ReadV2Tag(Id3v2Header(static_cast<std::uint32_t>(body.size())) + body);
         EXPECT_EQ(track.Album, "Album");
         EXPECT_EQ(track.Title, "old title");
     }
@@ -184,11 +184,11 @@ TEST(ReadId3v2, GoesOnWhileThePositionIsBelowTheTagsEnd) {
     const auto end = static_cast<std::uint32_t>(first.size());
     // The tag's end as the search takes it is its last byte: a tag one byte longer than its first frame ends
     // there.
-    EXPECT_EQ(ReadTag(Id3v2Header(end) + first + second).Title, "old title");
-    EXPECT_EQ(ReadTag(Id3v2Header(end + 1) + first + second).Title, "old title");
-    EXPECT_EQ(ReadTag(Id3v2Header(end + 2) + first + second).Title, "Song");
-    EXPECT_EQ(ReadTag(Id3v2Header(0) + first + second).Album, "Album") << "an empty tag gets one look";
-    EXPECT_EQ(ReadTag(Id3v2Header(0) + first + second).Title, "old title");
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(end) + first + second).Title, "old title");
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(end + 1) + first + second).Title, "old title");
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(end + 2) + first + second).Title, "Song");
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(0) + first + second).Album, "Album") << "an empty tag gets one look";
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(0) + first + second).Title, "old title");
 }
 
 TEST(ReadId3v2, EndsSilentlyAtAFrameThatIsLongerThanTheFile) {
@@ -196,12 +196,12 @@ TEST(ReadId3v2, EndsSilentlyAtAFrameThatIsLongerThanTheFile) {
     const std::string title = Frame({"TIT2", Latin1("Song")});
     for (std::size_t cut = 1; cut <= title.size(); ++cut) {
         const std::string body = album + title.substr(0, title.size() - cut);
-        const TrackInfo track = ReadTag(Id3v2Header(500) + body);
+        const TrackInfo track = ReadV2Tag(Id3v2Header(500) + body);
         EXPECT_EQ(track.Album, "Album");
         EXPECT_EQ(track.Title, "old title") << cut;
     }
     // A skipped frame that claims too much ends the walk as well.
-    const TrackInfo track = ReadTag(Id3v2Header(500) + album + "PRIV\x00\x00\x10\x00\x00\x00"s + title);
+    const TrackInfo track = ReadV2Tag(Id3v2Header(500) + album + "PRIV\x00\x00\x10\x00\x00\x00"s + title);
     EXPECT_EQ(track.Album, "Album");
     EXPECT_EQ(track.Title, "old title");
 }
@@ -210,23 +210,24 @@ TEST(ReadId3v2, ReadsFrameSizesAsPlainNumbersWithoutTheirHighestBit) {
     const std::string text(300, 'x');
     const std::string tag =
         Id3v2Header(1000) + "TIT2\x00\x00\x01\x2C\x00\x00"s + text + Frame({"TALB", Latin1("A")});
-    EXPECT_EQ(ReadTag(tag).Title, text);
-    EXPECT_EQ(ReadTag(tag).Album, "A");
+    EXPECT_EQ(ReadV2Tag(tag).Title, text);
+    EXPECT_EQ(ReadV2Tag(tag).Album, "A");
     const std::string high =
         Id3v2Header(1000) + "TIT2\x80\x00\x00\x04\xFF\xFF"s + "Song"s + Frame({"TALB", Latin1("A")});
-    EXPECT_EQ(ReadTag(high).Title, "Song");
-    EXPECT_EQ(ReadTag(high).Album, "A");
+    EXPECT_EQ(ReadV2Tag(high).Title, "Song");
+    EXPECT_EQ(ReadV2Tag(high).Album, "A");
 }
 
 TEST(ReadId3v2, ReadsAFrameThatReachesBehindTheTag) {
-    EXPECT_EQ(ReadTag(Id3v2Header(12) + Frame({"TIT2", Latin1("longer than declared")})).Title,
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(12) + Frame({"TIT2", Latin1("longer than declared")})).Title,
               "longer than declared");
 }
 
 TEST(ReadId3v2, FindsNothingInAVersionTwoTag) {
     const std::string frames = "TT2\x00\x00\x05\x00Song"s + "TP1\x00\x00\x07\x00Artist"s;
-    EXPECT_EQ(ReadTag("ID3\x02\x00\x00"s + std::string(3, '\0') + static_cast<char>(frames.size()) + frames),
-              Before());
+    EXPECT_EQ(
+        ReadV2Tag("ID3\x02\x00\x00"s + std::string(3, '\0') + static_cast<char>(frames.size()) + frames),
+        Before());
 }
 
 TEST(ReadId3v2, KeepsTheFieldsTakenBeforeAReadFailed) {
