@@ -16,7 +16,7 @@ const char* const kVariables[] = {"LC_ALL", "LC_TIME", "LC_NUMERIC", "LANG"};
 
 // The environment of one test; the old one is back afterwards.
 class LocaleTest : public testing::Test {
-  protected:
+  public:
     LocaleTest() {
         for (const char* variable : kVariables) {
             const char* value = std::getenv(variable);
@@ -35,6 +35,7 @@ class LocaleTest : public testing::Test {
         }
     }
 
+  protected:
     static Locale With(const std::map<std::string, std::string>& variables) {
         for (const char* variable : kVariables) {
             unsetenv(variable);

@@ -17,9 +17,9 @@ using test::TestFolder;
 class TrackQueueTest : public testing::TestWithParam<unsigned> {
   protected:
     TrackQueueTest() {
-        for (int i = 0; i < 100; ++i) {
+        for (std::size_t i = 0; i < 100; ++i) {
             names_.push_back(std::to_string(i) + ".mp3");
-            files_.Write(names_.back(), test::Audio(417U * static_cast<unsigned>(i % 7 + 1)));
+            files_.Write(names_.back(), test::Audio(417 * (i % 7 + 1)));
         }
         folder_ = std::make_shared<OpenFolder>(files_.Path(), "");
     }
