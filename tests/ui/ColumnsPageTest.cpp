@@ -37,7 +37,7 @@ class ColumnsPageTest : public QObject {
 
 namespace {
 
-const TestClass<ColumnsPageTest> kRegistered("ColumnsPageTest");
+const TestClass<ColumnsPageTest> kColumnsPageTestRegistered("ColumnsPageTest");
 
 // An editor with these columns.
 class Columns : public LayoutFixture {

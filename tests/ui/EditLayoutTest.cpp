@@ -34,7 +34,7 @@ class EditLayoutTest : public QObject {
 };
 
 namespace {
-const TestClass<EditLayoutTest> kRegistered("EditLayoutTest");
+const TestClass<EditLayoutTest> kEditLayoutTestRegistered("EditLayoutTest");
 
 // Settings unlike the defaults in everything that the editor shows.
 Settings OtherSettings() {

@@ -32,7 +32,7 @@ class LayoutAccessibilityTest : public QObject {
 
 namespace {
 
-const TestClass<LayoutAccessibilityTest> kRegistered("LayoutAccessibilityTest");
+const TestClass<LayoutAccessibilityTest> kLayoutAccessibilityTestRegistered("LayoutAccessibilityTest");
 
 bool IsControl(const QWidget& widget) {
     return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||

@@ -44,7 +44,7 @@ class OptionsTest : public QObject {
 };
 
 namespace {
-const TestClass<OptionsTest> kRegistered("OptionsTest");
+const TestClass<OptionsTest> kOptionsTestRegistered("OptionsTest");
 }
 
 void OptionsTest::OpeningShowsEverySetting() {

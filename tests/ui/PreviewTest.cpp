@@ -44,7 +44,7 @@ class PreviewTest : public QObject {
 
 namespace {
 
-const TestClass<PreviewTest> kRegistered("PreviewTest");
+const TestClass<PreviewTest> kPreviewTestRegistered("PreviewTest");
 
 class Preview : public LayoutFixture {
   public:

@@ -17,7 +17,7 @@ class SettingsRoundTripTest : public QObject {
 
 namespace {
 
-const TestClass<SettingsRoundTripTest> kRegistered("SettingsRoundTripTest");
+const TestClass<SettingsRoundTripTest> kSettingsRoundTripTestRegistered("SettingsRoundTripTest");
 
 constexpr unsigned kSeeds = 120;
 

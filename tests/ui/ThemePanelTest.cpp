@@ -45,7 +45,7 @@ class ThemePanelTest : public QObject {
 
 namespace {
 
-const TestClass<ThemePanelTest> kRegistered("ThemePanelTest");
+const TestClass<ThemePanelTest> kThemePanelTestRegistered("ThemePanelTest");
 
 constexpr const char* kBlue = "Font(0)=Blue Face%|%5%|%0%|%1\r\n"
                               "Colour(1)=0000AA\r\n"
@@ -64,7 +64,7 @@ class Panel : public LayoutFixture {
     }
 
     // The answer to the question for a name; no value cancels.
-    void AnswerName(std::optional<QString> name) {
+    void AnswerName(const std::optional<QString>& name) {
         choosers.text = [this, name](QWidget*, const QString& title, const QString& prompt) {
             questions << title + u": "_s + prompt;
             return name;
