@@ -18,6 +18,10 @@ import sys
 import tempfile
 import zlib
 
+sys.dont_write_bytecode = True  # the sources are no place for it
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+import surroundings  # noqa: E402
+
 ERRORS = ["ENOENT", "EACCES", "EIO", "ENOSPC", "EMFILE", "EINTR", "short"]
 KINDS = ["open", "opendir", "read", "write", "close", "readdir", "mkdir", "unlink", "rename", "stat", "other"]
 TIMEOUT = 60
@@ -108,11 +112,11 @@ def run(program, interposer, scenario, kind="", n=0, error="", kill=False, stays
         # One length of path for all runs: texts differ by nothing but what went wrong.
         root = pathlib.Path(folder)
         scenario.make(root)
-        environment = {
+        environment = surroundings.kept() | {
             "PATH": os.environ.get("PATH", ""), "HOME": str(root / "home"), "LC_ALL": "C",
             "XDG_CONFIG_HOME": str(root / "config"), "XDG_CONFIG_DIRS": str(root / "nowhere"),
             "XDG_DATA_HOME": str(root / "watched" / "data"),
-            "LD_PRELOAD": os.environ.get("TUNEDEX_FAULT_PRELOAD", "") + " " + str(interposer),
+            "LD_PRELOAD": surroundings.preload(program, interposer),
             "TUNEDEX_FAULT_PREFIX": str(root / "watched"),
             "TUNEDEX_FAULT_CALL": kind, "TUNEDEX_FAULT_N": str(n),
             "TUNEDEX_FAULT_ERROR": "short" if error == "short" else str(getattr(errno, error, 0)),
@@ -123,9 +127,6 @@ def run(program, interposer, scenario, kind="", n=0, error="", kill=False, stays
         if WINDOWS:
             environment |= {"QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": str(root),
                             "TUNEDEX_ANSWER": "yes" if scenario.answer else ""}
-        for name in os.environ:
-            if name.endswith("SAN_OPTIONS") or name == "LLVM_PROFILE_FILE":
-                environment[name] = os.environ[name]
         try:
             done = subprocess.run([program, "/AUTO"], env=environment, input=scenario.answer, capture_output=True,
                                   timeout=TIMEOUT, cwd=root, check=False)

@@ -17,6 +17,10 @@ import sys
 import tempfile
 import time
 
+sys.dont_write_bytecode = True  # the sources are no place for it
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+import surroundings  # noqa: E402
+
 SKIPPED = 77
 AUDIO = b"\xff\xfb\x90\x64" + b"\0" * 413
 OLD = b"the old listing\r\n"
@@ -93,14 +97,15 @@ class Box:
         (self.program / "Tunedex.cfg").write_bytes(
             b"".join(os.fsencode(f"{key}={value}\r\n") for key, value in values.items()))
 
-    def environment(self, **more):
-        kept = {name: value for name, value in os.environ.items() if name == "LLVM_PROFILE_FILE"}
-        return kept | {"PATH": os.environ["PATH"], "HOME": str(self.root), "LC_ALL": "C",
-                       "XDG_CONFIG_HOME": str(self.root / "config"), "XDG_CONFIG_DIRS": "/nonexistent"} | more
+    def environment(self, ordinary=False, **more):
+        return surroundings.kept(ordinary) | {
+            "PATH": os.environ["PATH"], "HOME": str(self.root), "LC_ALL": "C",
+            "XDG_CONFIG_HOME": str(self.root / "config"), "XDG_CONFIG_DIRS": "/nonexistent"} | more
 
     def start(self, user=None, **more):
         # The program's one-second pause is left out.
-        env = self.environment(LD_PRELOAD=INTERPOSER, TUNEDEX_FAULT_PREFIX=str(self.root), **more)
+        env = self.environment(user is not None, LD_PRELOAD=surroundings.preload(PROGRAM, INTERPOSER),
+                               TUNEDEX_FAULT_PREFIX=str(self.root), **more)
         return subprocess.Popen([PROGRAM, "/AUTO"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.PIPE, env=env, user=user, group=user and 65534,
                                 extra_groups=user and [])

@@ -15,6 +15,7 @@ import concurrent.futures
 import datetime
 import locale
 import os
+import pathlib
 import re
 import shutil
 import subprocess
@@ -22,7 +23,9 @@ import sys
 import tempfile
 
 sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 
+import surroundings  # noqa: E402
 from generator import Case  # noqa: E402
 from model import Model, Region, to_disk  # noqa: E402
 
@@ -190,13 +193,11 @@ def compare_case(seed, program, no_sleep, scratch, keep):
     remove(root)
     os.makedirs(root)
     case = Case(seed, root)
-    environment = {"PATH": os.environ["PATH"], "HOME": root, "XDG_CONFIG_HOME": case.config_folder}
+    environment = surroundings.kept()
+    environment |= {"PATH": os.environ["PATH"], "HOME": root, "XDG_CONFIG_HOME": case.config_folder}
     environment.update(case.locale)
-    for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
-        if name in os.environ:
-            environment[name] = os.environ[name]
     if no_sleep:
-        environment["LD_PRELOAD"] = no_sleep
+        environment["LD_PRELOAD"] = surroundings.preload(program, no_sleep)
     before = snapshot(root)
     now = region(case.locale)
     expected = model_outcome(case, before, now)

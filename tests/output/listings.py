@@ -4,6 +4,10 @@ import os
 import pathlib
 import shutil
 import subprocess
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+import surroundings  # noqa: E402
 
 # Every setting: what a settings file leaves out is off.
 DEFAULTS = {
@@ -65,8 +69,8 @@ class Program:
         for file in pathlib.Path(data).glob("*.lst"):
             shutil.copy(file, self.folder)
         (registry / "Tunedex.conf").write_text(f'[General]\nInstallationPath="{self.folder}"\n')
-        self.environment = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8",
-                            "XDG_CONFIG_HOME": str(self.work / "registry")}
+        self.environment = surroundings.kept() | {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8",
+                                                  "XDG_CONFIG_HOME": str(self.work / "registry")}
 
     def list(self, folders, output="list.htm", **changes):
         """Lists the folders and returns the pages, in order. A setting with an index is given as Font0, Colour9."""

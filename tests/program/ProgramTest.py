@@ -18,6 +18,9 @@ import sys
 import tempfile
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+import surroundings  # noqa: E402
+
 PROGRAM = None
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
 NOBODY = 65534
@@ -83,14 +86,10 @@ class ProgramTest(unittest.TestCase):
         lines = "".join(f"{key}={value}\r\n" for key, value in self.settings.items())
         ((folder or self.installation) / "Tunedex.cfg").write_bytes(lines.encode("utf-8", "surrogateescape"))
 
-    def environment(self, variables):
+    def environment(self, ordinary=False, **variables):
         environment = {"PATH": os.environ["PATH"], "HOME": str(self.folder / "home"),
                        "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_CONFIG_DIRS": str(self.folder / "etc")}
-        # Sanitizers read their options here.
-        environment.update({key: os.environ[key] for key in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS",
-                                                             "LD_LIBRARY_PATH") if key in os.environ})
-        environment.update(variables)
-        return environment
+        return environment | surroundings.kept(ordinary) | variables
 
     def run_program(self, *arguments, answers=b"", program=None, ordinary=False, settings=True, **variables):
         if settings:
@@ -102,7 +101,7 @@ class ProgramTest(unittest.TestCase):
             options = {"user": NOBODY, "group": NOBODY, "extra_groups": []}
         return subprocess.run([program or self.program(), *(arguments or ["/AUTO"])], input=answers,
                               capture_output=True, timeout=240, check=False, cwd=self.folder,
-                              env=self.environment(variables), **options)
+                              env=self.environment(bool(options), **variables), **options)
 
     def program(self):
         """The program, where an ordinary user can start it."""
@@ -230,7 +229,7 @@ class ProgramTest(unittest.TestCase):
         self.settings["Directory"] = self.folder / "none"
         self.write_settings()
         result = subprocess.run(["sh", "-c", 'exec "$0" /AUTO <&-', str(self.program())], capture_output=True,
-                                timeout=240, check=False, env=self.environment({}))
+                                timeout=240, check=False, env=self.environment())
         self.expect(result, 1, b"The specified directory does not exist!\n[OK] \n")
 
     def test_says_what_is_wrong_and_exits_with_one(self):
@@ -277,7 +276,7 @@ class ProgramTest(unittest.TestCase):
         self.list.write_bytes(b"old")
         self.write_settings()
         with subprocess.Popen([self.program(), "/AUTO"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                              stderr=subprocess.PIPE, env=self.environment({}), cwd=self.folder) as process:
+                              stderr=subprocess.PIPE, env=self.environment(), cwd=self.folder) as process:
             said = b""
             while not said.endswith(b"[OK] "):  # it waits for an answer now
                 byte = process.stderr.read(1)

@@ -1,12 +1,23 @@
 #include "OrdinaryUser.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+// There only where coverage is measured.
+extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier): the compiler's own names
+[[gnu::weak]] int __llvm_profile_write_file();
+[[gnu::weak]] void __llvm_profile_set_filename(const char* pattern);
+// NOLINTEND(bugprone-reserved-identifier)
+}
 
 namespace tunedex::test {
 
@@ -22,13 +33,32 @@ void GiveAway(const std::string& path) {
     }
 }
 
+// A program that ends by _exit writes no coverage by itself; and a child that has become another user may not
+// write to the file of its parent. What a check allowed itself of files may be too little for this one.
+void WriteCoverage(const rlimit& descriptors, const rlimit& length) {
+    const char* const pattern = std::getenv("LLVM_PROFILE_FILE");
+    if (&__llvm_profile_write_file == nullptr || pattern == nullptr) {
+        return;
+    }
+    setrlimit(RLIMIT_NOFILE, &descriptors);
+    setrlimit(RLIMIT_FSIZE, &length);
+    const std::string own = std::string(pattern) + "-" + std::to_string(getpid());
+    __llvm_profile_set_filename(own.c_str());
+    (void)__llvm_profile_write_file();
+}
+
 [[noreturn]] void RunAndExit(const std::function<void()>& check) {
+    rlimit descriptors{};
+    rlimit length{};
+    getrlimit(RLIMIT_NOFILE, &descriptors);
+    getrlimit(RLIMIT_FSIZE, &length);
     try {
         check();
     } catch (const std::exception& error) {
         ADD_FAILURE() << "raised: " << error.what();
     }
     std::fflush(nullptr);
+    WriteCoverage(descriptors, length);
     _exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
