@@ -25,6 +25,9 @@ if(TUNEDEX_SANITIZE)
     target_compile_options(tunedex_flags INTERFACE -fsanitize=${TUNEDEX_SANITIZE} -fno-omit-frame-pointer
                                                    -fno-sanitize-recover=all)
     target_link_options(tunedex_flags INTERFACE -fsanitize=${TUNEDEX_SANITIZE})
+    # Nothing of ours calls what is in it: whole, or the linker leaves it out.
+    add_library(tunedex_sanitizers STATIC "${CMAKE_CURRENT_LIST_DIR}/Sanitizers.cpp")
+    target_link_libraries(tunedex_flags INTERFACE $<LINK_LIBRARY:WHOLE_ARCHIVE,tunedex_sanitizers>)
 endif()
 if(TUNEDEX_TIDY)
     find_program(CLANG_TIDY_PROGRAM NAMES clang-tidy-14 clang-tidy REQUIRED)
