@@ -22,28 +22,29 @@ using TextMember = std::string Settings::*;
 using FlagMember = bool Settings::*;
 using NumberMember = std::int16_t Settings::*;
 
-// The settings that are one key and one plain value, in the order in which a file holds them. A row without a
-// member stands for settings that need code of their own, or begins a group with its comment.
-enum class Special { None, Fonts, Colours, TableWidth, Group };
+// Rows that are no plain value: the comment that begins a group, and settings of a form of their own.
+struct Group {};
+struct Fonts {};
+struct Colours {};
+struct TableWidth {};
 
+// The settings in the order in which a file holds them.
 struct Row {
     std::string_view key;
-    std::variant<std::monostate, TextMember, FlagMember, NumberMember> member;
-    Special special = Special::None;
+    std::variant<Group, Fonts, Colours, TableWidth, TextMember, FlagMember, NumberMember> value;
 };
 
-constexpr Row Group(std::string_view comment) {
-    return {comment, {}, Special::Group};
-}
+template <typename... Functions> struct Overloaded : Functions... { using Functions::operator()...; };
+template <typename... Functions> Overloaded(Functions...) -> Overloaded<Functions...>;
 
 constexpr std::array kRows = {
-    Group("# MAIN SETTINGS"),
+    Row{"# MAIN SETTINGS", Group{}},
     Row{"Directory", &Settings::Directory},
     Row{"OutputFile", &Settings::OutputFile},
     Row{"WindowTitle", &Settings::WindowTitle},
     Row{"PageTitle", &Settings::PageTitle},
     Row{"PageFooter", &Settings::PageFooter},
-    Group("# GENERAL SETTINGS"),
+    Row{"# GENERAL SETTINGS", Group{}},
     Row{"Recurse", &Settings::Recurse},
     Row{"Spanning", &Settings::Spanning},
     Row{"SizeType", &Settings::SizeType},
@@ -52,26 +53,26 @@ constexpr std::array kRows = {
     Row{"ErrorLog", &Settings::ErrorLog},
     Row{"ConfirmQuit", &Settings::ConfirmQuit},
     Row{"DocumentType", &Settings::DocumentType},
-    Group("# LINK SETTINGS"),
+    Row{"# LINK SETTINGS", Group{}},
     Row{"DoLinks", &Settings::DoLinks},
     Row{"LinkType", &Settings::LinkType},
     Row{"LinkPrefix", &Settings::LinkPrefix},
-    Group("# HTML LAYOUT - COLUMN SETTINGS"),
+    Row{"# HTML LAYOUT - COLUMN SETTINGS", Group{}},
     Row{"ActiveColumns", &Settings::ActiveColumns},
     Row{"InactiveColumns", &Settings::InactiveColumns},
     Row{"Merge", &Settings::Merge},
     Row{"MoveTheArtists", &Settings::MoveTheArtists},
-    Group("# HTML LAYOUT - FONT SETTINGS"),
-    Row{"Font", {}, Special::Fonts},
+    Row{"# HTML LAYOUT - FONT SETTINGS", Group{}},
+    Row{"Font", Fonts{}},
     Row{"FontCSS", &Settings::FontCSS},
     Row{"FontHTML", &Settings::FontHTML},
-    Group("# HTML LAYOUT - COLOUR SETTINGS"),
-    Row{"Colour", {}, Special::Colours},
+    Row{"# HTML LAYOUT - COLOUR SETTINGS", Group{}},
+    Row{"Colour", Colours{}},
     Row{"AltRows", &Settings::AltRows},
     Row{"ColourCSS", &Settings::ColourCSS},
     Row{"ColourHTML", &Settings::ColourHTML},
-    Group("# HTML LAYOUT - TABLE SETTINGS"),
-    Row{"TableWidth", {}, Special::TableWidth},
+    Row{"# HTML LAYOUT - TABLE SETTINGS", Group{}},
+    Row{"TableWidth", TableWidth{}},
     Row{"TablePadding", &Settings::TablePadding},
     Row{"TableBorder", &Settings::TableBorder},
 };
@@ -80,9 +81,7 @@ constexpr std::array kRows = {
 constexpr Row kTableSpacingRow{"TableSpacing", &Settings::TableSpacing};
 
 const Row* FindRow(std::string_view upperCaseKey) {
-    const auto matches = [&](const Row& row) {
-        return row.special != Special::Group && UpperCase(row.key) == upperCaseKey;
-    };
+    const auto matches = [&](const Row& row) { return UpperCase(row.key) == upperCaseKey; };
     if (matches(kTableSpacingRow)) {
         return &kTableSpacingRow;
     }
@@ -138,35 +137,33 @@ void ApplyLine(Settings& settings, std::string_view line) {
 
 void WriteRow(TextFile& file, const Settings& settings, const Row& row) {
     const std::string key(row.key);
-    switch (row.special) {
-    case Special::Group:
-        file.WriteLine("");
-        file.WriteLine(key);
-        return;
-    case Special::Fonts:
-        for (std::size_t i = 0; i < settings.Font.size(); ++i) {
-            file.WriteLine(key + "(" + std::to_string(i) + ")=" + FontText(settings.Font.at(i)));
-        }
-        return;
-    case Special::Colours:
-        for (std::size_t i = 0; i < settings.Colour.size(); ++i) {
-            file.WriteLine(key + "(" + std::to_string(i) + ")=" + settings.Colour.at(i));
-        }
-        return;
-    case Special::TableWidth:
-        file.WriteLine(key + "=" +
-                       TableWidthText(settings.TableWidthUnit, std::to_string(settings.TableWidth)));
-        return;
-    case Special::None:
-        break;
-    }
-    if (const auto* text = std::get_if<TextMember>(&row.member)) {
-        file.WriteLine(key + "=" + settings.*(*text));
-    } else if (const auto* flag = std::get_if<FlagMember>(&row.member)) {
-        file.WriteLine(key + "=" + FlagText(settings.*(*flag)));
-    } else if (const auto* number = std::get_if<NumberMember>(&row.member)) {
-        file.WriteLine(key + "=" + std::to_string(settings.*(*number)));
-    }
+    const auto write = [&](const std::string& value) { file.WriteLine(key + "=" + value); };
+    const auto writeAt = [&](std::size_t index, const std::string& value) {
+        file.WriteLine(key + "(" + std::to_string(index) + ")=" + value);
+    };
+    std::visit(Overloaded{
+                   [&](Group) {
+                       file.WriteLine("");
+                       file.WriteLine(key);
+                   },
+                   [&](Fonts) {
+                       for (std::size_t i = 0; i < settings.Font.size(); ++i) {
+                           writeAt(i, FontText(settings.Font.at(i)));
+                       }
+                   },
+                   [&](Colours) {
+                       for (std::size_t i = 0; i < settings.Colour.size(); ++i) {
+                           writeAt(i, settings.Colour.at(i));
+                       }
+                   },
+                   [&](TableWidth) {
+                       write(TableWidthText(settings.TableWidthUnit, std::to_string(settings.TableWidth)));
+                   },
+                   [&](TextMember text) { write(settings.*text); },
+                   [&](FlagMember flag) { write(FlagText(settings.*flag)); },
+                   [&](NumberMember number) { write(std::to_string(settings.*number)); },
+               },
+               row.value);
 }
 
 } // namespace
@@ -190,27 +187,16 @@ void ParseSetting(Settings& settings, std::string_view key, std::string_view val
     if (row == nullptr) {
         return;
     }
-    switch (row->special) {
-    case Special::Fonts:
-        settings.Font.at(CheckedIndex(index, kFontCount)) = ParseFont(value);
-        return;
-    case Special::Colours:
-        settings.Colour.at(CheckedIndex(index, kColourCount)) = value;
-        return;
-    case Special::TableWidth:
-        ParseTableWidth(settings, value);
-        return;
-    case Special::Group:
-    case Special::None:
-        break;
-    }
-    if (const auto* text = std::get_if<TextMember>(&row->member)) {
-        settings.*(*text) = value;
-    } else if (const auto* flag = std::get_if<FlagMember>(&row->member)) {
-        settings.*(*flag) = LeadingNumber(value) != 0;
-    } else if (const auto* number = std::get_if<NumberMember>(&row->member)) {
-        settings.*(*number) = ToInt16(LeadingNumber(value));
-    }
+    std::visit(Overloaded{
+                   [](Group) {},
+                   [&](Fonts) { settings.Font.at(CheckedIndex(index, kFontCount)) = ParseFont(value); },
+                   [&](Colours) { settings.Colour.at(CheckedIndex(index, kColourCount)) = value; },
+                   [&](TableWidth) { ParseTableWidth(settings, value); },
+                   [&](TextMember text) { settings.*text = value; },
+                   [&](FlagMember flag) { settings.*flag = LeadingNumber(value) != 0; },
+                   [&](NumberMember number) { settings.*number = ToInt16(LeadingNumber(value)); },
+               },
+               row->value);
 }
 
 void ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
