@@ -22,8 +22,6 @@ const char* RunTimeError::Description() const {
         return "Bad file name or number";
     case ErrorNumber::FileNotFound:
         return "File not found";
-    case ErrorNumber::DeviceInputOutput:
-        return "Device I/O error";
     case ErrorNumber::DiskFull:
         return "Disk full";
     case ErrorNumber::InputPastEnd:
@@ -34,6 +32,8 @@ const char* RunTimeError::Description() const {
         return "Path/File access error";
     case ErrorNumber::PathNotFound:
         return "Path not found";
+    case ErrorNumber::DeviceInputOutput:
+        break;
     }
     return "Device I/O error";
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace tunedex {
 
@@ -134,8 +135,7 @@ void ExchangeInOrder(std::vector<RankedRow>& rows, AbortPoll& poll) {
     }
 }
 
-} // namespace
-
+// Exchanges the fields of two rows that move.
 void SwapTracks(TrackRow& a, TrackRow& b) {
     std::swap(a.FullPath, b.FullPath);
     std::swap(a.FileSize, b.FileSize);
@@ -149,14 +149,7 @@ void SwapTracks(TrackRow& a, TrackRow& b) {
     std::swap(a.Duration, b.Duration);
 }
 
-std::vector<std::uint32_t> RankTracks(TrackTable& table, RunMonitor& monitor) {
-    AbortPoll poll(monitor);
-    try {
-        return Rank(table.Rows(), poll);
-    } catch (const SortAborted&) {
-        return {};
-    }
-}
+} // namespace
 
 bool SortTracks(TrackTable& table, std::int16_t sortOrder, RunMonitor& monitor) {
     std::vector<TrackRow>& rows = table.Rows();

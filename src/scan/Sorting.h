@@ -5,7 +5,6 @@
 #include "TrackTable.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace tunedex {
 
@@ -16,12 +15,5 @@ enum SortDirection : std::int16_t { kNoSorting = 0, kAscending = 1, kDescending 
 // bitrate, frequency and duration; base folder, mode, MPEG type and tag kind stay with the row, on purpose.
 // Returns true when the user aborted; the table is then as it was.
 bool SortTracks(TrackTable& table, std::int16_t sortOrder, RunMonitor& monitor);
-
-// The rank of each row's key (artist, album, title, upper-cased), equal keys having equal ranks. Empty when
-// aborted.
-std::vector<std::uint32_t> RankTracks(TrackTable& table, RunMonitor& monitor);
-
-// Exchanges the fields of two rows that move.
-void SwapTracks(TrackRow& a, TrackRow& b);
 
 } // namespace tunedex

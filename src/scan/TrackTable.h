@@ -29,8 +29,7 @@ class SharedText {
     }
     operator std::string_view() const { return View(); } // NOLINT(google-explicit-constructor): it is a text
     bool Empty() const { return View().empty(); }
-    // Whether both are the same stored text, which for two shared texts means: equal.
-    bool IsSameAs(SharedText other) const { return record_ == other.record_; }
+    // The same for the same stored text, which for two shared texts means: equal.
     const void* Identity() const { return record_; }
 
   private:
