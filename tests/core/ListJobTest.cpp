@@ -12,6 +12,7 @@
 #include <chrono>
 #include <filesystem>
 #include <limits>
+#include <new>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -623,6 +624,26 @@ TEST_F(ListJob, ReportsAListThatCannotBeWritten) {
         ui_.fields.outputFile = folder_ / "out/new.txt";
         expectTrapped("75 - Path/File access error");
     });
+}
+
+TEST_F(ListJob, TellsWhenMemoryRunsOutAndKeepsTheOldList) {
+    AddTracks(3);
+    for (const char* phase : {"Searching", "Retrieving", "Sorting", "Writing"}) {
+        ui_.messages.clear();
+        ui_.monitor.statuses.clear();
+        ui_.fields.outputFile = folder_.Write("out/list.txt", "old");
+        ui_.monitor.abortWhen = [&] {
+            if (ui_.monitor.statuses.back().starts_with(phase)) {
+                throw std::bad_alloc();
+            }
+            return false;
+        };
+        EXPECT_FALSE(Run()) << phase;
+        EXPECT_EQ(ui_.messages, Trapped("7 - Out of memory")) << phase;
+        EXPECT_EQ(List(), "old");
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "out"), fs::directory_iterator()), 1);
+        EXPECT_EQ(application_.statistics, (Statistics{"2026-11-21", 1, 4, 40}));
+    }
 }
 
 TEST_F(ListJob, TakesALongNameApartForTheSystem) {

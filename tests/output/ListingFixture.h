@@ -4,6 +4,7 @@
 #include "Fakes.h"
 #include "OutputList.h"
 #include "TestFolder.h"
+#include "TextFile.h"
 
 #include <gtest/gtest.h>
 

@@ -27,6 +27,20 @@ TEST_F(M3uWriterTest, WritesLengthNameAndPathOfEveryTrack) {
     EXPECT_EQ(monitor.positions, (std::vector<std::int32_t>{1, 2, 3, 4}));
 }
 
+TEST_F(M3uWriterTest, WritesEveryTrackOfALongList) {
+    constexpr std::size_t kTracks = 5000; // more than goes to the system at a time
+    UseMany(kTracks);
+    settings.OutputFile = folder / "list.m3u";
+    EXPECT_FALSE(Write(kPlaylistOutput));
+    std::string expected = "#EXTM3U\r\n";
+    for (std::size_t i = 1; i <= kTracks; ++i) {
+        expected.append("#EXTINF:250,Abba: Title ").append(std::to_string(i));
+        expected.append("\r\n/music/Abba/01 Waterloo.mp3\r\n");
+    }
+    EXPECT_GT(expected.size(), 2 * TextFile::kPieceBytes);
+    EXPECT_TRUE(Written("list.m3u") == expected);
+}
+
 TEST_F(M3uWriterTest, IsInWindows1252WhileAllPathsAreAscii) {
     TrackInfo track = SevenTracks()[5];
     track.FullPath = "/music/a.mp3";

@@ -94,6 +94,21 @@ TEST_F(TextWriterTest, WritesNothingButTheHeaderWithoutTracks) {
     EXPECT_TRUE(monitor.positions.empty());
 }
 
+TEST_F(TextWriterTest, WritesEveryLineOfALongList) {
+    constexpr std::size_t kTracks = 5000; // more than goes to the system at a time
+    UseMany(kTracks);
+    settings.OutputFile = folder / "list.txt";
+    settings.ActiveColumns = "Number|Title|Full Path";
+    EXPECT_FALSE(Write(kTextOutput));
+    std::string expected = "Number\tTitle\tFull Path\r\n";
+    for (std::size_t i = 1; i <= kTracks; ++i) {
+        const std::string number = std::to_string(i);
+        expected.append(number).append("\tTitle ").append(number).append("\t/music/Abba/01 Waterloo.mp3\r\n");
+    }
+    EXPECT_GT(expected.size(), 2 * TextFile::kPieceBytes);
+    EXPECT_TRUE(Written("list.txt") == expected);
+}
+
 TEST_F(TextWriterTest, KeepsTheTracksBeforeAnAbort) {
     UseMany(10);
     settings.OutputFile = folder / "list.txt";

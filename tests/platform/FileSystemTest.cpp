@@ -42,6 +42,7 @@ TEST_F(FileSystemTest, TellsFoldersFromFilesAndFromNothing) {
         EXPECT_FALSE(FileExists(folder_ / name)) << name;
     }
     EXPECT_FALSE(FileExists(""));
+    EXPECT_EQ(test::RaisedBy([&] { FileExists(std::string("a\0b", 3)); }), 52);
 }
 
 TEST_F(FileSystemTest, AnEmptyFolderTextIsTheCurrentFolder) {
@@ -74,11 +75,22 @@ TEST_F(FileSystemTest, CreatesOneFolderAtATime) {
     });
 }
 
+TEST_F(FileSystemTest, CreatesEveryFolderThatIsMissingOnTheWay) {
+    CreateFolders(folder_ / "folder/one/two/three/");
+    EXPECT_TRUE(FolderExists(folder_ / "folder/one/two/three"));
+    CreateFolders(folder_ / "folder/one/two/"); // all there
+    CreateFolders(folder_ / "to-folder/one/four/");
+    EXPECT_TRUE(FolderExists(folder_ / "folder/one/four"));
+    EXPECT_EQ(test::RaisedBy([&] { CreateFolders(folder_ / "file/below/"); }), 57) << "a file is in the way";
+}
+
 TEST_F(FileSystemTest, DeletesAFileAndSaysSoWhenThereIsNone) {
     DeleteFile(folder_ / "file");
     EXPECT_FALSE(folder_.Exists("file"));
     EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / "file"); }), 53);
     EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / "folder"); }), 75);
+    EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / std::string("to-file\0x", 9)); }), 52);
+    EXPECT_TRUE(folder_.Exists("to-file")) << "a name is not cut at its first zero byte";
 }
 
 TEST_F(FileSystemTest, ListsTheFilesOfAFolderLinksToFilesIncluded) {
@@ -92,6 +104,10 @@ TEST_F(FileSystemTest, ListsTheFilesOfAFolderLinksToFilesIncluded) {
     test::AsOrdinaryUser(folder_, [&] {
         ASSERT_EQ(chmod((folder_ / "folder").c_str(), 0), 0);
         EXPECT_EQ(test::RaisedBy([&] { FileNamesIn(folder_ / "folder"); }), 75);
+        // Names may be read there, but not what they stand for.
+        folder_.Write("names only/file", "x");
+        ASSERT_EQ(chmod((folder_ / "names only").c_str(), 0444), 0);
+        EXPECT_EQ(test::RaisedBy([&] { FileNamesIn(folder_ / "names only"); }), 75);
     });
 }
 

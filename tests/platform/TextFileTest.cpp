@@ -159,6 +159,21 @@ TEST(TextFile, KeepsTheOldFilesPermissions) {
     }
 }
 
+TEST(TextFile, LeavesTheOldFileToItsOwner) {
+    const test::TestFolder folder;
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file of another user's";
+    }
+    const std::string path = folder.Write("list.htm", "old");
+    ASSERT_EQ(chown(path.c_str(), 65534, 65533), 0);
+    Save(path, "new");
+    EXPECT_EQ(test::ReadBytes(path), "new");
+    struct stat status {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 65534U);
+    EXPECT_EQ(status.st_gid, 65533U);
+}
+
 TEST(TextFile, GivesANewFileThePermissionsThatTheUserMaskLeaves) {
     const test::TestFolder folder;
     test::InChild([&] {

@@ -32,6 +32,24 @@ const std::map<int, char32_t> kSpecialBytes = {
     {0x92, U'’'}, {0x93, U'“'}, {0x94, U'”'}, {0x95, U'•'}, {0x96, U'–'}, {0x97, U'—'}, {0x98, U'˜'},
     {0x99, U'™'}, {0x9A, U'š'}, {0x9B, U'›'}, {0x9C, U'œ'}, {0x9E, U'ž'}, {0x9F, U'Ÿ'}};
 
+TEST(AppendUtf8, WritesCharactersOfEveryLength) {
+    const std::pair<char32_t, const char*> rows[] = {{0x01, "\x01"},
+                                                     {0x7F, "\x7F"},
+                                                     {0x80, "\xC2\x80"},
+                                                     {0x7FF, "\xDF\xBF"},
+                                                     {0x800, "\xE0\xA0\x80"},
+                                                     {0xFFFF, "\xEF\xBF\xBF"},
+                                                     {0x10000, "\xF0\x90\x80\x80"},
+                                                     {0x1F600, "\xF0\x9F\x98\x80"},
+                                                     {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
+    for (const auto& [character, expected] : rows) {
+        std::string text = "before ";
+        AppendUtf8(text, character);
+        EXPECT_EQ(text, std::string("before ") + expected);
+        EXPECT_TRUE(IsValidUtf8(text)) << text;
+    }
+}
+
 TEST(Windows1252, AllItsBytesStandForTheirCharactersBothWays) {
     for (int byte = 0; byte < 256; ++byte) {
         const auto special = kSpecialBytes.find(byte);

@@ -1,12 +1,14 @@
 #include "TrackQueue.h"
 
 #include "Mp3Builder.h"
+#include "OrdinaryUser.h"
 #include "TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
+#include <sys/resource.h>
 #include <vector>
 
 namespace tunedex {
@@ -89,6 +91,47 @@ TEST_P(TrackQueueTest, GivesNothingMoreOnceTheReceiverHasThrown) {
     queue.Submit(folder_, "1.mp3");
     EXPECT_TRUE(queue.Drain());
     EXPECT_EQ(received, 20);
+}
+
+// A single reader's caller asks by himself.
+TEST_P(TrackQueueTest, GivesNothingMoreOnceTheStopTestSaysSo) {
+    int received = 0;
+    TrackQueue queue(
+        GetParam(), {}, [&](QueuedTrack& /*track*/) { ++received; },
+        [&] { return GetParam() != 1 && received == 20; });
+    bool accepted = true;
+    for (int round = 0; round < 30; ++round) {
+        for (const std::string& name : names_) {
+            accepted = queue.Submit(folder_, name.c_str());
+        }
+    }
+    EXPECT_EQ(queue.Drain(), GetParam() == 1);
+    EXPECT_EQ(accepted, GetParam() == 1);
+    EXPECT_EQ(received, GetParam() == 1 ? 3000 : 20);
+}
+
+TEST_P(TrackQueueTest, ReadsByItselfWhereTheSystemHasNoThreadLeft) {
+    test::AsOrdinaryUser(files_, [&] {
+        test::InChild([&] {
+            const rlimit none{};
+            ASSERT_EQ(setrlimit(RLIMIT_NPROC, &none), 0);
+            std::vector<std::string> received;
+            TrackQueue queue(
+                GetParam(), {},
+                [&](QueuedTrack& track) {
+                    EXPECT_FALSE(track.failure);
+                    received.push_back(track.reading.track.FullPath);
+                },
+                [] { return false; });
+            std::vector<std::string> sent;
+            for (const std::string& name : names_) {
+                EXPECT_TRUE(queue.Submit(folder_, name.c_str()));
+                sent.push_back(files_ / name);
+            }
+            EXPECT_TRUE(queue.Drain());
+            EXPECT_EQ(received, sent);
+        });
+    });
 }
 
 TEST_P(TrackQueueTest, MayBeThrownAwayWithFilesInFlight) {

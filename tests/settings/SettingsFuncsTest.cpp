@@ -411,6 +411,12 @@ TEST(ParseSetting, RaisesTheErrorOfAValueThatDoesNotFit) {
     EXPECT_EQ(settings, Settings()) << "keys are compared in upper case";
 }
 
+TEST(ParseSetting, TakesNoCommentOfTheFileForASetting) {
+    Settings settings;
+    ParseSetting(settings, "# GENERAL SETTINGS", "1", 0);
+    EXPECT_EQ(settings, Settings());
+}
+
 // Any record survives being saved and loaded again: texts of every kind, every number, every flag.
 class RandomSettings {
   public:
