@@ -42,6 +42,16 @@ TEST(KeptFiles, AStatisticsFileThatCouldNotBeReadIsNotReplacedAtTheEnd) {
     FakeApplication fake(folder.Path());
     FakeUserInterface ui;
     {
+        // A sanitizer takes a descriptor of its own to look at a class for the first time: those of a start
+        // that has to tell of an error.
+        const TestFolder other;
+        other.Write("stats.lst", "malformed");
+        FakeApplication first(other.Path());
+        StartUp(first.application, ui, {});
+        ASSERT_EQ(ui.messages.size(), 1U);
+        ui.messages.clear();
+    }
+    {
         const NoFreeDescriptor none;
         StartUp(fake.application, ui, {});
     }

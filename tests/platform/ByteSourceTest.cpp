@@ -154,6 +154,9 @@ TEST(FileByteSource, RaisesErrorSixtySevenWithoutAFreeDescriptor) {
     const test::TestFolder folder;
     const std::string path = folder.Write("file", "x");
     test::InChild([&] {
+        // A sanitizer takes a descriptor of its own to look at a class for the first time: these two.
+        EXPECT_EQ(FileByteSource(path).Size(), 1U);
+        EXPECT_EQ(test::RaisedBy([&] { FileByteSource(path + " is gone"); }), 53);
         const rlimit none{3, 3};
         ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
         // Whatever the test program holds open is below the limit or does not count against it.
