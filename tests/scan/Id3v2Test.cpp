@@ -146,6 +146,30 @@ TEST(ReadId3v2, DropsEveryNulAndDecodesNoEncoding) {
     }
 }
 
+// Contents are read whole or piece by piece; no seam between the pieces may show.
+TEST(ReadId3v2, TakesAFrameOfAnyLengthWithoutItsNuls) {
+    for (const std::size_t length : {511U, 512U, 513U, 65535U, 65536U, 65537U, 200000U}) {
+        std::string content;
+        std::string text;
+        for (std::size_t i = 0; content.size() < length; ++i) {
+            content += i % 3 == 0 ? '\0' : static_cast<char>('a' + i % 26);
+            if (content.back() != '\0') {
+                text += content.back();
+            }
+        }
+        const std::string bytes = Id3v2Tag({{"TIT2", content}, {"TALB", "next"}});
+        const TrackInfo track = ReadV2Tag(bytes);
+        EXPECT_TRUE(track.Title == text) << length;
+        EXPECT_EQ(track.Album, "next") << length;
+        // The last of its reads fails: the field stays as it was.
+        FailingByteSource file(bytes, length > 131072 ? 5 : length > 65536 ? 3 : 2);
+        TrackInfo failed = Before();
+        ReadId3v2(file, {true, bytes.size()}, false, failed);
+        EXPECT_EQ(failed.Title, "old title") << length;
+        EXPECT_EQ(failed.Album, "old album") << length;
+    }
+}
+
 TEST(ReadId3v2, NamesAnEmptyArtistAndTitleAndEmptiesTheRest) {
     for (const std::string& empty : {""s, "\0"s, "\0\0\0"s}) {
         const TrackInfo track = ReadV2Tag(
