@@ -50,6 +50,12 @@ void RunEntities(Bytes bytes) {
     std::string appended = "before";
     table.AppendEscaped(appended, text);
     RequireEqual(appended, "before" + expected.text, "a text escaped behind another");
+    // What stands behind a padded text can be anything.
+    const std::string padded = text + std::string(PageBuffer::kStep, lines.empty() ? '&' : 'a');
+    PageBuffer page;
+    page.Put("before");
+    table.PutEscaped(page, std::string_view(padded).substr(0, text.size()));
+    RequireEqual(std::string(page.View()), "before" + expected.text, "a padded text escaped into a page");
 }
 
 } // namespace tunedex::fuzz
