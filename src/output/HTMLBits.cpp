@@ -6,9 +6,6 @@
 #include "Text.h"
 #include "Version.h"
 
-#include <algorithm>
-#include <array>
-
 namespace tunedex {
 
 namespace {
@@ -54,23 +51,6 @@ bool HasRightAlignedCells(ColumnKey key) {
 bool HasBlankForEmpty(ColumnKey key) {
     return key == ColumnKey::Album || key == ColumnKey::Year || key == ColumnKey::Genre;
 }
-
-// Padded, as a row takes them.
-template <std::size_t kSize> struct PaddedLiteral {
-    std::array<char, kSize - 1 + PageBuffer::kStep> bytes{};
-
-    constexpr explicit PaddedLiteral(
-        const char (&text)[kSize]) { // NOLINT(modernize-avoid-c-arrays): a literal
-        std::copy_n(text, kSize - 1, bytes.begin());
-    }
-    constexpr operator std::string_view() const { // NOLINT(google-explicit-constructor): it is a text
-        return {bytes.data(), kSize - 1};
-    }
-};
-constexpr PaddedLiteral kBoldOpen("<b>");
-constexpr PaddedLiteral kBoldClose(":</b> ");
-constexpr PaddedLiteral kAlbumOpen(" (");
-constexpr PaddedLiteral kAlbumClose(")");
 
 bool UsesFontTags(const Settings& settings) {
     return settings.FontHTML || settings.ColourHTML;
@@ -275,14 +255,14 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
     switch (key) {
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
-        page.PutPadded(kBoldOpen);
+        page.Put("<b>");
         entities.PutEscaped(page, track.Artist);
         if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
-            page.PutPadded(kAlbumOpen);
+            page.Put(" (");
             entities.PutEscaped(page, track.Album);
-            page.PutPadded(kAlbumClose);
+            page.Put(")");
         }
-        page.PutPadded(kBoldClose);
+        page.Put(":</b> ");
         entities.PutEscaped(page, track.Title);
         return;
     case ColumnKey::Filename:

@@ -41,7 +41,8 @@ class MemoryByteSource final : public ByteSource {
 };
 
 // What the system may load beside what is asked for. It guesses that a file is read on, and loads four times
-// as much as a tag reader needs: that costs nothing in memory, but on a slow disk it does.
+// as much as a tag reader needs: no matter where the file is in memory already, but it fills the memory from
+// a slow disk.
 enum class ReadAhead { AsUsual, Nothing };
 
 // A file, opened once. A small read loads a window of the file, since the next read is nearly always close
