@@ -1,6 +1,5 @@
 #include "Columns.h"
 
-#include "Numbers.h"
 #include "RunTimeError.h"
 #include "SizeText.h"
 #include "Text.h"
@@ -122,35 +121,35 @@ std::optional<std::string_view> StoredText(ColumnKey key, const TrackRow& track)
     }
 }
 
-void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std::size_t position,
-                    const CellContext& context) {
+void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
+                 const CellContext& context) {
     if (const auto stored = StoredText(key, track)) {
-        text += *stored;
+        page.PutPadded(*stored);
         return;
     }
     switch (key) {
     case ColumnKey::Number:
-        AppendNumber(text, static_cast<std::int64_t>(position));
+        page.PutNumber(static_cast<std::int64_t>(position));
         return;
     case ColumnKey::FileSize:
-        text += SizeText(track.FileSize, context.sizeType, context.locale);
+        page.Put(SizeText(track.FileSize, context.sizeType, context.locale));
         return;
     case ColumnKey::Filename:
-        text += FileNameOf(track.FullPath, context.pathStyle);
+        page.PutPadded(FileNameOf(track.FullPath, context.pathStyle));
         return;
     case ColumnKey::FolderPath:
-        text += FolderPathOf(track.FullPath, context.pathStyle);
+        page.PutPadded(FolderPathOf(track.FullPath, context.pathStyle));
         return;
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
-        text += track.Artist.View();
+        page.PutPadded(track.Artist);
         if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
-            text += " (";
-            text += track.Album.View();
-            text += ')';
+            page.Put(" (");
+            page.PutPadded(track.Album);
+            page.Put(")");
         }
-        text += ": ";
-        text += track.Title.View();
+        page.Put(": ");
+        page.PutPadded(track.Title);
         return;
     default:
         return; // an unknown column has no cells

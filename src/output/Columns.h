@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Locale.h"
+#include "PageBuffer.h"
 #include "Path.h"
 #include "TrackTable.h"
 
@@ -66,12 +67,12 @@ struct CellContext {
     PathStyle pathStyle;
 };
 
-// The text of a track under a column that shows a stored text as it stands; nothing for the columns that make
-// theirs.
+// The text of a track under a column that shows a stored text as it stands, padded for a PageBuffer; nothing
+// for the columns that make theirs.
 std::optional<std::string_view> StoredText(ColumnKey key, const TrackRow& track);
 
 // Appends the plain text of track `position` (counted from 1) under `key`; nothing for an unknown one.
-void AppendCellText(std::string& text, ColumnKey key, const TrackRow& track, std::size_t position,
-                    const CellContext& context);
+void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
+                 const CellContext& context);
 
 } // namespace tunedex

@@ -271,12 +271,9 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
     case ColumnKey::FolderPath:
         entities.PutEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
-    default: { // numbers, which hold nothing to escape
-        std::string number;
-        AppendCellText(number, key, track, position, listing_.Cells());
-        page.Put(number);
+    default: // numbers, which hold nothing to escape
+        PutCellText(page, key, track, position, listing_.Cells());
         return;
-    }
     }
 }
 

@@ -88,7 +88,7 @@ class HtmlPages {
         for (std::size_t position = first; position <= last; ++position) {
             kind = NextKind(kind, settings_.AltRows);
             rows.WriteTrackRow(page_, kind, position);
-            if (page_.View().size() >= TextFile::kPieceBytes) {
+            if (page_.Size() >= TextFile::kPieceBytes) {
                 HandOver(file);
             }
             if (listing_.monitor.AbortRequested()) {

@@ -1,6 +1,7 @@
 #include "M3uWriter.h"
 
 #include "Numbers.h"
+#include "PageBuffer.h"
 #include "RunTimeError.h"
 #include "Text.h"
 #include "TextFile.h"
@@ -39,27 +40,28 @@ bool WriteM3uListing(Listing& listing) {
     // Paths go out byte for byte in either encoding: they are all ASCII, or the file is UTF-8.
     TextFile file(path, EncodingFor(listing.tracks));
     bool aborted = false;
-    std::string text = "#EXTM3U\r\n";
+    PageBuffer text;
+    text.Put("#EXTM3U\r\n");
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
         listing.tracks.PrefetchAhead(position, true);
-        text += "#EXTINF:";
-        AppendNumber(text, static_cast<std::int64_t>(SecondsOf(track.Duration)));
-        text += ',';
-        text += track.Artist.View();
-        text += ": ";
-        text += track.Title.View();
-        text += "\r\n";
-        text += track.FullPath.View();
-        text += "\r\n";
-        if (text.size() >= TextFile::kPieceBytes) {
-            file.Write(text);
-            text.clear();
+        text.Put("#EXTINF:");
+        text.PutNumber(static_cast<std::int64_t>(SecondsOf(track.Duration)));
+        text.Put(",");
+        text.PutPadded(track.Artist);
+        text.Put(": ");
+        text.PutPadded(track.Title);
+        text.Put("\r\n");
+        text.PutPadded(track.FullPath);
+        text.Put("\r\n");
+        if (text.Size() >= TextFile::kPieceBytes) {
+            file.Write(text.View());
+            text.Clear();
         }
         listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         aborted = listing.monitor.AbortRequested();
     }
-    file.Write(text);
+    file.Write(text.View());
     file.Close();
     return aborted;
 }

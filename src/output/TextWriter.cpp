@@ -1,5 +1,6 @@
 #include "TextWriter.h"
 
+#include "PageBuffer.h"
 #include "RunTimeError.h"
 #include "Text.h"
 #include "TextFile.h"
@@ -10,27 +11,27 @@ namespace {
 
 // Ends the line that begins at `start`: its last TAB gives way. A line without a single column cannot be
 // ended.
-void EndLine(std::string& text, std::size_t start) {
-    if (text.size() == start) {
+void EndLine(PageBuffer& text, std::size_t start) {
+    if (text.Size() == start) {
         throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     }
-    text.pop_back();
-    text += "\r\n";
+    text.CutTo(text.Size() - 1);
+    text.Put("\r\n");
 }
 
-// Appends one track's line. Returns false, with the text as it was, when the user aborted.
-bool AppendLine(std::string& text, const Listing& listing, std::size_t position) {
+// Puts one track's line. Returns false, with the text as it was, when the user aborted.
+bool PutLine(PageBuffer& text, const Listing& listing, std::size_t position) {
     const TrackRow& track = listing.tracks.At(position);
     listing.tracks.PrefetchAhead(position, true);
     const CellContext cells = listing.Cells();
-    const std::size_t start = text.size();
+    const std::size_t start = text.Size();
     for (const Column& column : listing.columns) {
         if (column.key != ColumnKey::Unknown) {
-            AppendCellText(text, column.key, track, position, cells);
-            text += '\t';
+            PutCellText(text, column.key, track, position, cells);
+            text.Put("\t");
         }
         if (listing.monitor.AbortRequested()) {
-            text.resize(start);
+            text.CutTo(start);
             return false;
         }
     }
@@ -46,24 +47,25 @@ bool WriteTextListing(Listing& listing) {
         path += ".txt";
     }
     TextFile file(path, TextEncoding::Windows1252Questions);
-    std::string text;
+    PageBuffer text;
     for (const Column& column : listing.columns) {
-        text += HeaderText(column) + '\t';
+        text.Put(HeaderText(column));
+        text.Put("\t");
     }
     EndLine(text, 0);
     bool aborted = false;
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
-        if (AppendLine(text, listing, position)) {
+        if (PutLine(text, listing, position)) {
             listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         } else {
             aborted = true;
         }
-        if (text.size() >= TextFile::kPieceBytes) {
-            file.Write(text);
-            text.clear();
+        if (text.Size() >= TextFile::kPieceBytes) {
+            file.Write(text.View());
+            text.Clear();
         }
     }
-    file.Write(text);
+    file.Write(text.View());
     file.Close();
     return aborted;
 }

@@ -4,7 +4,6 @@
 #include "Text.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -165,12 +164,6 @@ std::int32_t CheckedAdd(std::int32_t a, std::int32_t b) {
         throw RunTimeError(ErrorNumber::Overflow);
     }
     return sum;
-}
-
-void AppendNumber(std::string& text, std::int64_t value) {
-    std::array<char, 20> digits{};
-    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    text.append(digits.data(), result.ptr);
 }
 
 std::string PadNumber(std::int64_t value, int digits) {

@@ -27,9 +27,6 @@ std::int32_t ToInt32(double value);
 // a + b. Raises error 6 when the sum does not fit.
 std::int32_t CheckedAdd(std::int32_t a, std::int32_t b);
 
-// Appends the number in decimal digits.
-void AppendNumber(std::string& text, std::int64_t value);
-
 // Decimal digits, with at least `digits` of them (leading zeros).
 std::string PadNumber(std::int64_t value, int digits);
 

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -31,6 +33,13 @@ class PageBuffer {
         Advance(text.size());
     }
 
+    // Appends a number in decimal digits.
+    void PutNumber(std::int64_t value) {
+        constexpr std::size_t kLongest = 20;
+        MakeRoom(kLongest);
+        Advance(static_cast<std::size_t>(std::to_chars(End(), End() + kLongest, value).ptr - End()));
+    }
+
     // For who fills the buffer without us: makes room for so many bytes and one step more, tells where they
     // go, and takes note of how many went.
     void MakeRoom(std::size_t count) {
@@ -42,6 +51,9 @@ class PageBuffer {
     void Advance(std::size_t count) { used_ += count; }
 
     std::string_view View() const { return {bytes_.get(), used_}; }
+    std::size_t Size() const { return used_; }
+    // Takes back what was appended beyond the first `size` bytes.
+    void CutTo(std::size_t size) { used_ = size; }
     // Keeps the memory.
     void Clear() { used_ = 0; }
 

@@ -26,7 +26,7 @@ enum class TextEncoding {
 class TextFile {
   public:
     // How many bytes of text a writer best hands over at a time: that much goes to the system without a copy.
-    static constexpr std::size_t kPieceBytes = 65536;
+    static constexpr std::size_t kPieceBytes = 262144;
 
     TextFile(const std::string& path, TextEncoding encoding);
     TextFile(const TextFile&) = delete;

@@ -217,7 +217,7 @@ struct PathRow {
     std::string_view folder;
 };
 
-TEST(AppendCellText, SplitsThePathOfATrack) {
+TEST(PutCellText, SplitsThePathOfATrack) {
     const PathRow rows[] = {
         {"C:\\Music\\a.mp3", PathStyle::Windows(), "a.mp3", "C:\\Music"},
         {"C:\\a.mp3", PathStyle::Windows(), "a.mp3", "C:"},
@@ -233,9 +233,9 @@ TEST(AppendCellText, SplitsThePathOfATrack) {
         track.FullPath = row.path;
         table.Append(track);
         const auto cell = [&](ColumnKey key) {
-            std::string text;
-            AppendCellText(text, key, table.At(1), 1, {0, locale, row.style});
-            return text;
+            PageBuffer text;
+            PutCellText(text, key, table.At(1), 1, {0, locale, row.style});
+            return std::string(text.View());
         };
         EXPECT_EQ(cell(ColumnKey::Filename), row.name);
         EXPECT_EQ(cell(ColumnKey::FolderPath), row.folder);

@@ -28,7 +28,7 @@ TEST_F(M3uWriterTest, WritesLengthNameAndPathOfEveryTrack) {
 }
 
 TEST_F(M3uWriterTest, WritesEveryTrackOfALongList) {
-    constexpr std::size_t kTracks = 5000; // more than goes to the system at a time
+    constexpr std::size_t kTracks = 20000; // more than goes to the system at a time
     UseMany(kTracks);
     settings.OutputFile = folder / "list.m3u";
     EXPECT_FALSE(Write(kPlaylistOutput));

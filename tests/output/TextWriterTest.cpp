@@ -95,7 +95,7 @@ TEST_F(TextWriterTest, WritesNothingButTheHeaderWithoutTracks) {
 }
 
 TEST_F(TextWriterTest, WritesEveryLineOfALongList) {
-    constexpr std::size_t kTracks = 5000; // more than goes to the system at a time
+    constexpr std::size_t kTracks = 20000; // more than goes to the system at a time
     UseMany(kTracks);
     settings.OutputFile = folder / "list.txt";
     settings.ActiveColumns = "Number|Title|Full Path";

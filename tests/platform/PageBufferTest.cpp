@@ -32,5 +32,24 @@ TEST(PageBuffer, HoldsPiecesOfAnyLengthSideBySide) {
     EXPECT_EQ(page.View(), expected + std::string(1000000, 'x'));
 }
 
+TEST(PageBuffer, WritesNumbersInDigits) {
+    PageBuffer page;
+    for (const std::int64_t number : {std::int64_t{0}, std::int64_t{-1}, std::int64_t{1000000}, INT64_MIN}) {
+        page.Clear();
+        page.PutNumber(number);
+        EXPECT_EQ(page.View(), std::to_string(number));
+    }
+}
+
+TEST(PageBuffer, TakesBackWhatWasAppendedLast) {
+    PageBuffer page;
+    page.Put("kept");
+    page.Put(" and not");
+    page.CutTo(4);
+    EXPECT_EQ(page.Size(), 4U);
+    page.PutNumber(7);
+    EXPECT_EQ(page.View(), "kept7");
+}
+
 } // namespace
 } // namespace tunedex
