@@ -9,6 +9,7 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -22,26 +23,6 @@ constexpr std::size_t kDirectBytes = 16384;
 
 [[noreturn]] void Fail(int errorCode) {
     throw ErrorFromErrno(errorCode, FileTask::WriteFile);
-}
-
-// Where a chain of symbolic links ends, whether or not there is a file.
-std::string ResolveLinks(std::string path) {
-    constexpr int kMostLinks = 40; // as the kernel counts
-    std::array<char, 4096> target{};
-    for (int i = 0; i < kMostLinks; ++i) {
-        const ssize_t length =
-            Uninterrupted([&] { return readlink(path.c_str(), target.data(), target.size()); });
-        if (length < 0 && (errno == EINVAL || errno == ENOENT)) {
-            return path; // no link, or nothing there
-        }
-        if (length < 0) {
-            Fail(errno); // were it taken for no link, the new file would take the link's place
-        }
-        const std::string_view next(target.data(), static_cast<std::size_t>(length));
-        path = next.starts_with('/') ? std::string(next)
-                                     : std::string(FolderPrefixOf(path, PathStyle::Unix())).append(next);
-    }
-    Fail(ELOOP);
 }
 
 bool FolderForbidsNewFiles(int errorCode) {
@@ -59,6 +40,16 @@ bool FolderForbidsReplacing(int folder, const struct stat& old) {
 
 int OpenAt(int folder, const std::string& name, int flags, mode_t mode) {
     return Uninterrupted([&] { return openat(folder, name.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); });
+}
+
+std::string LinkTarget(int folder, const std::string& name) {
+    std::array<char, PATH_MAX> target{};
+    const ssize_t length =
+        Uninterrupted([&] { return readlinkat(folder, name.c_str(), target.data(), target.size()); });
+    if (length < 0) {
+        Fail(errno);
+    }
+    return {target.data(), static_cast<std::size_t>(length)};
 }
 
 std::string NewAsideName() {
@@ -82,38 +73,58 @@ TextFile::TextFile(const std::string& path, TextEncoding encoding) : encoding_(e
     if (path.find('\0') != std::string::npos) {
         Fail(EINVAL);
     }
+    if (path.size() >= PATH_MAX) {
+        Fail(ENAMETOOLONG);
+    }
     try {
-        OpenAside(ResolveLinks(path));
+        Open(FindOld(path));
     } catch (...) {
         Discard();
         throw;
     }
 }
 
-void TextFile::OpenAside(const std::string& path) {
-    const std::string_view prefix = FolderPrefixOf(path, PathStyle::Unix());
-    name_ = path.substr(prefix.size());
-    if (name_.empty()) {
-        Fail(path.empty() ? ENOENT : EISDIR);
+// Opens the folder where a chain of symbolic links ends, and tells what is there under the last name:
+// nothing, or something that is no link.
+std::optional<struct stat> TextFile::FindOld(std::string path) {
+    constexpr int kMostLinks = 40; // as the kernel counts
+    for (int i = 0; i <= kMostLinks; ++i) {
+        const std::string prefix(FolderPrefixOf(path, PathStyle::Unix()));
+        name_ = path.substr(prefix.size());
+        if (name_.empty()) {
+            Fail(path.empty() ? ENOENT : EISDIR);
+        }
+        CloseFolder();
+        folder_ = OpenAt(AT_FDCWD, prefix.empty() ? "." : prefix, O_PATH | O_DIRECTORY, 0);
+        if (folder_ < 0) {
+            Fail(errno);
+        }
+        struct stat old {};
+        if (Uninterrupted([&] { return fstatat(folder_, name_.c_str(), &old, AT_SYMLINK_NOFOLLOW); }) != 0) {
+            if (errno != ENOENT) {
+                Fail(errno);
+            }
+            return std::nullopt;
+        }
+        if (!S_ISLNK(old.st_mode)) {
+            return old;
+        }
+        const std::string target = LinkTarget(folder_, name_);
+        path = target.starts_with('/') ? target : prefix + target;
     }
-    folder_ =
-        OpenAt(AT_FDCWD, prefix.empty() ? std::string(".") : std::string(prefix), O_PATH | O_DIRECTORY, 0);
-    if (folder_ < 0) {
-        Fail(errno);
-    }
-    struct stat old {};
-    const bool exists = Uninterrupted([&] { return fstatat(folder_, name_.c_str(), &old, 0); }) == 0;
-    if (!exists && errno != ENOENT) {
-        Fail(errno);
-    }
-    if (exists && S_ISDIR(old.st_mode)) {
+    Fail(ELOOP);
+}
+
+void TextFile::Open(const std::optional<struct stat>& old) {
+    const bool exists = old.has_value();
+    if (exists && S_ISDIR(old->st_mode)) {
         Fail(EISDIR);
     }
     // A new name in the folder could take the place of a file that its owner made read-only: ask first.
     if (exists && Uninterrupted([&] { return faccessat(folder_, name_.c_str(), W_OK, AT_EACCESS); }) != 0) {
         Fail(errno);
     }
-    if (!exists || (S_ISREG(old.st_mode) && !FolderForbidsReplacing(folder_, old))) {
+    if (!exists || (S_ISREG(old->st_mode) && !FolderForbidsReplacing(folder_, *old))) {
         do {
             aside_ = NewAsideName();
             descriptor_ = OpenAt(folder_, aside_, O_WRONLY | O_CREAT | O_EXCL, 0666);
@@ -132,7 +143,7 @@ void TextFile::OpenAside(const std::string& path) {
             Fail(errno);
         }
     } else if (exists) {
-        KeepOwnerAndPermissions(descriptor_, old);
+        KeepOwnerAndPermissions(descriptor_, *old);
     }
 }
 
@@ -149,6 +160,10 @@ void TextFile::Discard() noexcept {
         Uninterrupted([&] { return unlinkat(folder_, aside_.c_str(), 0); });
         aside_.clear();
     }
+    CloseFolder();
+}
+
+void TextFile::CloseFolder() noexcept {
     if (folder_ >= 0) {
         close(folder_);
         folder_ = -1;

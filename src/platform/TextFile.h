@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 
 namespace tunedex {
 
@@ -43,10 +45,12 @@ class TextFile {
     void Close();
 
   private:
-    void OpenAside(const std::string& path);
+    std::optional<struct stat> FindOld(std::string path);
+    void Open(const std::optional<struct stat>& old);
     void FlushIfFull();
     void Flush();
     void Discard() noexcept;
+    void CloseFolder() noexcept;
 
     TextEncoding encoding_;
     std::string buffer_;
