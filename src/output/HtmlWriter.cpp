@@ -34,6 +34,11 @@ class HtmlPages {
 
     bool Write() {
         ExpandTitlePlaceholders(listing_, lineBreak_);
+        WriteHeadStart(headStart_, settings_);
+        WriteHeadRest(headRest_, settings_);
+        WriteTableHead(tableHead_, settings_, listing_.columns);
+        WriteTableFoot(tableFoot_, settings_, listing_.columns.size());
+        WriteEnd(end_, settings_, settings_.PageFooter, lineBreak_);
         const TrackRowWriter rows(listing_);
         for (std::int32_t number = 1; number <= files_.count; ++number) {
             if (!WritePage(number, rows) || listing_.monitor.AbortRequested()) {
@@ -47,29 +52,29 @@ class HtmlPages {
     // Returns false when the user aborted within the page.
     bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
         const bool several = files_.count > 1;
-        std::string title = settings_.WindowTitle;
-        if (several) {
-            title += " - Page " + std::to_string(number) + " of " + std::to_string(files_.count);
-        }
         TextFile file(several ? files_.PathOf(number) : settings_.OutputFile,
                       TextEncoding::Windows1252References);
-        std::string frame;
-        WriteHead(frame, settings_, title);
+        std::string navigation;
+        std::string heading;
+        page_.Put(headStart_);
+        page_.Put(settings_.WindowTitle);
         if (several) {
-            WriteNavigation(frame, number, files_, listing_.pathStyle);
+            page_.Put(" - Page ");
+            page_.PutNumber(number);
+            page_.Put(" of ");
+            page_.PutNumber(files_.count);
+            WriteNavigation(navigation, number, files_, listing_.pathStyle);
         }
-        WritePageHeading(frame, settings_, number, files_.count, lineBreak_);
-        WriteTableHead(frame, settings_, listing_.columns);
-        page_.Put(frame);
+        page_.Put(headRest_);
+        page_.Put(navigation);
+        WritePageHeading(heading, settings_, number, files_.count, lineBreak_);
+        page_.Put(heading);
+        page_.Put(tableHead_);
         const bool whole = WriteRows(file, number, rows);
         if (whole) {
-            frame.clear();
-            WriteTableFoot(frame, settings_, listing_.columns.size());
-            if (several) {
-                WriteNavigation(frame, number, files_, listing_.pathStyle);
-            }
-            WriteEnd(frame, settings_, settings_.PageFooter, lineBreak_);
-            page_.Put(frame);
+            page_.Put(tableFoot_);
+            page_.Put(navigation);
+            page_.Put(end_);
         }
         HandOver(file);
         file.Close();
@@ -107,6 +112,12 @@ class HtmlPages {
     Settings& settings_;
     std::string_view lineBreak_;
     PageFiles files_;
+    // What is the same on every page.
+    std::string headStart_;
+    std::string headRest_;
+    std::string tableHead_;
+    std::string tableFoot_;
+    std::string end_;
     PageBuffer page_; // what is still to be written
 };
 
@@ -127,9 +138,8 @@ PageFiles PlanPages(const Settings& settings, std::size_t trackCount) {
     return files;
 }
 
-void WriteHead(std::string& page, const Settings& settings, std::string_view title) {
-    const bool xhtml = settings.DocumentType == "XHTML";
-    if (xhtml) {
+void WriteHeadStart(std::string& page, const Settings& settings) {
+    if (settings.DocumentType == "XHTML") {
         page += "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>\r\n"
                 "<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Transitional//EN\" "
                 "\"http://www.w3.org/TR/xhtml1/DTD/xhtml1-transitional.dtd\">\r\n"
@@ -141,10 +151,12 @@ void WriteHead(std::string& page, const Settings& settings, std::string_view tit
     } else {
         page += "\r\n\r\n";
     }
-    const std::string end = xhtml ? " />\r\n" : ">\r\n";
     page += Indent(1) + "<head>\r\n";
     page += Indent(2) + "<title>";
-    page += title;
+}
+
+void WriteHeadRest(std::string& page, const Settings& settings) {
+    const std::string end = settings.DocumentType == "XHTML" ? " />\r\n" : ">\r\n";
     page += "</title>\r\n";
     page += Indent(2) + R"(<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1")" + end;
     page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" +

@@ -13,8 +13,9 @@ namespace tunedex {
 // written.
 bool WriteHtmlListing(Listing& listing);
 
-// The beginning of a page up to its body tag. The title is written as it stands.
-void WriteHead(std::string& page, const Settings& settings, std::string_view title);
+// The beginning of a page up to its title, which is written as it stands, and from there up to its body tag.
+void WriteHeadStart(std::string& page, const Settings& settings);
+void WriteHeadRest(std::string& page, const Settings& settings);
 // The end of a page: footer, home page, closing tags.
 void WriteEnd(std::string& page, const Settings& settings, std::string_view footer,
               std::string_view lineBreak);

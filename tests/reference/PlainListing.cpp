@@ -328,7 +328,9 @@ std::map<std::string, std::string> Pages(const Settings& settings, const std::ve
         if (count > 1) {
             WriteNavigation(navigation, page32, files, PathStyle::Unix());
         }
-        WriteHead(page, settings, title);
+        WriteHeadStart(page, settings);
+        page += title;
+        WriteHeadRest(page, settings);
         page += navigation;
         WritePageHeading(page, settings, page32, files.count, lineBreak);
         std::vector<Column> heads;
