@@ -105,7 +105,9 @@ bool WalkAll(const std::vector<StartFolder>& starts, bool recurse, FolderWalk& w
 
 bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse) {
     const std::vector<StartFolder> starts = StartFolders(folderValue, PathStyle::Native());
-    FolderWalk walk;
+    // When files are read, the folders are in memory from the count.
+    const bool preload = mode == ScanMode::Count && readers_ != 1;
+    FolderWalk walk(preload ? FolderWalk::Preload::WhenWaiting : FolderWalk::Preload::Never);
     const auto reportWalkError = [&](const std::string& folder, const RunTimeError& error) {
         reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
     };

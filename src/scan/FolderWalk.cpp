@@ -1,6 +1,7 @@
 #include "FolderWalk.h"
 
 #include "FileSystem.h"
+#include "FolderPreload.h"
 #include "RunTimeError.h"
 #include "Settings.h"
 #include "Text.h"
@@ -8,9 +9,11 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <dirent.h>
 #include <optional>
 #include <set>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <utility>
 
@@ -46,16 +49,43 @@ EntryKind KindOf(int folder, const dirent& entry) {
 }
 
 std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
-                                        WalkVisitor& visitor) {
+                                        WalkVisitor& visitor, FolderPreload& preload) {
     try {
         return std::make_shared<OpenFolder>(path, baseFolder);
     } catch (const RunTimeError& error) {
-        if (error.Number() != static_cast<int>(ErrorNumber::TooManyFiles) || !visitor.ReleaseFolders()) {
+        const bool tooMany = error.Number() == static_cast<int>(ErrorNumber::TooManyFiles);
+        if (!tooMany || !(preload.Stop() || visitor.ReleaseFolders())) {
             throw;
         }
     }
     return std::make_shared<OpenFolder>(path, baseFolder);
 }
+
+// Finds out whether a thread has to wait for the disk. Folders that are in memory take some microseconds, if
+// they are not large; and whoever has nothing to wait for does not give up the processor.
+class WaitDetector {
+  public:
+    void Begin() { begun_ = std::chrono::steady_clock::now(); }
+    // Whether it has waited now and then up to the end of what began last.
+    bool HasWaited() {
+        if (std::chrono::steady_clock::now() - begun_ < kSlowFolder) {
+            return false;
+        }
+        rusage usage{};
+        getrusage(RUSAGE_THREAD, &usage);
+        if (first_ == 0) {
+            first_ = usage.ru_nvcsw;
+        }
+        return usage.ru_nvcsw - first_ >= kWaits;
+    }
+
+  private:
+    static constexpr std::chrono::microseconds kSlowFolder{50};
+    static constexpr long kWaits = 4;
+
+    std::chrono::steady_clock::time_point begun_;
+    long first_ = 0;
+};
 
 } // namespace
 
@@ -102,16 +132,27 @@ std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle st
 bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
     std::set<std::pair<dev_t, ino_t>> walked;
     pending_.assign(1, start.path);
+    WaitDetector waits;
+    FolderPreload preload;
+    if (preload_ == Preload::AtOnce && recurse) {
+        preload.Start(pending_);
+    }
     while (!pending_.empty()) {
+        waits.Begin();
         currentFolder_ = std::move(pending_.back());
         pending_.pop_back();
-        const auto folder = OpenForWalk(currentFolder_, start.baseFolder, visitor);
+        const auto folder = OpenForWalk(currentFolder_, start.baseFolder, visitor, preload);
         struct stat status {};
         if (Uninterrupted([&] { return fstat(folder->Descriptor(), &status); }) != 0) {
             throw ErrorFromErrno(errno, FileTask::UseFolder);
         }
         if (walked.emplace(status.st_dev, status.st_ino).second && !WalkOne(folder, recurse, visitor)) {
             return false;
+        }
+        if (preload.Running()) {
+            preload.Advance();
+        } else if (preload_ == Preload::WhenWaiting && !pending_.empty() && waits.HasWaited()) {
+            preload.Start(pending_);
         }
     }
     return true;

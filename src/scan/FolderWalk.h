@@ -62,6 +62,12 @@ std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle st
 
 class FolderWalk {
   public:
+    // Whether other threads list folders ahead of the walk: never, once it has waited for the disk, or at
+    // once.
+    enum class Preload { Never, WhenWaiting, AtOnce };
+
+    explicit FolderWalk(Preload preload = Preload::Never) : preload_(preload) {}
+
     // Visits the MP3 files of the folder, then with `recurse` its sub-folders, each with its own before the
     // next, siblings in the reverse of the order in which they were listed. Names stand in the order of the
     // directory. A folder is walked once, by whatever links it is reached. Returns false when the visitor
@@ -74,6 +80,7 @@ class FolderWalk {
   private:
     bool WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor);
 
+    const Preload preload_;
     std::vector<std::string> pending_; // the next folder is the last
     std::string currentFolder_;
 };

@@ -9,7 +9,9 @@
 #include <algorithm>
 #include <dirent.h>
 #include <filesystem>
+#include <fstream>
 #include <string>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -35,9 +37,10 @@ class Recorder final : public WalkVisitor {
     int stopAt = 0;
 };
 
-std::vector<std::string> Walk(const std::string& folder, bool recurse) {
+std::vector<std::string> Walk(const std::string& folder, bool recurse,
+                              FolderWalk::Preload preload = FolderWalk::Preload::Never) {
     Recorder recorder;
-    FolderWalk walk;
+    FolderWalk walk(preload);
     const auto starts = StartFolders(folder, PathStyle::Unix());
     EXPECT_EQ(starts.size(), 1U);
     EXPECT_TRUE(walk.Run(starts.front(), recurse, recorder));
@@ -226,6 +229,75 @@ TEST(FolderWalk, RaisesTheErrorOfAFolderThatCannotBeListed) {
     const test::OrdinaryRights rights;
     EXPECT_EQ(WalkError(folder / "ok", where), 75);
     EXPECT_EQ(where, folder / "ok/closed/");
+}
+
+// A few hundred folders, with links that lead back and some that lead nowhere.
+void MakeManyFolders(const TestFolder& folder) {
+    for (const char* first : {"a", "b", "c", "d", "e", "f", "g"}) {
+        const std::string artist = folder / first;
+        for (int album = 0; album < 20; ++album) {
+            const std::string path = artist + "/" + std::to_string(album);
+            fs::create_directories(path + "/CD 2/.hidden");
+            fs::create_symlink("..", path + "/up");
+            fs::create_symlink("nowhere", path + "/nothing");
+            std::ofstream(path + "/1.mp3").put('x');
+            std::ofstream(path + "/CD 2/2.MP3").put('x');
+        }
+    }
+}
+
+TEST(FolderWalk, FindsTheSameInTheSameOrderWhenFoldersAreListedAhead) {
+    const TestFolder folder;
+    MakeManyFolders(folder);
+    const std::vector<std::string> files = Walk(folder.Path(), true);
+    ASSERT_EQ(files.size(), 280U);
+    for (int round = 0; round < 20; ++round) {
+        ASSERT_EQ(Walk(folder.Path(), true, FolderWalk::Preload::AtOnce), files);
+        ASSERT_EQ(Walk(folder.Path(), true, FolderWalk::Preload::WhenWaiting), files);
+    }
+}
+
+TEST(FolderWalk, ListsNothingAheadOfAFolderWithoutItsSubfolders) {
+    const TestFolder folder;
+    folder.Write("1.mp3", "");
+    folder.Write("sub/2.mp3", "");
+    EXPECT_EQ(Without(Walk(folder.Path(), false, FolderWalk::Preload::AtOnce), folder.Path()),
+              std::vector<std::string>{"1.mp3"});
+}
+
+TEST(FolderWalk, DoesNotLackADescriptorBecauseFoldersAreListedAhead) {
+    const TestFolder folder;
+    MakeManyFolders(folder);
+    const std::vector<std::string> files = Walk(folder.Path(), true);
+    const int free = dup(STDERR_FILENO);
+    close(free);
+    rlimit before{};
+    getrlimit(RLIMIT_NOFILE, &before);
+    rlimit few = before;
+    few.rlim_cur = static_cast<rlim_t>(free) + 1;
+    setrlimit(RLIMIT_NOFILE, &few);
+    std::vector<std::string> found;
+    for (int round = 0; round < 20 && found.size() == files.size() * static_cast<std::size_t>(round);
+         ++round) {
+        try {
+            const std::vector<std::string> more = Walk(folder.Path(), true, FolderWalk::Preload::AtOnce);
+            found.insert(found.end(), more.begin(), more.end());
+        } catch (const RunTimeError& error) {
+            ADD_FAILURE() << error.Number();
+        }
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(found.size(), 20 * files.size());
+}
+
+TEST(FolderWalk, StopsAtOnceWhileFoldersAreListedAhead) {
+    const TestFolder folder;
+    MakeManyFolders(folder);
+    Recorder recorder;
+    recorder.stopAt = 30;
+    FolderWalk walk(FolderWalk::Preload::AtOnce);
+    EXPECT_FALSE(walk.Run(StartFolders(folder.Path(), PathStyle::Unix()).front(), true, recorder));
+    EXPECT_EQ(recorder.entries, 30);
 }
 
 struct StartRow {

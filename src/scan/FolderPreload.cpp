@@ -1,0 +1,99 @@
+#include "FolderPreload.h"
+
+#include "FileSystem.h"
+#include "Path.h"
+#include "RunTimeError.h"
+
+#include <cstring>
+#include <dirent.h>
+#include <exception>
+#include <memory>
+#include <utility>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::size_t kThreads = 16;
+constexpr std::size_t kMostAhead = 512;
+
+} // namespace
+
+void FolderPreload::Start(const std::vector<std::string>& pending) {
+    pending_ = pending;
+    ahead_ = 0;
+    try {
+        while (threads_.size() < kThreads) {
+            threads_.emplace_back([this] { Run(); });
+        }
+    } catch (const std::exception&) { // no thread, or no memory for one: fewer will do
+    }
+}
+
+void FolderPreload::Advance() {
+    {
+        const std::lock_guard lock(mutex_);
+        ahead_ -= ahead_ > 0 ? 1 : 0;
+    }
+    changed_.notify_one();
+}
+
+bool FolderPreload::Stop() {
+    const bool running = Running();
+    {
+        const std::lock_guard lock(mutex_);
+        stopping_ = true;
+    }
+    changed_.notify_all();
+    for (std::thread& thread : threads_) {
+        thread.join();
+    }
+    threads_.clear();
+    stopping_ = false;
+    return running;
+}
+
+void FolderPreload::Run() {
+    std::unique_lock lock(mutex_);
+    while (true) {
+        changed_.wait(lock, [this] { return stopping_ || (!pending_.empty() && ahead_ < kMostAhead); });
+        if (stopping_) {
+            return;
+        }
+        const std::string folder = std::move(pending_.back());
+        pending_.pop_back();
+        ++ahead_;
+        lock.unlock();
+        std::vector<std::string> found = SubFolders(folder);
+        lock.lock();
+        for (std::string& path : found) {
+            pending_.push_back(std::move(path));
+        }
+        if (found.size() > 1) {
+            changed_.notify_all();
+        }
+    }
+}
+
+// Reads the folder to its end: that loads it. Links are the walk's to follow, or there would be no end to
+// it.
+std::vector<std::string> FolderPreload::SubFolders(const std::string& folder) const {
+    std::vector<std::string> found;
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(OpenFolderStream(folder), closedir);
+    try {
+        while (stream && !stopping_) {
+            const dirent* entry = NextEntry(stream.get());
+            if (entry == nullptr) {
+                break;
+            }
+            if (entry->d_type == DT_DIR && entry->d_name[0] != '.') {
+                found.push_back(folder + static_cast<const char*>(entry->d_name) +
+                                PathStyle::Native().separator);
+            }
+        }
+    } catch (const RunTimeError&) { // the walk will see for itself
+    }
+    return found;
+}
+
+} // namespace tunedex
