@@ -1,5 +1,6 @@
 #include "FolderPreload.h"
 
+#include "DiskWaits.h"
 #include "FileSystem.h"
 #include "Path.h"
 #include "RunTimeError.h"
@@ -22,6 +23,8 @@ constexpr std::size_t kMostAhead = 512;
 void FolderPreload::Start(const std::vector<std::string>& pending) {
     pending_ = pending;
     ahead_ = 0;
+    judged_ = loaded_ = 0;
+    pays_ = true;
     try {
         while (threads_.size() < kThreads) {
             threads_.emplace_back([this] { Run(); });
@@ -31,11 +34,17 @@ void FolderPreload::Start(const std::vector<std::string>& pending) {
 }
 
 void FolderPreload::Advance() {
+    bool pays = true;
     {
         const std::lock_guard lock(mutex_);
         ahead_ -= ahead_ > 0 ? 1 : 0;
+        pays = pays_;
     }
-    changed_.notify_one();
+    if (pays) {
+        changed_.notify_one();
+    } else {
+        Stop();
+    }
 }
 
 bool FolderPreload::Stop() {
@@ -64,14 +73,28 @@ void FolderPreload::Run() {
         pending_.pop_back();
         ++ahead_;
         lock.unlock();
+        const std::int64_t waits = WaitsOfThread();
         std::vector<std::string> found = SubFolders(folder);
+        const bool waited = WaitsOfThread() != waits;
         lock.lock();
+        Judge(waited);
         for (std::string& path : found) {
             pending_.push_back(std::move(path));
         }
         if (found.size() > 1) {
             changed_.notify_all();
         }
+    }
+}
+
+// Threads in each other's way do more harm than good where there is nothing to load.
+void FolderPreload::Judge(bool waited) {
+    constexpr int kFolders = 64;
+    constexpr int kFew = 16;
+    loaded_ += waited ? 1 : 0;
+    if (++judged_ == kFolders) {
+        pays_ = pays_ && loaded_ >= kFew;
+        judged_ = loaded_ = 0;
     }
 }
 

@@ -25,7 +25,7 @@ class FolderPreload {
     // separator. Without a thread to be had it does nothing.
     void Start(const std::vector<std::string>& pending);
     bool Running() const { return !threads_.empty(); }
-    // The walk has listed one more folder.
+    // The walk has listed one more folder. Ends the preloading when it has hardly a folder to load any more.
     void Advance();
     // Closes every folder. Returns whether it was running.
     bool Stop();
@@ -33,12 +33,16 @@ class FolderPreload {
   private:
     void Run();
     std::vector<std::string> SubFolders(const std::string& folder) const;
+    void Judge(bool waited);
 
     std::vector<std::thread> threads_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::vector<std::string> pending_; // the next folder is the last
     std::size_t ahead_ = 0;            // folders listed here and not by the walk, or nearly so
+    int judged_ = 0;                   // folders of which is known
+    int loaded_ = 0;                   // whether they came from the disk
+    bool pays_ = true;
     std::atomic<bool> stopping_ = false;
 };
 

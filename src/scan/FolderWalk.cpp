@@ -1,5 +1,6 @@
 #include "FolderWalk.h"
 
+#include "DiskWaits.h"
 #include "FileSystem.h"
 #include "FolderPreload.h"
 #include "RunTimeError.h"
@@ -9,11 +10,9 @@
 
 #include <atomic>
 #include <cerrno>
-#include <chrono>
 #include <dirent.h>
 #include <optional>
 #include <set>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <utility>
 
@@ -61,32 +60,6 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
     return std::make_shared<OpenFolder>(path, baseFolder);
 }
 
-// Finds out whether a thread has to wait for the disk. Folders that are in memory take some microseconds, if
-// they are not large; and whoever has nothing to wait for does not give up the processor.
-class WaitDetector {
-  public:
-    void Begin() { begun_ = std::chrono::steady_clock::now(); }
-    // Whether it has waited now and then up to the end of what began last.
-    bool HasWaited() {
-        if (std::chrono::steady_clock::now() - begun_ < kSlowFolder) {
-            return false;
-        }
-        rusage usage{};
-        getrusage(RUSAGE_THREAD, &usage);
-        if (first_ == 0) {
-            first_ = usage.ru_nvcsw;
-        }
-        return usage.ru_nvcsw - first_ >= kWaits;
-    }
-
-  private:
-    static constexpr std::chrono::microseconds kSlowFolder{50};
-    static constexpr long kWaits = 4;
-
-    std::chrono::steady_clock::time_point begun_;
-    long first_ = 0;
-};
-
 } // namespace
 
 OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
@@ -132,13 +105,12 @@ std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle st
 bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
     std::set<std::pair<dev_t, ino_t>> walked;
     pending_.assign(1, start.path);
-    WaitDetector waits;
     FolderPreload preload;
+    WaitDetector detector;
     if (preload_ == Preload::AtOnce && recurse) {
         preload.Start(pending_);
     }
     while (!pending_.empty()) {
-        waits.Begin();
         currentFolder_ = std::move(pending_.back());
         pending_.pop_back();
         const auto folder = OpenForWalk(currentFolder_, start.baseFolder, visitor, preload);
@@ -151,7 +123,7 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
         }
         if (preload.Running()) {
             preload.Advance();
-        } else if (preload_ == Preload::WhenWaiting && !pending_.empty() && waits.HasWaited()) {
+        } else if (preload_ == Preload::WhenWaiting && detector.ManyWaits()) {
             preload.Start(pending_);
         }
     }

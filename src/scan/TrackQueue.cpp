@@ -1,7 +1,8 @@
 #include "TrackQueue.h"
 
+#include "DiskWaits.h"
+
 #include <algorithm>
-#include <ctime>
 #include <sys/resource.h>
 
 namespace tunedex {
@@ -12,14 +13,12 @@ constexpr std::size_t kMostBatches = 128;
 // Each keeps a descriptor; the usual limit for a process is 1024.
 constexpr int kMostOpenFolders = 64;
 constexpr std::chrono::milliseconds kStopTestInterval{20};
-// A file that takes this long of the clock and less than half of it of the processor waits for the disk.
+// Files that take this long each, one in four of which makes its reader give up the processor, come from a
+// slow disk. By the clock alone a busy processor looks the same, and more readers would make it busier.
 constexpr std::chrono::microseconds kSlowFile{100};
-
-std::chrono::nanoseconds ThreadTime() {
-    std::timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
-}
+constexpr std::int64_t kFilesToAWait = 4;
+// So many batches from memory, one after the other, and there is one reader too many.
+constexpr unsigned kFastBatches = 16;
 
 void ReadOne(QueuedTrack& track, const ReadOptions& options) {
     track.failure.reset();
@@ -126,7 +125,7 @@ bool TrackQueue::Publish() {
         {
             const std::lock_guard lock(mutex_);
             unread_.push_back(&batch);
-            wake = idle_ > 0;
+            wake = idle_ > 0 && Busy() < wanted_;
         }
         if (wake) {
             work_.notify_one();
@@ -214,10 +213,10 @@ void TrackQueue::Receive(Batch& batch) {
 }
 
 void TrackQueue::StartFirstReaders() {
-    const unsigned count =
-        fixedReaders_ > 0 ? fixedReaders_ : std::max(1U, std::thread::hardware_concurrency());
+    fewestReaders_ = fixedReaders_ > 0 ? fixedReaders_ : std::max(1U, std::thread::hardware_concurrency());
     const std::lock_guard lock(mutex_);
-    while (readers_.size() < count && StartReader()) {
+    wanted_ = fewestReaders_;
+    while (readers_.size() < wanted_ && StartReader()) {
     }
     haveReaders_ = !readers_.empty();
 }
@@ -236,7 +235,7 @@ void TrackQueue::ReadLoop() {
     std::unique_lock lock(mutex_);
     while (true) {
         ++idle_;
-        work_.wait(lock, [this] { return stopping_ || !unread_.empty(); });
+        work_.wait(lock, [this] { return stopping_ || (!unread_.empty() && Busy() < wanted_); });
         --idle_;
         if (stopping_) {
             return;
@@ -245,17 +244,17 @@ void TrackQueue::ReadLoop() {
         unread_.pop_front();
         lock.unlock();
         const auto begun = std::chrono::steady_clock::now();
-        const auto processorBegun = ThreadTime();
+        const std::int64_t waitsBefore = WaitsOfThread();
         ReadBatch(*batch);
-        const auto wall = std::chrono::steady_clock::now() - begun;
-        const auto processor = ThreadTime() - processorBegun;
-        const std::size_t files = batch->count;
+        const auto files = static_cast<long>(batch->count);
+        const bool slow = std::chrono::steady_clock::now() - begun > kSlowFile * files &&
+                          (WaitsOfThread() - waitsBefore) * kFilesToAWait >= files;
         lock.lock();
         batch->done = true;
         if (callerWaits_) {
             finished_.notify_one();
         }
-        GrowIfWaiting(wall, processor, files);
+        Adapt(slow);
     }
 }
 
@@ -274,11 +273,30 @@ void TrackQueue::ReadBatch(Batch& batch) const {
     }
 }
 
-void TrackQueue::GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor,
-                               std::size_t files) {
-    const bool waits = wall > kSlowFile * files && processor * 2 < wall;
-    slowDisk_ = slowDisk_ || waits;
-    if (fixedReaders_ == 0 && waits && !stopping_ && !unread_.empty() && readers_.size() < kMostReaders) {
+// Called under the mutex: one reader more after a batch that had to be waited for, one less after many that
+// had not.
+void TrackQueue::Adapt(bool slow) {
+    if (!slow) {
+        if (++fastBatches_ < kFastBatches) {
+            return;
+        }
+        fastBatches_ = 0;
+        if (wanted_ > fewestReaders_) {
+            --wanted_;
+        } else {
+            slowDisk_ = false;
+        }
+        return;
+    }
+    fastBatches_ = 0;
+    slowDisk_ = true;
+    if (fixedReaders_ > 0 || stopping_ || unread_.empty() || wanted_ == kMostReaders) {
+        return;
+    }
+    ++wanted_;
+    if (idle_ > 0) {
+        work_.notify_one();
+    } else if (readers_.size() < wanted_) {
         StartReader();
     }
 }

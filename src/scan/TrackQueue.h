@@ -38,7 +38,7 @@ class TrackQueue {
     using StopTest = std::function<bool()>;
 
     // `readers` is how many threads read: 1 reads on the caller's own thread, 0 begins with one for each core
-    // and adds more, up to kMostReaders, for as long as they spend their time waiting for the disk.
+    // and has more, up to kMostReaders, for as long as they spend their time waiting for the disk.
     TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest);
     TrackQueue(const TrackQueue&) = delete;
     TrackQueue& operator=(const TrackQueue&) = delete;
@@ -78,7 +78,8 @@ class TrackQueue {
     void ReadBatch(Batch& batch) const;
     void StartFirstReaders();
     bool StartReader();
-    void GrowIfWaiting(std::chrono::nanoseconds wall, std::chrono::nanoseconds processor, std::size_t files);
+    unsigned Busy() const { return static_cast<unsigned>(readers_.size()) - idle_; }
+    void Adapt(bool slow);
     void StopReaders();
 
     const unsigned fixedReaders_;
@@ -105,7 +106,10 @@ class TrackQueue {
     std::deque<Batch*> unread_;
     std::vector<std::thread> readers_;
     unsigned idle_ = 0;
-    std::atomic<bool> slowDisk_ = false; // a reader has waited for it
+    unsigned fewestReaders_ = 1;
+    unsigned wanted_ = 1;                // how many may read at the same time
+    unsigned fastBatches_ = 0;           // since one from a slow disk
+    std::atomic<bool> slowDisk_ = false; // readers have to wait for it
     std::atomic<bool> stopping_ = false; // read between files too, so that nobody waits for a batch to end
     bool callerWaits_ = false;
 };

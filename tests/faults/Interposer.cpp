@@ -8,12 +8,13 @@
 //   TUNEDEX_FAULT_STAYS   if set, all later calls of that kind fail too
 //   TUNEDEX_FAULT_KILL    if set, the process is killed at that call instead
 //   TUNEDEX_FAULT_RUN     a shell command that is run before that call, which does not fail then
+//   TUNEDEX_FAULT_SLOW    how many microseconds longer every opening of a folder and every read takes
 //   TUNEDEX_FAULT_DENY    a path that access() says may not be written, as of a program that was installed
-//   TUNEDEX_FAULT_REPORT  a file that is given, when the process ends, a line for each kind of call with its
-//   count, how
-//                         often a fault struck, and the number of files that are still open
+//   TUNEDEX_FAULT_REPORT  a file that is given, when the process ends, how often each kind of call was made,
+//                         how often a fault struck, how many files are still open, and how many slow calls of
+//                         a kind there were at the same time
 //
-// Waiting takes no time.
+// Other waiting takes no time.
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -59,6 +60,8 @@ constexpr int kShort = -1;
 
 std::array<std::atomic<int>, kKinds> counts{};
 std::atomic<int> struck{0};
+std::array<std::atomic<int>, kKinds> waiting{};
+std::array<std::atomic<int>, kKinds> waitingAtMost{};
 std::array<std::atomic<bool>, kMostDescriptors> watched{};
 
 const char* Setting(const char* name) {
@@ -80,6 +83,7 @@ struct Plan {
     bool stays = *Setting("TUNEDEX_FAULT_STAYS") != '\0';
     bool kills = *Setting("TUNEDEX_FAULT_KILL") != '\0';
     const char* command = Setting("TUNEDEX_FAULT_RUN");
+    long slow = NumberOf(Setting("TUNEDEX_FAULT_SLOW"));
     std::string_view deny = Setting("TUNEDEX_FAULT_DENY");
 };
 
@@ -155,6 +159,20 @@ std::size_t Shortened(std::size_t count) {
     return std::max<std::size_t>(1, count / 2);
 }
 
+// Takes its time on a slow disk; by a system call, since sleeping is done away with below.
+void Wait(Kind kind) {
+    if (ThePlan().slow == 0) {
+        return;
+    }
+    const int now = ++waiting.at(kind);
+    int most = waitingAtMost.at(kind);
+    while (now > most && !waitingAtMost.at(kind).compare_exchange_weak(most, now)) {
+    }
+    const std::timespec time{0, ThePlan().slow * 1000};
+    syscall(SYS_nanosleep, &time, nullptr);
+    --waiting.at(kind);
+}
+
 mode_t ModeOf(int flags, va_list arguments) {
     return (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
 }
@@ -198,6 +216,8 @@ struct Reporter {
         }
         const auto open =
             std::count_if(watched.begin(), watched.end(), [](const auto& is) { return is.load(); });
+        text += "opendir-at-once " + std::to_string(waitingAtMost.at(kOpenDir)) + "\nread-at-once " +
+                std::to_string(waitingAtMost.at(kRead)) + "\n";
         text += "struck " + std::to_string(struck) + "\nleft-open " + std::to_string(open) + "\n";
         const auto file =
             static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, O_WRONLY | O_CREAT | O_TRUNC, 0666));
@@ -249,6 +269,9 @@ DIR* opendir(const char* path) {
     if (concerned && Fails(kOpenDir)) {
         return nullptr;
     }
+    if (concerned) {
+        Wait(kOpenDir);
+    }
     static const auto next = Next<DIR* (*)(const char*)>("opendir");
     DIR* const stream = next(path);
     if (stream != nullptr) {
@@ -280,6 +303,9 @@ ssize_t read(int descriptor, void* buffer, std::size_t count) {
 
 ssize_t pread(int descriptor, void* buffer, std::size_t count, off_t offset) {
     static const auto next = Next<ssize_t (*)(int, void*, std::size_t, off_t)>("pread");
+    if (Concerns(descriptor)) {
+        Wait(kRead);
+    }
     return Short(kRead, descriptor, count) < 0 ? -1 : next(descriptor, buffer, count, offset);
 }
 
@@ -355,9 +381,9 @@ int fchmod(int descriptor, mode_t mode) {
     return Concerns(descriptor) && Fails(kOther) ? -1 : next(descriptor, mode);
 }
 
-ssize_t readlink(const char* path, char* buffer, std::size_t size) {
-    static const auto next = Next<ssize_t (*)(const char*, char*, std::size_t)>("readlink");
-    return Concerns(AT_FDCWD, path) && Fails(kOther) ? -1 : next(path, buffer, size);
+ssize_t readlinkat(int folder, const char* path, char* buffer, std::size_t size) {
+    static const auto next = Next<ssize_t (*)(int, const char*, char*, std::size_t)>("readlinkat");
+    return Concerns(folder, path) && Fails(kOther) ? -1 : next(folder, path, buffer, size);
 }
 
 int nanosleep(const struct timespec* /*duration*/, struct timespec* /*left*/) {

@@ -496,6 +496,24 @@ class Cases:
         assert data.endswith(b"TableBorder=1\r\n") and data.count(b"TableBorder=") == 1
         box.nothing_left()
 
+    def test_from_a_slow_disk_many_are_read_at_once_and_the_listing_is_the_same(self, folder):
+        box = Box(folder, ErrorWarnings=0)
+        for artist in range(20):
+            for album in range(6):
+                path = box.music / f"artist {artist}" / f"album {album}"
+                path.mkdir(parents=True)
+                for number in range(6):
+                    (path / f"{number}.mp3").write_bytes(tagged(b"Title %d" % (number // 2), b"Artist %d" % (artist // 2)))
+        box.run(0)
+        expected, log = box.listing.read_bytes(), box.log()
+        report = box.root / "report"
+        box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_REPORT=str(report))
+        assert box.listing.read_bytes() == expected and box.log() == log
+        told = dict(line.split() for line in report.read_text().splitlines())
+        assert int(told["left-open"]) == 0, told
+        assert int(told["opendir-at-once"]) > 4, told
+        assert int(told["read-at-once"]) > min(os.cpu_count(), 24), told
+
     def test_pipes_sockets_loops_and_dangling_links_are_no_tracks(self, folder):
         box = Box(folder)
         (box.music / "a.mp3").write_bytes(tagged(b"One"))
