@@ -85,7 +85,7 @@ std::size_t FileByteSource::Read(std::uint64_t offset, std::span<std::uint8_t> b
     const bool inWindow = offset >= window_.offset && offset - window_.offset < window_.length &&
                           window_.length - (offset - window_.offset) >= buffer.size();
     if (!inWindow) {
-        if (buffer.size() > kWindowBytes / 2) {
+        if (buffer.size() >= kWindowBytes / 2) {
             return ReadFile(offset, buffer);
         }
         if (offset + buffer.size() >= size_ && buffer.size() >= 128) {

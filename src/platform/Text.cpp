@@ -201,12 +201,12 @@ void AppendWindows1252(std::string& bytes, std::string_view text, Substitute sub
 
 std::string UpperCase(std::string_view text) {
     std::string upper(text);
-    bool ascii = true;
+    unsigned char bits = 0; // of all bytes together: without a branch, many are done at a time
     for (char& byte : upper) {
-        ascii = ascii && static_cast<unsigned char>(byte) < 0x80;
-        byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 0x20) : byte;
+        bits |= static_cast<unsigned char>(byte);
+        byte = static_cast<char>(byte - (byte >= 'a' && byte <= 'z' ? 0x20 : 0));
     }
-    if (ascii) {
+    if (bits < 0x80) {
         return upper;
     }
     upper.clear();
