@@ -144,6 +144,17 @@ TEST(FileByteSource, RaisesTheErrorOfWhatIsNoReadableFileAndNeverWaits) {
     for (const auto& [path, number] : rows) {
         EXPECT_EQ(test::RaisedBy([&path = path] { FileByteSource source(path); }), number) << path;
     }
+    const int descriptor = open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    for (const auto& [path, number] : rows) {
+        if (path.starts_with(folder.Path()) && path.find('\0') == std::string::npos) {
+            EXPECT_EQ(test::RaisedBy([&, name = path.c_str() + folder.Path().size()] {
+                          FileByteSource source(descriptor, name);
+                      }),
+                      number)
+                << path;
+        }
+    }
+    close(descriptor);
     test::AsOrdinaryUser(folder, [&] {
         ASSERT_EQ(chmod((folder / "file").c_str(), 0), 0);
         EXPECT_EQ(test::RaisedBy([&] { FileByteSource source(folder / "file"); }), 75);
