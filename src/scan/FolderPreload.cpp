@@ -3,12 +3,12 @@
 #include "DiskWaits.h"
 #include "FileSystem.h"
 #include "Path.h"
-#include "RunTimeError.h"
 
-#include <cstring>
 #include <dirent.h>
 #include <exception>
+#include <iterator>
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace tunedex {
@@ -78,8 +78,11 @@ void FolderPreload::Run() {
         const bool waited = WaitsOfThread() != waits;
         lock.lock();
         Judge(waited);
-        for (std::string& path : found) {
-            pending_.push_back(std::move(path));
+        try {
+            pending_.insert(pending_.end(), std::make_move_iterator(found.begin()),
+                            std::make_move_iterator(found.end()));
+        } catch (const std::bad_alloc&) {
+            return; // the walk needs the memory more
         }
         if (found.size() > 1) {
             changed_.notify_all();
@@ -114,7 +117,7 @@ std::vector<std::string> FolderPreload::SubFolders(const std::string& folder) co
                                 PathStyle::Native().separator);
             }
         }
-    } catch (const RunTimeError&) { // the walk will see for itself
+    } catch (const std::exception&) { // the walk will see for itself
     }
     return found;
 }
