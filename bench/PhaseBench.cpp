@@ -204,6 +204,13 @@ void Pages(std::size_t count, const std::string& folder) {
     std::filesystem::create_directory(pages);
     Print("pages-of-100",
           SecondsOf([&] { bench.Write(monitor, tunedex::kHtmlOutput, pages + "/p.htm", 100); }));
+    const std::string empty = folder + "/empty";
+    std::filesystem::create_directory(empty);
+    Print("empty-files", SecondsOf([&] {
+              for (std::size_t i = 0; i < count / 100; ++i) {
+                  WriteThroughBuffer("", empty + "/p." + std::to_string(i));
+              }
+          }));
     std::vector<std::string> contents;
     for (const auto& entry : std::filesystem::directory_iterator(pages)) {
         contents.push_back(ReadWhole(entry.path()));
