@@ -8,7 +8,8 @@
 //   TUNEDEX_FAULT_STAYS   if set, all later calls of that kind fail too
 //   TUNEDEX_FAULT_KILL    if set, the process is killed at that call instead
 //   TUNEDEX_FAULT_RUN     a shell command that is run before that call, which does not fail then
-//   TUNEDEX_FAULT_SLOW    how many microseconds longer every opening of a folder and every read takes
+//   TUNEDEX_FAULT_SLOW    how many microseconds longer every opening of a folder and every read takes; with
+//                         TUNEDEX_FAULT_N only so many of each
 //   TUNEDEX_FAULT_DENY    a path that access() says may not be written, as of a program that was installed
 //   TUNEDEX_FAULT_REPORT  a file that is given, when the process ends, how often each kind of call was made,
 //                         how often a fault struck, how many files are still open, and how many slow calls of
@@ -161,14 +162,15 @@ std::size_t Shortened(std::size_t count) {
 
 // Takes its time on a slow disk; by a system call, since sleeping is done away with below.
 void Wait(Kind kind) {
-    if (ThePlan().slow == 0) {
+    const Plan& plan = ThePlan();
+    if (plan.slow == 0 || (plan.n > 0 && counts.at(kind) > plan.n)) {
         return;
     }
     const int now = ++waiting.at(kind);
     int most = waitingAtMost.at(kind);
     while (now > most && !waitingAtMost.at(kind).compare_exchange_weak(most, now)) {
     }
-    const std::timespec time{0, ThePlan().slow * 1000};
+    const std::timespec time{0, plan.slow * 1000};
     syscall(SYS_nanosleep, &time, nullptr);
     --waiting.at(kind);
 }

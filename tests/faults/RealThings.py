@@ -510,6 +510,8 @@ class Cases:
         box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_REPORT=str(report))
         assert box.listing.read_bytes() == expected and box.log() == log
         told = dict(line.split() for line in report.read_text().splitlines())
+        box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_N="300")  # and fast again
+        assert box.listing.read_bytes() == expected and box.log() == log
         assert int(told["left-open"]) == 0, told
         assert int(told["opendir-at-once"]) > 4, told
         assert int(told["read-at-once"]) > min(os.cpu_count(), 24), told
