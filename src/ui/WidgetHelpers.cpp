@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
+#include <QStringDecoder>
 #include <QUrl>
 
 #include <filesystem>
@@ -58,7 +59,8 @@ QString ToQt(std::string_view text) {
             const auto byte = static_cast<unsigned char>(text[position]);
             result.append(QChar(static_cast<char16_t>(kStrayByteBase + byte)));
         } else {
-            result.append(QString::fromUcs4(&step.character, 1));
+            // Not QString's way, which takes the first character for a mark of the byte order.
+            result.append(QChar::fromUcs4(step.character));
         }
         position += step.length;
     }
@@ -85,7 +87,10 @@ std::string FromQt(const QString& text) {
 }
 
 QString ToQtDisplay(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).replace(u"\r\n"_s, u"\n"_s);
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    const QString result = decoder(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    return QString(result).replace(u"\r\n"_s, u"\n"_s);
 }
 
 void NameControl(QWidget& control, const QString& objectName, const QString& accessibleName,

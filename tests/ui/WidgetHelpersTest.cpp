@@ -27,6 +27,7 @@ class WidgetHelpersTest : public QObject {
             return bytes;
         }();
         QTest::newRow("an encoded surrogate, which is no UTF-8") << QByteArray("\xED\xB2\x80");
+        QTest::newRow("marks of the byte order anywhere") << QByteArray("\uFEFF\uFEFFa\uFEFFb\uFEFF");
         QTest::newRow("an overlong form") << QByteArray("\xC0\xAF");
         QTest::newRow("a TAB, a line break and a NUL") << QByteArray("a\tb\nc\0d", 7);
         QTest::newRow("longer than a field usually allows") << QByteArray(40000, 'x');
@@ -45,6 +46,7 @@ class WidgetHelpersTest : public QObject {
 
     void ForTheEyeAStrayByteIsReplacedAndALineBreakIsPlain() {
         QCOMPARE(ToQtDisplay("a\r\nb\xFC"), u"a\nb\uFFFD"_s);
+        QCOMPARE(ToQtDisplay("\uFEFF\uFEFFa\uFEFF\xE2"), u"\uFEFF\uFEFFa\uFEFF\uFFFD"_s);
     }
 
     void AControlCarriesItsNameAndDescription() {
