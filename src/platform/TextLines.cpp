@@ -8,6 +8,10 @@
 namespace tunedex {
 
 std::vector<std::string> SplitTextLines(std::string_view bytes) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kByteOrderMark)) {
+        bytes.remove_prefix(kByteOrderMark.size());
+    }
     std::vector<std::string> lines;
     while (!bytes.empty()) {
         const std::size_t end = bytes.find_first_of("\r\n");

@@ -41,6 +41,14 @@ TEST(SplitTextLines, DecodesEachLineForItself) {
               (Lines{"Café", "Café", "\xC2\x81Ã©"}));
 }
 
+TEST(SplitTextLines, LeavesOutTheMarkOfTheByteOrder) {
+    EXPECT_EQ(SplitTextLines("\xEF\xBB\xBF"
+                             "Key=1\r\n\xEF\xBB\xBFx"),
+              (Lines{"Key=1", "\uFEFFx"}));
+    EXPECT_EQ(SplitTextLines("\xEF\xBB\xBF"), Lines());
+    EXPECT_EQ(SplitTextLines("\xEF\xBB"), Lines{"ï»"});
+}
+
 TEST(ReadTextLines, ReadsAFileOfAnyLengthToItsEnd) {
     const test::TestFolder folder;
     for (const std::size_t length : {0U, 1U, 65535U, 65536U, 65537U, 300000U}) {
