@@ -85,7 +85,7 @@ TextFile::TextFile(const std::string& path, TextEncoding encoding) : encoding_(e
 }
 
 // Opens the folder where a chain of symbolic links ends, and tells what is there under the last name:
-// nothing, or something that is no link.
+// nothing, a file or a folder. A link to anything else counts as what it leads to.
 std::optional<struct stat> TextFile::FindOld(std::string path) {
     constexpr int kMostLinks = 40; // as the kernel counts
     for (int i = 0; i <= kMostLinks; ++i) {
@@ -108,6 +108,12 @@ std::optional<struct stat> TextFile::FindOld(std::string path) {
         }
         if (!S_ISLNK(old.st_mode)) {
             return old;
+        }
+        // The standard output's link tells of no path where that is a pipe, but leads there all the same.
+        struct stat end {};
+        if (Uninterrupted([&] { return fstatat(folder_, name_.c_str(), &end, 0); }) == 0 &&
+            !S_ISREG(end.st_mode) && !S_ISDIR(end.st_mode)) {
+            return end;
         }
         const std::string target = LinkTarget(folder_, name_);
         path = target.starts_with('/') ? target : prefix + target;

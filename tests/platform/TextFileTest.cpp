@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <string>
 #include <sys/mount.h>
@@ -146,6 +148,23 @@ TEST(TextFile, CreatesTheFileThatADanglingLinkNames) {
     Save(folder / "link", "new");
     EXPECT_EQ(test::ReadBytes(folder / "real/list.htm"), "new");
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
+}
+
+TEST(TextFile, WritesThroughALinkToAPipe) {
+    const test::TestFolder folder;
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
+    const std::string link = "/proc/self/fd/" + std::to_string(pipe[1]); // as /dev/stdout
+    ASSERT_EQ(symlink(link.c_str(), (folder / "link").c_str()), 0);
+    for (const std::string& path : {link, folder / "link"}) {
+        Save(path, "new");
+        std::array<char, 9> bytes{};
+        ASSERT_EQ(read(pipe[0], bytes.data(), bytes.size()), 3);
+        EXPECT_STREQ(bytes.data(), "new");
+    }
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    close(pipe[0]);
+    close(pipe[1]);
 }
 
 TEST(TextFile, KeepsTheOldFilesPermissions) {
