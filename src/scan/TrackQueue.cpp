@@ -290,10 +290,10 @@ void TrackQueue::Adapt(bool slow) {
     }
     fastBatches_ = 0;
     slowDisk_ = true;
-    if (fixedReaders_ > 0 || stopping_ || unread_.empty() || wanted_ == kMostReaders) {
+    if (fixedReaders_ > 0 || stopping_ || unread_.empty()) {
         return;
     }
-    ++wanted_;
+    wanted_ = std::min(wanted_ + 1, kMostReaders);
     if (idle_ > 0) {
         work_.notify_one();
     } else if (readers_.size() < wanted_) {
