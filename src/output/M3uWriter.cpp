@@ -12,8 +12,12 @@ namespace {
 
 // Players take a playlist to be in one encoding throughout, and a path must reach them byte for byte: once a
 // path is not ASCII, the whole file is UTF-8.
-TextEncoding EncodingFor(const TrackTable& tracks) {
+TextEncoding EncodingFor(const TrackTable& tracks, RunMonitor& monitor) {
+    constexpr std::size_t kTracksToAQuestion = 4096;
     for (std::size_t position = 1; position <= tracks.Count(); ++position) {
+        if (position % kTracksToAQuestion == 0 && monitor.AbortRequested()) {
+            break; // the first track will be the last to be written
+        }
         tracks.PrefetchAhead(position, true);
         if (!IsAscii(tracks.At(position).FullPath)) {
             return TextEncoding::Utf8;
@@ -38,7 +42,7 @@ bool WriteM3uListing(Listing& listing) {
         path += ".m3u";
     }
     // Paths go out byte for byte in either encoding: they are all ASCII, or the file is UTF-8.
-    TextFile file(path, EncodingFor(listing.tracks));
+    TextFile file(path, EncodingFor(listing.tracks, listing.monitor));
     bool aborted = false;
     PageBuffer text;
     text.Put("#EXTM3U\r\n");

@@ -129,5 +129,14 @@ TEST_F(M3uWriterTest, KeepsTheTracksBeforeAnAbort) {
                                    "#EXTINF:250,Abba: Title 2\r\n/music/Abba/01 Waterloo.mp3\r\n");
 }
 
+TEST_F(M3uWriterTest, AnswersAnAbortBeforeItHasLookedAtEveryPath) {
+    UseMany(100000);
+    settings.OutputFile = folder / "list.m3u";
+    monitor.abortAtQuestion = 1;
+    EXPECT_TRUE(Write(kPlaylistOutput));
+    EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:250,Abba: Title 1\r\n/music/Abba/01 Waterloo.mp3\r\n");
+    EXPECT_EQ(monitor.asked, 2) << "once among the paths, once behind the track";
+}
+
 } // namespace
 } // namespace tunedex
