@@ -123,6 +123,7 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
         }
         if (preload.Running()) {
             preload.Advance();
+            detector = WaitDetector(); // waiting for those threads, for their end above all, tells nothing
         } else if (preload_ == Preload::WhenWaiting && detector.ManyWaits()) {
             preload.Start(pending_);
         }

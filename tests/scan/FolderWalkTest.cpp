@@ -257,14 +257,6 @@ TEST(FolderWalk, FindsTheSameInTheSameOrderWhenFoldersAreListedAhead) {
     }
 }
 
-TEST(FolderWalk, ListsNothingAheadOfAFolderWithoutItsSubfolders) {
-    const TestFolder folder;
-    folder.Write("1.mp3", "");
-    folder.Write("sub/2.mp3", "");
-    EXPECT_EQ(Without(Walk(folder.Path(), false, FolderWalk::Preload::AtOnce), folder.Path()),
-              std::vector<std::string>{"1.mp3"});
-}
-
 TEST(FolderWalk, DoesNotLackADescriptorBecauseFoldersAreListedAhead) {
     const TestFolder folder;
     MakeManyFolders(folder);
