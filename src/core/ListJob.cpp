@@ -9,7 +9,7 @@
 #include "Sorting.h"
 #include "Startup.h"
 
-#include <new>
+#include <exception>
 #include <optional>
 #include <string>
 
@@ -176,7 +176,7 @@ void ListRun::Work() {
 }
 
 std::string TrappedErrorText(const RunTimeError& error) {
-    if (error.Number() == static_cast<int>(ErrorNumber::BadFileName)) {
+    if (error.Is(ErrorNumber::BadFileName)) {
         return "An error occurred verifying your input directory.\r\n\r\n"
                "This could be because you do not have permission\r\n"
                "to access the directory, or you may be attempting\r\n"
@@ -193,11 +193,8 @@ bool CreateList(Application& application, UserInterface& ui) {
         if (run.Validate()) {
             run.Work();
         }
-    } catch (const RunTimeError& error) {
-        ShowMessage(ui, TrappedErrorText(error), kOkExclamation, "Error");
-    } catch (const std::bad_alloc&) {
-        ShowMessage(ui, "An unexpected error occurred. The error was: \r\n\r\nError number 7 - Out of memory",
-                    kOkExclamation, "Error");
+    } catch (const std::exception&) {
+        ShowMessage(ui, TrappedErrorText(CaughtError()), kOkExclamation, "Error");
     }
     return run.ListWritten();
 }

@@ -6,6 +6,8 @@
 #include "Text.h"
 #include "Version.h"
 
+#include <exception>
+
 namespace tunedex {
 
 namespace {
@@ -94,8 +96,8 @@ bool CreateListCommand(Application& application, UserInterface& ui) {
     try {
         application.entities.Load(application.programFolder + std::string(kEntityFileName),
                                   application.faults);
-    } catch (const RunTimeError& error) {
-        ShowMessage(ui, UnexpectedErrorText(error), kOkExclamation, "Error");
+    } catch (const std::exception&) {
+        ShowMessage(ui, UnexpectedErrorText(CaughtError()), kOkExclamation, "Error");
         return false;
     }
     return CreateList(application, ui);

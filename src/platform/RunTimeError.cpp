@@ -1,6 +1,8 @@
 #include "RunTimeError.h"
 
 #include <cerrno>
+#include <new>
+#include <stdexcept>
 
 namespace tunedex {
 
@@ -12,6 +14,8 @@ const char* RunTimeError::Description() const {
         return "Invalid procedure call or argument";
     case ErrorNumber::Overflow:
         return "Overflow";
+    case ErrorNumber::OutOfMemory:
+        return "Out of memory";
     case ErrorNumber::SubscriptOutOfRange:
         return "Subscript out of range";
     case ErrorNumber::DivisionByZero:
@@ -38,11 +42,25 @@ const char* RunTimeError::Description() const {
     return "Device I/O error";
 }
 
+RunTimeError CaughtError() {
+    try {
+        throw;
+    } catch (const RunTimeError& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        return RunTimeError(ErrorNumber::OutOfMemory);
+    } catch (const std::length_error&) { // a text longer than any memory
+        return RunTimeError(ErrorNumber::OutOfMemory);
+    }
+}
+
 RunTimeError ErrorFromErrno(int errorCode, FileTask task) {
     if (task == FileTask::TestFolder) {
         return RunTimeError(ErrorNumber::BadFileName);
     }
     switch (errorCode) {
+    case ENOMEM:
+        return RunTimeError(ErrorNumber::OutOfMemory);
     case EINVAL:
     case ENAMETOOLONG:
     case ELOOP:

@@ -11,6 +11,7 @@ namespace tunedex {
 enum class ErrorNumber : int {
     InvalidProcedureCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
@@ -29,6 +30,7 @@ class RunTimeError : public std::exception {
     explicit RunTimeError(ErrorNumber number);
 
     int Number() const { return static_cast<int>(number_); }
+    bool Is(ErrorNumber number) const { return number_ == number; }
     // The description for messages, "Path not found" say; plain ASCII.
     const char* Description() const;
     const char* what() const noexcept override { return Description(); }
@@ -36,6 +38,9 @@ class RunTimeError : public std::exception {
   private:
     ErrorNumber number_;
 };
+
+// The exception being handled as an error: itself, or error 7 for want of memory. Any other is thrown on.
+RunTimeError CaughtError();
 
 // What the failed system call was about: the same errno means different things for a file and for a folder.
 enum class FileTask {
