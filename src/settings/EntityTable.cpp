@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <optional>
 
 namespace tunedex {
 
@@ -17,9 +18,6 @@ namespace {
 
 constexpr std::size_t kCodePageSize = 256;
 constexpr unsigned char kNotAscii = 0x80;
-// A table that replaces a character by two of itself doubles with every such line: what is longer than this
-// is a mistake, not an entity.
-constexpr std::size_t kLongestExpansion = 1U << 20U;
 
 EntityTable::Slot ParseEntry(const std::string& line) {
     const std::size_t tab = line.find('\t');
@@ -44,6 +42,36 @@ std::string CharacterOf(std::size_t code) {
     std::string text;
     AppendUtf8(text, FromWindows1252(static_cast<unsigned char>(code)));
     return text;
+}
+
+std::size_t CountOf(std::string_view text, std::string_view part) {
+    std::size_t count = 0;
+    for (std::size_t hit = text.find(part); hit != std::string_view::npos;
+         hit = text.find(part, hit + part.size())) {
+        ++count;
+    }
+    return count;
+}
+
+// What all slots but the last make of one character; nothing when that grows too long. The length is known
+// before the memory is taken: two lines of a million characters each multiply.
+std::optional<std::string> Expand(std::string expansion, const std::vector<EntityTable::Slot>& slots,
+                                  const std::vector<std::string>& characters) {
+    for (std::size_t i = 0; i + 1 < slots.size(); ++i) {
+        const std::string& replaced = characters[static_cast<std::size_t>(slots[i].code)];
+        const std::string& text = slots[i].text;
+        const std::size_t count = CountOf(expansion, replaced);
+        if (count == 0) {
+            continue;
+        }
+        const std::size_t kept = expansion.size() - count * replaced.size();
+        if (kept > EntityTable::kLongestExpansion ||
+            text.size() > (EntityTable::kLongestExpansion - kept) / count) {
+            return std::nullopt;
+        }
+        expansion = ReplaceAll(expansion, replaced, text);
+    }
+    return expansion;
 }
 
 } // namespace
@@ -79,6 +107,7 @@ void EntityTable::Load(const std::vector<std::string>& lines, std::string_view n
 void EntityTable::BuildExpansions() {
     expansions_.assign(kCodePageSize, "");
     changes_.fill(false);
+    tooLong_.fill(false);
     std::size_t marks = 0;
     marks_.fill(StepBytes{} + kNotAscii);
     std::vector<std::string> characters(kCodePageSize);
@@ -86,20 +115,11 @@ void EntityTable::BuildExpansions() {
         characters[code] = CharacterOf(code);
     }
     for (std::size_t code = 0; code < kCodePageSize; ++code) {
-        std::string expansion = characters[code];
-        for (std::size_t slot = 0; slot + 1 < slots_.size(); ++slot) {
-            const std::string& replaced = characters[static_cast<std::size_t>(slots_[slot].code)];
-            if (expansion.find(replaced) == std::string::npos) {
-                continue;
-            }
-            expansion = ReplaceAll(expansion, replaced, slots_[slot].text);
-            if (expansion.size() > kLongestExpansion) {
-                throw RunTimeError(ErrorNumber::Overflow);
-            }
-        }
+        std::optional<std::string> expansion = Expand(characters[code], slots_, characters);
+        tooLong_.at(code) = !expansion;
         changes_.at(code) = expansion != characters[code];
         staysAscii_.at(code) = code < 0x80 && !changes_.at(code);
-        expansions_[code] = std::move(expansion);
+        expansions_[code] = std::move(expansion).value_or("");
         if (code >= ' ' && code < kNotAscii && changes_.at(code)) {
             if (marks < marks_.size()) {
                 marks_.at(marks) = StepBytes{} + static_cast<unsigned char>(code);
@@ -108,6 +128,13 @@ void EntityTable::BuildExpansions() {
         }
     }
     manyMarks_ = marks > marks_.size();
+}
+
+std::string_view EntityTable::Expansion(unsigned char byte) const {
+    if (tooLong_[byte]) {
+        throw RunTimeError(ErrorNumber::Overflow);
+    }
+    return expansions_[byte];
 }
 
 void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
@@ -124,7 +151,7 @@ void EntityTable::AppendEscaped(std::string& result, std::string_view text) cons
         const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
         if (byte && changes_[*byte]) {
             result.append(text, done, i - done);
-            result += expansions_[*byte];
+            result += Expansion(*byte);
             done = i + step.length;
         }
         i += step.length;
@@ -163,8 +190,7 @@ void EntityTable::PutEscaped(PageBuffer& page, std::string_view text) const {
         if (plain < sizeof bytes && !text.empty()) {
             const TextStep step = StepAt(text, 0);
             const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
-            page.Put(byte && changes_[*byte] ? std::string_view(expansions_[*byte])
-                                             : text.substr(0, step.length));
+            page.Put(byte && changes_[*byte] ? Expansion(*byte) : text.substr(0, step.length));
             text.remove_prefix(step.length);
         }
     }

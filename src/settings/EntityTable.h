@@ -16,6 +16,10 @@ inline constexpr std::string_view kEntityFileName = "html_entities.lst";
 
 class EntityTable {
   public:
+    // Bytes. A table that replaces a character by two of itself doubles with every such line: a longer
+    // expansion is a mistake, not an entity.
+    static constexpr std::size_t kLongestExpansion = 1U << 20U;
+
     struct Slot {
         std::int16_t code = 0; // a character of Windows-1252, 0 to 255
         std::string text;
@@ -36,7 +40,8 @@ class EntityTable {
     const std::vector<Slot>& Slots() const { return slots_; }
 
     // Appends the text with every slot but the last applied to it, one after the other over the result of the
-    // one before. Stray bytes are left alone.
+    // one before. Stray bytes are left alone. Raises error 6 when the text holds a character that the slots
+    // expand to more than kLongestExpansion bytes.
     void AppendEscaped(std::string& result, std::string_view text) const;
     std::string EscapeEntities(std::string_view text) const;
     // The same for a padded text, into a page.
@@ -47,6 +52,7 @@ class EntityTable {
     using StepBytes [[gnu::vector_size(PageBuffer::kStep)]] = unsigned char;
 
     void BuildExpansions();
+    std::string_view Expansion(unsigned char byte) const;
     std::size_t PlainLength(const StepBytes& bytes) const;
 
     std::vector<Slot> slots_;
@@ -54,6 +60,7 @@ class EntityTable {
     // characters, so a text's result is its characters' results side by side.
     std::vector<std::string> expansions_;
     std::array<bool, 256> changes_{};    // whether the character differs from its expansion
+    std::array<bool, 256> tooLong_{};    // whether its expansion is too long to be made
     std::array<bool, 256> staysAscii_{}; // by byte of UTF-8: whether it is a character that does not change
     // Each filled with one of the ASCII characters that change, controls left out: a usual table has five.
     std::array<StepBytes, 8> marks_{};

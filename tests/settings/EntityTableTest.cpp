@@ -157,10 +157,29 @@ TEST(EntityTable, EndsInACommentOrEmptyLineWithoutHarm) {
     EXPECT_EQ(TableOf({"38\t&amp;", "", ""}).EscapeEntities("&"), "&amp;");
 }
 
-TEST(EntityTable, RaisesOverflowForATableThatGrowsItsTextsWithoutEnd) {
-    EntityTable table;
-    std::ostringstream faults;
-    EXPECT_EQ(test::RaisedBy([&] { table.Load(Lines(64, "97\taa"), "test", faults); }), 6);
+TEST(EntityTable, RaisesOverflowOnlyWhereATextMeetsACharacterThatGrowsTooLong) {
+    const std::string million(1000000, 'a');
+    const Lines tables[] = {
+        Lines(64, "97\taa"),                                             // doubles with every line
+        {"97\t" + million, "97\t" + million},                            // multiplies
+        {"97\t" + std::string(EntityTable::kLongestExpansion + 1, 'b')}, // one byte too long
+        {"97\t" + million, "97\t" + million, "97\t"},                    // too long on the way
+    };
+    for (const Lines& lines : tables) {
+        const EntityTable table = TableOf(lines);
+        EXPECT_EQ(table.EscapeEntities("b&c"), "b&c");
+        EXPECT_EQ(test::RaisedBy([&] { table.EscapeEntities("bac"); }), 6);
+        PageBuffer page;
+        const std::string padded = "bac" + std::string(PageBuffer::kStep, ' ');
+        EXPECT_EQ(test::RaisedBy([&] { table.PutEscaped(page, std::string_view(padded).substr(0, 3)); }), 6);
+    }
+}
+
+TEST(EntityTable, ExpandsACharacterToAsMuchAsIsAllowed) {
+    const std::string longest(EntityTable::kLongestExpansion, 'b');
+    EXPECT_EQ(TableOf({"97\t" + longest}).EscapeEntities("ac"), longest + "c");
+    EXPECT_EQ(TableOf(Lines(20, "97\taa")).EscapeEntities("a"),
+              std::string(EntityTable::kLongestExpansion, 'a'));
 }
 
 TEST(EntityTable, ThatCannotBeReadRaisesItsError) {
