@@ -1,5 +1,7 @@
 #include "Locale.h"
 
+#include "Text.h"
+
 #include <array>
 #include <cstdlib>
 #include <iconv.h>
@@ -58,6 +60,19 @@ std::string ToUtf8(std::string text, const std::string& charset) {
     return result;
 }
 
+// Listings are in Windows-1252, which lacks the narrow no-break space between French thousands: all of them,
+// whatever their encoding, show the no-break space that it has.
+std::string InWindows1252(std::string separator) {
+    constexpr std::string_view kNoBreakSpace = "\u00A0";
+    for (std::size_t i = 0; i < separator.size(); i += StepAt(separator, i).length) {
+        const TextStep step = StepAt(separator, i);
+        if (step.stray || !ToWindows1252(step.character)) {
+            return std::string(kNoBreakSpace);
+        }
+    }
+    return separator;
+}
+
 } // namespace
 
 bool IsTwelveHourFormat(std::string_view format) {
@@ -89,7 +104,7 @@ Locale Locale::FromEnvironment() {
     if (const auto numbers = OpenLocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, NameFor("LC_NUMERIC"))) {
         auto* const opened = static_cast<locale_t>(numbers.get());
         const std::string charset = nl_langinfo_l(CODESET, opened);
-        formats.thousands_ = ToUtf8(nl_langinfo_l(THOUSEP, opened), charset);
+        formats.thousands_ = InWindows1252(ToUtf8(nl_langinfo_l(THOUSEP, opened), charset));
         formats.decimal_ = ToUtf8(nl_langinfo_l(RADIXCHAR, opened), charset);
     }
     return formats;

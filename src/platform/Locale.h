@@ -18,7 +18,7 @@ class Locale {
     // The locale's date without time, and hours and minutes on its 12- or 24-hour clock; UTF-8.
     std::string ShortDate(const std::tm& time) const;
     std::string ShortTime(const std::tm& time) const;
-    // Empty where the locale does not group digits.
+    // Empty where the locale does not group digits; U+00A0 for a separator that Windows-1252 lacks.
     const std::string& ThousandsSeparator() const { return thousands_; }
     const std::string& DecimalPoint() const { return decimal_; }
 

@@ -114,10 +114,10 @@ TEST_F(LocaleTest, ShowsATwelveHourClockWhereTheLocaleHasOne) {
               (Formats{"11/21/2026", "02:05 PM", ",", "."}));
 }
 
-TEST_F(LocaleTest, GivesSeparatorsBeyondAsciiAsUtf8) {
+TEST_F(LocaleTest, GivesTheNoBreakSpaceForASeparatorThatWindows1252Lacks) {
     NEEDS_LOCALE("fr_FR.UTF-8");
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", "fr_FR.UTF-8"}}), now_),
-              (Formats{"21/11/2026", "14:05", "\u202F", ","}));
+              (Formats{"21/11/2026", "14:05", "\u00A0", ","}));
 }
 
 TEST_F(LocaleTest, TakesTimesAndNumbersEachFromItsOwnVariable) {
