@@ -5,6 +5,7 @@
 #include "Text.h"
 #include "Uninterrupted.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
@@ -26,7 +27,11 @@ LogFile::~LogFile() {
 }
 
 void LogFile::WriteLine(std::string_view text) {
-    WriteWhole(descriptor_, EncodeFileLine(text) + "\r\n");
+    std::string line = EncodeFileLine(text);
+    // A file's name may hold line breaks; scripts count one line an error.
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    WriteWhole(descriptor_, line + "\r\n");
 }
 
 void LogFile::Close() {

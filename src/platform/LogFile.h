@@ -16,7 +16,8 @@ class LogFile {
     LogFile& operator=(const LogFile&) = delete;
     ~LogFile();
 
-    // One line, encoded for itself and ended by CR LF. Raises the error of a write that fails.
+    // One line, encoded for itself and ended by CR LF; a CR or LF within it is written as a blank. Raises the
+    // error of a write that fails.
     void WriteLine(std::string_view text);
 
     // Closes the file and raises the error of a close that fails; the destructor closes silently.

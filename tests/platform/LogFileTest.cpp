@@ -39,6 +39,13 @@ TEST(LogFile, EncodesEachLineForItself) {
     EXPECT_EQ(test::ReadBytes(folder / "Tunedex.log"), "Caf\xE9\r\nあ é\r\nÃ©\r\nstray \xE9\r\n");
 }
 
+TEST(LogFile, WritesABlankForALineBreakWithinALine) {
+    const test::TestFolder folder;
+    LogFile log(folder / "Tunedex.log");
+    log.WriteLine("a\nb\rc\r\nd");
+    EXPECT_EQ(test::ReadBytes(folder / "Tunedex.log"), "a b c  d\r\n");
+}
+
 TEST(LogFile, RaisesTheErrorOfALogThatCannotBeOpened) {
     const test::TestFolder folder;
     EXPECT_EQ(test::RaisedBy([&] { LogFile log(folder / "none/Tunedex.log"); }), 76);
