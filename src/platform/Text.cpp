@@ -64,6 +64,72 @@ char32_t UpperCaseOf(char32_t character) {
     }
 }
 
+// HTML and XML documents may not hold U+FFFE and U+FFFF, not even as references.
+char32_t InDocument(char32_t character) {
+    constexpr char32_t kReplacementCharacter = 0xFFFD;
+    return character == 0xFFFE || character == 0xFFFF ? kReplacementCharacter : character;
+}
+
+// A stray byte xx (80 to FF) stands for the lone surrogate U+DCxx where characters are needed.
+constexpr char32_t kStraySurrogates = 0xDC00;
+
+bool IsStraySurrogate(char32_t character) {
+    return character >= kStraySurrogates + 0x80 && character <= kStraySurrogates + 0xFF;
+}
+
+// The stray byte that the UTF-8 form of a lone surrogate at `position` stands for.
+std::optional<unsigned char> EscapedStrayByte(std::string_view bytes, std::size_t position) {
+    if (bytes.size() - position < 3 || ByteAt(bytes, position) != 0xED) {
+        return std::nullopt;
+    }
+    const unsigned middle = ByteAt(bytes, position + 1);
+    const unsigned last = ByteAt(bytes, position + 2);
+    if ((middle != 0xB2 && middle != 0xB3) || (last & 0xC0U) != 0x80U) {
+        return std::nullopt;
+    }
+    return static_cast<unsigned char>(((middle & 0x03U) << 6U) | (last & 0x3FU));
+}
+
+// Whether a line's bytes are valid UTF-8, escaped stray bytes counting as characters where the file has them.
+bool IsUtf8Line(std::string_view bytes, StrayBytes strayBytes) {
+    for (std::size_t i = 0; i < bytes.size();) {
+        const TextStep step = StepAt(bytes, i);
+        if (!step.stray) {
+            i += step.length;
+        } else if (strayBytes == StrayBytes::Escaped && EscapedStrayByte(bytes, i)) {
+            i += 3;
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string EncodeUtf8Line(std::string_view text, StrayBytes strayBytes) {
+    if (strayBytes == StrayBytes::AsTheyAre) {
+        return std::string(text);
+    }
+    std::string bytes;
+    for (const char32_t character : Characters(text)) {
+        AppendUtf8(bytes, character);
+    }
+    return bytes;
+}
+
+std::string UnescapeStrayBytes(std::string_view bytes) {
+    std::string text;
+    for (std::size_t i = 0; i < bytes.size();) {
+        if (const auto stray = EscapedStrayByte(bytes, i)) {
+            text += static_cast<char>(*stray);
+            i += 3;
+        } else {
+            text += bytes[i];
+            ++i;
+        }
+    }
+    return text;
+}
+
 } // namespace
 
 TextStep StepAt(std::string_view text, std::size_t position) {
@@ -193,7 +259,7 @@ void AppendWindows1252(std::string& bytes, std::string_view text, Substitute sub
             bytes += '?';
         } else {
             bytes += "&#";
-            bytes += std::to_string(static_cast<std::uint32_t>(step.character));
+            bytes += std::to_string(static_cast<std::uint32_t>(InDocument(step.character)));
             bytes += ';';
         }
     }

@@ -38,7 +38,8 @@ void AppendDecodedWindows1252(std::string& text, std::string_view bytes);
 // What takes the place of a character that Windows-1252 lacks.
 enum class Substitute { QuestionMark, DecimalReference };
 
-// Appends the text in Windows-1252; a stray byte is written as it is.
+// Appends the text in Windows-1252; a stray byte is written as it is. U+FFFE and U+FFFF, which no document
+// may hold, become references to U+FFFD.
 void AppendWindows1252(std::string& bytes, std::string_view text, Substitute substitute);
 
 // Upper case of a-z and of every Windows-1252 letter that has its partner in Windows-1252; the length in

@@ -91,6 +91,12 @@ TEST(Windows1252, WritesAQuestionMarkOrAReferenceForWhatItLacks) {
     EXPECT_EQ(InWindows1252("\xC2\x80", Substitute::DecimalReference), "&#128;");
 }
 
+TEST(Windows1252, ReferencesNoCharacterThatADocumentMayNotHold) {
+    std::string bytes;
+    AppendWindows1252(bytes, "\uFFFD\uFFFE\uFFFF\U00010000", Substitute::DecimalReference);
+    EXPECT_EQ(bytes, "&#65533;&#65533;&#65533;&#65536;");
+}
+
 TEST(Windows1252, StrayBytesAreWrittenAsTheyAre) {
     for (const Substitute substitute : {Substitute::QuestionMark, Substitute::DecimalReference}) {
         EXPECT_EQ(InWindows1252("a\xFF"
