@@ -336,26 +336,53 @@ std::string_view TrimBlanks(std::string_view text) {
     return first == std::string_view::npos ? std::string_view() : TrimBlanksRight(text.substr(first));
 }
 
-std::string EncodeFileLine(std::string_view text) {
+std::u32string Characters(std::string_view text) {
+    std::u32string characters;
+    characters.reserve(text.size());
+    for (std::size_t i = 0; i < text.size();) {
+        const TextStep step = StepAt(text, i);
+        characters += step.stray ? kStraySurrogates + step.character : step.character;
+        i += step.length;
+    }
+    return characters;
+}
+
+std::string FromCharacters(std::u32string_view characters) {
+    std::string text;
+    text.reserve(characters.size());
+    for (const char32_t character : characters) {
+        if (IsStraySurrogate(character)) {
+            text += static_cast<char>(character - kStraySurrogates);
+        } else {
+            AppendUtf8(text, character);
+        }
+    }
+    return text;
+}
+
+std::string EncodeFileLine(std::string_view text, StrayBytes strayBytes) {
     std::string bytes;
     for (std::size_t i = 0; i < text.size();) {
         const TextStep step = StepAt(text, i);
         const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
         if (!byte) {
-            return std::string(text);
+            return EncodeUtf8Line(text, strayBytes);
         }
         bytes += static_cast<char>(*byte);
         i += step.length;
     }
-    // Read back, such bytes would be taken for the UTF-8 that they resemble.
-    if (!IsAscii(bytes) && IsValidUtf8(bytes)) {
+    // Read back, such bytes would be decoded as the UTF-8 that they resemble.
+    if (!IsAscii(bytes) && IsUtf8Line(bytes, strayBytes)) {
         return std::string(text);
     }
     return bytes;
 }
 
-std::string DecodeFileLine(std::string_view bytes) {
-    return IsValidUtf8(bytes) ? std::string(bytes) : DecodeWindows1252(bytes);
+std::string DecodeFileLine(std::string_view bytes, StrayBytes strayBytes) {
+    if (!IsUtf8Line(bytes, strayBytes)) {
+        return DecodeWindows1252(bytes);
+    }
+    return strayBytes == StrayBytes::Escaped ? UnescapeStrayBytes(bytes) : std::string(bytes);
 }
 
 } // namespace tunedex

@@ -54,10 +54,21 @@ std::vector<std::string> Split(std::string_view text, std::string_view separator
 std::string_view TrimBlanks(std::string_view text);
 std::string_view TrimBlanksRight(std::string_view text);
 
-// One line of the program's own files. Written in Windows-1252 if that can hold it and those bytes are not by
-// chance UTF-8 with a multi-byte character, otherwise in UTF-8; read as UTF-8 where valid, else as
-// Windows-1252. So every text of whole characters survives the way out and back.
-std::string EncodeFileLine(std::string_view text);
-std::string DecodeFileLine(std::string_view bytes);
+// The characters of a text one by one; a stray byte xx is the lone surrogate U+DCxx.
+std::u32string Characters(std::string_view text);
+std::string FromCharacters(std::u32string_view characters);
+
+// How a line of the program's own files holds stray bytes.
+enum class StrayBytes {
+    AsTheyAre, // the log, tips, statistics, entity table
+    Escaped,   // settings and themes: in a UTF-8 line as the lone surrogate U+DCxx (ED B2 80 to ED B3 BF)
+};
+
+// One line of the program's own files. Written in Windows-1252 if that can hold it and if those bytes are not
+// valid UTF-8 with a multi-byte character by chance, otherwise in UTF-8; read as UTF-8 where valid, else as
+// Windows-1252. Every text of whole characters survives a round trip; with escaped stray bytes, any text
+// does.
+std::string EncodeFileLine(std::string_view text, StrayBytes strayBytes = StrayBytes::AsTheyAre);
+std::string DecodeFileLine(std::string_view bytes, StrayBytes strayBytes = StrayBytes::AsTheyAre);
 
 } // namespace tunedex

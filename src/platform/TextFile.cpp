@@ -196,6 +196,9 @@ void TextFile::Write(std::string_view text) {
     case TextEncoding::FileLine:
         buffer_ += EncodeFileLine(text);
         break;
+    case TextEncoding::SettingsLine:
+        buffer_ += EncodeFileLine(text, StrayBytes::Escaped);
+        break;
     }
     FlushIfFull();
 }

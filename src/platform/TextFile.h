@@ -9,12 +9,13 @@
 
 namespace tunedex {
 
-// How a file's texts are encoded. Stray bytes are written as they are in every one of them.
+// How a file's texts are encoded. Stray bytes are written as they are in all of them but the last.
 enum class TextEncoding {
     Windows1252References, // what Windows-1252 lacks becomes a decimal character reference: HTML and XHTML
     Windows1252Questions,  // what Windows-1252 lacks becomes "?"
     Utf8,
-    FileLine, // each line for itself, as EncodeFileLine does
+    FileLine,     // each line for itself, as EncodeFileLine does, stray bytes as they are
+    SettingsLine, // the same with stray bytes escaped, for files whose texts are read back
 };
 
 // The file is written aside in its own folder, under a short hidden name, and takes the old file's place when

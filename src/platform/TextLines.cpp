@@ -7,7 +7,7 @@
 
 namespace tunedex {
 
-std::vector<std::string> SplitTextLines(std::string_view bytes) {
+std::vector<std::string> SplitTextLines(std::string_view bytes, StrayBytes strayBytes) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (bytes.starts_with(kByteOrderMark)) {
         bytes.remove_prefix(kByteOrderMark.size());
@@ -15,7 +15,7 @@ std::vector<std::string> SplitTextLines(std::string_view bytes) {
     std::vector<std::string> lines;
     while (!bytes.empty()) {
         const std::size_t end = bytes.find_first_of("\r\n");
-        lines.push_back(DecodeFileLine(bytes.substr(0, end)));
+        lines.push_back(DecodeFileLine(bytes.substr(0, end), strayBytes));
         if (end == std::string_view::npos) {
             break;
         }
@@ -25,7 +25,7 @@ std::vector<std::string> SplitTextLines(std::string_view bytes) {
     return lines;
 }
 
-std::vector<std::string> ReadTextLines(const std::string& path) {
+std::vector<std::string> ReadTextLines(const std::string& path, StrayBytes strayBytes) {
     FileByteSource file(path);
     std::string bytes;
     constexpr std::size_t kBlock = 65536;
@@ -37,7 +37,7 @@ std::vector<std::string> ReadTextLines(const std::string& path) {
             file.Read(have, {reinterpret_cast<std::uint8_t*>(bytes.data()) + have, kBlock});
         bytes.resize(have + got);
         if (got < kBlock) {
-            return SplitTextLines(bytes);
+            return SplitTextLines(bytes, strayBytes);
         }
     }
 }

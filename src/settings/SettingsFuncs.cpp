@@ -135,36 +135,56 @@ void ApplyLine(Settings& settings, std::string_view line) {
     ParseSetting(settings, UpperCase(line.substr(0, bracket)), value, index);
 }
 
-void WriteRow(TextFile& file, const Settings& settings, const Row& row) {
-    const std::string key(row.key);
-    const auto write = [&](const std::string& value) { file.WriteLine(key + "=" + value); };
-    const auto writeAt = [&](std::size_t index, const std::string& value) {
-        file.WriteLine(key + "(" + std::to_string(index) + ")=" + value);
-    };
-    std::visit(Overloaded{
-                   [&](Group) {
-                       file.WriteLine("");
-                       file.WriteLine(key);
+// Writes settings as lines of a file, and remembers the keys of those that a line cannot hold.
+class SettingWriter {
+  public:
+    explicit SettingWriter(TextFile& file) : file_(file) {}
+
+    void Write(const Settings& settings, const Row& row) {
+        const std::string key(row.key);
+        std::visit(Overloaded{
+                       [&](Group) {
+                           file_.WriteLine("");
+                           file_.WriteLine(key);
+                       },
+                       [&](Fonts) {
+                           for (std::size_t i = 0; i < settings.Font.size(); ++i) {
+                               WriteValue(IndexedKey(key, i), FontText(settings.Font.at(i)));
+                           }
+                       },
+                       [&](Colours) {
+                           for (std::size_t i = 0; i < settings.Colour.size(); ++i) {
+                               WriteValue(IndexedKey(key, i), settings.Colour.at(i));
+                           }
+                       },
+                       [&](TableWidth) {
+                           WriteValue(key, TableWidthText(settings.TableWidthUnit,
+                                                          std::to_string(settings.TableWidth)));
+                       },
+                       [&](TextMember text) { WriteValue(key, settings.*text); },
+                       [&](FlagMember flag) { WriteValue(key, FlagText(settings.*flag)); },
+                       [&](NumberMember number) { WriteValue(key, std::to_string(settings.*number)); },
                    },
-                   [&](Fonts) {
-                       for (std::size_t i = 0; i < settings.Font.size(); ++i) {
-                           writeAt(i, FontText(settings.Font.at(i)));
-                       }
-                   },
-                   [&](Colours) {
-                       for (std::size_t i = 0; i < settings.Colour.size(); ++i) {
-                           writeAt(i, settings.Colour.at(i));
-                       }
-                   },
-                   [&](TableWidth) {
-                       write(TableWidthText(settings.TableWidthUnit, std::to_string(settings.TableWidth)));
-                   },
-                   [&](TextMember text) { write(settings.*text); },
-                   [&](FlagMember flag) { write(FlagText(settings.*flag)); },
-                   [&](NumberMember number) { write(std::to_string(settings.*number)); },
-               },
-               row.value);
-}
+                   row.value);
+    }
+
+    const std::vector<std::string>& LeftOut() const { return leftOut_; }
+
+  private:
+    static std::string IndexedKey(const std::string& key, std::size_t index) {
+        return key + "(" + std::to_string(index) + ")";
+    }
+    void WriteValue(const std::string& key, const std::string& value) {
+        if (value.find_first_of("\r\n") != std::string::npos) {
+            leftOut_.push_back(key);
+        } else {
+            file_.WriteLine(key + "=" + value);
+        }
+    }
+
+    TextFile& file_;
+    std::vector<std::string> leftOut_;
+};
 
 } // namespace
 
@@ -234,7 +254,7 @@ LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std:
         settings.SetDefaults();
         return LoadOutcome::DefaultsApplied;
     }
-    ApplySettings(settings, ReadTextLines(file), file, faults);
+    ApplySettings(settings, ReadTextLines(file, StrayBytes::Escaped), file, faults);
     return LoadOutcome::Loaded;
 }
 
@@ -247,14 +267,16 @@ void WriteFileHead(TextFile& file, std::string_view kind, const FileStamp& stamp
     file.WriteLine(rule);
 }
 
-void SaveSettings(const Settings& settings, const std::string& path, const std::string& programFolder,
-                  const FileStamp& stamp) {
-    TextFile file(SettingsPath(path, programFolder), TextEncoding::FileLine);
+std::vector<std::string> SaveSettings(const Settings& settings, const std::string& path,
+                                      const std::string& programFolder, const FileStamp& stamp) {
+    TextFile file(SettingsPath(path, programFolder), TextEncoding::SettingsLine);
     WriteFileHead(file, "Configuration File", stamp);
+    SettingWriter writer(file);
     for (const Row& row : kRows) {
-        WriteRow(file, settings, row);
+        writer.Write(settings, row);
     }
     file.Close();
+    return writer.LeftOut();
 }
 
 } // namespace tunedex

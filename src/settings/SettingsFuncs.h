@@ -47,9 +47,10 @@ void ParseSetting(Settings& settings, std::string_view key, std::string_view val
 // so.
 std::string SettingsPath(const std::string& path, const std::string& programFolder);
 
-// Writes every setting. Raises the error of a file that cannot be written; the old file is then still there.
-void SaveSettings(const Settings& settings, const std::string& path, const std::string& programFolder,
-                  const FileStamp& stamp);
+// Writes every setting whose value fits on a line. Returns the keys of those that hold CR or LF and are left
+// out. Raises the error of a file that cannot be written; the old file is then still there.
+std::vector<std::string> SaveSettings(const Settings& settings, const std::string& path,
+                                      const std::string& programFolder, const FileStamp& stamp);
 
 // The five comment lines that begin a settings or theme file; `kind` ends the second.
 void WriteFileHead(TextFile& file, std::string_view kind, const FileStamp& stamp);

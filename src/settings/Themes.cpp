@@ -60,7 +60,7 @@ bool IsThemeName(const std::string& name) {
 }
 
 void WriteThemeFile(const std::string& path, const ThemeContent& content, const FileStamp& stamp) {
-    TextFile file(path, TextEncoding::FileLine);
+    TextFile file(path, TextEncoding::SettingsLine);
     WriteFileHead(file, "Theme Definition File", stamp);
     file.WriteLine("");
     file.WriteLine("# FONT SETTINGS");

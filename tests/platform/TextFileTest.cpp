@@ -49,6 +49,7 @@ TEST(TextFile, EncodesItsTextsAsItWasTold) {
         {TextEncoding::Windows1252Questions, "Caf\xE9 \x80 ? \xFF\r\n"},
         {TextEncoding::Utf8, "Café € あ \xFF\r\n"},
         {TextEncoding::FileLine, "Café € あ \xFF\r\n"},
+        {TextEncoding::SettingsLine, "Café € あ \xED\xB3\xBF\r\n"},
     };
     for (const Row& row : rows) {
         TextFile file(folder / "f", row.encoding);
@@ -67,7 +68,7 @@ TEST(TextFile, WritesRawBytesAsTheyAreInEveryEncoding) {
     const test::TestFolder folder;
     for (const TextEncoding encoding :
          {TextEncoding::Windows1252References, TextEncoding::Windows1252Questions, TextEncoding::Utf8,
-          TextEncoding::FileLine}) {
+          TextEncoding::FileLine, TextEncoding::SettingsLine}) {
         TextFile file(folder / "f", encoding);
         file.WriteRaw("あé\xFF\n");
         file.Close();

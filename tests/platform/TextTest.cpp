@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <random>
 #include <set>
 #include <string>
 #include <utility>
@@ -243,6 +244,52 @@ TEST(FileLine, IsReadAsUtf8WhereValidAndAsWindows1252Otherwise) {
     EXPECT_EQ(DecodeFileLine("Caf\xC3\xA9"), "Café");
     EXPECT_EQ(DecodeFileLine("\xC3\xA9 \xE9"), "Ã© é");
     EXPECT_EQ(DecodeFileLine("\x81"), "\xC2\x81");
+}
+
+TEST(SettingsLine, EscapesStrayBytesAsLoneSurrogates) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"/m/caf\xE9", "/m/caf\xED\xB3\xA9"}, // E9 is U+DCE9
+        {"\x80\xFF", "\xED\xB2\x80\xED\xB3\xBF"},
+        {"é\xE9", "é\xED\xB3\xA9"},
+        {"Café", "Caf\xE9"},
+        {"あ", "あ"},
+        // Windows-1252 would give ED B2 80, which is read as an escaped stray byte.
+        {"í²€", "í²€"},
+        // Three stray bytes that look like an escaped one.
+        {"\xED\xB2\x80", "\xED\xB3\xAD\xED\xB2\xB2\xED\xB2\x80"},
+    };
+    for (const auto& [text, bytes] : rows) {
+        EXPECT_EQ(EncodeFileLine(text, StrayBytes::Escaped), bytes) << testing::PrintToString(text);
+        EXPECT_EQ(DecodeFileLine(bytes, StrayBytes::Escaped), text) << testing::PrintToString(bytes);
+    }
+    EXPECT_EQ(EncodeFileLine("é \xE9", StrayBytes::AsTheyAre), "é \xE9");
+}
+
+TEST(SettingsLine, IsReadAsWindows1252WhereItIsNeitherUtf8NorEscaped) {
+    for (const char* bytes : {"\xE9", "\xED\xB2", "\xED\xB1\xBF", "\xED\xA0\x80", "\xED\xB4\x80",
+                              "\xED\xB2\x80\xE9", "\xED\xB2\x41"}) {
+        EXPECT_EQ(DecodeFileLine(bytes, StrayBytes::Escaped), DecodeWindows1252(bytes))
+            << testing::PrintToString(bytes);
+    }
+    EXPECT_EQ(DecodeFileLine("\xED\xB2\x80", StrayBytes::AsTheyAre), DecodeWindows1252("\xED\xB2\x80"));
+}
+
+TEST(SettingsLine, BringsBackAnyText) {
+    std::mt19937 random(1);
+    const std::string pieces[] = {"a", "é", "€", "あ", "\xED", "\xB2", "\x80", "\xBF", "\xE9", "í", "²", "🎵"};
+    for (int round = 0; round < 20000; ++round) {
+        std::string text;
+        for (std::size_t left = random() % 8; left > 0; --left) {
+            text += pieces[random() % std::size(pieces)];
+        }
+        ASSERT_EQ(DecodeFileLine(EncodeFileLine(text, StrayBytes::Escaped), StrayBytes::Escaped), text)
+            << testing::PrintToString(text);
+    }
+}
+
+TEST(Characters, CountEachCharacterAndEachStrayByteOnce) {
+    EXPECT_EQ(Characters("aé\xE9あ🎵"), (std::u32string{U'a', U'\u00E9', 0xDCE9, U'あ', U'🎵'}));
+    EXPECT_EQ(FromCharacters(Characters("aé\xE9あ🎵")), "aé\xE9あ🎵");
 }
 
 TEST(FileLine, BringsBackEveryTextOfWholeCharacters) {

@@ -132,6 +132,41 @@ TEST_F(SettingsFile, HoldsFlagsNegativeNumbersAndLettersOfTheCodePage) {
     EXPECT_TRUE(bytes.ends_with("\r\nTableBorder=0\r\n"));
 }
 
+TEST_F(SettingsFile, BringsBackTheStrayBytesOfAnOldFolderName) {
+    Settings settings;
+    settings.Directory = "/m/caf\xE9";
+    settings.OutputFile = "/m/é\xFF.htm";
+    const std::string bytes = Saved(settings);
+    EXPECT_NE(bytes.find("\r\nDirectory=/m/caf\xED\xB3\xA9\r\n"), std::string::npos);
+    EXPECT_EQ(Loaded(bytes), settings);
+}
+
+TEST_F(SettingsFile, LeavesOutAndNamesSettingsThatHoldALineBreak) {
+    Settings settings = Defaults();
+    settings.Directory = "/a\nb";
+    settings.PageTitle = "a\rb";
+    settings.Font[1].face = "x\r\ny";
+    settings.Colour[3] = "\n";
+    EXPECT_EQ(SaveSettings(settings, "", folder_.Path(), kStamp),
+              (std::vector<std::string>{"Directory", "PageTitle", "Font(1)", "Colour(3)"}));
+    const std::string bytes = test::ReadBytes(folder_ / "Tunedex.cfg");
+    std::string expected = ReplaceAll(kDefaultFile, "\n", "\r\n");
+    for (const char* line : {"Directory=", "PageTitle=MP3 Listing (%C files)",
+                             "Font(1)=Tahoma, Arial, sans-serif%|%2%|%1%|%0", "Colour(3)=000066"}) {
+        expected = ReplaceAll(expected, "\r\n" + std::string(line) + "\r\n", "\r\n");
+    }
+    EXPECT_EQ(bytes, expected);
+    EXPECT_EQ(SaveSettings(Defaults(), "", folder_.Path(), kStamp), std::vector<std::string>());
+}
+
+TEST_F(SettingsFile, BeginsBehindAByteOrderMark) {
+    EXPECT_EQ(Loaded("\xEF\xBB\xBF"
+                     "Spanning=5\r\n")
+                  .Spanning,
+              5);
+    EXPECT_EQ(faults_.str(), "");
+}
+
 TEST_F(SettingsFile, NeverHoldsTheTableSpacingThoughItIsRead) {
     const Settings settings = Loaded("TableSpacing=3\r\n");
     EXPECT_EQ(settings.TableSpacing, 3);
@@ -452,9 +487,9 @@ class RandomSettings {
 
   private:
     std::string Text() {
-        static const std::vector<std::string> kPieces = {"a",  " ",  "=",  "(",  ")", "#", "%D", "|",
-                                                         "/",  "\\", "é",  "Ã",  "©", "€", "‚",  "\u0081",
-                                                         "あ", "🎵",  "\t", "\"", "Ÿ", "¿"};
+        static const std::vector<std::string> kPieces = {
+            "a", " ", "=",      "(",  ")", "#",  "%D", "|", "/", "\\",   "é",    "Ã",    "©",
+            "€", "‚", "\u0081", "あ", "🎵", "\t", "\"", "Ÿ", "¿", "\xE9", "\xED", "\xB2", "\x80"};
         std::string text;
         for (std::size_t left = random_() % 12; left > 0; --left) {
             text += kPieces[random_() % kPieces.size()];
