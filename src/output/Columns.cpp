@@ -13,15 +13,25 @@ namespace {
 constexpr std::string_view kArtistTitleName = "ArtistTitle";
 constexpr std::string_view kArtistAlbumTitleName = "ArtistAlbumTitle";
 
-std::string Remove(const std::string& list, std::string_view name) {
-    return ReplaceAll(ReplaceAll(list, name, ""), "||", "|");
+std::u32string ReplaceEach(std::u32string_view list, std::u32string_view from, std::u32string_view to) {
+    std::u32string result;
+    std::size_t start = 0;
+    for (std::size_t hit = list.find(from); hit != std::u32string_view::npos; hit = list.find(from, start)) {
+        result.append(list, start, hit - start).append(to);
+        start = hit + from.size();
+    }
+    return result.append(list, start);
 }
 
-std::string MergedName(std::int16_t merge) {
+std::u32string Remove(std::u32string_view list, std::u32string_view name) {
+    return ReplaceEach(ReplaceEach(list, name, U""), U"||", U"|");
+}
+
+std::u32string MergedName(std::int16_t merge) {
     if (merge == 1) {
-        return std::string(kArtistTitleName);
+        return Characters(kArtistTitleName);
     }
-    return merge == 2 ? std::string(kArtistAlbumTitleName) : std::string();
+    return merge == 2 ? Characters(kArtistAlbumTitleName) : std::u32string();
 }
 
 } // namespace
@@ -43,34 +53,35 @@ ColumnKey ColumnKeyOf(std::string_view name) {
 }
 
 std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
-    const std::string upper = UpperCase(activeColumns);
-    const std::size_t artist = upper.find("ARTIST");
-    const std::size_t title = upper.find("TITLE");
-    if (merge <= 0 || artist == std::string::npos || title == std::string::npos) {
+    // Positions and lengths count characters.
+    const std::u32string active = Characters(activeColumns);
+    const std::u32string upper = Characters(UpperCase(activeColumns));
+    const std::size_t artist = upper.find(U"ARTIST");
+    const std::size_t title = upper.find(U"TITLE");
+    if (merge <= 0 || artist == std::u32string::npos || title == std::u32string::npos) {
         return activeColumns;
     }
-    // The positions are those from before the removals: what is left of the first name stays, and so much of
-    // the end as stood behind it. That this cuts wrongly where Album comes first is how lists have always
-    // been written.
+    // Deliberate: positions are those from before the removals, so the list is cut wrongly where Album comes
+    // first. Lists have always been written so.
     const std::size_t start = std::min(artist, title);
-    const std::size_t bar = upper.find('|', start); // none: the whole list is its own end
-    std::string list = Remove(activeColumns, artist < title ? "Title" : "Artist");
+    const std::size_t bar = upper.find(U'|', start); // none: the whole list is its own end
+    std::u32string list = Remove(active, artist < title ? U"Title" : U"Artist");
     if (merge == 2) {
-        list = Remove(list, "Album");
+        list = Remove(list, U"Album");
     }
-    const std::size_t barPosition = bar == std::string::npos ? 0 : bar + 1;
+    const std::size_t barPosition = bar == std::u32string::npos ? 0 : bar + 1;
     if (list.size() + 1 < barPosition) {
         throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     }
     const std::size_t endLength = std::min(list.size() + 1 - barPosition, list.size());
-    std::string merged = list.substr(0, start) + MergedName(merge) + list.substr(list.size() - endLength);
-    if (merged.ends_with('|')) {
+    std::u32string merged = list.substr(0, start) + MergedName(merge) + list.substr(list.size() - endLength);
+    if (merged.ends_with(U'|')) {
         merged.pop_back();
     }
-    if (merged.starts_with('|')) {
+    if (merged.starts_with(U'|')) {
         merged.erase(0, 1);
     }
-    return merged;
+    return FromCharacters(merged);
 }
 
 std::vector<Column> SplitColumns(const std::string& columnList) {

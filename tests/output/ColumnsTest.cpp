@@ -103,6 +103,10 @@ TEST(MergeColumns, CutsByThePositionsFromBeforeTheRemovals) {
         {"|Artist|Title", 1, "ArtistTitle"},
         {"||Artist|Title", 1, "AArtistTitle"},
         {"Artist|Title||", 1, "ArtistTitle|"},
+        // Characters are counted, not bytes; a stray byte is one.
+        {"Album|Title|ÄÖÜäöüß|Artist|Year", 2, "TitleArtistAlbumTitleöüß|Year"},
+        {"ÄÖ|Artist|Title|Year", 1, "ÄÖ|ArtistTitle|Year"},
+        {"\xE9\xE9|Artist|Title|あ", 1, "\xE9\xE9|ArtistTitle|あ"},
         // A name that holds both.
         {"ArtistTitle", 1, "ArtistTitleArtist"},
         {"Subtitle|Artist", 1, "SubArtistTitle"},
