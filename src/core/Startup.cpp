@@ -103,6 +103,19 @@ bool CreateListCommand(Application& application, UserInterface& ui) {
     return CreateList(application, ui);
 }
 
+void SaveSettingsCommand(const Application& application, UserInterface& ui, const std::string& path) {
+    const std::vector<std::string> leftOut =
+        SaveSettings(application.settings, path, application.programFolder, StampNow(application));
+    if (leftOut.empty()) {
+        return;
+    }
+    std::string text = "A settings file cannot hold a line break.\r\nThese settings were not saved:\r\n";
+    for (const std::string& key : leftOut) {
+        text += "\r\n" + key;
+    }
+    ShowMessage(ui, text, kOkExclamation, "Settings");
+}
+
 void SaveStatisticsAtExit(const Application& application) {
     if (application.statisticsUnread) {
         return; // years of counting are not lost to a moment without a free file

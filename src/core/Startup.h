@@ -31,6 +31,9 @@ void TakeLayoutControls(Settings& settings);
 // The Create List command: folder field, entity table, then the list job. Whether the list was written.
 bool CreateListCommand(Application& application, UserInterface& ui);
 
+// Saves the settings to `path` as SaveSettings does, and names in a message those that could not be saved.
+void SaveSettingsCommand(const Application& application, UserInterface& ui, const std::string& path);
+
 // Saves the statistics; the end of an interactive program.
 void SaveStatisticsAtExit(const Application& application);
 

@@ -381,7 +381,9 @@ void frmMain::OpenSettings() {
         const LoadOutcome outcome =
             LoadSettings(application_.settings, *path, application_.programFolder, application_.faults);
         if (outcome == LoadOutcome::Missing) {
-            throw RunTimeError(ErrorNumber::FileNotFound);
+            ShowMessage(ui_, "The specified settings file\r\ndoes not exist!", kOkExclamation,
+                        application_.errorTitle);
+            return;
         }
         settingsPath_ = *path;
         ui_.FillFields(FieldsFor(application_.settings));
@@ -403,8 +405,7 @@ void frmMain::SaveSettingsAs() {
 void frmMain::SaveSettingsTo(const std::string& path) {
     Guarded([&] {
         ui_.TakeControls(application_.settings);
-        tunedex::SaveSettings(application_.settings, path, application_.programFolder,
-                              StampNow(application_));
+        SaveSettingsCommand(application_, ui_, path);
         settingsPath_ = path.empty() ? path : SettingsPath(path, application_.programFolder);
     });
 }

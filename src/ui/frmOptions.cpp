@@ -314,7 +314,7 @@ void frmOptions::Save() {
     }
     ui_.TakeControls(application_.settings);
     try {
-        SaveSettings(application_.settings, "", application_.programFolder, StampNow(application_));
+        SaveSettingsCommand(application_, ui_, "");
     } catch (const RunTimeError& error) {
         ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
         return;

@@ -341,11 +341,15 @@ class frmMainTest : public QObject {
         QTest::addColumn<QByteArray>("item");
         QTest::addColumn<QByteArray>("path");
         QTest::addColumn<QByteArray>("error");
+        const QByteArray unexpected = "An unexpected error occurred. The error was: \n\nError number ";
         QTest::newRow("opening what is gone") << QByteArray("itmFileOpenSettings") << QByteArray("gone.cfg")
-                                              << QByteArray("Error number 53 - File not found");
+                                              << QByteArray("The specified settings file\ndoes not exist!");
+        QTest::newRow("opening a name that is too long")
+            << QByteArray("itmFileOpenSettings") << QByteArray(300, 'n') + ".cfg"
+            << unexpected + "52 - Bad file name or number";
         QTest::newRow("saving into a missing folder")
             << QByteArray("itmFileSaveSettingsAs") << QByteArray("none/a.cfg")
-            << QByteArray("Error number 76 - Path not found");
+            << unexpected + "76 - Path not found";
     }
     void ASettingsFileThatFailsIsSaid() {
         QFETCH(QByteArray, item);
@@ -356,12 +360,26 @@ class frmMainTest : public QObject {
         desk.dialogs.files = {desk.folder / path.toStdString()};
         Choose(desk.Main(), item.constData());
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
-        QCOMPARE(desk.dialogs.messages[0].text,
-                 "An unexpected error occurred. The error was: \n\n" + error.toStdString());
+        QCOMPARE(desk.dialogs.messages[0].text, error.toStdString());
         QCOMPARE(desk.dialogs.messages[0].buttons, 48);
         QCOMPARE(desk.dialogs.messages[0].title, std::string("Error!"));
         Choose(desk.Main(), "itmFileSaveSettings"); // the failed name is not kept
         QVERIFY(desk.folder.Exists("Tunedex.cfg"));
+    }
+
+    void ASettingThatHoldsALineBreakIsNamedWhenItIsNotSaved() {
+        Desk desk;
+        desk.Show();
+        desk.TheSettings().Directory = "%MULT%/a\nb";
+        desk.frontEnd.FillFields(FieldsFor(desk.TheSettings()));
+        Choose(desk.Main(), "itmFileSaveSettings");
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+        QCOMPARE(desk.dialogs.messages[0].text, std::string("A settings file cannot hold a line break.\n"
+                                                            "These settings were not saved:\n\nDirectory"));
+        QCOMPARE(desk.dialogs.messages[0].buttons, 48);
+        QCOMPARE(desk.dialogs.messages[0].title, std::string("Settings"));
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "Recurse=1"));
+        QVERIFY(test::ReadBytes(desk.folder / "Tunedex.cfg").find("Directory=") == std::string::npos);
     }
 
     void TheMenuListsAllEightPlaceholders() {
