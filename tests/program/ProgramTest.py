@@ -9,6 +9,7 @@ import contextlib
 import datetime
 import os
 import pathlib
+import resource
 import shutil
 import signal
 import stat
@@ -91,17 +92,18 @@ class ProgramTest(unittest.TestCase):
                        "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_CONFIG_DIRS": str(self.folder / "etc")}
         return environment | surroundings.kept(ordinary) | variables
 
-    def run_program(self, *arguments, answers=b"", program=None, ordinary=False, settings=True, **variables):
+    def run_program(self, *arguments, answers=b"", program=None, ordinary=False, settings=True, preexec_fn=None,
+                    **variables):
         if settings:
             self.write_settings()
-        options = {}
+        options = {"preexec_fn": preexec_fn}
         if ordinary and os.geteuid() == 0:
             for path in [self.folder, *self.folder.rglob("*")]:
                 os.lchown(path, NOBODY, NOBODY)
-            options = {"user": NOBODY, "group": NOBODY, "extra_groups": []}
+            options |= {"user": NOBODY, "group": NOBODY, "extra_groups": []}
         return subprocess.run([program or self.program(), *(arguments or ["/AUTO"])], input=answers,
                               capture_output=True, timeout=240, check=False, cwd=self.folder,
-                              env=self.environment(bool(options), **variables), **options)
+                              env=self.environment("user" in options, **variables), **options)
 
     def program(self):
         """The program, where an ordinary user can start it."""
@@ -179,6 +181,64 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(sorted(lines[2::2]), sorted(os.fsencode(self.music) + b"/" + name for name in names))
         self.assertTrue(lines[1].endswith("Té".encode()), "one encoding throughout: UTF-8 here")
 
+    # Settings and texts that no code page holds
+
+    def test_lists_a_folder_whose_name_is_no_utf8(self):
+        folder = os.fsencode(self.music) + b"/caf\xe9"
+        os.mkdir(folder)
+        pathlib.Path(os.fsdecode(folder + b"/a.mp3")).write_bytes(audio() + id3v1(b"T"))
+        self.settings.update(ActiveColumns="Folder Path")
+        # In a settings file a stray byte is a lone surrogate: E9 is U+DCE9.
+        lines = "".join(f"{key}={value}\r\n" for key, value in self.settings.items() if key != "Directory")
+        lines = lines.encode() + b"Directory=" + folder.replace(b"\xe9", b"\xed\xb3\xa9") + b"\r\n"
+        (self.installation / "Tunedex.cfg").write_bytes(b"\xef\xbb\xbf" + lines)
+        self.expect(self.run_program(settings=False), 0)
+        self.assertEqual(self.rows(), [folder])
+
+    def test_logs_one_line_an_error(self):
+        path = self.music / "two\nlines\r.mp3"
+        path.write_bytes(b"no frame")
+        self.settings.update(ErrorWarnings=0, ErrorLog=1)
+        self.expect(self.run_program(), 0)
+        self.assertEqual((self.installation / "Tunedex.log").read_bytes(),
+                         rb"An error occurred decoding the headers of: \n\n" +
+                         os.fsencode(self.music) + b"/two lines .mp3\r\n")
+
+    def test_references_no_character_that_a_page_may_not_hold(self):
+        self.track("\ufffe\uffff\ufffd.mp3")
+        self.settings.update(OutputFile=self.out / "list.htm", ActiveColumns="Filename", DoLinks=1)
+        self.expect(self.run_program(), 0)
+        page = (self.out / "list.htm").read_bytes()
+        self.assertEqual(page.count(b"&#65533;&#65533;&#65533;.mp3"), 2)
+        self.assertNotIn(b"&#65534;", page)
+        self.assertNotIn(b"&#65535;", page)
+
+    # The entity table
+
+    def test_raises_overflow_only_for_a_character_whose_expansion_is_too_long(self):
+        self.settings.update(OutputFile=self.out / "list.htm")
+        million = b"a" * 1000000
+        for table in (b"97\taa\r\n" * 64, b"97\t" + million + b"\r\n97\t" + million + b"\r\n"):
+            (self.installation / "html_entities.lst").write_bytes(table)
+            (self.out / "list.htm").unlink(missing_ok=True)
+            self.track("1.mp3", "BBB", "CCC")
+            self.expect(self.run_program(), 0)
+            self.track("1.mp3", "Abba", "CCC")
+            (self.out / "list.htm").write_bytes(b"old")
+            self.expect(self.run_program(), 1, b"Error\nAn unexpected error occurred. The error was: \n\n"
+                        b"Error number 6 - Overflow\n[OK] ")
+            self.assertEqual((self.out / "list.htm").read_bytes(), b"old")
+
+    def test_reports_want_of_memory_for_the_entity_table(self):
+        if surroundings.sanitizer_of(PROGRAM):
+            self.skipTest("a sanitizer needs more address space than this test leaves")
+        self.track("a.mp3")
+        with open(self.installation / "html_entities.lst", "wb") as table:
+            table.truncate(4 << 30)
+        limit = 1 << 30
+        self.expect(self.run_program(preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (limit, limit))), 1,
+                    b"Error\nAn unexpected error occurred. The error was: \n\nError number 7 - Out of memory\n[OK] ")
+
     # Numbers and dates
 
     def test_uses_the_formats_of_no_country_by_default(self):
@@ -186,6 +246,17 @@ class ProgramTest(unittest.TestCase):
         self.settings.update(ActiveColumns="File Size")
         self.expect(self.run_program(LC_ALL="C"), 0)
         self.assertEqual(self.rows(), [b"8,320 b."])
+
+    def test_separates_french_thousands_by_a_no_break_space_in_every_listing(self):
+        if not locale_installed("fr_FR.utf8"):
+            self.skipTest("the locale fr_FR.UTF-8 is not installed")
+        self.track("a.mp3")
+        self.settings.update(ActiveColumns="File Size", PageFooter="%S")
+        self.expect(self.run_program(LC_ALL="fr_FR.UTF-8"), 0)
+        self.assertEqual(self.rows(), [b"8\xa0320 b."])
+        self.settings.update(OutputFile=self.out / "list.htm")
+        self.expect(self.run_program(LC_ALL="fr_FR.UTF-8"), 0)
+        self.assertEqual((self.out / "list.htm").read_bytes().count(b"8\xa0320 b."), 2)
 
     def test_follows_a_german_locale(self):
         if not locale_installed("de_DE.utf8"):
