@@ -7,6 +7,24 @@
 
 namespace tunedex {
 
+namespace {
+
+// The placeholders are replaced one after the other: a folder whose name holds "%N" gets the number in it.
+std::string ExpandTemplate(std::string_view errorTemplate, std::string_view folder, std::string_view file,
+                           const RunTimeError& error) {
+    std::string text(errorTemplate);
+    if (!folder.empty()) {
+        text = ReplaceAll(text, "%D", folder);
+    }
+    if (!file.empty()) {
+        text = ReplaceAll(text, "%F", file);
+    }
+    text = ReplaceAll(text, "%N", std::to_string(error.Number()));
+    return ReplaceAll(text, "%S", error.Description());
+}
+
+} // namespace
+
 int ShowMessage(UserInterface& ui, std::string_view text, int buttons, std::string_view title) {
     return ui.ShowMessage(text, buttons, title.empty() ? kProductTitle : title);
 }
@@ -16,26 +34,24 @@ std::string UnexpectedErrorText(const RunTimeError& error) {
            std::to_string(error.Number()) + " - " + error.Description();
 }
 
-void ReportError(std::string errorTemplate, std::string_view file, std::string_view folder,
+void ReportError(std::string_view errorTemplate, std::string_view file, std::string_view folder,
                  const RunTimeError& error, const Application& application, UserInterface& ui, LogFile* log) {
-    // One after the other: a folder whose name holds "%N" gets its own number in.
-    if (!folder.empty()) {
-        errorTemplate = ReplaceAll(errorTemplate, "%D", folder);
-    }
-    if (!file.empty()) {
-        errorTemplate = ReplaceAll(errorTemplate, "%F", file);
-    }
-    errorTemplate = ReplaceAll(errorTemplate, "%N", std::to_string(error.Number()));
-    errorTemplate = ReplaceAll(errorTemplate, "%S", error.Description());
     const std::string opening = "An error occurred ";
-    if (application.settings.ErrorWarnings) {
-        errorTemplate = ReplaceAll(errorTemplate, R"(\n)", "\r\n");
-        ShowMessage(ui, opening + errorTemplate, kOkExclamation, application.errorTitle);
+    const bool warnings = application.settings.ErrorWarnings;
+    if (warnings) {
+        const std::string text =
+            ExpandTemplate(errorTemplate, ui.NameInMessage(folder), ui.NameInMessage(file), error);
+        ShowMessage(ui, opening + ReplaceAll(text, kTemplateLineBreak, "\r\n"), kOkExclamation,
+                    application.errorTitle);
     }
     if (application.settings.ErrorLog && log != nullptr) {
-        // With warnings off the line keeps its "\n" as two characters; with warnings on its parts run
-        // together. People's scripts read both.
-        log->WriteLine(opening + ReplaceAll(errorTemplate, "\r\n", ""));
+        // Required: with warnings off the line keeps its "\n" as two characters; with warnings on its parts
+        // run together. Do not "fix": scripts read both forms.
+        std::string line = ExpandTemplate(errorTemplate, folder, file, error);
+        if (warnings) {
+            line = ReplaceAll(line, kTemplateLineBreak, "\r\n");
+        }
+        log->WriteLine(opening + ReplaceAll(line, "\r\n", ""));
     }
 }
 

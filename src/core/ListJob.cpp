@@ -31,8 +31,7 @@ class ListRun final : public ErrorReporter {
 
     void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
                 const RunTimeError& error) override {
-        ReportError(std::string(errorTemplate), file, folder, error, application_, ui_,
-                    log_ ? &*log_ : nullptr);
+        ReportError(errorTemplate, file, folder, error, application_, ui_, log_ ? &*log_ : nullptr);
     }
 
   private:

@@ -57,6 +57,10 @@ class UserInterface {
     // Shows a message and waits for its answer. Line breaks in `text` are CR LF.
     virtual int ShowMessage(std::string_view text, int buttons, std::string_view title) = 0;
 
+    // A name of a file or folder as it goes into a message: unchanged unless the front end shows messages
+    // where a line break or another character of the name could pass for part of the message.
+    virtual std::string NameInMessage(std::string_view name) const { return std::string(name); }
+
     // Moves the focus into a field and selects its whole text.
     virtual void FocusAndSelect(MainField field) = 0;
     // Lets the user at the main window and the options window again.

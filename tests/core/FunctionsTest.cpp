@@ -109,6 +109,14 @@ TEST_F(ReportErrorTest, ReplacesEveryPlaceholderEachTimeItOccursOneKindAfterTheO
     EXPECT_EQ(Report(false, true, "%F", "/%D.mp3", "/m"), "An error occurred /%D.mp3\r\n");
 }
 
+TEST_F(ReportErrorTest, ShowsNamesAsTheFrontEndWantsThemAndLogsThemAsTheyAre) {
+    ui_.shownNames = "shown";
+    EXPECT_EQ(Report(true, true, "%F", "raw", ""), "An error occurred raw\r\n");
+    EXPECT_EQ(ui_.messages, (std::vector<Message>{{"An error occurred shown", 48, "Error!"}}));
+    EXPECT_EQ(Report(true, true, "%D", "", "raw"), "An error occurred raw\r\n");
+    EXPECT_EQ(ui_.messages, (std::vector<Message>{{"An error occurred shown", 48, "Error!"}}));
+}
+
 TEST_F(ReportErrorTest, TitlesTheBoxAsTheProgramWasStarted) {
     fake_.application.errorTitle = "Tunedex Error! (Automatic Mode)";
     Report(true, false, kWalkTemplate, "", "/m");

@@ -64,6 +64,9 @@ class FakeUserInterface final : public UserInterface {
         answers.erase(answers.begin());
         return answer;
     }
+    std::string NameInMessage(std::string_view name) const override {
+        return name.empty() || shownNames.empty() ? std::string(name) : shownNames;
+    }
     void FocusAndSelect(MainField field) override { focused.push_back(field); }
     void EnableWindows() override { ++enabled; }
     RunMonitor& ShowProgress() override {
@@ -79,6 +82,7 @@ class FakeUserInterface final : public UserInterface {
     std::vector<int> answers; // the next first; OK when there are none left
     std::vector<MainField> focused;
     std::string caption;
+    std::string shownNames; // shown in place of every name in a message; names as they are when empty
     int enabled = 0;
     int shown = 0;
     int closed = 0;
