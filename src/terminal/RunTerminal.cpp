@@ -1,5 +1,6 @@
 #include "RunTerminal.h"
 
+#include "Interrupts.h"
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
 
@@ -8,7 +9,7 @@
 namespace tunedex {
 
 int RunTerminal(Application& application, const std::vector<std::string>& arguments) {
-    TerminalFrontEnd::CatchSignals();
+    CatchInterrupts();
     TerminalFrontEnd frontEnd(application, STDIN_FILENO, STDERR_FILENO);
     StartUp(application, frontEnd, arguments);
     return CreateListCommand(application, frontEnd) ? 0 : 1;

@@ -1,48 +1,19 @@
 #include "TerminalFrontEnd.h"
 
+#include "Functions.h"
+#include "Interrupts.h"
 #include "Startup.h"
+#include "TerminalText.h"
 #include "Text.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <csignal>
-#include <poll.h>
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 namespace tunedex {
 
 namespace {
 
-volatile std::sig_atomic_t interrupted = 0; // the one thing a signal handler may touch
-
-void OnInterrupt(int /*signal*/) {
-    interrupted = 1;
-}
-
 constexpr std::chrono::milliseconds kTerminalInterval{50};
 constexpr std::chrono::milliseconds kLineInterval{1000};
-
-// Waits until there is something to read, or its end. Returns false when a signal interrupts; one that comes
-// just before the waiting begins is not missed, since signals are let in only while it lasts.
-bool WaitForInput(int input) {
-    sigset_t signals;
-    sigset_t before;
-    sigemptyset(&signals);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        sigaddset(&signals, number);
-    }
-    pthread_sigmask(SIG_BLOCK, &signals, &before);
-    while (interrupted == 0 &&
-           input >= 0) { // a descriptor below 0 would never be ready; reading from it tells
-        pollfd waiting{input, POLLIN, 0};
-        if (ppoll(&waiting, 1, nullptr, &before) >= 0 || errno != EINTR) {
-            break;
-        }
-    }
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    return interrupted == 0;
-}
 
 struct Choice {
     std::string_view prompt;
@@ -72,87 +43,50 @@ int AnswerIn(std::string_view line, const Choice& choice) {
     return choice.otherKeys.starts_with(word) ? choice.other : 0;
 }
 
-// A name from a file system must not steer the terminal.
-std::string WithoutControls(std::string_view text) {
-    std::string clean;
-    for (std::size_t i = 0; i < text.size();) {
-        const TextStep step = StepAt(text, i);
-        const char32_t c = step.character; // of a stray byte its value, which an 8-bit terminal takes for it
-        if ((c < 0x20 && c != '\n') || (c >= 0x7F && c <= 0x9F)) {
-            clean += '?';
-        } else {
-            clean += text.substr(i, step.length);
-        }
-        i += step.length;
-    }
-    return clean;
-}
-
 } // namespace
 
 TerminalFrontEnd::TerminalFrontEnd(Application& application, int input, int output)
-    : application_(application), input_(input), output_(output), isTerminal_(isatty(output) == 1) {}
-
-void TerminalFrontEnd::CatchSignals() {
-    struct sigaction action {};
-    action.sa_handler = OnInterrupt;
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        sigaction(number, &action, nullptr);
-    }
-}
+    : application_(application), input_(input), output_(output) {}
 
 void TerminalFrontEnd::TakeControls(Settings& settings) {
     TakeMainFields(settings, fields_);
     TakeLayoutControls(settings);
 }
 
-void TerminalFrontEnd::Print(std::string_view text) const {
-    std::string_view rest = text;
-    while (!rest.empty()) {
-        const ssize_t done = write(output_, rest.data(), rest.size());
-        if (done < 0 && errno == EINTR) {
-            continue;
-        }
-        if (done <= 0) {
-            return; // nobody can be told
-        }
-        rest.remove_prefix(static_cast<std::size_t>(done));
+std::string TerminalFrontEnd::NameInMessage(std::string_view name) const {
+    if (!output_.IsTerminal()) {
+        return std::string(name);
     }
+    return TerminalText(ReplaceAll(name, kTemplateLineBreak, "?"));
 }
 
-bool TerminalFrontEnd::ReadLine(std::string& line) const {
-    line.clear();
-    char c = 0;
-    while (WaitForInput(input_)) {
-        const ssize_t got = read(input_, &c, 1);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got <= 0) {
-            return false;
-        }
-        if (c == '\n') {
-            return true;
-        }
-        line += c;
+// The message as it is printed. Only its own line breaks, CR LF, begin a new line of a terminal.
+std::string TerminalFrontEnd::MessageText(std::string_view text, std::string_view title) const {
+    if (!output_.IsTerminal()) {
+        return std::string(title) + "\n" + ReplaceAll(text, "\r\n", "\n") + "\n";
     }
-    return false;
+    std::string message = TerminalText(title) + "\n";
+    for (const std::string& line : Split(text, "\r\n")) {
+        message += TerminalText(line) + "\n";
+    }
+    return message;
 }
 
 int TerminalFrontEnd::ShowMessage(std::string_view text, int buttons, std::string_view title) {
     FinishStatus();
-    std::string message = std::string(title) + "\n" + ReplaceAll(text, "\r\n", "\n") + "\n";
-    Print(isTerminal_ ? WithoutControls(message) : message);
+    output_.Write(MessageText(text, title));
     const Choice choice = ChoiceFor(buttons);
     std::string line;
+    input_.Restart();
     while (true) {
-        Print(std::string(choice.prompt));
-        if (!ReadLine(line)) {
-            Print("\n");
+        output_.Write(choice.prompt);
+        const AnswerInput::Line read = input_.Read(line);
+        if (read == AnswerInput::Line::None) {
+            output_.Write("\n");
             return choice.safe;
         }
-        if (const int answer = AnswerIn(line, choice)) {
+        const int answer = read == AnswerInput::Line::Read ? AnswerIn(line, choice) : 0;
+        if (answer != 0) {
             return answer;
         }
     }
@@ -192,13 +126,14 @@ void TerminalFrontEnd::SetCountedStatus(std::string_view before, std::int32_t co
     if ((++calls_ & 0xFU) != 0) {
         return; // the clock need not be asked for each of a million files
     }
-    if (std::chrono::steady_clock::now() - lastPaint_ >= (isTerminal_ ? kTerminalInterval : kLineInterval)) {
+    if (std::chrono::steady_clock::now() - lastPaint_ >=
+        (output_.IsTerminal() ? kTerminalInterval : kLineInterval)) {
         Paint();
     }
 }
 
 bool TerminalFrontEnd::AbortRequested() {
-    if (interrupted != 0) {
+    if (Interrupted()) {
         application_.abortRequested = true;
     }
     return application_.abortRequested;
@@ -228,16 +163,15 @@ void TerminalFrontEnd::Paint() {
     }
     unpainted_ = false;
     lastPaint_ = std::chrono::steady_clock::now();
-    if (!isTerminal_) {
-        Print(StatusText() + "\n");
+    if (!output_.IsTerminal()) {
+        output_.Write(StatusText() + "\n");
         return;
     }
-    std::string line = Bar() + StatusText();
-    winsize size{};
-    if (ioctl(output_, TIOCGWINSZ, &size) == 0 && size.ws_col > 1 && line.size() >= size.ws_col) {
-        line.resize(size.ws_col - 1U);
-    }
-    Print("\r" + line + "\x1b[K");
+    const std::string line = Bar() + TerminalText(StatusText());
+    const unsigned columns = output_.Columns();
+    // No character is wider than it has bytes. The last column stays free: some terminals wrap there.
+    const std::string_view shown = columns > 1 ? CutToBytes(line, columns - 1U) : std::string_view(line);
+    output_.Write("\r" + std::string(shown) + "\x1b[K");
 }
 
 // The last state of a status is always shown; on a terminal its line is ended.
@@ -246,8 +180,8 @@ void TerminalFrontEnd::FinishStatus() {
         return;
     }
     Paint();
-    if (isTerminal_ && (!status_.text.empty() || status_.counted)) {
-        Print("\n");
+    if (output_.IsTerminal() && (!status_.text.empty() || status_.counted)) {
+        output_.Write("\n");
     }
     status_ = Status();
 }

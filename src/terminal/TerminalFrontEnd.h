@@ -1,7 +1,9 @@
 // The front end without a screen: status and messages on standard error, answers from standard input.
 #pragma once
 
+#include "AnswerInput.h"
 #include "Application.h"
+#include "TerminalOutput.h"
 #include "UserInterface.h"
 
 #include <chrono>
@@ -19,9 +21,11 @@ class TerminalFrontEnd final : public UserInterface, public RunMonitor {
     MainFields Fields() const override { return fields_; }
     void FillFields(const MainFields& fields) override { fields_ = fields; }
     void TakeControls(Settings& settings) override;
-    // Prints title and text and reads the answer. Where the input ends or the user interrupts, the answer is
-    // the safe one: OK where there is nothing else, otherwise No or Cancel.
+    // Prints title and text and reads the answer; a line that is none asks again. When the input has ended or
+    // a signal has arrived, the answer is the safe one: OK where there is no other button, else No or Cancel.
     int ShowMessage(std::string_view text, int buttons, std::string_view title) override;
+    // On a terminal without control characters, line breaks and marks of writing direction.
+    std::string NameInMessage(std::string_view name) const override;
     void FocusAndSelect(MainField /*field*/) override {}
     void EnableWindows() override {}
     RunMonitor& ShowProgress() override;
@@ -34,10 +38,6 @@ class TerminalFrontEnd final : public UserInterface, public RunMonitor {
     void SetMaximum(std::int32_t maximum) override { maximum_ = maximum; }
     void SetPosition(std::int32_t position) override { position_ = position; }
     bool AbortRequested() override;
-
-    // Lets Ctrl-C, a hang-up and a request to terminate abort the run as the Abort button does; a second one
-    // ends the program.
-    static void CatchSignals();
 
   private:
     struct Status {
@@ -53,14 +53,11 @@ class TerminalFrontEnd final : public UserInterface, public RunMonitor {
     std::string Bar() const;
     void Paint();
     void FinishStatus();
-    void Print(std::string_view text) const;
-    // One line of input without its end; nothing where the input ends or a signal interrupts.
-    bool ReadLine(std::string& line) const;
+    std::string MessageText(std::string_view text, std::string_view title) const;
 
     Application& application_;
-    const int input_;
-    const int output_;
-    const bool isTerminal_;
+    AnswerInput input_;
+    const TerminalOutput output_;
     MainFields fields_;
     bool open_ = false;
     Status status_;

@@ -84,11 +84,14 @@ TEST(Terminal, IsNotSteeredByTheNamesInAMessage) {
     const int noInput = open("/dev/null", O_RDONLY);
     const TestFolder folder;
     FakeApplication fake(folder.Path());
-    TerminalFrontEnd frontEnd(fake.application, noInput, terminal);
-    frontEnd.ShowMessage("a\x1b[2Jb\xC2\x9B"
-                         "2Jc\x9B"
-                         "2Jd\a\re\x7F\xC3\xA9\xE9",
-                         kOkExclamation, "Error");
+    {
+        // It opens the terminal a second time: the reading below ends only once that is closed, too.
+        TerminalFrontEnd frontEnd(fake.application, noInput, terminal);
+        frontEnd.ShowMessage("a\x1b[2Jb\xC2\x9B"
+                             "2Jc\x9B"
+                             "2Jd\a\re\x7F\xC3\xA9\xE9",
+                             kOkExclamation, "Error");
+    }
     close(noInput);
     close(terminal);
     // In as many pieces as the system pleases, until nothing more can come.

@@ -7,6 +7,7 @@ usage: ProgramTest.py --list                 prints the names of the tests
 
 import contextlib
 import datetime
+import fcntl
 import os
 import pathlib
 import resource
@@ -17,6 +18,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import termios
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
@@ -101,7 +103,8 @@ class ProgramTest(unittest.TestCase):
             for path in [self.folder, *self.folder.rglob("*")]:
                 os.lchown(path, NOBODY, NOBODY)
             options |= {"user": NOBODY, "group": NOBODY, "extra_groups": []}
-        return subprocess.run([program or self.program(), *(arguments or ["/AUTO"])], input=answers,
+        given = {"input": answers} if isinstance(answers, bytes) else {"stdin": answers}
+        return subprocess.run([program or self.program(), *(arguments or ["/AUTO"])], **given,
                               capture_output=True, timeout=240, check=False, cwd=self.folder,
                               env=self.environment("user" in options, **variables), **options)
 
@@ -340,24 +343,95 @@ class ProgramTest(unittest.TestCase):
         os.mkfifo(self.installation / "Tunedex.cfg")
         self.expect(self.run_program(settings=False), 2, b"could not start: File not found")
 
-    def test_is_aborted_by_an_interrupt(self):
-        (self.music / "junk.mp3").write_bytes(b"no audio" * 500)
-        for number in range(20):
-            self.track(f"{number}.mp3")
+    def test_ends_where_the_input_never_ends_a_line(self):
+        self.track("a.mp3")
+        self.settings["OutputFile"] = self.out / "new/list.txt"
+        with open("/dev/zero", "rb") as zeros:
+            result = self.run_program(answers=zeros)
+        self.expect(result, 1, AUTOMATIC + b"The output directory does not exist!\n\nDo you want to create it?\n"
+                    b"Yes or No? [No] \n")
+
+    def test_asks_again_after_an_answer_of_more_than_4096_bytes(self):
+        self.track("a.mp3")
+        self.settings["OutputFile"] = self.out / "new/list.txt"
+        self.expect(self.run_program(answers=b" " * 4097 + b"\ny\n"), 0, b"Yes or No? [No] Yes or No? [No] ")
+        self.assertTrue((self.out / "new/list.txt").exists())
+
+    def start(self, stdin=subprocess.PIPE, stderr=subprocess.PIPE, **options):
+        """Starts an unattended run that reports each of 200 files, and needs an answer each time."""
+        for number in range(200):
+            (self.music / f"{number}.mp3").write_bytes(b"no audio" * 500)
         self.list.write_bytes(b"old")
         self.write_settings()
-        with subprocess.Popen([self.program(), "/AUTO"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                              stderr=subprocess.PIPE, env=self.environment(), cwd=self.folder) as process:
-            said = b""
-            while not said.endswith(b"[OK] "):  # it waits for an answer now
-                byte = process.stderr.read(1)
-                self.assertNotEqual(byte, b"", said)
-                said += byte
-            process.send_signal(signal.SIGINT)
-            rest = process.stderr.read()
-            self.assertEqual(process.wait(240), 1)
-        self.assertNotIn(b"Operation complete!", said + rest)
+        process = subprocess.Popen([self.program(), "/AUTO"], stdin=stdin, stdout=subprocess.DEVNULL, stderr=stderr,
+                                   env=self.environment(), cwd=self.folder, bufsize=0, **options)
+        self.addCleanup(process.wait)
+        self.addCleanup(process.kill)
+        self.addCleanup(lambda: [stream.close() for stream in (process.stdin, process.stderr) if stream])
+        return process
+
+    def wait_for_question(self, descriptor):
+        said = b""
+        while not said.endswith(b"[OK] "):
+            byte = os.read(descriptor, 1)
+            self.assertNotEqual(byte, b"", said)
+            said += byte
+        return said
+
+    @staticmethod
+    def unread(pipe):
+        """How many bytes are in a pipe."""
+        return struct.unpack("i", fcntl.ioctl(pipe, termios.FIONREAD, bytes(4)))[0]
+
+    def expect_abort(self, process):
+        """The answer comes within 0.1 s on an idle machine."""
+        process.send_signal(signal.SIGTERM)
+        self.assertEqual(process.wait(10), 1)
         self.assertEqual(self.list.read_bytes(), b"old")
+
+    def test_is_aborted_by_an_interrupt(self):
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+            process = self.start()
+            said = self.wait_for_question(process.stderr.fileno())
+            process.send_signal(number)
+            said += process.stderr.read()
+            self.assertEqual(process.wait(240), 1)
+            self.assertNotIn(b"Operation complete!", said)
+            self.assertEqual(self.list.read_bytes(), b"old")
+
+    def test_goes_on_after_a_signal_that_was_ignored_when_it_started(self):
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+            process = self.start(preexec_fn=lambda number=number: signal.signal(number, signal.SIG_IGN))
+            self.wait_for_question(process.stderr.fileno())
+            process.send_signal(number)
+            said = process.communicate(b"\n" * 200, timeout=240)[1]
+            self.assertEqual(process.returncode, 0, said)
+            self.assertIn(b"Operation complete!", said)
+            self.assertNotEqual(self.list.read_bytes(), b"old")
+
+    def test_is_aborted_while_nobody_reads_a_full_standard_error(self):
+        reader, writer = os.pipe()
+        self.addCleanup(os.close, reader)
+        fcntl.fcntl(writer, fcntl.F_SETPIPE_SZ, 2 * resource.getpagesize())
+        (self.folder / "answers").write_bytes(b"\n" * 200)
+        with open(self.folder / "answers", "rb") as answers:
+            process = self.start(answers, writer)
+        os.close(writer)
+        while self.unread(reader) <= resource.getpagesize():  # both pages in use: it takes no more
+            self.assertIsNone(process.poll())
+        self.expect_abort(process)
+
+    def test_is_aborted_while_its_terminal_is_stopped(self):
+        master, terminal = os.openpty()
+        self.addCleanup(os.close, master)
+        process = self.start(stderr=terminal)
+        os.close(terminal)
+        self.wait_for_question(master)
+        os.write(master, b"\x13")  # Ctrl+S
+        process.stdin.write(b"\n")
+        while self.unread(process.stdin) > 0:
+            self.assertIsNone(process.poll())
+        self.expect_abort(process)
 
     # Collections that are not what one expects
 

@@ -1,17 +1,19 @@
 #include "TerminalFrontEnd.h"
 
 #include "Fakes.h"
+#include "Functions.h"
+#include "Interrupts.h"
 #include "OrdinaryUser.h"
 #include "TestFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <fcntl.h>
 #include <pty.h>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -120,6 +122,43 @@ TEST_F(TerminalFrontEndTest, AnswersSeveralMessagesFromTheLinesOfItsInput) {
     EXPECT_EQ(frontEnd.ShowMessage("3", kYesNoExclamation, "t"), kAnswerNo);
 }
 
+TEST_F(TerminalFrontEndTest, AsksAgainAfterAnAnswerThatIsTooLong) {
+    const std::string longest(AnswerInput::kLongestAnswer, 'x');
+    Input(longest + "\n" + longest + "y\n\n" + std::string(100'000, 'y') + "\ny\nnext\n");
+    OutputToPipe();
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    EXPECT_EQ(frontEnd.ShowMessage("1", kOkExclamation, "t"), kAnswerOk);
+    EXPECT_EQ(Written(), "t\n1\n[OK] ") << "of that length it is still an answer";
+    EXPECT_EQ(frontEnd.ShowMessage("2", kOkExclamation, "t"), kAnswerOk);
+    EXPECT_EQ(Written(), "t\n2\n[OK] [OK] ");
+    EXPECT_EQ(frontEnd.ShowMessage("3", kYesNoExclamation, "t"), kAnswerYes);
+    EXPECT_EQ(Written(), "t\n3\nYes or No? [No] Yes or No? [No] ");
+    std::string rest(16, '\0');
+    rest.resize(static_cast<std::size_t>(std::max<ssize_t>(read(input_, rest.data(), rest.size()), 0)));
+    EXPECT_EQ(rest, "next\n") << "what is behind the answer is not consumed";
+}
+
+TEST_F(TerminalFrontEndTest, TakesAnInputThatNeverAnswersForOneThatHasEnded) {
+    std::string wrong;
+    while (wrong.size() < AnswerInput::kMostPerQuestion) {
+        wrong += "maybe\n";
+    }
+    const std::string zeros(AnswerInput::kMostPerQuestion + 10, '\0');
+    for (const std::string& bytes : {zeros, wrong + "maybe\n"}) {
+        Input(bytes);
+        const int output = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        TerminalFrontEnd frontEnd(fake_.application, input_, output);
+        EXPECT_EQ(frontEnd.ShowMessage("?", kYesNoExclamation, "t"), kAnswerNo);
+        EXPECT_EQ(lseek(input_, 0, SEEK_CUR), AnswerInput::kMostPerQuestion);
+        EXPECT_EQ(frontEnd.ShowMessage("?", kOkCancelQuestion, "t"), kAnswerCancel);
+        EXPECT_EQ(frontEnd.ShowMessage("?", kOkExclamation, "t"), kAnswerOk);
+        EXPECT_EQ(lseek(input_, 0, SEEK_CUR), AnswerInput::kMostPerQuestion) << "nothing more is read";
+        close(output);
+        close(input_);
+    }
+    input_ = -1;
+}
+
 TEST_F(TerminalFrontEndTest, WritesEachPhaseOnALineOfItsOwnAndItsLastState) {
     OutputToPipe();
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
@@ -193,6 +232,49 @@ TEST_F(TerminalFrontEndTest, LetsNoNameSteerTheTerminal) {
     EXPECT_EQ(Written(), "t?\r\na?[2J??b? é\r\n[OK] \r\n");
 }
 
+TEST_F(TerminalFrontEndTest, BeginsALineOfATerminalOnlyWhereTheMessageDoes) {
+    Input("");
+    OutputToTerminal(80);
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    frontEnd.ShowMessage("One\nline\rfor\u2028all\r\n\r\nTwo", kOkExclamation, "t\r\nu");
+    EXPECT_EQ(Written(), "t??u\r\nOne?line?for?all\r\n\r\nTwo\r\n[OK] \r\n");
+}
+
+TEST_F(TerminalFrontEndTest, KeepsTheLineBreaksOfNamesOutOfATerminal) {
+    const std::string name = "a\r\nb\nc\\nd\u2029e\u202Ef";
+    const RunTimeError error(ErrorNumber::PathFileAccess);
+    fake_.application.settings.ErrorWarnings = true;
+    for (const bool terminal : {true, false}) {
+        Input("");
+        if (terminal) {
+            OutputToTerminal(80);
+        } else {
+            OutputToPipe();
+        }
+        TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+        ReportError(R"(scanning: \n%D)", "", name, error, fake_.application, frontEnd, nullptr);
+        ReportError(R"(decoding: \n%F)", name, "", error, fake_.application, frontEnd, nullptr);
+        const std::string shown =
+            terminal ? "\r\na??b?c?d?e?f\r\n[OK] \r\n" : "\na\nb\nc\nd\u2029e\u202Ef\n[OK] \n";
+        const std::string title = terminal ? "Error!\r\n" : "Error!\n";
+        EXPECT_EQ(Written(), title + "An error occurred scanning: " + shown + title +
+                                 "An error occurred decoding: " + shown);
+        close(input_);
+        close(read_);
+        close(write_);
+    }
+    input_ = read_ = write_ = -1;
+}
+
+TEST_F(TerminalFrontEndTest, CutsNoCharacterOfAStatusInTwo) {
+    OutputToTerminal(8);
+    TerminalFrontEnd frontEnd(fake_.application, input_, write_);
+    frontEnd.ShowProgress().SetStatus("abcdeéèê");
+    EXPECT_EQ(Written(), "\rabcdeé\x1b[K");
+    frontEnd.SetStatus("abcdefé"); // the second byte of the last character has no room
+    EXPECT_EQ(Written(), "\r\n\rabcdef\x1b[K");
+}
+
 TEST_F(TerminalFrontEndTest, KeepsNamesAsTheyAreInAPipe) {
     Input("");
     OutputToPipe();
@@ -244,7 +326,7 @@ TEST_F(TerminalFrontEndTest, TakesASignalForTheAbortButton) {
     OutputToPipe();
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         test::InChild([&] {
-            TerminalFrontEnd::CatchSignals();
+            CatchInterrupts();
             TerminalFrontEnd frontEnd(fake_.application, input_, write_);
             EXPECT_FALSE(frontEnd.AbortRequested());
             EXPECT_FALSE(fake_.application.abortRequested);
@@ -257,20 +339,6 @@ TEST_F(TerminalFrontEndTest, TakesASignalForTheAbortButton) {
             EXPECT_EQ(asking.ShowMessage("?", kYesNoExclamation, "t"), kAnswerNo);
         });
     }
-}
-
-TEST_F(TerminalFrontEndTest, EndsTheProgramAtTheSecondSignal) {
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        TerminalFrontEnd::CatchSignals();
-        std::raise(SIGINT);
-        std::raise(SIGINT);
-        _exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGINT);
 }
 
 } // namespace
