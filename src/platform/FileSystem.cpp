@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <memory>
+#include <poll.h>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,6 +18,19 @@ namespace {
 
 bool NotThere(int errorCode) {
     return errorCode == ENOENT || errorCode == ENOTDIR;
+}
+
+// Returns false when `stop` says so before the descriptor can be written to.
+bool WaitUntilWritable(int descriptor, const StopTest& stop) {
+    constexpr int kSliceMilliseconds = 20;
+    while (!Stops(stop)) {
+        pollfd waiting{descriptor, POLLOUT, 0};
+        // A signal ends the slice early, so that what it asks for is seen at once.
+        if (poll(&waiting, 1, kSliceMilliseconds) > 0) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool HoldsNul(const std::string& path) {
@@ -104,14 +118,18 @@ void CreateFolders(const std::string& folderPrefix) {
     }
 }
 
-void WriteWhole(int descriptor, std::string_view rest) {
+bool WriteWhole(int descriptor, std::string_view rest, const StopTest& stop) {
     while (!rest.empty()) {
         const ssize_t done = Uninterrupted([&] { return write(descriptor, rest.data(), rest.size()); });
-        if (done < 0) {
+        if (done >= 0) {
+            rest.remove_prefix(static_cast<std::size_t>(done));
+        } else if (errno != EAGAIN) {
             throw ErrorFromErrno(errno, FileTask::WriteFile);
+        } else if (!WaitUntilWritable(descriptor, stop)) {
+            return false;
         }
-        rest.remove_prefix(static_cast<std::size_t>(done));
     }
+    return true;
 }
 
 void DeleteFile(const std::string& path) {

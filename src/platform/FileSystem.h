@@ -1,6 +1,8 @@
 // Questions to the file system and small changes in it. Paths are native, as bytes.
 #pragma once
 
+#include "StopTest.h"
+
 #include <dirent.h>
 #include <optional>
 #include <string>
@@ -26,8 +28,10 @@ void CreateFolder(const std::string& path);
 // outermost first. Raises the errors of FolderExists and CreateFolder.
 void CreateFolders(const std::string& folderPrefix);
 
-// Writes all the bytes to an open file. Raises errors 61, 57 and the like.
-void WriteWhole(int descriptor, std::string_view bytes);
+// Writes all the bytes to an open file. A non-blocking descriptor that takes no more (a full pipe, a stopped
+// terminal) is waited for; `stop` is asked before and about every 20 ms of such a wait. Returns false when it
+// ended the wait: part of the bytes may then be written. Raises errors 61, 57 and the like.
+bool WriteWhole(int descriptor, std::string_view bytes, const StopTest& stop = {});
 
 // Removes a file. Raises error 53 when it is not there.
 void DeleteFile(const std::string& path);

@@ -9,20 +9,18 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tunedex {
 
-LogFile::LogFile(const std::string& path) {
-    descriptor_ = Uninterrupted(
-        [&] { return open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOCTTY, 0666); });
-    if (descriptor_ < 0) {
+// Without O_NONBLOCK, opening a FIFO that nobody reads would block.
+LogFile::LogFile(const std::string& path, StopTest stop)
+    : descriptor_(Uninterrupted([&] {
+          return open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+      })),
+      stop_(std::move(stop)) {
+    if (!descriptor_) {
         throw ErrorFromErrno(errno, FileTask::WriteFile);
-    }
-}
-
-LogFile::~LogFile() {
-    if (descriptor_ >= 0) {
-        close(descriptor_);
     }
 }
 
@@ -31,13 +29,11 @@ void LogFile::WriteLine(std::string_view text) {
     // A file's name may hold line breaks; scripts count one line an error.
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    WriteWhole(descriptor_, line + "\r\n");
+    stopped_ = stopped_ || !WriteWhole(descriptor_.Get(), line + "\r\n", stop_);
 }
 
 void LogFile::Close() {
-    const int descriptor = descriptor_;
-    descriptor_ = -1;
-    if (close(descriptor) != 0 && errno != EINTR) {
+    if (close(descriptor_.Release()) != 0 && errno != EINTR) {
         throw ErrorFromErrno(errno, FileTask::WriteFile);
     }
 }

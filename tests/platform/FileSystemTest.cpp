@@ -7,9 +7,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <csignal>
+#include <fcntl.h>
 #include <filesystem>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace tunedex {
 namespace {
@@ -126,6 +131,43 @@ TEST_F(FileSystemTest, KnowsTheRunningProgramAndItsFolder) {
     const std::string program = RunningProgram();
     EXPECT_TRUE(std::filesystem::equivalent(program, "/proc/self/exe"));
     EXPECT_EQ(RunningProgramFolder() + "platform_test", program);
+}
+
+TEST(WriteWhole, WaitsForAReaderOfAFullPipe) {
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    const std::string bytes(1'000'000, 'x');
+    std::size_t got = 0;
+    std::vector<char> buffer(65536);
+    const auto readSome = [&] {
+        const ssize_t count = read(pipe[0], buffer.data(), buffer.size());
+        got += count > 0 ? static_cast<std::size_t>(count) : 0;
+        return false;
+    };
+    EXPECT_TRUE(WriteWhole(pipe[1], bytes, readSome));
+    for (std::size_t before = got + 1; got != before;) {
+        before = got;
+        readSome();
+    }
+    EXPECT_EQ(got, bytes.size());
+    close(pipe[0]);
+    close(pipe[1]);
+}
+
+TEST(WriteWhole, IsEndedByTheStopTestWhereNobodyReads) {
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    int asked = 0;
+    EXPECT_FALSE(WriteWhole(pipe[1], std::string(1'000'000, 'x'), [&] { return ++asked == 3; }));
+    EXPECT_EQ(asked, 3);
+    EXPECT_FALSE(WriteWhole(pipe[1], "x", [] { return true; })) << "without waiting";
+    close(pipe[0]);
+    EXPECT_EQ(test::RaisedBy([&] {
+                  std::signal(SIGPIPE, SIG_IGN);
+                  WriteWhole(pipe[1], "x");
+              }),
+              57);
+    close(pipe[1]);
 }
 
 } // namespace

@@ -6,7 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <fcntl.h>
+#include <string>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tunedex {
 namespace {
@@ -61,6 +65,36 @@ TEST(LogFile, RaisesTheErrorOfALogThatCannotBeOpened) {
 TEST(LogFile, RaisesDiskFullForALineThatFindsNoRoom) {
     LogFile log("/dev/full");
     EXPECT_EQ(test::RaisedBy([&] { log.WriteLine("x"); }), 61);
+}
+
+TEST(LogFile, RefusesAFifoWithoutAReaderAtOnce) {
+    const test::TestFolder folder;
+    ASSERT_EQ(mkfifo((folder / "Tunedex.log").c_str(), 0666), 0);
+    EXPECT_EQ(test::RaisedBy([&] { LogFile log(folder / "Tunedex.log"); }), 57);
+}
+
+TEST(LogFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
+    const test::TestFolder folder;
+    const std::string path = folder / "Tunedex.log";
+    ASSERT_EQ(mkfifo(path.c_str(), 0666), 0);
+    const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    ASSERT_GE(reader, 0);
+    int asked = 0;
+    LogFile log(path, [&] { return ++asked > 2; });
+    const std::string line(1000, 'x');
+    int lines = 0;
+    for (; asked == 0; ++lines) {
+        log.WriteLine(line);
+    }
+    EXPECT_GT(lines, 2);
+    EXPECT_EQ(asked, 3) << "a wait asks again and again";
+    log.WriteLine(line);
+    EXPECT_EQ(asked, 3) << "nothing more is written, and nothing waited for";
+    log.Close();
+    std::array<char, 1002> first{};
+    ASSERT_EQ(read(reader, first.data(), first.size()), 1002);
+    EXPECT_EQ(std::string(first.data(), first.size()), line + "\r\n");
+    close(reader);
 }
 
 } // namespace

@@ -1,0 +1,38 @@
+// A file descriptor that its owner closes.
+#pragma once
+
+#include <unistd.h>
+#include <utility>
+
+namespace tunedex {
+
+class UniqueFd {
+  public:
+    UniqueFd() = default;
+    // A negative value, as a failed open() returns it, is no descriptor.
+    explicit UniqueFd(int descriptor) : descriptor_(descriptor) {}
+    UniqueFd(UniqueFd&& other) noexcept : descriptor_(other.Release()) {}
+    UniqueFd& operator=(UniqueFd&& other) noexcept {
+        if (this != &other) {
+            Reset();
+            descriptor_ = other.Release();
+        }
+        return *this;
+    }
+    ~UniqueFd() { Reset(); }
+
+    explicit operator bool() const { return descriptor_ >= 0; }
+    int Get() const { return descriptor_; }
+    // Gives up the descriptor without closing it.
+    int Release() { return std::exchange(descriptor_, -1); }
+    void Reset() {
+        if (descriptor_ >= 0) {
+            close(Release());
+        }
+    }
+
+  private:
+    int descriptor_ = -1;
+};
+
+} // namespace tunedex
