@@ -1,11 +1,12 @@
 // A text file being written: the one place where texts become bytes on disk.
 #pragma once
 
+#include "FileReplacement.h"
+#include "StopTest.h"
+
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
 
 namespace tunedex {
 
@@ -18,10 +19,13 @@ enum class TextEncoding {
     SettingsLine, // the same with stray bytes escaped, for files whose texts are read back
 };
 
-// The file is written aside in its own folder, under a short hidden name, and takes the old file's place when
-// it is closed, following a symbolic link to the real file and keeping its permissions; where the folder does
-// not allow that, it is written in place. Unless Close() has returned, the destructor removes what was
-// written aside and the old file is still there.
+// The file is written to a temporary file in its own folder, which replaces the old file when it is closed;
+// FileReplacement says when it is written in place instead. Unless Close() has returned, the destructor
+// removes the temporary file and the old file is still there.
+//
+// A stream (a FIFO, a pipe behind /dev/stdout, a terminal) that takes no more is waited for. The stop test is
+// asked while that lasts; once it ends the wait, everything that is still to be written is dropped, and
+// Close() closes the file as it stands.
 //
 // The constructor, the writes and Close() raise the error of what failed: 75 where the file or the folder may
 // not be written, 76 for a folder that is not there, 61 for a full disk, 52 for an impossible name, 57 for
@@ -31,10 +35,13 @@ class TextFile {
     // How many bytes of text a writer best hands over at a time: that much goes to the system without a copy.
     static constexpr std::size_t kPieceBytes = 262144;
 
-    TextFile(const std::string& path, TextEncoding encoding);
+    // With StaleFiles::Remove it removes temporary files that an earlier run left in the folder: the first of
+    // several files in one folder should.
+    TextFile(const std::string& path, TextEncoding encoding, StopTest stop = {},
+             StaleFiles staleFiles = StaleFiles::Remove);
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
-    ~TextFile();
+    ~TextFile() = default;
 
     // Text as it stands; line breaks within it are the caller's.
     void Write(std::string_view text);
@@ -45,20 +52,19 @@ class TextFile {
 
     void Close();
 
+    // Whether the stop test has ended a wait: the file is then incomplete.
+    bool Stopped() const { return stopped_; }
+
   private:
-    std::optional<struct stat> FindOld(std::string path);
-    void Open(const std::optional<struct stat>& old);
     void FlushIfFull();
     void Flush();
-    void Discard() noexcept;
-    void CloseFolder() noexcept;
+    void Send(std::string_view bytes);
 
     TextEncoding encoding_;
+    StopTest stop_;
+    bool stopped_ = false;
     std::string buffer_;
-    int folder_ = -1;     // the folder of the real file
-    int descriptor_ = -1; // the file being written
-    std::string name_;    // the real file's name in that folder
-    std::string aside_;   // the name written under; empty when written in place
+    FileReplacement file_;
 };
 
 } // namespace tunedex

@@ -9,12 +9,18 @@
 
 #include <array>
 #include <csignal>
+#include <cstdint>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
+#include <grp.h>
+#include <optional>
 #include <string>
+#include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <vector>
 
@@ -36,6 +42,51 @@ std::size_t CountIn(const std::string& folder) {
 unsigned PermissionsOf(const std::string& path) {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
+}
+
+// An access-control list as the kernel exchanges it: version 2, then tag, permissions and id of each entry.
+constexpr const char* kAccessList = "system.posix_acl_access";
+constexpr const char* kDefaultList = "system.posix_acl_default";
+
+std::string AccessList(const std::vector<std::array<std::uint32_t, 3>>& entries) {
+    std::string bytes = {2, 0, 0, 0};
+    for (const auto& [tag, rights, id] : entries) {
+        for (const std::uint32_t part : {tag, rights}) {
+            bytes += static_cast<char>(part & 0xFFU);
+            bytes += static_cast<char>(part >> 8U);
+        }
+        for (unsigned shift = 0; shift < 32; shift += 8) {
+            bytes += static_cast<char>((id >> shift) & 0xFFU);
+        }
+    }
+    return bytes;
+}
+
+constexpr std::uint32_t kNoId = 0xFFFFFFFFU;
+
+// user::rw-, user:12345:`named`, group::r--, mask::rw-, other::`other`
+std::string ListNaming(std::uint32_t named, std::uint32_t other) {
+    return AccessList(
+        {{1, 6, kNoId}, {2, named, 12345}, {4, 4, kNoId}, {0x10, 6, kNoId}, {0x20, other, kNoId}});
+}
+
+bool SetAttribute(const std::string& path, const char* name, const std::string& value) {
+    return setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0;
+}
+
+std::optional<std::string> Attribute(const std::string& path, const char* name) {
+    std::array<char, 1024> value{};
+    const ssize_t size = getxattr(path.c_str(), name, value.data(), value.size());
+    if (size < 0) {
+        return std::nullopt;
+    }
+    return std::string(value.data(), static_cast<std::size_t>(size));
+}
+
+void MakeOld(const std::string& path, int hours) {
+    const timespec time{std::time(nullptr) - hours * 3600L, 0};
+    const std::array<timespec, 2> times = {time, time};
+    ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
 }
 
 TEST(TextFile, EncodesItsTextsAsItWasTold) {
@@ -341,10 +392,228 @@ TEST(TextFile, LetsTwoFilesOfOneFolderBeWrittenAtATime) {
 
 TEST(TextFile, HidesWhatItWritesAsideFromTheWalk) {
     const test::TestFolder folder;
-    const TextFile file(folder / "list.mp3", TextEncoding::Utf8);
+    const TextFile file(folder / "list.htm", TextEncoding::Utf8);
     const std::vector<std::string> names = FileNamesIn(folder.Path());
     ASSERT_EQ(names.size(), 1U);
     EXPECT_EQ(names.front().front(), '.');
+}
+
+TEST(TextFile, KeepsTheAccessControlListOfTheOldFile) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("list.htm", "old");
+    ASSERT_EQ(chmod(path.c_str(), 0660), 0);
+    const std::string list = ListNaming(6, 0);
+    if (!SetAttribute(path, kAccessList, list)) {
+        GTEST_SKIP() << "no access-control lists here";
+    }
+    const unsigned mode = PermissionsOf(path);
+    Save(path, "new");
+    EXPECT_EQ(test::ReadBytes(path), "new");
+    EXPECT_EQ(Attribute(path, kAccessList), list);
+    EXPECT_EQ(PermissionsOf(path), mode);
+}
+
+TEST(TextFile, KeepsTheUserAttributesOfTheOldFile) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("list.htm", "old");
+    if (!SetAttribute(path, "user.tags", "music") || !SetAttribute(path, "user.empty", "")) {
+        GTEST_SKIP() << "no user attributes here";
+    }
+    Save(path, "new");
+    EXPECT_EQ(test::ReadBytes(path), "new");
+    EXPECT_EQ(Attribute(path, "user.tags"), "music");
+    EXPECT_EQ(Attribute(path, "user.empty"), "");
+}
+
+TEST(TextFile, GivesTheOldFileNoListFromItsFolder) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("list.htm", "old");
+    ASSERT_EQ(chmod(path.c_str(), 0640), 0);
+    if (!SetAttribute(folder.Path(), kDefaultList, ListNaming(6, 4))) {
+        GTEST_SKIP() << "no access-control lists here";
+    }
+    Save(path, "new");
+    EXPECT_EQ(Attribute(path, kAccessList), std::nullopt);
+    EXPECT_EQ(PermissionsOf(path), 0640U);
+}
+
+TEST(TextFile, GivesANewFileWhatItsFolderGivesToNewFiles) {
+    const std::vector<std::string> lists = {
+        ListNaming(6, 4),
+        ListNaming(4, 0),
+        ListNaming(7, 7),
+        AccessList({{1, 6, kNoId}, {4, 0, kNoId}, {0x20, 0, kNoId}}), // no more than a mode says
+        AccessList({{1, 7, kNoId}, {4, 7, kNoId}, {0x20, 7, kNoId}}),
+    };
+    for (const std::string& list : lists) {
+        const test::TestFolder folder;
+        if (!SetAttribute(folder.Path(), kDefaultList, list)) {
+            GTEST_SKIP() << "no access-control lists here";
+        }
+        const int usual = open((folder / "usual").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+        ASSERT_GE(usual, 0);
+        close(usual);
+        Save(folder / "list.htm", "new");
+        EXPECT_EQ(PermissionsOf(folder / "list.htm"), PermissionsOf(folder / "usual"));
+        EXPECT_EQ(Attribute(folder / "list.htm", kAccessList), Attribute(folder / "usual", kAccessList));
+    }
+}
+
+TEST(TextFile, LetsNobodyReadTheTemporaryFileWhoMayNotReadTheOldOne) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("list.htm", "old");
+    ASSERT_EQ(chmod(path.c_str(), 0600), 0);
+    const TextFile file(path, TextEncoding::Utf8);
+    for (const std::string& name : FileNamesIn(folder.Path())) {
+        EXPECT_EQ(PermissionsOf(folder / name), 0600U) << name;
+    }
+}
+
+TEST(TextFile, RemovesTemporaryFilesThatAnEarlierRunLeft) {
+    const test::TestFolder folder;
+    struct Row {
+        const char* name;
+        int hours;
+        bool stays;
+    };
+    const std::vector<Row> rows = {
+        {".tunedex-1-1.tmp", 25, false},     {".tunedex-99999-123.tmp", 1000, false},
+        {".tunedex-1-2.tmp", 23, true},      {".tunedex-1-3.tmp", -48, true},
+        {".tunedex-1.tmp", 1000, true},      {".tunedex--1.tmp", 1000, true},
+        {".tunedex-1-x.tmp", 1000, true},    {".tunedex-1-1.tmp.bak", 1000, true},
+        {"old.tunedex-1-1.tmp", 1000, true}, {".tunedex-1-1.TMP", 1000, true},
+        {".tunedex-1-1-1.tmp", 1000, true},
+    };
+    for (const Row& row : rows) {
+        MakeOld(folder.Write(row.name, "left"), row.hours);
+    }
+    folder.Write(".tunedex-2-1.tmp/inside", "x");
+    MakeOld(folder / ".tunedex-2-1.tmp", 1000);
+    MakeOld(folder.Write("elsewhere", "x"), 1000);
+    ASSERT_EQ(symlink("elsewhere", (folder / ".tunedex-2-2.tmp").c_str()), 0);
+    Save(folder / "list.htm", "new");
+    for (const Row& row : rows) {
+        EXPECT_EQ(folder.Exists(row.name), row.stays) << row.name;
+    }
+    EXPECT_TRUE(folder.Exists(".tunedex-2-1.tmp/inside"));
+    EXPECT_TRUE(fs::is_symlink(folder / ".tunedex-2-2.tmp"));
+}
+
+TEST(TextFile, LeavesTheTemporaryFileOfARunThatIsStillWriting) {
+    const test::TestFolder folder;
+    TextFile slow(folder / "slow.htm", TextEncoding::Utf8);
+    const std::vector<std::string> names = FileNamesIn(folder.Path());
+    ASSERT_EQ(names.size(), 1U);
+    MakeOld(folder / names.front(), 1000);
+    Save(folder / "list.htm", "new");
+    EXPECT_TRUE(folder.Exists(names.front()));
+    slow.Close();
+    EXPECT_TRUE(folder.Exists("slow.htm"));
+}
+
+TEST(TextFile, RemovesTemporaryFilesFromTheFolderBehindALink) {
+    const test::TestFolder folder;
+    folder.Write("real/list.htm", "old");
+    MakeOld(folder.Write("real/.tunedex-1-1.tmp", "left"), 25);
+    ASSERT_EQ(symlink("real/list.htm", (folder / "link").c_str()), 0);
+    Save(folder / "link", "new");
+    EXPECT_FALSE(folder.Exists("real/.tunedex-1-1.tmp"));
+}
+
+TEST(TextFile, RefusesALinkToATrack) {
+    const test::TestFolder folder;
+    folder.Make("music");
+    for (const char* const name : {"a.mp3", "B.Mp3"}) {
+        folder.Write(std::string("music/") + name, "audio");
+    }
+    for (const char* const target : {"music/a.mp3", "music/B.Mp3", "music/new.MP3", "chain"}) {
+        fs::remove(folder / "list.htm");
+        ASSERT_EQ(symlink(target, (folder / "list.htm").c_str()), 0);
+        if (std::string_view(target) == "chain") {
+            ASSERT_EQ(symlink("music/a.mp3", (folder / "chain").c_str()), 0);
+        }
+        EXPECT_EQ(test::RaisedBy([&] { Save(folder / "list.htm", "new"); }), 75) << target;
+    }
+    EXPECT_EQ(test::ReadBytes(folder / "music/a.mp3"), "audio");
+    EXPECT_EQ(test::ReadBytes(folder / "music/B.Mp3"), "audio");
+    EXPECT_EQ(CountIn(folder / "music"), 2U) << "the file of a dangling link is not made either";
+}
+
+TEST(TextFile, LeavesNothingWhereADanglingLinkLeadsWhenItIsNotClosed) {
+    const test::TestFolder folder;
+    folder.Make("real");
+    ASSERT_EQ(symlink("real/list.htm", (folder / "link").c_str()), 0);
+    {
+        TextFile file(folder / "link", TextEncoding::Utf8);
+        file.Write("x");
+    }
+    EXPECT_EQ(CountIn(folder / "real"), 0U);
+    test::InChild([&] {
+        umask(027);
+        Save(folder / "link", "new");
+        EXPECT_EQ(PermissionsOf(folder / "real/list.htm"), 0640U);
+    });
+}
+
+TEST(TextFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
+    const test::TestFolder folder;
+    ASSERT_EQ(mkfifo((folder / "list.htm").c_str(), 0666), 0);
+    EXPECT_EQ(test::RaisedBy([&] { Save(folder / "list.htm", "x"); }), 57) << "there is no reader";
+    const int reader = open((folder / "list.htm").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    ASSERT_GE(reader, 0);
+    int asked = 0;
+    TextFile file(folder / "list.htm", TextEncoding::Utf8, [&] { return ++asked == 3; });
+    file.Write("small");
+    EXPECT_FALSE(file.Stopped());
+    file.Write(std::string(1'000'000, 'x'));
+    EXPECT_TRUE(file.Stopped());
+    EXPECT_EQ(asked, 3);
+    file.Write(std::string(1'000'000, 'x'));
+    file.Close();
+    EXPECT_EQ(asked, 3);
+    std::array<char, 6> first{};
+    ASSERT_EQ(read(reader, first.data(), 5), 5);
+    EXPECT_STREQ(first.data(), "small");
+    close(reader);
+    EXPECT_TRUE(fs::is_fifo(folder / "list.htm"));
+}
+
+TEST(TextFile, WritesInPlaceWhereItsFolderCannotBeReachedByName) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("list.htm", "old and rather longer");
+    const int open = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_GE(open, 0);
+    fs::remove(path); // still there for those who hold it open
+    Save("/proc/self/fd/" + std::to_string(open), "new");
+    std::array<char, 9> bytes{};
+    EXPECT_EQ(read(open, bytes.data(), bytes.size()), 3);
+    EXPECT_STREQ(bytes.data(), "new");
+    close(open);
+    EXPECT_EQ(CountIn(folder.Path()), 0U);
+}
+
+TEST(TextFile, KeepsTheGroupOfAnothersFileWhereOnlyThatIsAllowed) {
+    const test::TestFolder folder;
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file of another user's";
+    }
+    const std::string path = folder.Write("open/list.htm", "old");
+    ASSERT_EQ(chown(path.c_str(), 12345, 54321), 0);
+    ASSERT_EQ(chmod(path.c_str(), 0666), 0);
+    ASSERT_EQ(chmod((folder / "open").c_str(), 0777), 0);
+    ASSERT_EQ(chmod(folder.Path().c_str(), 0755), 0);
+    test::InChild([&] {
+        const gid_t group = 54321;
+        ASSERT_EQ(setgroups(1, &group), 0);
+        ASSERT_EQ(setgid(65534), 0);
+        ASSERT_EQ(setuid(65534), 0);
+        Save(path, "new");
+    });
+    EXPECT_EQ(test::ReadBytes(path), "new");
+    struct stat status {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 65534U);
+    EXPECT_EQ(status.st_gid, 54321U);
 }
 
 } // namespace

@@ -1,0 +1,93 @@
+#include "TemporaryFiles.h"
+
+#include "Uninterrupted.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <ctime>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <string_view>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::string_view kPrefix = ".tunedex-";
+constexpr std::string_view kSuffix = ".tmp";
+constexpr std::time_t kStaleSeconds = 24L * 60 * 60;
+
+std::string NewName() {
+    static std::atomic<unsigned> counter{0};
+    return std::string(kPrefix) + std::to_string(getpid()) + "-" + std::to_string(++counter) +
+           std::string(kSuffix);
+}
+
+bool IsNumber(std::string_view text) {
+    return !text.empty() &&
+           std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool IsTemporaryName(std::string_view name) {
+    if (!name.starts_with(kPrefix) || !name.ends_with(kSuffix) ||
+        name.size() < kPrefix.size() + kSuffix.size()) {
+        return false;
+    }
+    name.remove_prefix(kPrefix.size());
+    name.remove_suffix(kSuffix.size());
+    const std::size_t hyphen = name.find('-');
+    return hyphen != std::string_view::npos && IsNumber(name.substr(0, hyphen)) &&
+           IsNumber(name.substr(hyphen + 1));
+}
+
+bool Lock(int descriptor) {
+    return Uninterrupted([&] { return flock(descriptor, LOCK_EX | LOCK_NB); }) == 0;
+}
+
+// Opened for writing: a network file system locks nothing else exclusively.
+bool IsStale(int folder, const char* name) {
+    struct stat status {};
+    const UniqueFd file(Uninterrupted(
+        [&] { return openat(folder, name, O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC | O_NOCTTY); }));
+    return file && Uninterrupted([&] { return fstat(file.Get(), &status); }) == 0 &&
+           S_ISREG(status.st_mode) && std::time(nullptr) - status.st_mtim.tv_sec > kStaleSeconds &&
+           Lock(file.Get());
+}
+
+} // namespace
+
+TemporaryFile CreateTemporaryFile(int folder, mode_t mode) {
+    TemporaryFile file;
+    do {
+        file.name = NewName();
+        file.descriptor = UniqueFd(Uninterrupted([&] {
+            return openat(folder, file.name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY,
+                          mode);
+        }));
+    } while (!file.descriptor && errno == EEXIST);
+    if (file.descriptor) {
+        // Where a file system has no locks, stale files cannot be told apart and stay.
+        (void)Lock(file.descriptor.Get());
+    }
+    return file;
+}
+
+void RemoveStaleTemporaryFiles(int folder) {
+    UniqueFd listed(Uninterrupted([&] { return openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(listed ? fdopendir(listed.Get()) : nullptr, closedir);
+    if (!stream) {
+        return;
+    }
+    (void)listed.Release(); // the stream's now
+    while (const dirent* const entry = readdir(stream.get())) {
+        if (IsTemporaryName(entry->d_name) && IsStale(folder, entry->d_name)) {
+            Uninterrupted([&] { return unlinkat(folder, entry->d_name, 0); });
+        }
+    }
+}
+
+} // namespace tunedex
