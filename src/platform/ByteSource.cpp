@@ -30,7 +30,8 @@ std::size_t MemoryByteSource::Read(std::uint64_t offset, std::span<std::uint8_t>
 FileByteSource::FileByteSource(const std::string& path)
     : FileByteSource(AT_FDCWD, path.find('\0') == std::string::npos ? path.c_str() : "") {}
 
-FileByteSource::FileByteSource(int folder, const char* name, ReadAhead readAhead) {
+FileByteSource::FileByteSource(int folder, const char* name, ReadAhead readAhead, const StopTest* stop)
+    : stop_(stop) {
     // Not to hang where a FIFO has taken the file's place since its folder was listed.
     descriptor_ =
         Uninterrupted([&] { return openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); });
@@ -57,7 +58,13 @@ FileByteSource::~FileByteSource() {
     close(descriptor_);
 }
 
-std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer) const {
+std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer) {
+    if (reads_ < kReadsUnasked) {
+        ++reads_;
+    } else if (stopped_ || (stop_ != nullptr && Stops(*stop_))) {
+        stopped_ = true;
+        return 0;
+    }
     std::size_t done = 0;
     while (done < buffer.size()) {
         const ssize_t got = Uninterrupted([&] {

@@ -2,6 +2,8 @@
 // readers.
 #pragma once
 
+#include "StopTest.h"
+
 #include <array>
 #include <cstdint>
 #include <span>
@@ -51,15 +53,21 @@ class FileByteSource final : public ByteSource {
   public:
     // Raises error 53 for a path that is not there or is a folder, 75 where it may not be read, and so on.
     explicit FileByteSource(const std::string& path);
-    // The same for a name in an open folder. `folder` is a descriptor and stays the caller's.
-    FileByteSource(int folder, const char* name, ReadAhead readAhead = ReadAhead::AsUsual);
+    // The same for a name in an open folder. `folder` is a descriptor and stays the caller's. `stop`, which
+    // must outlive the source, is asked at each read of the file after the first few: once it says so, the
+    // file counts as ended, and Stopped() tells so.
+    FileByteSource(int folder, const char* name, ReadAhead readAhead = ReadAhead::AsUsual,
+                   const StopTest* stop = nullptr);
     ~FileByteSource() override;
 
     std::uint64_t Size() const override { return size_; }
     std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) override;
+    bool Stopped() const { return stopped_; }
 
   private:
     static constexpr std::size_t kWindowBytes = 4096;
+    // As many reads as a file of the usual shape needs: such a file never asks.
+    static constexpr unsigned kReadsUnasked = 4;
 
     struct Window {
         std::uint64_t offset = 0;
@@ -67,10 +75,13 @@ class FileByteSource final : public ByteSource {
         std::array<std::uint8_t, kWindowBytes> bytes;
     };
 
-    std::size_t ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer) const;
+    std::size_t ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer);
 
     int descriptor_ = -1;
     std::uint64_t size_ = 0;
+    const StopTest* stop_ = nullptr;
+    unsigned reads_ = 0; // no more are counted than kReadsUnasked
+    bool stopped_ = false;
     Window window_;
 };
 

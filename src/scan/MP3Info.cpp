@@ -22,6 +22,7 @@ void StartAnew(TrackReading& reading) {
     reading.track.Clear();
     reading.seconds = 0;
     reading.decodeError.reset();
+    reading.stopped = false;
 }
 
 void MarkUntagged(TrackInfo& track) {
@@ -68,7 +69,7 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
 void ReadTrackFile(int folder, const char* name, const ReadOptions& options, TrackReading& reading) {
     std::optional<FileByteSource> file;
     try {
-        file.emplace(folder, name, options.readAhead);
+        file.emplace(folder, name, options.readAhead, &options.stop);
     } catch (const RunTimeError& error) {
         StartAnew(reading);
         reading.track.FileSize = MeasureFile(folder, name);
@@ -77,6 +78,7 @@ void ReadTrackFile(int folder, const char* name, const ReadOptions& options, Tra
         return;
     }
     ReadTrackInfo(*file, options, reading);
+    reading.stopped = file->Stopped();
 }
 
 } // namespace tunedex

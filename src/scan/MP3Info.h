@@ -13,13 +13,15 @@ namespace tunedex {
 struct ReadOptions {
     bool moveTheArtists = false;
     ReadAhead readAhead = ReadAhead::AsUsual;
+    StopTest stop = {}; // asked while a file takes many reads; it must be safe on the reading thread
 };
 
 struct TrackReading {
     TrackInfo track;
     std::int64_t seconds = 0; // whole seconds of playing time
     std::optional<RunTimeError>
-        decodeError; // why the audio header gave nothing; the track stands all the same
+        decodeError;      // why the audio header gave nothing; the track stands all the same
+    bool stopped = false; // the stop test ended the reading: the rest is not to be used
 };
 
 // The longest file size a record holds, in bytes.

@@ -40,6 +40,11 @@ int MostOpenFolders() {
     return std::max(1, static_cast<int>(limit.rlim_cur / 4));
 }
 
+ReadOptions StoppedBy(ReadOptions options, StopTest stop) {
+    options.stop = std::move(stop);
+    return options;
+}
+
 bool LackedDescriptor(const QueuedTrack& track) {
     const auto lacked = [](const std::optional<RunTimeError>& error) {
         return error && error->Number() == static_cast<int>(ErrorNumber::TooManyFiles);
@@ -50,8 +55,9 @@ bool LackedDescriptor(const QueuedTrack& track) {
 } // namespace
 
 TrackQueue::TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest)
-    : fixedReaders_(readers), mostOpenFolders_(MostOpenFolders()), options_(options),
-      receiver_(std::move(receiver)), stopTest_(std::move(stopTest)) {}
+    : fixedReaders_(readers), mostOpenFolders_(MostOpenFolders()),
+      options_(StoppedBy(std::move(options), [this] { return stopTest_(); })), receiver_(std::move(receiver)),
+      stopTest_(std::move(stopTest)) {}
 
 TrackQueue::~TrackQueue() {
     StopReaders();
@@ -85,7 +91,7 @@ bool TrackQueue::Submit(const std::shared_ptr<OpenFolder>& folder, const char* n
         ReadOne(track, options_);
         Receive(*single);
         Recycle(std::move(single));
-        return true;
+        return state_ != State::Stopped;
     }
     if (filling_->count < kBatchFiles && OpenFolder::OpenCount() < mostOpenFolders_) {
         return true;
@@ -118,7 +124,7 @@ bool TrackQueue::Publish() {
     batches_.push_back(std::move(filling_));
     Batch& batch = *batches_.back();
     if (!haveReaders_) {
-        ReadBatch(batch); // the system has no thread left for us: it will do without
+        ReadBatch(batch, options_.stop); // the system has no thread left for us: it will do without
         batch.done = true;
     } else {
         bool wake = false;
@@ -199,6 +205,10 @@ void TrackQueue::Receive(Batch& batch) {
                 }
                 ReadOne(track, options_);
             }
+            if (track.reading.stopped) {
+                state_ = State::Stopped;
+                return;
+            }
             receiver_(track);
             // A single reader's caller asks after every file; here the caller is ahead by many.
             if (fixedReaders_ != 1 && stopTest_()) {
@@ -245,7 +255,7 @@ void TrackQueue::ReadLoop() {
         lock.unlock();
         const auto begun = std::chrono::steady_clock::now();
         const std::int64_t waitsBefore = WaitsOfThread();
-        ReadBatch(*batch);
+        ReadBatch(*batch, [this] { return stopping_.load(); });
         const auto files = static_cast<long>(batch->count);
         const bool slow = std::chrono::steady_clock::now() - begun > kSlowFile * files &&
                           (WaitsOfThread() - waitsBefore) * kFilesToAWait >= files;
@@ -258,8 +268,8 @@ void TrackQueue::ReadLoop() {
     }
 }
 
-void TrackQueue::ReadBatch(Batch& batch) const {
-    ReadOptions options = options_;
+void TrackQueue::ReadBatch(Batch& batch, const StopTest& stop) const {
+    ReadOptions options = StoppedBy(options_, stop);
     options.readAhead = slowDisk_ ? ReadAhead::Nothing : ReadAhead::AsUsual;
     try {
         for (QueuedTrack& track : batch.Tracks()) {

@@ -33,9 +33,9 @@ class TrackQueue {
     // Takes what has been read, on the thread that uses the queue. What it throws leaves the queue's
     // functions, and the queue takes and gives nothing more.
     using Receiver = std::function<void(QueuedTrack&)>;
-    // Asked now and then while the queue waits; true ends the waiting, and the queue takes and gives nothing
-    // more.
-    using StopTest = std::function<bool()>;
+    // Asked now and then while the queue waits or reads a long file on the caller's thread; true ends that,
+    // and the queue takes and gives nothing more. Readers end a long file when the queue is destroyed.
+    using StopTest = tunedex::StopTest;
 
     // `readers` is how many threads read: 1 reads on the caller's own thread, 0 begins with one for each core
     // and has more, up to kMostReaders, for as long as they spend their time waiting for the disk.
@@ -75,7 +75,7 @@ class TrackQueue {
     bool WaitFor(const Batch& batch);
     void Receive(Batch& batch);
     void ReadLoop();
-    void ReadBatch(Batch& batch) const;
+    void ReadBatch(Batch& batch, const StopTest& stop) const;
     void StartFirstReaders();
     bool StartReader();
     unsigned Busy() const { return static_cast<unsigned>(readers_.size()) - idle_; }

@@ -190,5 +190,24 @@ TEST(FileByteSource, SeesAFileThatShrankSinceItWasOpened) {
     EXPECT_EQ(ReadAt(source, 0, 100).size(), 10U);
 }
 
+TEST(FileByteSource, EndsOnceTheStopTestSaysSoButAsksForNoFewReads) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("file", std::string(1'000'000, 'x'));
+    int asked = 0;
+    const StopTest stop = [&] { return ++asked == 3; };
+    FileByteSource source(AT_FDCWD, path.c_str(), ReadAhead::AsUsual, &stop);
+    Buffer buffer(65536);
+    std::size_t got = 0;
+    int reads = 0;
+    for (; source.Read(got, buffer) == buffer.size(); ++reads) {
+        got += buffer.size();
+        EXPECT_FALSE(source.Stopped());
+    }
+    EXPECT_EQ(reads, 6) << "four are not asked about, and two answers were no";
+    EXPECT_TRUE(source.Stopped());
+    EXPECT_EQ(source.Read(0, buffer), 0U);
+    EXPECT_EQ(asked, 3);
+}
+
 } // namespace
 } // namespace tunedex

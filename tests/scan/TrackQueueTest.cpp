@@ -6,9 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <sys/resource.h>
+#include <system_error>
 #include <vector>
 
 namespace tunedex {
@@ -149,6 +152,29 @@ TEST_P(TrackQueueTest, MayBeThrownAwayWithFilesInFlight) {
 INSTANTIATE_TEST_SUITE_P(Readers, TrackQueueTest, testing::Values(1U, 2U, 8U, 32U, 0U), [](const auto& info) {
     return info.param == 0 ? std::string("automatic") : std::to_string(info.param);
 });
+
+// A hole in a file costs no disk space, and searching one of this size takes minutes.
+TEST_P(TrackQueueTest, EndsAFileInTheMiddleOnceTheStopTestSaysSo) {
+    using Clock = std::chrono::steady_clock;
+    files_.Write("hole.mp3", "");
+    std::error_code error;
+    std::filesystem::resize_file(files_ / "hole.mp3", 1ULL << 40U, error);
+    if (error) {
+        GTEST_SKIP() << "no files of that size here";
+    }
+    const Clock::time_point start = Clock::now();
+    int received = 0;
+    {
+        int asked = 0;
+        TrackQueue queue(
+            GetParam(), {}, [&](QueuedTrack& /*track*/) { ++received; }, [&] { return ++asked > 2; });
+        const bool accepted = queue.Submit(folder_, "hole.mp3");
+        EXPECT_EQ(accepted, GetParam() != 1);
+        EXPECT_FALSE(queue.Drain());
+    }
+    EXPECT_EQ(received, 0);
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(20));
+}
 
 } // namespace
 } // namespace tunedex
