@@ -4,6 +4,7 @@
 #include "FolderScanner.h"
 #include "Functions.h"
 #include "Numbers.h"
+#include "OutputLink.h"
 #include "OutputList.h"
 #include "Path.h"
 #include "Sorting.h"
@@ -53,6 +54,7 @@ class ListRun final : public ErrorReporter {
     Settings settings_;
     RunTotals totals_;
     TrackTable table_;
+    RunMonitor* monitor_ = nullptr; // once the progress is shown
     std::optional<LogFile> log_;
     bool listWritten_ = false;
 };
@@ -83,6 +85,7 @@ bool ListRun::ValidateOutput() {
     const std::string outputFile = ui_.Fields().outputFile;
     const std::string folder(FolderPrefixOf(outputFile, PathStyle::Native()));
     if (FolderExists(folder)) {
+        CheckOutputLink(ListingPath(OutputTypeOf(outputFile), outputFile));
         return true;
     }
     const int answer =
@@ -157,9 +160,11 @@ void ListRun::Work() {
     settings_ = application_.settings;
     application_.abortRequested = false;
     if (settings_.ErrorLog) {
-        log_.emplace(application_.programFolder + std::string(kLogFileName));
+        log_.emplace(application_.programFolder + std::string(kLogFileName),
+                     [this] { return monitor_ != nullptr && monitor_->AbortRequested(); });
     }
     RunMonitor& monitor = ui_.ShowProgress();
+    monitor_ = &monitor;
     monitor.SetStatus("Searching for MP3 files...");
     // An abort here is answered by the next phase, which finds the request still standing.
     Scan(monitor, ScanMode::Count);

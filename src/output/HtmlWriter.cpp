@@ -52,8 +52,11 @@ class HtmlPages {
     // Returns false when the user aborted within the page.
     bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
         const bool several = files_.count > 1;
-        TextFile file(several ? files_.PathOf(number) : settings_.OutputFile,
-                      TextEncoding::Windows1252References);
+        // All pages are in one folder: one look for stale files is enough.
+        TextFile file(
+            several ? files_.PathOf(number) : settings_.OutputFile, TextEncoding::Windows1252References,
+            [this] { return listing_.monitor.AbortRequested(); },
+            number == 1 ? StaleFiles::Remove : StaleFiles::Keep);
         std::string navigation;
         std::string heading;
         page_.Put(headStart_);
@@ -78,7 +81,7 @@ class HtmlPages {
         }
         HandOver(file);
         file.Close();
-        return whole;
+        return whole && !file.Stopped();
     }
 
     bool WriteRows(TextFile& file, std::int32_t number, const TrackRowWriter& rows) {
@@ -185,9 +188,7 @@ void WriteEnd(std::string& page, const Settings& settings, std::string_view foot
 
 bool WriteHtmlListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
-    if (!EndsInIgnoringCase(path, ".HTML") && !EndsInIgnoringCase(path, ".HTM")) {
-        path += ".htm";
-    }
+    path = ListingPath(kHtmlOutput, path);
     return HtmlPages(listing).Write();
 }
 

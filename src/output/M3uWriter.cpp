@@ -38,11 +38,10 @@ double SecondsOf(std::string_view duration) {
 
 bool WriteM3uListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
-    if (!EndsInIgnoringCase(path, ".M3U")) {
-        path += ".m3u";
-    }
+    path = ListingPath(kPlaylistOutput, path);
     // Paths go out byte for byte in either encoding: they are all ASCII, or the file is UTF-8.
-    TextFile file(path, EncodingFor(listing.tracks, listing.monitor));
+    TextFile file(path, EncodingFor(listing.tracks, listing.monitor),
+                  [&] { return listing.monitor.AbortRequested(); });
     bool aborted = false;
     PageBuffer text;
     text.Put("#EXTM3U\r\n");
@@ -67,7 +66,7 @@ bool WriteM3uListing(Listing& listing) {
     }
     file.Write(text.View());
     file.Close();
-    return aborted;
+    return aborted || file.Stopped();
 }
 
 } // namespace tunedex

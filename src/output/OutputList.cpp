@@ -19,6 +19,18 @@ OutputType OutputTypeOf(std::string_view outputFile) {
     return extension == ".M3U" ? kPlaylistOutput : kHtmlOutput;
 }
 
+std::string ListingPath(int outputType, std::string outputFile) {
+    const auto ends = [&](std::string_view extension) { return EndsInIgnoringCase(outputFile, extension); };
+    switch (outputType) {
+    case kTextOutput:
+        return ends(".TXT") ? outputFile : outputFile + ".txt";
+    case kPlaylistOutput:
+        return ends(".M3U") ? outputFile : outputFile + ".m3u";
+    default:
+        return ends(".HTML") || ends(".HTM") ? outputFile : outputFile + ".htm";
+    }
+}
+
 bool WriteListing(int outputType, Listing& listing) {
     listing.columns = SplitColumns(MergeColumns(listing.settings.ActiveColumns, listing.settings.Merge));
     switch (outputType) {

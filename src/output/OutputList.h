@@ -10,6 +10,7 @@
 #include "Settings.h"
 #include "TrackTable.h"
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -36,6 +37,11 @@ struct Listing {
 // The kind of listing that an output file's name asks for, by what follows its last full stop: HTML unless
 // that is TXT, TEXT or M3U in any case.
 OutputType OutputTypeOf(std::string_view outputFile);
+
+// The file that the writer for `outputType` makes: the output file's name, with the writer's own extension
+// appended where the name ends in none that the writer accepts. Pages of a listing on several pages have a
+// number before the extension.
+std::string ListingPath(int outputType, std::string outputFile);
 
 // Merges the columns and runs the writer; an unknown type writes HTML. Returns true when the user aborted.
 // Raises the error of a file that cannot be written, and 5 where a writer cannot make a line: what was there

@@ -43,10 +43,8 @@ bool PutLine(PageBuffer& text, const Listing& listing, std::size_t position) {
 
 bool WriteTextListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
-    if (!EndsInIgnoringCase(path, ".TXT")) {
-        path += ".txt";
-    }
-    TextFile file(path, TextEncoding::Windows1252Questions);
+    path = ListingPath(kTextOutput, path);
+    TextFile file(path, TextEncoding::Windows1252Questions, [&] { return listing.monitor.AbortRequested(); });
     PageBuffer text;
     for (const Column& column : listing.columns) {
         text.Put(HeaderText(column));
@@ -67,7 +65,7 @@ bool WriteTextListing(Listing& listing) {
     }
     file.Write(text.View());
     file.Close();
-    return aborted;
+    return aborted || file.Stopped();
 }
 
 } // namespace tunedex

@@ -10,10 +10,12 @@
 
 #include <algorithm>
 #include <chrono>
+#include <fcntl.h>
 #include <filesystem>
 #include <limits>
 #include <new>
 #include <string>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -653,6 +655,91 @@ TEST_F(ListJob, TakesALongNameApartForTheSystem) {
     ui_.fields.outputFile = folder_ / "out/" + std::string(252, 'n') + ".txt";
     EXPECT_FALSE(Run());
     EXPECT_EQ(ui_.messages, (Messages{{kFolderNotExamined, 48, "Error"}})) << "error 52, as for a bad folder";
+}
+
+TEST_F(ListJob, RefusesAnOutputLinkToATrackBeforeAnythingIsOpened) {
+    AddTracks(1);
+    application_.settings.ErrorLog = true;
+    const std::string audio = List("music/t0.mp3");
+    struct Row {
+        const char* outputFile;
+        const char* link; // named as the writer will name its file
+    };
+    for (const Row& row : {Row{"list", "list.htm"}, Row{"list.txt", "list.txt"},
+                           Row{"list.text", "list.text.txt"}, Row{"list.m3u", "list.m3u"}}) {
+        for (const char* const target : {"../music/t0.mp3", "../music/new.MP3"}) {
+            fs::remove(folder_ / "out/" + row.link);
+            ASSERT_EQ(symlink(target, (folder_ / "out/" + row.link).c_str()), 0);
+            ui_.fields.outputFile = folder_ / "out/" + row.outputFile;
+            ui_.messages.clear();
+            ExpectRefused(Trapped("75 - Path/File access error"));
+        }
+    }
+    EXPECT_FALSE(folder_.Exists("program/Tunedex.log"));
+    EXPECT_EQ(List("music/t0.mp3"), audio);
+    EXPECT_FALSE(folder_.Exists("music/new.MP3"));
+}
+
+// A FIFO whose reader reads nothing. Abort is pressed as soon as no more than a page fits into it.
+class UnreadFifo {
+  public:
+    explicit UnreadFifo(const std::string& path)
+        : made_(mkfifo(path.c_str(), 0666)), reader_(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {
+        EXPECT_EQ(made_, 0);
+    }
+    UnreadFifo(const UnreadFifo&) = delete;
+    UnreadFifo& operator=(const UnreadFifo&) = delete;
+    ~UnreadFifo() { close(reader_); }
+
+    bool IsFull() const {
+        int bytes = 0;
+        return ioctl(reader_, FIONREAD, &bytes) == 0 && bytes > 60000;
+    }
+
+  private:
+    int made_;
+    int reader_;
+};
+
+TEST_F(ListJob, AbandonsAListingThatNobodyReadsWhenItIsAborted) {
+    AddTracks(1);
+    ui_.fields.pageTitle = std::string(1'000'000, 'x');
+    for (const char* const name : {"out/list.htm", "out/list.txt", "out/list.m3u"}) {
+        const UnreadFifo fifo(folder_ / name);
+        ui_.fields.outputFile = folder_ / name;
+        // Text lists have no title: a folder's path that fills the FIFO takes many tracks.
+        if (std::string_view(name) == "out/list.txt") {
+            AddTracks(1200);
+            application_.settings.ActiveColumns = "Full Path|Folder Path|Filename";
+        }
+        ui_.monitor.abortWhen = [&] { return fifo.IsFull(); };
+        EXPECT_FALSE(Run()) << name;
+        EXPECT_TRUE(fifo.IsFull()) << name;
+        EXPECT_TRUE(ui_.messages.empty()) << name;
+        EXPECT_EQ(application_.statistics, (Statistics{"2026-11-21", 1, 4, 40}));
+        EXPECT_FALSE(Said("Operation complete!"));
+    }
+}
+
+TEST_F(ListJob, AbandonsALogThatNobodyReadsWhenItIsAborted) {
+    for (int i = 0; i < 600; ++i) {
+        folder_.Write("music/" + std::string(200, 'n') + std::to_string(i) + ".mp3", "no audio");
+    }
+    application_.settings.ErrorLog = true;
+    application_.settings.ErrorWarnings = false;
+    const UnreadFifo fifo(folder_ / "program/Tunedex.log");
+    ui_.monitor.abortWhen = [&] { return fifo.IsFull(); };
+    EXPECT_FALSE(Run());
+    EXPECT_TRUE(fifo.IsFull());
+    EXPECT_TRUE(ui_.messages.empty());
+    EXPECT_FALSE(folder_.Exists("out/list.txt"));
+}
+
+TEST_F(ListJob, EndsWhenTheLogIsAFifoThatNobodyReads) {
+    AddTracks(1);
+    application_.settings.ErrorLog = true;
+    ASSERT_EQ(mkfifo((folder_ / "program/Tunedex.log").c_str(), 0666), 0);
+    ExpectRefused(Trapped("57 - Device I/O error"));
 }
 
 } // namespace

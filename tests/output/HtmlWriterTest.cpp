@@ -2,6 +2,10 @@
 
 #include "ListingFixture.h"
 
+#include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace tunedex {
 namespace {
 
@@ -221,6 +225,30 @@ TEST_F(HtmlWriterTest, EmptiesNothingButTheAttributeOfAnEmptyColour) {
     Use({});
     settings.Colour.fill("");
     EXPECT_EQ(CountOf(Page(), "bgcolor=\"#\""), 4U);
+}
+
+TEST_F(HtmlWriterTest, LooksForStaleTemporaryFilesOnceForAllPages) {
+    UseMany(9);
+    settings.Spanning = 3;
+    const auto leave = [&] {
+        folder.Write(".tunedex-1-1.tmp", "left");
+        const timespec time{1'000'000'000, 0};
+        const std::array<timespec, 2> times = {time, time};
+        ASSERT_EQ(utimensat(AT_FDCWD, (folder / ".tunedex-1-1.tmp").c_str(), times.data(), 0), 0);
+    };
+    leave();
+    bool removed = false;
+    monitor.abortWhen = [&] {
+        if (!removed && folder.Exists("list.001.htm")) {
+            removed = !folder.Exists(".tunedex-1-1.tmp");
+            leave();
+        }
+        return false;
+    };
+    EXPECT_FALSE(Write(kHtmlOutput));
+    EXPECT_TRUE(removed);
+    EXPECT_TRUE(folder.Exists("list.003.htm"));
+    EXPECT_TRUE(folder.Exists(".tunedex-1-1.tmp")) << "later pages do not list the folder again";
 }
 
 } // namespace

@@ -28,5 +28,24 @@ TEST(OutputTypeOf, LooksAtWhatFollowsTheLastFullStop) {
     }
 }
 
+TEST(ListingPath, AppendsTheWritersExtensionWhereItIsMissing) {
+    struct Row {
+        int type;
+        const char* outputFile;
+        const char* path;
+    };
+    for (const auto& [type, outputFile, path] : std::vector<Row>{{0, "a.htm", "a.htm"},
+                                                                 {0, "a.HTML", "a.HTML"},
+                                                                 {0, "a", "a.htm"},
+                                                                 {0, "a.mp3", "a.mp3.htm"},
+                                                                 {3, "a.xml", "a.xml.htm"},
+                                                                 {1, "a.Txt", "a.Txt"},
+                                                                 {1, "a.text", "a.text.txt"},
+                                                                 {2, "a.M3U", "a.M3U"},
+                                                                 {2, "a", "a.m3u"}}) {
+        EXPECT_EQ(ListingPath(type, outputFile), path);
+    }
+}
+
 } // namespace
 } // namespace tunedex
