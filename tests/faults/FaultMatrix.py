@@ -23,7 +23,8 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 import surroundings  # noqa: E402
 
 ERRORS = ["ENOENT", "EACCES", "EIO", "ENOSPC", "EMFILE", "EINTR", "short"]
-KINDS = ["open", "opendir", "read", "write", "close", "readdir", "mkdir", "unlink", "rename", "stat", "other"]
+KINDS = ["open", "opendir", "read", "write", "close", "readdir", "mkdir", "unlink", "rename", "stat",
+         "chmod", "xattr", "truncate", "other"]
 TIMEOUT = 60
 WINDOWS = "--windows" in sys.argv
 # What a run gives for good when nothing fails, and when something does that nobody is to notice.
@@ -48,9 +49,11 @@ def tagged(title, artist, seconds):
 class Scenario:
     """A folder with a collection and a program folder, made anew for every run."""
 
-    def __init__(self, name, output, answer=b"", old=(), settings=True, warnings=True, sort=1, link=False):
+    def __init__(self, name, output, answer=b"", old=(), settings=True, warnings=True, sort=1, link=False,
+                 dangling=False):
         self.name, self.output, self.answer, self.old = name, output, answer, old
         self.settings, self.warnings, self.sort, self.link = settings, warnings, sort, link
+        self.dangling = dangling
 
     def make(self, root):
         music = root / "watched" / "music"
@@ -71,6 +74,9 @@ class Scenario:
                 (output_folder / name).symlink_to(pathlib.Path("..", "real", name))
             else:
                 (output_folder / name).write_bytes(OLD_LISTING)
+        if self.dangling:
+            (root / "watched" / "real").mkdir()
+            (output_folder / self.output).symlink_to(pathlib.Path("..", "real", self.output))
         registry = root / "config" / "Corvale Works"
         registry.mkdir(parents=True)
         program = root / "watched" / "program"
@@ -89,6 +95,7 @@ class Scenario:
 SCENARIOS = [
     Scenario("pages over old ones", "list.htm", old=("list.001.htm", "list.002.htm")),
     Scenario("text behind a link", "list.txt", old=("list.txt",), link=True, warnings=False),
+    Scenario("text for a dangling link", "list.txt", dangling=True, warnings=False),
     Scenario("playlist in a new folder", "deep/list.m3u", answer=b"y\n", sort=2),
     Scenario("first start", "", settings=False),
 ]
@@ -251,7 +258,7 @@ def main():
                     point = f"{scenario.name}: {error} at {kind} {n}"
                     if error == "kill":
                         outcomes["killed"] += 1
-                        bad += [f"{point}: {what}" for what in after_a_kill(outcome, right, before)]
+                        bad += [f"{point}: {what}" for what in after_a_kill(scenario, outcome, right, before)]
                         continue
                     if outcome.status != "hangs" and outcome.struck == 0:
                         outcomes["not reached"] += 1
@@ -269,12 +276,14 @@ def main():
     return 1 if bad else 0
 
 
-def after_a_kill(outcome, right, before):
+def after_a_kill(scenario, outcome, right, before):
     """Every file is as it was or as it was to be; what was written aside may be left."""
     if outcome.status != -9:
         return [] if outcome.struck == 0 and outcome.status == right.status else [f"survives with {outcome.status}"]
+    # Only creating the file of a dangling link tells where it leads: for that moment it is there and empty.
     return [f"neither old nor new: {name}" for name in set(before) | set(outcome.files)
-            if ".tunedex-" not in name and outcome.files.get(name) not in (before.get(name), right.files.get(name))]
+            if ".tunedex-" not in name and outcome.files.get(name) not in (before.get(name), right.files.get(name))
+            and not (scenario.dangling and name.startswith("real/") and outcome.files.get(name) == ("file", b""))]
 
 
 if __name__ == "__main__":

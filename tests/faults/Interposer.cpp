@@ -50,11 +50,15 @@ enum Kind {
     kUnlink,
     kRename,
     kStat,
+    kChMod,
+    kXAttr,
+    kTruncate,
     kOther,
     kKinds
 };
-constexpr std::array<const char*, kKinds> kNames = {"open",  "opendir", "read",   "write", "close", "readdir",
-                                                    "mkdir", "unlink",  "rename", "stat",  "other"};
+constexpr std::array<const char*, kKinds> kNames = {"open",    "opendir", "read",     "write",  "close",
+                                                    "readdir", "mkdir",   "unlink",   "rename", "stat",
+                                                    "chmod",   "xattr",   "truncate", "other"};
 
 constexpr int kMostDescriptors = 4096;
 constexpr int kShort = -1;
@@ -106,6 +110,12 @@ bool Concerns(int folder, const char* path) {
     const std::string_view text(path);
     const std::string_view prefix = ThePlan().prefix;
     return !prefix.empty() && (text.starts_with('/') ? text.starts_with(prefix) : Concerns(folder));
+}
+
+// The descriptor that a path like /proc/self/fd/7 stands for; -1 for other paths.
+int DescriptorIn(const char* path) {
+    constexpr std::string_view kLinks = "/proc/self/fd/";
+    return std::string_view(path).starts_with(kLinks) ? NumberOf(path + kLinks.size()) : -1;
 }
 
 void Watch(int descriptor, bool on) {
@@ -364,11 +374,6 @@ int fstatat(int folder, const char* path, struct stat* status, int flags) {
     return Concerns(folder, path) && Fails(kStat) ? -1 : next(folder, path, status, flags);
 }
 
-int faccessat(int folder, const char* path, int mode, int flags) {
-    static const auto next = Next<int (*)(int, const char*, int, int)>("faccessat");
-    return Concerns(folder, path) && Fails(kOther) ? -1 : next(folder, path, mode, flags);
-}
-
 int access(const char* path, int mode) {
     static const auto next = Next<int (*)(const char*, int)>("access");
     if ((mode & W_OK) != 0 && path == ThePlan().deny) {
@@ -380,12 +385,62 @@ int access(const char* path, int mode) {
 
 int fchmod(int descriptor, mode_t mode) {
     static const auto next = Next<int (*)(int, mode_t)>("fchmod");
-    return Concerns(descriptor) && Fails(kOther) ? -1 : next(descriptor, mode);
+    return Concerns(descriptor) && Fails(kChMod) ? -1 : next(descriptor, mode);
 }
 
-ssize_t readlinkat(int folder, const char* path, char* buffer, std::size_t size) {
-    static const auto next = Next<ssize_t (*)(int, const char*, char*, std::size_t)>("readlinkat");
-    return Concerns(folder, path) && Fails(kOther) ? -1 : next(folder, path, buffer, size);
+int fchown(int descriptor, uid_t owner, gid_t group) {
+    static const auto next = Next<int (*)(int, uid_t, gid_t)>("fchown");
+    return Concerns(descriptor) && Fails(kChMod) ? -1 : next(descriptor, owner, group);
+}
+
+ssize_t getxattr(const char* path, const char* name, void* value, std::size_t size) {
+    static const auto next = Next<ssize_t (*)(const char*, const char*, void*, std::size_t)>("getxattr");
+    return Concerns(DescriptorIn(path)) && Fails(kXAttr) ? -1 : next(path, name, value, size);
+}
+
+ssize_t fgetxattr(int descriptor, const char* name, void* value, std::size_t size) {
+    static const auto next = Next<ssize_t (*)(int, const char*, void*, std::size_t)>("fgetxattr");
+    return Concerns(descriptor) && Fails(kXAttr) ? -1 : next(descriptor, name, value, size);
+}
+
+int fsetxattr(int descriptor, const char* name, const void* value, std::size_t size, int flags) {
+    static const auto next = Next<int (*)(int, const char*, const void*, std::size_t, int)>("fsetxattr");
+    return Concerns(descriptor) && Fails(kXAttr) ? -1 : next(descriptor, name, value, size, flags);
+}
+
+ssize_t flistxattr(int descriptor, char* names, std::size_t size) {
+    static const auto next = Next<ssize_t (*)(int, char*, std::size_t)>("flistxattr");
+    return Concerns(descriptor) && Fails(kXAttr) ? -1 : next(descriptor, names, size);
+}
+
+int fremovexattr(int descriptor, const char* name) {
+    static const auto next = Next<int (*)(int, const char*)>("fremovexattr");
+    return Concerns(descriptor) && Fails(kXAttr) ? -1 : next(descriptor, name);
+}
+
+int ftruncate(int descriptor, off_t length) {
+    static const auto next = Next<int (*)(int, off_t)>("ftruncate");
+    return Concerns(descriptor) && Fails(kTruncate) ? -1 : next(descriptor, length);
+}
+
+int ftruncate64(int descriptor, off64_t length) {
+    return ftruncate(descriptor, length);
+}
+
+int flock(int descriptor, int operation) {
+    static const auto next = Next<int (*)(int, int)>("flock");
+    return Concerns(descriptor) && Fails(kOther) ? -1 : next(descriptor, operation);
+}
+
+ssize_t readlink(const char* path, char* buffer, std::size_t size) {
+    static const auto next = Next<ssize_t (*)(const char*, char*, std::size_t)>("readlink");
+    const bool concerned = Concerns(AT_FDCWD, path) || Concerns(DescriptorIn(path));
+    return concerned && Fails(kOther) ? -1 : next(path, buffer, size);
+}
+
+DIR* fdopendir(int descriptor) {
+    static const auto next = Next<DIR* (*)(int)>("fdopendir");
+    return Concerns(descriptor) && Fails(kOpenDir) ? nullptr : next(descriptor);
 }
 
 int nanosleep(const struct timespec* /*duration*/, struct timespec* /*left*/) {

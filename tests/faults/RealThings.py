@@ -3,6 +3,8 @@
 
 usage: RealThings.py PROGRAM INTERPOSER SAVER CASE
 """
+import errno
+import fcntl
 import html.parser
 import os
 import pathlib
@@ -15,6 +17,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import termios
 import time
 
 sys.dont_write_bytecode = True  # the sources are no place for it
@@ -22,6 +25,8 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 import surroundings  # noqa: E402
 
 SKIPPED = 77
+UMASK = os.umask(0o022)
+os.umask(UMASK)
 AUDIO = b"\xff\xfb\x90\x64" + b"\0" * 413
 OLD = b"the old listing\r\n"
 
@@ -168,6 +173,24 @@ class Mounted:
 
     def __exit__(self, *_):
         subprocess.run(["umount", self.folder], check=True)
+
+
+class ProtectedLinks:
+    """fs.protected_symlinks, as most systems have it switched on."""
+
+    PATH = pathlib.Path("/proc/sys/fs/protected_symlinks")
+
+    def __enter__(self):
+        self.before = self.PATH.read_text()
+        if self.before.strip() == "0":
+            try:
+                self.PATH.write_text("1")
+            except OSError:
+                raise Skipped("links in shared folders are not protected here, and may not be") from None
+
+    def __exit__(self, *_):
+        if self.before.strip() == "0":
+            self.PATH.write_text(self.before)
 
 
 class Cases:
@@ -472,6 +495,168 @@ class Cases:
                 assert path.read_bytes() in contents
                 for left in pathlib.Path(folder).glob(".tunedex-*"):
                     left.unlink()
+
+    def test_line_breaks_in_tags_add_lines_to_playlists_and_text_lists(self, folder):
+        box = Box(folder, "list.m3u")
+        (box.music / "a.mp3").write_bytes(tagged(b"One\r\nhttp://evil.example/"))
+        for output, lines in (("list.m3u", 4), ("list.txt", 3)):
+            box.configure(output)
+            box.run(0)
+            data = box.listing.read_bytes()
+            assert data.count(b"\r\n") == lines and b"\r\nhttp://evil.example/" in data, data
+        box.configure("list.htm")
+        box.run(0)
+        assert len(box.page().tracks()) == 1
+        assert [row[1] for row in box.page().tracks()] == ["One\r\nhttp://evil.example/"]
+
+    def test_a_link_planted_in_a_shared_folder_does_not_redirect_the_run(self, folder):
+        box = Box(folder, "list.txt")
+        (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
+        user = as_nobody(box)
+        shared, victim = box.root / "shared", box.root / "victim.txt"
+        shared.mkdir()
+        shared.chmod(0o1777)
+        box.configure("list.txt", OutputFile=shared / "list.txt")
+        os.chown(box.program / "Tunedex.cfg", user, 65534)
+        with ProtectedLinks():
+            for target, existing in (("victim.txt", True), ("new.txt", False)):
+                if existing:
+                    victim.write_bytes(OLD)
+                    os.chown(victim, user, 65534)
+                (shared / "list.txt").unlink(missing_ok=True)
+                (shared / "list.txt").symlink_to(box.root / target)
+                os.chown(shared / "list.txt", 12345, 12345, follow_symlinks=False)  # neither ours nor the folder's
+                said = box.run(1, user=user)
+                assert b"75 - Path/File access error" in said, said
+                assert b"Searching" not in said, said
+                assert victim.read_bytes() == OLD
+                assert not (box.root / "new.txt").exists()
+            # Planted after the run has looked, as it opens its file: for the link by name, and for its own last look.
+            (shared / "list.txt").unlink()
+            plant = (f"ln -sf '{victim}' '{shared}/list.txt'; chown -h 12345 '{shared}/list.txt'")
+            for number in range(1, 400):
+                said = box.run((0, 1), TUNEDEX_FAULT_CALL="open", TUNEDEX_FAULT_N=str(number), TUNEDEX_FAULT_RUN=plant,
+                               TUNEDEX_FAULT_REPORT=str(box.root / "report"))
+                assert victim.read_bytes() == OLD, (number, said)
+                (shared / "list.txt").unlink(missing_ok=True)
+                if "struck 1" not in (box.root / "report").read_text():
+                    break
+            assert number > 3
+
+    def test_where_permissions_cannot_be_set_the_old_list_is_written_in_place_and_a_new_one_is_made(self, folder):
+        for call in ("chmod", "xattr"):
+            for refusal in (errno.EPERM, errno.EOPNOTSUPP):
+                box = Box(pathlib.Path(folder, f"{call} {refusal}"), "list.txt")
+                (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
+                box.listing.write_bytes(OLD * 1000)
+                box.listing.chmod(0o640)
+                inode = box.listing.stat().st_ino
+                faults = {"TUNEDEX_FAULT_CALL": call, "TUNEDEX_FAULT_N": "1", "TUNEDEX_FAULT_STAYS": "1",
+                          "TUNEDEX_FAULT_ERROR": str(refusal)}
+                box.run(0, **faults)
+                assert box.listing.read_bytes().count(b"\r\n") == 2
+                assert stat.S_IMODE(box.listing.stat().st_mode) == 0o640
+                # Without attributes at all there is nothing to keep, and the file is replaced.
+                in_place = (call, refusal) != ("xattr", errno.EOPNOTSUPP)
+                assert (box.listing.stat().st_ino == inode) == in_place, (call, refusal)
+                box.listing.unlink()
+                box.run(0, **faults)
+                assert box.listing.read_bytes().count(b"\r\n") == 2
+                assert stat.S_IMODE(box.listing.stat().st_mode) == 0o666 & ~UMASK
+
+    def test_a_failure_while_permissions_are_copied_leaves_the_old_list(self, folder):
+        box = Box(folder, "list.txt")
+        (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
+        for call in ("chmod", "xattr"):
+            box.listing.write_bytes(OLD)
+            box.listing.chmod(0o640)
+            said = box.run(1, TUNEDEX_FAULT_CALL=call, TUNEDEX_FAULT_N="1", TUNEDEX_FAULT_ERROR=str(errno.ENOSPC))
+            assert b"61 - Disk full" in said, said
+            assert box.listing.read_bytes() == OLD
+
+    def test_an_output_link_to_a_track_is_refused_before_anything_is_read(self, folder):
+        box = Box(folder)
+        track = box.music / "a.MP3"
+        track.write_bytes(tagged(b"Kept"))
+        audio = track.read_bytes()
+        for output, link in (("list", "list.htm"), ("list.txt", "list.txt"), ("list.m3u", "list.m3u")):
+            box.configure(output)
+            (box.out / link).symlink_to(track)
+            said = box.run(1)
+            assert b"Error number 75 - Path/File access error" in said and b"Searching" not in said, said
+            assert track.read_bytes() == audio
+            assert not (box.program / "Tunedex.log").exists()
+        # A page of several is found when it is written.
+        for number in range(3):
+            (box.music / f"{number}.mp3").write_bytes(tagged(b"Kept"))
+        box.configure("pages.htm", Spanning=2)
+        (box.out / "pages.002.htm").symlink_to(track)
+        said = box.run(1)
+        assert b"Error number 75 - Path/File access error" in said, said
+        assert track.read_bytes() == audio
+
+    def test_a_list_that_replaces_another_is_no_less_private_while_it_is_written(self, folder):
+        box = Box(folder, "list.txt")
+        (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
+        seen = box.root / "seen"
+        for old in (None, 0o600, 0o640, 0o666):
+            box.listing.unlink(missing_ok=True)
+            if old is not None:
+                box.listing.write_bytes(OLD)
+                box.listing.chmod(old)
+            # What the temporary file allows when its mode is first about to be changed, and when it is renamed.
+            for call in ("chmod", "rename"):
+                box.run(0, TUNEDEX_FAULT_CALL=call, TUNEDEX_FAULT_N="1",
+                        TUNEDEX_FAULT_RUN=f"stat -c %a '{box.out}'/.tunedex-*.tmp >'{seen}'")
+                if call == "chmod" and old == 0o600:
+                    continue  # as it is
+                mode = int(seen.read_text(), 8)
+                assert mode == (0o600 if call == "chmod" else 0o666 & ~UMASK if old is None else old), (call, old, mode)
+                if call == "chmod" and old is None:
+                    box.listing.unlink()
+
+    def test_an_abort_ends_the_search_of_a_huge_file_and_the_wait_for_a_reader(self, folder):
+        def full(reader):
+            count = struct.unpack("i", fcntl.ioctl(reader, termios.FIONREAD, b"\0" * 4))[0]
+            return count > 60000
+
+        for kind in ("hole", "listing", "log"):
+            box = Box(pathlib.Path(folder, kind), "list.txt", ErrorLog=int(kind == "log"))
+            reader = None
+            if kind == "hole":
+                try:
+                    with open(box.music / "x.mp3", "wb") as file:
+                        file.truncate(4 << 40)
+                except OSError:
+                    raise Skipped("no files of 4 TiB here") from None
+                reached = lambda process: b"Retrieving" in process.stderr.readline()
+            else:
+                for number in range(2000):
+                    (box.music / f"{number}{'n' * 150}.mp3").write_bytes(b"no audio")
+                fifo = box.listing if kind == "listing" else box.program / "Tunedex.log"
+                os.mkfifo(fifo)
+                reader = os.open(fifo, os.O_RDONLY | os.O_NONBLOCK)
+                reached = lambda process: full(reader)
+            process = box.start()
+            while not reached(process):
+                assert process.poll() is None
+                time.sleep(0.001)
+            process.send_signal(signal.SIGINT)
+            began = time.monotonic()
+            _, said = process.communicate(timeout=30)
+            print(f"{kind}: {time.monotonic() - began:.3f} s from the signal to the end")
+            assert process.returncode == 1, (kind, process.returncode, said)
+            assert b"Operation complete!" not in said and b"error" not in said, said
+            if reader is not None:
+                os.close(reader)
+
+    def test_a_log_without_a_reader_is_refused(self, folder):
+        box = Box(folder)
+        (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
+        os.mkfifo(box.program / "Tunedex.log")
+        said = box.run(1, timeout=60)
+        assert b"Error number 57 - Device I/O error" in said, said
+        assert not box.listing.exists()
 
     def test_a_second_instance_at_the_same_time(self, folder):
         box = Box(folder)
