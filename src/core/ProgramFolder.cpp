@@ -1,7 +1,9 @@
 #include "ProgramFolder.h"
 
+#include "FileLookup.h"
 #include "FileSystem.h"
 #include "Path.h"
+#include "RunTimeError.h"
 #include "ShippedFiles.h"
 #include "TextFile.h"
 
@@ -14,6 +16,8 @@ namespace tunedex {
 namespace {
 
 constexpr std::string_view kHelpFileName = "Help.html";
+constexpr std::string_view kInstalledData = "../share/tunedex/"; // seen from the running program's folder
+constexpr std::string_view kFilledMark = ".filled";
 
 std::string HomeFolder() {
     const char* home = std::getenv("HOME");
@@ -31,6 +35,32 @@ std::string UserDataFolder() {
     return WithSeparator(base, PathStyle::Native()) + "tunedex/";
 }
 
+// Whether the program is an installed one: bin/tunedex beside share/tunedex/, under whatever prefix. Such a
+// folder of programs is never written to, also not by root or under ~/.local.
+bool IsInstalled(const std::string& runningFolder) {
+    try {
+        return FolderExists(runningFolder + std::string(kInstalledData));
+    } catch (const RunTimeError&) {
+        return false; // what cannot be examined is no installation of ours
+    }
+}
+
+// The files are written before the mark: a first start that fails midway (disk full, say) is repeated by the
+// next. The mark, not the files, says that the folder was filled: what the user deletes later stays deleted,
+// and a settings file that was put there beforehand does not keep the others out.
+void FillOnFirstUse(const std::string& folder, Registry& registry) {
+    const std::string mark = folder + std::string(kFilledMark);
+    if (FileExists(mark)) {
+        return;
+    }
+    CreateFolders(folder);
+    FillProgramFolder(folder);
+    if (registry.Read("TipsOnStartup").empty()) {
+        registry.Write("TipsOnStartup", "1"); // absent it means no, and a new user is to see them
+    }
+    TextFile(mark, TextEncoding::Utf8).Close();
+}
+
 } // namespace
 
 void FillProgramFolder(const std::string& folder) {
@@ -46,22 +76,16 @@ void FillProgramFolder(const std::string& folder) {
     }
 }
 
-std::string FindProgramFolder(Registry& registry) {
+std::string FindProgramFolder(Registry& registry, const std::string& runningFolder) {
     const std::string installed = registry.Read("InstallationPath");
     if (!installed.empty()) {
         return WithSeparator(installed, PathStyle::Native());
     }
-    std::string own = RunningProgramFolder();
-    if (FolderIsWritable(own)) {
-        return own;
+    if (!IsInstalled(runningFolder) && FolderIsWritable(runningFolder)) {
+        return runningFolder;
     }
     std::string folder = UserDataFolder();
-    const bool firstUse = !FolderExists(folder);
-    CreateFolders(folder);
-    FillProgramFolder(folder);
-    if (firstUse && registry.Read("TipsOnStartup").empty()) {
-        registry.Write("TipsOnStartup", "1"); // absent it means no, and a new user is to see them
-    }
+    FillOnFirstUse(folder, registry);
     return folder;
 }
 
@@ -69,13 +93,13 @@ std::string FindHelpFile(const Registry& registry, const std::string& programFol
     const PathStyle style = PathStyle::Native();
     const std::string own = RunningProgramFolder();
     std::string registered = registry.Read("HelpFilePath");
-    if (FileNameOf(registered, style) == kHelpFileName && FileExists(registered)) {
+    if (FileNameOf(registered, style) == kHelpFileName && FileIsThere(registered)) {
         return registered;
     }
     const std::string first = registered.empty() ? programFolder : own;
-    for (const std::string& folder : {first, own, own + "../share/tunedex/"}) {
+    for (const std::string& folder : {first, own, own + std::string(kInstalledData)}) {
         std::string path = folder + std::string(kHelpFileName);
-        if (FileExists(path)) {
+        if (FileIsThere(path)) {
             return path;
         }
     }

@@ -1,5 +1,6 @@
 #include "Startup.h"
 
+#include "FileSystem.h"
 #include "Functions.h"
 #include "ListJob.h"
 #include "ProgramFolder.h"
@@ -57,7 +58,7 @@ bool IsAutomatic(const std::vector<std::string>& arguments) {
 }
 
 void StartUp(Application& application, UserInterface& ui, const std::vector<std::string>& arguments) {
-    application.programFolder = FindProgramFolder(application.registry);
+    application.programFolder = FindProgramFolder(application.registry, RunningProgramFolder());
     application.helpFile = FindHelpFile(application.registry, application.programFolder);
     application.automaticMode = IsAutomatic(arguments);
     application.errorTitle = application.automaticMode ? "Tunedex Error! (Automatic Mode)" : "Error!";

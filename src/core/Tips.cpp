@@ -1,6 +1,6 @@
 #include "Tips.h"
 
-#include "FileSystem.h"
+#include "FileLookup.h"
 #include "TextLines.h"
 
 #include <algorithm>
@@ -14,12 +14,12 @@ std::string TipsPath(const Registry& registry, const std::string& runningFolder,
         return path;
     }
     path = runningFolder + std::string(kTipsFileName);
-    return FileExists(path) ? path : programFolder + std::string(kTipsFileName);
+    return FileIsThere(path) ? path : programFolder + std::string(kTipsFileName);
 }
 
 void Tips::Load(const std::string& path) {
     tips_.clear();
-    if (FileExists(path)) {
+    if (FileIsThere(path)) {
         tips_ = ReadTextLines(path);
     }
 }

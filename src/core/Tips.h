@@ -19,8 +19,8 @@ std::string TipsPath(const Registry& registry, const std::string& runningFolder,
 
 class Tips {
   public:
-    // Every line of the file is a tip, an empty one too. A missing file leaves no tips. Raises the error of a
-    // file that cannot be read. The current number is kept.
+    // Every line of the file is a tip, an empty one too. A file that is missing or cannot be examined
+    // leaves no tips. Raises the error of a file that cannot be read. The current number is kept.
     void Load(const std::string& path);
 
     // The next tip in file order; the first after the last.

@@ -9,83 +9,144 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace tunedex {
 namespace {
 
-TEST(ProgramFolder, IsTheOneThatTheRegistryNames) {
-    test::FakeRegistry registry;
-    registry.values["InstallationPath"] = "/opt/tunedex";
-    EXPECT_EQ(FindProgramFolder(registry), "/opt/tunedex/");
-    registry.values["InstallationPath"] = "/opt/tunedex/";
-    EXPECT_EQ(FindProgramFolder(registry), "/opt/tunedex/");
-}
-
-TEST(ProgramFolder, IsTheRunningProgramsWhenThatCanBeWritten) {
-    if (!FolderIsWritable(RunningProgramFolder())) {
-        GTEST_SKIP() << "the test program's own folder cannot be written";
-    }
-    test::FakeRegistry registry;
-    EXPECT_EQ(FindProgramFolder(registry), RunningProgramFolder());
-    EXPECT_EQ(registry.Read("TipsOnStartup"), "") << "that is for a user's own data folder";
-}
-
-// Becomes a user who may not write where the test program is.
-class DataFolder : public testing::Test {
+// The user's data folder is in a folder of the test's own; so is the program.
+class ProgramFolder : public testing::Test {
   protected:
-    void SetUp() override {
-        if (geteuid() != 0) {
-            GTEST_SKIP() << "only root can become a user who may not write the test program's folder";
+    ProgramFolder() { setenv("XDG_DATA_HOME", (folder_ / "home").c_str(), 1); }
+
+    std::string Find() { return FindProgramFolder(registry_, bin_); }
+    void Install() const { folder_.Make("prefix/share/tunedex"); }
+    void ExpectShippedFiles() const {
+        for (const ShippedFile& shipped : ShippedFiles()) {
+            EXPECT_EQ(test::ReadBytes(data_ + std::string(shipped.path)), shipped.bytes);
         }
     }
 
     const test::TestFolder folder_;
+    const std::string bin_ = folder_.Make("prefix/bin") + "/";
+    const std::string data_ = folder_ / "home/tunedex/";
     test::FakeRegistry registry_{};
 };
 
-TEST_F(DataFolder, StandsInForAProgramsFolderThatCannotBeWrittenAndIsFilledOnFirstUse) {
+TEST_F(ProgramFolder, IsTheOneThatTheRegistryNames) {
+    Install();
+    registry_.values["InstallationPath"] = "/opt/tunedex";
+    EXPECT_EQ(Find(), "/opt/tunedex/");
+    registry_.values["InstallationPath"] = "/opt/tunedex/";
+    EXPECT_EQ(Find(), "/opt/tunedex/");
+    EXPECT_FALSE(folder_.Exists("home"));
+}
+
+TEST_F(ProgramFolder, IsTheRunningProgramsWhenThatCanBeWritten) {
+    EXPECT_EQ(Find(), bin_);
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "") << "that is for a user's own data folder";
+    EXPECT_FALSE(folder_.Exists("home"));
+}
+
+TEST_F(ProgramFolder, IsTheUsersDataFolderForAnInstalledProgramWhoeverMayWriteThere) {
+    Install();
+    ASSERT_TRUE(FolderIsWritable(bin_));
+    EXPECT_EQ(Find(), data_);
+    ExpectShippedFiles();
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "1") << "a new user is shown the tips";
+    EXPECT_TRUE(std::filesystem::is_empty(bin_));
+}
+
+TEST_F(ProgramFolder, IsTheUsersDataFolderWhereTheProgramsCannotBeWritten) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can become a user who may not write the test program's folder";
+    }
     test::AsOrdinaryUser(folder_, [&] {
-        ASSERT_FALSE(FolderIsWritable(RunningProgramFolder()));
-        setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
-        EXPECT_EQ(FindProgramFolder(registry_), folder_ / "data/tunedex/");
-        for (const ShippedFile& shipped : ShippedFiles()) {
-            EXPECT_EQ(test::ReadBytes(folder_ / "data/tunedex/" + std::string(shipped.path)), shipped.bytes);
-        }
-        EXPECT_EQ(registry_.Read("TipsOnStartup"), "1") << "a new user is shown the tips";
-        // Found again, it is left alone but for what is missing, and so is the user's choice of tips.
-        registry_.values["TipsOnStartup"] = "";
-        folder_.Write("data/tunedex/tips.lst", "my tips");
-        ASSERT_EQ(unlink((folder_ / "data/tunedex/html_entities.lst").c_str()), 0);
-        EXPECT_EQ(FindProgramFolder(registry_), folder_ / "data/tunedex/");
-        EXPECT_EQ(registry_.Read("TipsOnStartup"), "");
-        EXPECT_EQ(test::ReadBytes(folder_ / "data/tunedex/tips.lst"), "my tips");
-        EXPECT_TRUE(folder_.Exists("data/tunedex/html_entities.lst"));
+        ASSERT_EQ(chmod(bin_.c_str(), 0555), 0);
+        EXPECT_EQ(Find(), data_);
+        ExpectShippedFiles();
     });
 }
 
-TEST_F(DataFolder, IsInTheUsersHomeWithoutAVariableThatNamesAnAbsolutePath) {
-    test::AsOrdinaryUser(folder_, [&] {
-        setenv("HOME", (folder_ / "home").c_str(), 1);
-        for (const char* value : {"", "relative/data"}) {
-            setenv("XDG_DATA_HOME", value, 1);
-            EXPECT_EQ(FindProgramFolder(registry_), folder_ / "home/.local/share/tunedex/") << value;
-        }
-        unsetenv("XDG_DATA_HOME");
-        EXPECT_EQ(FindProgramFolder(registry_), folder_ / "home/.local/share/tunedex/");
-        EXPECT_TRUE(folder_.Exists("home/.local/share/tunedex/tips.lst"));
-    });
+TEST_F(ProgramFolder, IsFilledOnceAndThenLeftToTheUser) {
+    Install();
+    Find();
+    registry_.values["TipsOnStartup"] = "";
+    folder_.Write("home/tunedex/tips.lst", "my tips");
+    ASSERT_EQ(unlink((data_ + "html_entities.lst").c_str()), 0);
+    std::filesystem::remove_all(data_ + "Themes");
+    EXPECT_EQ(Find(), data_);
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "");
+    EXPECT_EQ(test::ReadBytes(data_ + "tips.lst"), "my tips");
+    EXPECT_FALSE(folder_.Exists("home/tunedex/html_entities.lst"));
+    EXPECT_FALSE(folder_.Exists("home/tunedex/Themes"));
 }
 
-TEST_F(DataFolder, ThatCannotBeMadeRaisesItsError) {
-    folder_.Make("closed");
+TEST_F(ProgramFolder, KeepsTheUsersChoiceOfTips) {
+    Install();
+    registry_.values["TipsOnStartup"] = "0";
+    Find();
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "0");
+}
+
+// As with the prefix ~/.local, where the help is already in that folder.
+TEST_F(ProgramFolder, IsFilledAlsoWhereItIsTheInstallationsDataFolder) {
+    setenv("XDG_DATA_HOME", (folder_ / "prefix/share").c_str(), 1);
+    folder_.Write("prefix/share/tunedex/Help.html", "help");
+    EXPECT_EQ(Find(), folder_ / "prefix/share/tunedex/");
+    EXPECT_TRUE(folder_.Exists("prefix/share/tunedex/html_entities.lst"));
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "1");
+}
+
+TEST_F(ProgramFolder, IsFilledAroundWhatWasPutThereBeforehand) {
+    Install();
+    folder_.Write("home/tunedex/Tunedex.cfg", "mine");
+    folder_.Write("home/tunedex/tips.lst", "mine");
+    Find();
+    EXPECT_EQ(test::ReadBytes(data_ + "Tunedex.cfg"), "mine");
+    EXPECT_EQ(test::ReadBytes(data_ + "tips.lst"), "mine");
+    EXPECT_TRUE(folder_.Exists("home/tunedex/html_entities.lst"));
+}
+
+TEST_F(ProgramFolder, IsFilledToTheEndAfterAFirstStartThatFailed) {
+    Install();
+    test::InChild([&] {
+        // Every file but the smallest is too long, as on a full disk.
+        const rlimit few{1000, RLIM_INFINITY};
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &few), 0);
+        std::signal(SIGXFSZ, SIG_IGN);
+        EXPECT_NE(test::RaisedBy([&] { Find(); }), 0);
+        EXPECT_NE(test::RaisedBy([&] { Find(); }), 0);
+    });
+    EXPECT_FALSE(folder_.Exists("home/tunedex/tips.lst"));
+    EXPECT_EQ(Find(), data_);
+    ExpectShippedFiles();
+}
+
+TEST_F(ProgramFolder, IsInTheUsersHomeWithoutAVariableThatNamesAnAbsolutePath) {
+    Install();
+    setenv("HOME", (folder_ / "home").c_str(), 1);
+    for (const char* value : {"", "relative/data"}) {
+        setenv("XDG_DATA_HOME", value, 1);
+        EXPECT_EQ(Find(), folder_ / "home/.local/share/tunedex/") << value;
+    }
+    unsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(Find(), folder_ / "home/.local/share/tunedex/");
+    EXPECT_TRUE(folder_.Exists("home/.local/share/tunedex/tips.lst"));
+}
+
+TEST_F(ProgramFolder, ThatCannotBeMadeRaisesItsError) {
+    Install();
+    folder_.Make("home");
     test::AsOrdinaryUser(folder_, [&] {
-        ASSERT_EQ(chmod((folder_ / "closed").c_str(), 0555), 0);
-        setenv("XDG_DATA_HOME", (folder_ / "closed").c_str(), 1);
-        EXPECT_EQ(test::RaisedBy([&] { FindProgramFolder(registry_); }), 75);
+        ASSERT_EQ(chmod((folder_ / "home").c_str(), 0555), 0);
+        EXPECT_EQ(test::RaisedBy([&] { Find(); }), 75);
     });
 }
 
@@ -124,6 +185,24 @@ TEST(HelpFile, IsTheRegisteredOneIfThatIsAHelpFile) {
     EXPECT_NE(FindHelpFile(registry, folder / "program/"), folder / "doc/Other.html");
     registry.values["HelpFilePath"] = folder.Make("more/Help.html");
     EXPECT_NE(FindHelpFile(registry, folder / "program/"), folder / "more/Help.html");
+}
+
+TEST(HelpFile, ThatCannotBeExaminedCountsAsMissing) {
+    const test::TestFolder folder;
+    test::FakeRegistry registry;
+    const std::string help = folder.Write("program/Help.html", "x");
+    const std::string closed = folder.Write("closed/Help.html", "x");
+    test::AsOrdinaryUser(folder, [&] {
+        ASSERT_EQ(chmod((folder / "closed").c_str(), 0), 0);
+        for (const std::string& path : {closed, folder / (std::string(5000, 'x') + "/Help.html"),
+                                        folder / std::string("a\0/Help.html", 12)}) {
+            registry.values["HelpFilePath"] = path;
+            EXPECT_NE(FindHelpFile(registry, folder / "program/"), path);
+        }
+        registry.values["HelpFilePath"] = "";
+        EXPECT_NE(FindHelpFile(registry, folder / "closed/"), closed);
+        ASSERT_EQ(chmod((folder / "closed").c_str(), 0700), 0);
+    });
 }
 
 TEST(HelpFile, IsTheOneInTheProgramFolderWhenNoneIsRegistered) {

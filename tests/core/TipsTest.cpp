@@ -74,6 +74,17 @@ TEST(Tips, AMissingFileLeavesNoneAndNextChangesNothingVisible) {
     EXPECT_EQ(tips.Current(), "");
 }
 
+TEST(Tips, AFileThatCannotBeExaminedLeavesNone) {
+    const TestFolder folder;
+    for (const std::string& path : {folder / std::string(5000, 'x'), folder / std::string("a\0b", 3)}) {
+        Tips tips;
+        tips.Load(folder.Write("tips.lst", "one\r\n"));
+        tips.Load(path);
+        tips.Next();
+        EXPECT_EQ(tips.Current(), "");
+    }
+}
+
 TEST(Tips, AFileThatCannotBeReadRaisesItsError) {
     Tips tips;
     EXPECT_THROW(tips.Load("/proc/self/mem"), RunTimeError);
