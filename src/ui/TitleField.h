@@ -11,7 +11,8 @@ class TitleField final : public QLineEdit {
   public:
     TitleField(const QString& objectName, const QString& accessibleName, const QString& description);
 
-    // Puts the text in the place of the selection, or at the caret, and takes the focus. Undo takes it back.
+    // Inserts the text at the caret, or in place of what the user has selected, and takes the focus. A
+    // selection that only comes from entering the field by key is left alone. Undo takes the text back.
     void InsertPlaceholder(const QString& placeholder);
 
   protected:
@@ -19,9 +20,9 @@ class TitleField final : public QLineEdit {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    // A field drops its selection when the focus goes to the Placeholders button, so it is remembered here;
-    // the one that merely comes from moving in by Tab is not the user's and would cost him the whole text.
-    bool selectedByTab_ = false;
+    // Entering by Tab or by a mnemonic selects the whole text. Replacing that selection would lose the text.
+    bool selectedOnEntry_ = false;
+    // The user's own selection, which the field drops when the focus moves to the Placeholders button.
     int selectionStart_ = -1;
     int selectionLength_ = 0;
 };

@@ -445,20 +445,68 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.TheSettings().PageTitle, std::string("a%Ld"));
     }
 
-    void PassingThroughAFieldByTabDoesNotGiveItsTextAway() {
+    void ASelectionThatEnteringTheFieldMadeIsNotReplaced_data() {
+        QTest::addColumn<bool>("entersByMnemonic");
+        QTest::addColumn<bool>("opensByMnemonic");
+        QTest::addColumn<bool>("otherWindowMeanwhile");
+        QTest::newRow("Tab, then Tab and Space") << false << false << false;
+        QTest::newRow("Tab, then the button's mnemonic") << false << true << false;
+        QTest::newRow("the label's mnemonic, then Tab and Space") << true << false << false;
+        QTest::newRow("the label's mnemonic, then the button's") << true << true << false;
+        QTest::newRow("another window between Tab and the mnemonic") << false << true << true;
+    }
+    void ASelectionThatEnteringTheFieldMadeIsNotReplaced() {
+        QFETCH(bool, entersByMnemonic);
+        QFETCH(bool, opensByMnemonic);
+        QFETCH(bool, otherWindowMeanwhile);
         Desk desk;
         desk.Show();
         Type(desk.Main(), "txtPageTitle", "precious");
         Find<QPushButton>(desk.Main(), "cmdWindowTitlePlaceHolders").setFocus();
         auto* window = desk.Main().windowHandle();
-        QTest::keyClick(window, Qt::Key_Tab);
+        if (entersByMnemonic) {
+            QTest::keyClick(window, Qt::Key_P, Qt::AltModifier);
+        } else {
+            QTest::keyClick(window, Qt::Key_Tab);
+        }
         auto& line = Find<QLineEdit>(desk.Main(), "txtPageTitle");
         QVERIFY(line.hasFocus());
         QCOMPARE(line.selectedText(), u"precious"_s);
-        QTest::keyClick(window, Qt::Key_Tab);
-        QTest::keyClick(window, Qt::Key_Space);
-        PlaceholderItem(desk, 0).trigger();
+        if (otherWindowMeanwhile) {
+            QWidget other;
+            other.show();
+            other.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+            desk.Main().activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&desk.Main()));
+        }
+        if (opensByMnemonic) {
+            QTest::keyClick(window, Qt::Key_N, Qt::AltModifier);
+        } else {
+            QTest::keyClick(window, Qt::Key_Tab);
+            QTest::keyClick(window, Qt::Key_Space);
+        }
+        auto& menu = Find<QMenu>(desk.Main(), "mnuPlaceholders");
+        QTRY_VERIFY(menu.isVisible());
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QTRY_VERIFY(!menu.isVisible());
         QCOMPARE(line.text(), u"precious%D"_s);
+        QTRY_VERIFY(line.hasFocus());
+    }
+
+    void TheUsersOwnSelectionIsReplacedByMnemonicToo() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtPageTitle", "abcd");
+        auto* window = desk.Main().windowHandle();
+        QTest::keyClick(window, Qt::Key_P, Qt::AltModifier); // selects the text; the arrow undoes that
+        QTest::keyClick(window, Qt::Key_Right);
+        QTest::keyClick(window, Qt::Key_Left, Qt::ShiftModifier);
+        QTest::keyClick(window, Qt::Key_N, Qt::AltModifier);
+        auto& menu = Find<QMenu>(desk.Main(), "mnuPlaceholders");
+        QTRY_VERIFY(menu.isVisible());
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QTRY_COMPARE(TextOf(desk.Main(), "txtPageTitle"), std::string("abc%D"));
     }
 
     void AnAbandonedPlaceholderMenuChangesNothing() {
