@@ -67,7 +67,7 @@ frmTip::frmTip(Application& application, UserInterface& ui, QWidget* parent)
     chkLoadTipsAtStartup_->setChecked(atStartup);
     if (atStartup) {
         LoadTips();
-        DoNextTip();
+        DoRandomTip();
     }
 }
 

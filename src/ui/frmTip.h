@@ -21,7 +21,7 @@ class frmTip final : public QDialog {
     Q_OBJECT
 
   public:
-    // Loads the tips and shows the first one when tips are wanted at start-up; shows none otherwise.
+    // Loads the tips and shows a random one when tips are wanted at start-up; shows none otherwise.
     frmTip(Application& application, UserInterface& ui, QWidget* parent);
 
     void LoadTips();
