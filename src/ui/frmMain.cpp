@@ -25,6 +25,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -115,7 +116,7 @@ void frmMain::BuildFields() {
         field->setMinimumWidth(fontMetrics().averageCharWidth() * kFieldWidthInCharacters);
         connect(field, &QLineEdit::returnPressed, this, &frmMain::CreateListRequested);
     }
-    connect(chkMultipleDirs_, &QCheckBox::clicked, this, &frmMain::MultipleDirsClicked);
+    connect(chkMultipleDirs_, &QCheckBox::toggled, this, &frmMain::MultipleDirsToggled);
 }
 
 void frmMain::BuildMenus() {
@@ -289,7 +290,11 @@ MainFields frmMain::Fields() const {
 }
 
 void frmMain::FillFields(const MainFields& fields) {
-    chkMultipleDirs_->setChecked(fields.multipleFolders);
+    {
+        // The handler would replace the folders that the settings already hold.
+        const QSignalBlocker quiet(*chkMultipleDirs_);
+        chkMultipleDirs_->setChecked(fields.multipleFolders);
+    }
     if (!fields.multipleFolders) {
         txtInputDir_->setText(ToQt(fields.inputFolder));
     }
@@ -304,7 +309,7 @@ QLineEdit& frmMain::Field(MainField field) const {
     return field == MainField::InputFolder ? *txtInputDir_ : *txtOutputFile_;
 }
 
-void frmMain::MultipleDirsClicked() {
+void frmMain::MultipleDirsToggled() {
     application_.settings.Directory =
         chkMultipleDirs_->isChecked() ? std::string(kMultiFolderMark) : FromQt(txtInputDir_->text());
     UpdateFolderControls();
@@ -343,10 +348,7 @@ void frmMain::TakeDroppedFolders(const std::vector<std::string>& folders) {
         txtInputDir_->setText(ToQt(folders.front()));
         return;
     }
-    if (!chkMultipleDirs_->isChecked()) {
-        chkMultipleDirs_->setChecked(true);
-        MultipleDirsClicked();
-    }
+    chkMultipleDirs_->setChecked(true); // a single folder makes way for an empty list
     // The list's own rules decide what is taken.
     frmDirSelection list(application_, ui_, dialogs_, this);
     for (const std::string& folder : folders) {

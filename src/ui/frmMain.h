@@ -63,7 +63,7 @@ class frmMain final : public QMainWindow {
     void ChooseFolders();
     void TakeDroppedFolders(const std::vector<std::string>& folders);
     void BrowseOutputFile();
-    void MultipleDirsClicked();
+    void MultipleDirsToggled();
     void UpdateFolderControls();
     void OpenPlaceholderMenu(TitleField& field, QPushButton& button);
 

@@ -8,6 +8,7 @@
 #include "frmDirSelection.h"
 #include "frmOptions.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
 #include <QLineEdit>
@@ -131,6 +132,38 @@ class frmMainTest : public QObject {
         QVERIFY(IsEnabled(desk.Main(), "cmdSelectDir"));
         QVERIFY(!IsEnabled(desk.Main(), "cmdSelectDirs"));
         QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string());
+    }
+
+    void AssistiveTechnologySwitchesBetweenOneFolderAndAList() {
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtInputDir", "/music");
+        auto& box = Find<QCheckBox>(desk.Main(), "chkMultipleDirs");
+        QAccessibleActionInterface& actions = *QAccessible::queryAccessibleInterface(&box)->actionInterface();
+        actions.doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(box.isChecked());
+        QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%"));
+        QVERIFY(IsEnabled(desk.Main(), "cmdSelectDirs"));
+        actions.doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(!box.isChecked());
+        QCOMPARE(desk.TheSettings().Directory, std::string("/music"));
+        QVERIFY(!IsEnabled(desk.Main(), "cmdSelectDirs"));
+    }
+
+    void FillingTheFieldsLeavesTheFolderSettingAlone_data() {
+        QTest::addColumn<bool>("several");
+        QTest::newRow("to a list") << true;
+        QTest::newRow("to one folder") << false;
+    }
+    void FillingTheFieldsLeavesTheFolderSettingAlone() {
+        QFETCH(bool, several);
+        Desk desk;
+        Find<QCheckBox>(desk.Main(), "chkMultipleDirs").setChecked(!several);
+        desk.TheSettings().Directory = several ? "%MULT%/a%||%/b" : "/music";
+        desk.frontEnd.FillFields(FieldsFor(desk.TheSettings()));
+        QCOMPARE(desk.frontEnd.Fields().multipleFolders, several);
+        QCOMPARE(desk.TheSettings().Directory, std::string(several ? "%MULT%/a%||%/b" : "/music"));
+        QCOMPARE(IsEnabled(desk.Main(), "cmdSelectDirs"), several);
     }
 
     void BrowsingPutsTheFolderIntoItsField() {
