@@ -3,12 +3,14 @@
 #include "Functions.h"
 #include "Text.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
+#include <QShortcut>
 #include <QStringDecoder>
 #include <QUrl>
 
@@ -113,6 +115,11 @@ QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleNam
     field->setMaxLength(std::numeric_limits<int>::max());
     NameControl(*field, objectName, accessibleName, description);
     return field;
+}
+
+void PressOnHelpKey(QWidget& window, QAbstractButton& button) {
+    auto* key = new QShortcut(QKeySequence::HelpContents, &window);
+    QObject::connect(key, &QShortcut::activated, &button, &QAbstractButton::click);
 }
 
 void SetTabOrders(const QList<QWidget*>& controls) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+class QAbstractButton;
 class QLabel;
 class QLineEdit;
 class QWidget;
@@ -36,6 +37,10 @@ QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic);
 // A text field that takes texts of any length.
 QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleName,
                          const QString& description);
+
+// Lets the help key (F1) press the window's help button. A button has a single shortcut, which stays the
+// mnemonic of its caption.
+void PressOnHelpKey(QWidget& window, QAbstractButton& button);
 
 // The order in which Tab visits the controls.
 void SetTabOrders(const QList<QWidget*>& controls);

@@ -124,8 +124,7 @@ QWidget* frmDirSelection::BuildButtons() {
 
 QWidget* frmDirSelection::BuildBottomRow() {
     auto* cmdHelp = MakeButton("cmdHelp", tr("&Help"), tr("Opens the help file"), &frmDirSelection::Help);
-    cmdHelp->setShortcut(QKeySequence::HelpContents);
-    cmdHelp->setText(tr("&Help"));
+    PressOnHelpKey(*this, *cmdHelp);
     auto* cmdOK =
         MakeButton("cmdOK", tr("&OK"), tr("Keeps the list and closes the window"), &frmDirSelection::Use);
     cmdOK->setDefault(true);

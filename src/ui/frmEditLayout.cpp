@@ -82,7 +82,7 @@ QBoxLayout* frmEditLayout::BuildButtons() {
     cmdOK_ = MakeButton(u"cmdOK"_s, u"&OK"_s, u"Use this layout"_s);
     cmdCancel_ =
         MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Close without changing anything but a loaded theme"_s);
-    cmdHelp_->setShortcut(QKeySequence::HelpContents);
+    PressOnHelpKey(*this, *cmdHelp_);
     chkPreview_->setChecked(true);
     cmdOK_->setDefault(true);
     connect(cmdHelp_, &QPushButton::clicked, this, [this] { OpenHelp(application_, ui_); });

@@ -34,6 +34,7 @@ class OptionsTest : public QObject {
     void ASaveThatFailsIsToldAndLeavesTheDialogOpen();
     void HelpOpensTheHelpFile();
     void HelpWithoutAFileSaysSo();
+    void TheEditorsHelpHasBothItsKeys();
     void TheEditorDisablesTheDialogUntilItCloses();
     void StoringTakesTheOpenEditorsDocumentTypeAndSubstitution();
     void StoringWithoutAnEditorMakesTheDocumentTypeHtmlUnlessItIsXhtml();
@@ -399,6 +400,16 @@ void OptionsTest::HelpWithoutAFileSaysSo() {
     const LayoutFixture::Message expected{"The help file could not be found!", 48, "Error!"};
     QVERIFY(with.Messages()[0] == expected);
     QVERIFY(with.Messages()[1] == expected);
+}
+
+void OptionsTest::TheEditorsHelpHasBothItsKeys() {
+    LayoutFixture with;
+    frmEditLayout editor(with.application, with.ui);
+    Show(editor);
+    QTest::keyClick(&editor, Qt::Key_F1);
+    QTRY_COMPARE(with.Messages().size(), 1U);
+    QTest::keyClick(&editor, Qt::Key_H, Qt::AltModifier);
+    QTRY_COMPARE(with.Messages().size(), 2U);
 }
 
 void OptionsTest::TheEditorDisablesTheDialogUntilItCloses() {

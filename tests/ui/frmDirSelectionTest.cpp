@@ -261,6 +261,8 @@ class frmDirSelectionTest : public QObject {
         QTest::keyClick(&*desk.window, Qt::Key_F1);
         QTRY_COMPARE(browser.opened.size(), std::size_t(1));
         QCOMPARE(browser.opened[0], QUrl(u"file:///srv/Help.html"_s));
+        PressMnemonic(*desk.window, Qt::Key_H);
+        QTRY_COMPARE(browser.opened.size(), std::size_t(2));
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
     }
 
