@@ -26,14 +26,6 @@ QLayout* LabelledList(ColumnList& list, const QString& label) {
     return layout;
 }
 
-// A disabled button hands the focus on to a neighbour that does something else, so the list takes it first.
-void EnableCommand(QPushButton& command, bool enabled, ColumnList& list) {
-    if (!enabled && command.hasFocus()) {
-        list.setFocus();
-    }
-    command.setEnabled(enabled);
-}
-
 } // namespace
 
 ColumnsPage::ColumnsPage(QWidget* parent)
@@ -226,14 +218,14 @@ void ColumnsPage::UpdateColumnLists() {
 void ColumnsPage::EnableCommands() {
     const int selected = lstActiveColumns_->SelectedRow();
     const int last = lstActiveColumns_->count() - 1;
-    EnableCommand(*cmdActive_, lstInactiveColumns_->SelectedRow() >= 0, *lstInactiveColumns_);
-    EnableCommand(*cmdAllActive_, lstInactiveColumns_->count() > 0, *lstInactiveColumns_);
-    EnableCommand(*cmdInactive_, selected >= 0, *lstActiveColumns_);
-    EnableCommand(*cmdAllInactive_, last >= 0, *lstActiveColumns_);
-    EnableCommand(*cmdTop_, selected > 0, *lstActiveColumns_);
-    EnableCommand(*cmdUp_, selected > 0, *lstActiveColumns_);
-    EnableCommand(*cmdDown_, selected >= 0 && selected < last, *lstActiveColumns_);
-    EnableCommand(*cmdBottom_, selected >= 0 && selected < last, *lstActiveColumns_);
+    EnableOrPassFocus(*cmdActive_, lstInactiveColumns_->SelectedRow() >= 0, *lstInactiveColumns_);
+    EnableOrPassFocus(*cmdAllActive_, lstInactiveColumns_->count() > 0, *lstInactiveColumns_);
+    EnableOrPassFocus(*cmdInactive_, selected >= 0, *lstActiveColumns_);
+    EnableOrPassFocus(*cmdAllInactive_, last >= 0, *lstActiveColumns_);
+    EnableOrPassFocus(*cmdTop_, selected > 0, *lstActiveColumns_);
+    EnableOrPassFocus(*cmdUp_, selected > 0, *lstActiveColumns_);
+    EnableOrPassFocus(*cmdDown_, selected >= 0 && selected < last, *lstActiveColumns_);
+    EnableOrPassFocus(*cmdBottom_, selected >= 0 && selected < last, *lstActiveColumns_);
 
     const bool mergeable =
         lstActiveColumns_->HoldsColumn("Artist") && lstActiveColumns_->HoldsColumn("Title");

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -69,22 +70,26 @@ ThemePanel::ThemePanel(Application& application, UserInterface& ui, const Choose
 }
 
 void ThemePanel::ListThemes() {
-    lvwThemes_->clear();
-    Attempt([this] {
-        for (const std::string& name : tunedex::ListThemes(application_.programFolder)) {
+    std::vector<std::string> names;
+    Attempt([&] { names = tunedex::ListThemes(application_.programFolder); });
+    {
+        // The commands follow the new list; disabled for the empty one in between, they would lose the focus.
+        const QSignalBlocker quiet(*lvwThemes_);
+        lvwThemes_->clear();
+        for (const std::string& name : names) {
             lvwThemes_->addItem(ToQt(name));
         }
-    });
-    if (lvwThemes_->count() > 0) {
-        lvwThemes_->setCurrentRow(0);
+        if (lvwThemes_->count() > 0) {
+            lvwThemes_->setCurrentRow(0);
+        }
     }
     EnableCommands();
 }
 
 void ThemePanel::EnableCommands() {
     const bool selected = !lvwThemes_->selectedItems().isEmpty();
-    cmdLoadTheme_->setEnabled(selected);
-    cmdDeleteTheme_->setEnabled(selected);
+    EnableOrPassFocus(*cmdLoadTheme_, selected, *lvwThemes_);
+    EnableOrPassFocus(*cmdDeleteTheme_, selected, *lvwThemes_);
 }
 
 std::string ThemePanel::SelectedTheme() const {

@@ -133,6 +133,13 @@ void FocusAndSelectAll(QLineEdit& field) {
     field.selectAll();
 }
 
+void EnableOrPassFocus(QWidget& control, bool enabled, QWidget& heir) {
+    if (!enabled && control.hasFocus()) {
+        heir.setFocus();
+    }
+    control.setEnabled(enabled);
+}
+
 void RestoreWindowGeometry(QWidget& window) {
     const QByteArray geometry = WindowStore().value(GeometryKey(window)).toByteArray();
     if (!geometry.isEmpty()) {

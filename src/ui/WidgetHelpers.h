@@ -48,6 +48,10 @@ void SetTabOrders(const QList<QWidget*>& controls);
 // Puts the focus into the field and selects its whole text.
 void FocusAndSelectAll(QLineEdit& field);
 
+// Enables or disables a control. Where that takes the focus from it, `heir` gets the focus; Qt would move it
+// to the next control in the tab order, which does something else.
+void EnableOrPassFocus(QWidget& control, bool enabled, QWidget& heir);
+
 // A window's size and place from one start of the program to the next, under the window's object name. A
 // window that was never shown before keeps the size it has.
 void RestoreWindowGeometry(QWidget& window);

@@ -38,6 +38,7 @@ class ThemePanelTest : public QObject {
     void DecliningToOverwriteKeepsTheFileAndTheStatusStillSaysSaved();
     void ASaveThatFailsIsToldAndChangesNoStatus();
     void DeletingAsksFirst();
+    void AfterDeletingTheFocusStaysInThePanel();
     void DecliningToDeleteKeepsTheTheme();
     void DeletingAThemeThatIsGoneIsToldAndListsAnew();
     void EveryShippedThemeLoads();
@@ -440,6 +441,23 @@ void ThemePanelTest::DeletingAsksFirst() {
     QVERIFY(with.Names().isEmpty());
     QVERIFY(!IsEnabled(*with.editor, u"cmdLoadTheme"_s));
     QVERIFY(!IsEnabled(*with.editor, u"cmdDeleteTheme"_s));
+}
+
+void ThemePanelTest::AfterDeletingTheFocusStaysInThePanel() {
+    Panel with;
+    with.folder.Write("Themes/Blue.thm", kBlue);
+    with.folder.Write("Themes/Green.thm", kBlue);
+    with.ui.fake.answers = {kAnswerYes, kAnswerYes};
+    frmEditLayout& editor = with.Open();
+    QAbstractButton& remove = Button(editor, u"cmdDeleteTheme"_s);
+    Find<QTabWidget>(editor, u"TabStrip"_s).setCurrentIndex(4);
+    remove.setFocus();
+    QTest::keyClick(&remove, Qt::Key_Space);
+    QCOMPARE(with.Names().size(), 1);
+    QVERIFY(remove.hasFocus()); // there is another theme to delete
+    QTest::keyClick(&remove, Qt::Key_Space);
+    QVERIFY(with.Names().isEmpty());
+    QVERIFY(with.List().hasFocus());
 }
 
 void ThemePanelTest::DecliningToDeleteKeepsTheTheme() {
