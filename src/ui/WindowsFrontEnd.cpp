@@ -32,6 +32,7 @@ WindowsFrontEnd::WindowsFrontEnd(Application& application, Dialogs& dialogs)
       main_(application, *this, dialogs) {
     QObject::connect(&main_, &frmMain::CreateListRequested, &main_, [this] { CreateList(); });
     QObject::connect(&main_, &frmMain::OptionsRequested, &main_, [this] { OpenOptions(); });
+    QObject::connect(&main_, &frmMain::Closed, &main_, [this] { CloseOptions(); });
 }
 
 WindowsFrontEnd::~WindowsFrontEnd() = default;
@@ -70,8 +71,19 @@ void WindowsFrontEnd::OpenOptions() {
         options_->setAttribute(Qt::WA_DeleteOnClose);
     }
     options_->show();
-    options_->raise();
-    options_->activateWindow();
+    QWidget* front = options_;
+    if (options_->Editor() != nullptr) {
+        front = options_->Editor();
+    }
+    front->raise();
+    front->activateWindow();
+}
+
+// The program quits only when every window closes, and options that wait for the editor refuse to.
+void WindowsFrontEnd::CloseOptions() {
+    if (options_ != nullptr) {
+        options_->reject();
+    }
 }
 
 void WindowsFrontEnd::TakeControls(Settings& settings) {
@@ -100,23 +112,17 @@ void WindowsFrontEnd::FocusAndSelect(MainField field) {
 
 void WindowsFrontEnd::EnableWindows() {
     main_.setEnabled(true);
-    if (options_ != nullptr && options_->Editor() == nullptr) { // it waits for its layout editor otherwise
-        options_->setEnabled(true);
-    }
-}
-
-// The progress window disables the main window; what is open above that must not be changed during a run
-// either.
-void WindowsFrontEnd::DisableWindows() {
     if (options_ != nullptr) {
-        options_->setEnabled(false);
+        options_->SetUsable(true);
     }
 }
 
 RunMonitor& WindowsFrontEnd::ShowProgress() {
     CloseProgress();
     progress_ = std::make_unique<frmProgress>(main_);
-    DisableWindows();
+    if (options_ != nullptr) {
+        options_->SetUsable(false); // like the main window, which the progress window disables
+    }
     progress_->SetRunning(running_);
     QObject::connect(progress_.get(), &frmProgress::AbortPressed, &main_,
                      [this] { application_.abortRequested = true; });

@@ -42,7 +42,7 @@ class WindowsFrontEnd final : public UserInterface {
 
   private:
     QWidget* MessageOwner();
-    void DisableWindows();
+    void CloseOptions();
 
     Application& application_;
     Dialogs& dialogs_;

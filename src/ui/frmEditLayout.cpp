@@ -14,6 +14,7 @@
 #include "WidgetHelpers.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSplitter>
@@ -121,7 +122,6 @@ void frmEditLayout::LoadControls() {
 void frmEditLayout::FollowTheme() {
     LoadControls();
     ui_.FillFields(FieldsFor(application_.settings));
-    emit SettingsReloaded();
 }
 
 void frmEditLayout::StoreRunControls(Settings& settings) const {
@@ -160,6 +160,14 @@ void frmEditLayout::UseLayout() {
     }
     StoreControls(application_.settings);
     accept();
+}
+
+void frmEditLayout::closeEvent(QCloseEvent* event) {
+    if (isEnabled()) {
+        QDialog::closeEvent(event);
+    } else {
+        event->ignore(); // a run comes first
+    }
 }
 
 void frmEditLayout::done(int result) {

@@ -48,11 +48,8 @@ class frmEditLayout : public QDialog {
     // In place of Qt's own dialogs.
     void SetChoosers(Choosers choosers) { choosers_ = std::move(choosers); }
 
-  signals:
-    // A theme has been loaded into the settings: other windows should show them too.
-    void SettingsReloaded();
-
   protected:
+    void closeEvent(QCloseEvent* event) override;
     void done(int result) override;
 
   private:

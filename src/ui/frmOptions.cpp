@@ -10,6 +10,7 @@
 #include "frmEditLayout.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -230,6 +231,9 @@ void frmOptions::LoadControls() {
     EnableSpanning();
     EnableLinks();
     GreyDisabledFields();
+    if (editor_ != nullptr) {
+        editor_->LoadControls();
+    }
 }
 
 void frmOptions::EnableSpanning() {
@@ -262,7 +266,18 @@ void frmOptions::changeEvent(QEvent* event) {
     }
 }
 
+void frmOptions::closeEvent(QCloseEvent* event) {
+    if (isEnabled()) {
+        QDialog::closeEvent(event);
+    } else {
+        event->ignore(); // the layout editor, or a run, comes first
+    }
+}
+
 void frmOptions::done(int result) {
+    if (editor_ != nullptr) {
+        editor_->reject();
+    }
     SaveWindowGeometry(*this);
     QDialog::done(result);
 }
@@ -324,14 +339,7 @@ void frmOptions::Save() {
 
 void frmOptions::EditLayout() {
     editor_ = new frmEditLayout(application_, ui_, this);
-    connect(editor_, &frmEditLayout::SettingsReloaded, this, &frmOptions::LoadControls);
-    connect(editor_, &QDialog::finished, this, [this] {
-        editor_->deleteLater();
-        editor_.clear();
-        setEnabled(true);
-        activateWindow();
-        cmdEditLayout_->setFocus();
-    });
+    connect(editor_, &QDialog::finished, this, &frmOptions::ReleaseEditor);
     editor_->SetPreviewBase([this] {
         Settings settings = application_.settings;
         try {
@@ -341,11 +349,29 @@ void frmOptions::EditLayout() {
         }
         return settings;
     });
-    editor_->setWindowModality(Qt::WindowModal);
-    // A disabled window disables the windows it owns as well, so the editor comes second.
-    setEnabled(false);
-    editor_->setEnabled(true);
+    UpdateEnabled();
     editor_->show();
+    editor_->activateWindow();
+}
+
+void frmOptions::ReleaseEditor() {
+    editor_->deleteLater();
+    editor_.clear();
+    UpdateEnabled();
+    activateWindow();
+    cmdEditLayout_->setFocus();
+}
+
+void frmOptions::SetUsable(bool usable) {
+    usable_ = usable;
+    UpdateEnabled();
+}
+
+void frmOptions::UpdateEnabled() {
+    setEnabled(usable_ && editor_ == nullptr);
+    if (editor_ != nullptr) {
+        editor_->setEnabled(usable_); // comes second: a disabled window disables the windows that it owns
+    }
 }
 
 } // namespace tunedex

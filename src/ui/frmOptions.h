@@ -27,7 +27,7 @@ class frmOptions : public QDialog {
     // The controls show the settings as they are now.
     frmOptions(Application& application, UserInterface& ui, QWidget* parent = nullptr);
 
-    // Sets every control from the settings.
+    // Sets every control from the settings, those of the open layout editor too.
     void LoadControls();
 
     // Takes the controls into `settings`, and those of the layout editor that count for every run:
@@ -38,8 +38,13 @@ class frmOptions : public QDialog {
     // Null while the layout editor is closed.
     frmEditLayout* Editor() const;
 
+    // Enables or disables this dialog and its layout editor. While the editor is open, the dialog stays
+    // disabled. A disabled dialog refuses to close; reject() closes both.
+    void SetUsable(bool usable);
+
   protected:
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     void done(int result) override;
 
   private:
@@ -62,10 +67,13 @@ class frmOptions : public QDialog {
     void Use();
     void Save();
     void EditLayout();
+    void ReleaseEditor();
+    void UpdateEnabled();
 
     Application& application_;
     UserInterface& ui_;
     QPointer<frmEditLayout> editor_;
+    bool usable_ = true;
 
     QCheckBox* chkRecursive_ = nullptr;
     QCheckBox* chkSpan_ = nullptr;

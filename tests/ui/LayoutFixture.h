@@ -25,7 +25,12 @@ namespace tunedex::test {
 class WindowInterface final : public UserInterface {
   public:
     MainFields Fields() const override { return fake.Fields(); }
-    void FillFields(const MainFields& fields) override { fake.FillFields(fields); }
+    void FillFields(const MainFields& fields) override {
+        fake.FillFields(fields);
+        if (options != nullptr) {
+            options->LoadControls();
+        }
+    }
     void TakeControls(Settings& settings) override {
         fake.TakeControls(settings);
         if (options != nullptr) {

@@ -189,6 +189,7 @@ void ThemePanelTest::AThemeMayCarryOtherSettingsForTheOtherWindows() {
     with.folder.Write("Themes/All.thm", "PageTitle=From the theme\r\nSpanning=12\r\nLinkPrefix=theme:\r\n"
                                         "ActiveColumns=Title\r\nDocumentType=XHTML\r\nTableSpacing=3\r\n");
     frmOptions options(with.application, with.ui);
+    with.ui.options = &options;
     Show(options);
     Click(options, u"cmdEditLayout"_s);
     Button(*options.Editor(), u"cmdLoadTheme"_s).click();
