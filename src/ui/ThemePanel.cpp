@@ -27,7 +27,7 @@ constexpr const char* kBadName = "This cannot be the name of a theme.\r\n\r\n"
 
 } // namespace
 
-ThemePanel::ThemePanel(Application& application, UserInterface& ui, const Choosers& choosers,
+ThemePanel::ThemePanel(Application& application, WindowInterface& ui, const Choosers& choosers,
                        std::function<ThemeContent()> content, QWidget* parent)
     : QGroupBox(u"Themes"_s, parent), application_(application), ui_(ui), choosers_(choosers),
       content_(std::move(content)), lvwThemes_(new QListWidget),
@@ -102,7 +102,7 @@ bool ThemePanel::Attempt(const std::function<void()>& command) {
         command();
         return true;
     } catch (const RunTimeError& error) {
-        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
+        ui_.ShowMessage(*window(), UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
         return false;
     }
 }
@@ -128,7 +128,7 @@ void ThemePanel::SaveTheme() {
         return;
     }
     if (!IsThemeName(name)) {
-        ShowMessage(ui_, kBadName, kOkExclamation, kErrorTitle);
+        ui_.ShowMessage(*window(), kBadName, kOkExclamation, kErrorTitle);
         return;
     }
     const bool saved = Attempt([&] { WriteThemeFile(StoredThemePath(application_.programFolder, name)); });
@@ -140,8 +140,8 @@ void ThemePanel::SaveTheme() {
 
 void ThemePanel::WriteThemeFile(const std::string& path) {
     if (FileExists(path)) {
-        const int answer =
-            ShowMessage(ui_, "This theme already exists!\r\n\r\nOverwrite?", kYesNoQuestion, kSaveTitle);
+        const int answer = ui_.ShowMessage(*window(), "This theme already exists!\r\n\r\nOverwrite?",
+                                           kYesNoQuestion, kSaveTitle);
         if (answer != kAnswerYes) {
             return;
         }
@@ -156,7 +156,7 @@ void ThemePanel::WriteThemeFile(const std::string& path) {
 void ThemePanel::DeleteTheme(const std::string& name) {
     const std::string question =
         "Are you sure you want to delete\r\nthe " + name + " theme?\r\n\r\nYou cannot recover it afterwards!";
-    if (ShowMessage(ui_, question, kYesNoExclamation, "Delete Theme") != kAnswerYes) {
+    if (ui_.ShowMessage(*window(), question, kYesNoExclamation, "Delete Theme") != kAnswerYes) {
         return;
     }
     Attempt([&] { DeleteFile(StoredThemePath(application_.programFolder, name)); });

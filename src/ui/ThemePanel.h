@@ -4,7 +4,7 @@
 #include "Application.h"
 #include "Choosers.h"
 #include "Themes.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QGroupBox>
 
@@ -22,7 +22,7 @@ class ThemePanel : public QGroupBox {
 
   public:
     // `content` tells what a theme saved now holds. What is referred to must live as long as the panel.
-    ThemePanel(Application& application, UserInterface& ui, const Choosers& choosers,
+    ThemePanel(Application& application, WindowInterface& ui, const Choosers& choosers,
                std::function<ThemeContent()> content, QWidget* parent = nullptr);
 
     void ListThemes();
@@ -44,7 +44,7 @@ class ThemePanel : public QGroupBox {
     void EnableCommands();
 
     Application& application_;
-    UserInterface& ui_;
+    WindowInterface& ui_;
     const Choosers& choosers_;
     std::function<ThemeContent()> content_;
     QListWidget* lvwThemes_;

@@ -1,6 +1,5 @@
 #include "WidgetHelpers.h"
 
-#include "Functions.h"
 #include "Text.h"
 
 #include <QAbstractButton>
@@ -42,11 +41,11 @@ QString GeometryKey(const QWidget& window) {
     return u"Windows/"_s + window.objectName();
 }
 
-void OpenUrl(const QUrl& url, const Application& application, UserInterface& ui) {
+void OpenUrl(const QUrl& url, const Application& application, WindowInterface& ui, QWidget& owner) {
     if (!QDesktopServices::openUrl(url)) {
         const std::string shown = FromQt(url.toDisplayString());
-        ShowMessage(ui, "No program could be found to open\r\n" + shown, kOkExclamation,
-                    application.errorTitle);
+        ui.ShowMessage(owner, "No program could be found to open\r\n" + shown, kOkExclamation,
+                       application.errorTitle);
     }
 }
 
@@ -129,6 +128,7 @@ void SetTabOrders(const QList<QWidget*>& controls) {
 }
 
 void FocusAndSelectAll(QLineEdit& field) {
+    field.window()->activateWindow(); // after a message box the system may have chosen another window
     field.setFocus(Qt::OtherFocusReason);
     field.selectAll();
 }
@@ -160,19 +160,20 @@ void InstallProgramIcon() {
     QApplication::setWindowIcon(icon);
 }
 
-void OpenHelp(const Application& application, UserInterface& ui) {
+void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owner) {
     if (application.helpFile.empty()) {
-        ShowMessage(ui, "The help file could not be found!", kOkExclamation, application.errorTitle);
+        ui.ShowMessage(owner, "The help file could not be found!", kOkExclamation, application.errorTitle);
         return;
     }
     // Percent-encoded from the bytes, so that a path that is no UTF-8 opens too.
     const std::string absolute = std::filesystem::absolute(application.helpFile).string();
     const QByteArray path = QByteArray::fromStdString(absolute).toPercentEncoding("/");
-    OpenUrl(QUrl::fromEncoded("file://" + path), application, ui);
+    OpenUrl(QUrl::fromEncoded("file://" + path), application, ui, owner);
 }
 
-void OpenAddress(const QString& address, const Application& application, UserInterface& ui) {
-    OpenUrl(QUrl(address), application, ui);
+void OpenAddress(const QString& address, const Application& application, WindowInterface& ui,
+                 QWidget& owner) {
+    OpenUrl(QUrl(address), application, ui, owner);
 }
 
 } // namespace tunedex

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Application.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QList>
 #include <QString>
@@ -45,7 +45,7 @@ void PressOnHelpKey(QWidget& window, QAbstractButton& button);
 // The order in which Tab visits the controls.
 void SetTabOrders(const QList<QWidget*>& controls);
 
-// Puts the focus into the field and selects its whole text.
+// Activates the field's window, puts the focus into the field and selects its whole text.
 void FocusAndSelectAll(QLineEdit& field);
 
 // Enables or disables a control. Where that takes the focus from it, `heir` gets the focus; Qt would move it
@@ -60,9 +60,10 @@ void SaveWindowGeometry(const QWidget& window);
 // Gives the program's windows its icon. To be called once there is a QApplication.
 void InstallProgramIcon();
 
-// Opens the help file in the user's browser, or says that it could not be found.
-void OpenHelp(const Application& application, UserInterface& ui);
-// Opens an address with the program that the desktop has for it; a failure ends in a message.
-void OpenAddress(const QString& address, const Application& application, UserInterface& ui);
+// Opens the help file in the user's browser; a failure ends in a message of the window `owner`.
+void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owner);
+// Opens an address with the program that the desktop has for it; a failure ends in a message of the window
+// `owner`.
+void OpenAddress(const QString& address, const Application& application, WindowInterface& ui, QWidget& owner);
 
 } // namespace tunedex

@@ -6,7 +6,7 @@
 #include "frmOptions.h"
 #include "frmProgress.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QWindow>
@@ -23,6 +23,14 @@ void WaitUntilExposed(const QWidget& window) {
     while (!window.windowHandle()->isExposed() && timer.elapsed() < kLongestWaitForWindow) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
     }
+}
+
+// The window itself, or the first visible one that it belongs to; null where there is none.
+QWidget* VisibleOwner(QWidget* window) {
+    while (window != nullptr && !window->isVisible()) {
+        window = window->parentWidget() != nullptr ? window->parentWidget()->window() : nullptr;
+    }
+    return window;
 }
 
 } // namespace
@@ -95,15 +103,12 @@ void WindowsFrontEnd::TakeControls(Settings& settings) {
     }
 }
 
-QWidget* WindowsFrontEnd::MessageOwner() {
-    if (QWidget* dialog = QApplication::activeModalWidget(); dialog != nullptr) {
-        return dialog;
-    }
-    return main_.isVisible() ? &main_ : nullptr;
+int WindowsFrontEnd::ShowMessage(std::string_view text, int buttons, std::string_view title) {
+    return ShowMessage(main_, text, buttons, title);
 }
 
-int WindowsFrontEnd::ShowMessage(std::string_view text, int buttons, std::string_view title) {
-    return dialogs_.ShowMessage(MessageOwner(), ToQtDisplay(text), buttons, ToQtDisplay(title));
+int WindowsFrontEnd::ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) {
+    return dialogs_.ShowMessage(VisibleOwner(&owner), ToQtDisplay(text), buttons, ToQtDisplay(title));
 }
 
 void WindowsFrontEnd::FocusAndSelect(MainField field) {

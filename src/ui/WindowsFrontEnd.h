@@ -4,7 +4,7 @@
 #include "Application.h"
 #include "Dialogs.h"
 #include "ProgressMonitor.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 #include "frmMain.h"
 
 #include <QPointer>
@@ -16,7 +16,7 @@ namespace tunedex {
 class frmOptions;
 class frmProgress;
 
-class WindowsFrontEnd final : public UserInterface {
+class WindowsFrontEnd final : public WindowInterface {
   public:
     WindowsFrontEnd(Application& application, Dialogs& dialogs);
     ~WindowsFrontEnd() override;
@@ -29,6 +29,7 @@ class WindowsFrontEnd final : public UserInterface {
     void FillFields(const MainFields& fields) override;
     void TakeControls(Settings& settings) override;
     int ShowMessage(std::string_view text, int buttons, std::string_view title) override;
+    int ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) override;
     void FocusAndSelect(MainField field) override;
     void EnableWindows() override;
     RunMonitor& ShowProgress() override;
@@ -41,7 +42,6 @@ class WindowsFrontEnd final : public UserInterface {
     frmOptions* Options() const;
 
   private:
-    QWidget* MessageOwner();
     void CloseOptions();
 
     Application& application_;

@@ -27,7 +27,7 @@ QString VersionSentence() {
 
 } // namespace
 
-frmAbout::frmAbout(const Application& application, UserInterface& ui, QWidget* parent) : QDialog(parent) {
+frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget* parent) : QDialog(parent) {
     setObjectName(u"frmAbout"_s);
     setWindowTitle(tr("About ") + ToQt(kProductTitle));
 
@@ -48,11 +48,11 @@ frmAbout::frmAbout(const Application& application, UserInterface& ui, QWidget* p
     auto* cmdHomePage = new QPushButton(tr("&Home Page"));
     NameControl(*cmdHomePage, u"cmdHomePage"_s, tr("Home page"), ToQt(kHomePage));
     connect(cmdHomePage, &QPushButton::clicked, this,
-            [&application, &ui] { OpenAddress(ToQt(kHomePage), application, ui); });
+            [this, &application, &ui] { OpenAddress(ToQt(kHomePage), application, ui, *this); });
     auto* cmdEmail = new QPushButton(tr("&E-mail the Author"));
     NameControl(*cmdEmail, u"cmdEmail"_s, tr("E-mail the author"), ToQt(kEmail));
     connect(cmdEmail, &QPushButton::clicked, this,
-            [&application, &ui] { OpenAddress(u"mailto:"_s + ToQt(kEmail), application, ui); });
+            [this, &application, &ui] { OpenAddress(u"mailto:"_s + ToQt(kEmail), application, ui, *this); });
     auto* cmdOK = new QPushButton(tr("&OK"));
     NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Closes the window"));
     cmdOK->setDefault(true);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Application.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QDialog>
 
@@ -12,7 +12,7 @@ class frmAbout final : public QDialog {
     Q_OBJECT
 
   public:
-    frmAbout(const Application& application, UserInterface& ui, QWidget* parent);
+    frmAbout(const Application& application, WindowInterface& ui, QWidget* parent);
 };
 
 } // namespace tunedex

@@ -26,7 +26,7 @@ constexpr int kListWidthInCharacters = 60;
 
 } // namespace
 
-frmDirSelection::frmDirSelection(Application& application, UserInterface& ui, Dialogs& dialogs,
+frmDirSelection::frmDirSelection(Application& application, WindowInterface& ui, Dialogs& dialogs,
                                  QWidget* parent)
     : QDialog(parent), application_(application), ui_(ui), dialogs_(dialogs), lvwDirs_(new QTreeWidget),
       lblNumOfDirs_(new QLabel) {
@@ -151,7 +151,7 @@ void frmDirSelection::AddFolder(const std::string& folder) {
             return;
         }
     } catch (const RunTimeError& error) {
-        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
         return;
     }
     const std::vector<std::string> rows = Rows();
@@ -189,8 +189,8 @@ void frmDirSelection::Clear() {
     if (lvwDirs_->topLevelItemCount() == 0) {
         return;
     }
-    const int answer = ShowMessage(ui_, "Are you sure you want\r\nto clear the list?", kOkCancelQuestion,
-                                   "Clear Directories?");
+    const int answer = ui_.ShowMessage(*this, "Are you sure you want\r\nto clear the list?",
+                                       kOkCancelQuestion, "Clear Directories?");
     if (answer != kAnswerCancel) {
         lvwDirs_->clear();
         UpdateState();
@@ -237,7 +237,7 @@ void frmDirSelection::MoveBottom() {
 }
 
 void frmDirSelection::Help() {
-    OpenHelp(application_, ui_);
+    OpenHelp(application_, ui_, *this);
 }
 
 void frmDirSelection::Use() {

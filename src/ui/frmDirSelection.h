@@ -3,7 +3,7 @@
 
 #include "Application.h"
 #include "Dialogs.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QDialog>
 
@@ -22,7 +22,7 @@ class frmDirSelection final : public QDialog {
 
   public:
     // Shows the folders of the settings' multi-folder value.
-    frmDirSelection(Application& application, UserInterface& ui, Dialogs& dialogs, QWidget* parent);
+    frmDirSelection(Application& application, WindowInterface& ui, Dialogs& dialogs, QWidget* parent);
 
     // Stores the rows as the settings' folder value; without rows that stays as it is.
     void OKPressed_MakeDirs();
@@ -57,7 +57,7 @@ class frmDirSelection final : public QDialog {
     void UpdateState();
 
     Application& application_;
-    UserInterface& ui_;
+    WindowInterface& ui_;
     Dialogs& dialogs_;
     std::string lastFolder_; // where the next browsing begins
 

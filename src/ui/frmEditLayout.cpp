@@ -4,7 +4,6 @@
 #include "ColumnsPage.h"
 #include "DocumentPage.h"
 #include "FontsPage.h"
-#include "Functions.h"
 #include "NumberBox.h"
 #include "PageControls.h"
 #include "PreviewPane.h"
@@ -32,7 +31,7 @@ const QList<int> kUsualShares{490, 530};
 
 } // namespace
 
-frmEditLayout::frmEditLayout(Application& application, UserInterface& ui, QWidget* parent)
+frmEditLayout::frmEditLayout(Application& application, WindowInterface& ui, QWidget* parent)
     : QDialog(parent), application_(application), ui_(ui), tabStrip_(new QTabWidget),
       columns_(new ColumnsPage), fonts_(new FontsPage(choosers_)), colours_(new ColoursPage(choosers_)),
       table_(new TablePage),
@@ -86,7 +85,7 @@ QBoxLayout* frmEditLayout::BuildButtons() {
     PressOnHelpKey(*this, *cmdHelp_);
     chkPreview_->setChecked(true);
     cmdOK_->setDefault(true);
-    connect(cmdHelp_, &QPushButton::clicked, this, [this] { OpenHelp(application_, ui_); });
+    connect(cmdHelp_, &QPushButton::clicked, this, [this] { OpenHelp(application_, ui_, *this); });
     connect(chkPreview_, &QCheckBox::toggled, preview_, &QWidget::setVisible);
     connect(cmdOK_, &QPushButton::clicked, this, &frmEditLayout::UseLayout);
     connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
@@ -153,7 +152,7 @@ void frmEditLayout::UseLayout() {
     // The document type counts even when a number is then refused.
     application_.settings.DocumentType = document_->DocumentType();
     if (const auto fault = table_->FirstFault()) {
-        ShowMessage(ui_, fault->message, kOkExclamation, kValidationTitle);
+        ui_.ShowMessage(*this, fault->message, kOkExclamation, kValidationTitle);
         tabStrip_->setCurrentWidget(table_);
         FocusAndSelectAll(*fault->box);
         return;

@@ -3,7 +3,7 @@
 
 #include "Application.h"
 #include "Choosers.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QDialog>
 
@@ -31,7 +31,7 @@ class frmEditLayout : public QDialog {
 
   public:
     // The controls show the settings as they are now.
-    frmEditLayout(Application& application, UserInterface& ui, QWidget* parent = nullptr);
+    frmEditLayout(Application& application, WindowInterface& ui, QWidget* parent = nullptr);
 
     // Sets every control from the settings.
     void LoadControls();
@@ -61,7 +61,7 @@ class frmEditLayout : public QDialog {
     void UseLayout();
 
     Application& application_;
-    UserInterface& ui_;
+    WindowInterface& ui_;
     Choosers choosers_ = QtChoosers();
     std::function<Settings()> previewBase_;
 

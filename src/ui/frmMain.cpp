@@ -62,7 +62,7 @@ void ShowModal(QDialog* window) {
 
 } // namespace
 
-frmMain::frmMain(Application& application, UserInterface& ui, Dialogs& dialogs)
+frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs)
     : application_(application), ui_(ui), dialogs_(dialogs) {
     setObjectName(u"frmMain"_s);
     setWindowTitle(ToQt(kProductTitle) + u" v"_s + ToQt(kVersionText));
@@ -416,12 +416,12 @@ void frmMain::Guarded(const std::function<void()>& command) {
     try {
         command();
     } catch (const RunTimeError& error) {
-        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
     }
 }
 
 void frmMain::ShowHelp() {
-    OpenHelp(application_, ui_);
+    OpenHelp(application_, ui_, *this);
 }
 
 void frmMain::ShowTipOfTheDay() {
@@ -442,7 +442,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     }
     if (application_.settings.ConfirmQuit) {
         const int answer =
-            ShowMessage(ui_, "Do you really want\r\nto quit Tunedex?", kOkCancelQuestion, "Quit?");
+            ui_.ShowMessage(*this, "Do you really want\r\nto quit Tunedex?", kOkCancelQuestion, "Quit?");
         if (answer == kAnswerCancel) {
             event->ignore();
             return;

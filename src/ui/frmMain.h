@@ -3,7 +3,7 @@
 
 #include "Application.h"
 #include "Dialogs.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QMainWindow>
 
@@ -26,7 +26,7 @@ class frmMain final : public QMainWindow {
     Q_OBJECT
 
   public:
-    frmMain(Application& application, UserInterface& ui, Dialogs& dialogs);
+    frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs);
 
     MainFields Fields() const;
     // Fills every field; in multi-folder mode the folder field keeps its text, and the settings their
@@ -78,7 +78,7 @@ class frmMain final : public QMainWindow {
     void ShowAbout();
 
     Application& application_;
-    UserInterface& ui_;
+    WindowInterface& ui_;
     Dialogs& dialogs_;
     std::string settingsPath_; // the file last opened or saved; empty for the default one
     TitleField* placeholderTarget_ = nullptr;

@@ -48,7 +48,7 @@ void AddOptions(OptionGroup& group, QLayout& layout, std::initializer_list<Optio
 
 } // namespace
 
-frmOptions::frmOptions(Application& application, UserInterface& ui, QWidget* parent)
+frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* parent)
     : QDialog(parent), application_(application), ui_(ui), sizeType_(new OptionGroup(this)),
       sortOrder_(new OptionGroup(this)), linkType_(new OptionGroup(this)) {
     setObjectName(u"frmOptions"_s);
@@ -188,7 +188,7 @@ void frmOptions::BuildMenu() {
     QAction* topics = bar->addMenu(u"&Help"_s)->addAction(u"Help &topics"_s);
     topics->setObjectName(u"itmHelpTopics"_s);
     topics->setShortcut(QKeySequence::HelpContents);
-    connect(topics, &QAction::triggered, this, [this] { OpenHelp(application_, ui_); });
+    connect(topics, &QAction::triggered, this, [this] { OpenHelp(application_, ui_, *this); });
     layout()->setMenuBar(bar);
 }
 
@@ -288,7 +288,7 @@ bool frmOptions::Validate() {
     }
     const char* fault = txtFilesPerPage_->IsNumeric() ? "Files per page must be between -32768 and 32767."
                                                       : "Files per page must be a numeric value.";
-    ShowMessage(ui_, fault, kOkExclamation, kErrorTitle);
+    ui_.ShowMessage(*this, fault, kOkExclamation, kErrorTitle);
     FocusAndSelectAll(*txtFilesPerPage_);
     return false;
 }
@@ -331,7 +331,7 @@ void frmOptions::Save() {
     try {
         SaveSettingsCommand(application_, ui_, "");
     } catch (const RunTimeError& error) {
-        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
+        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
         return;
     }
     accept();

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Application.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -25,7 +25,7 @@ class frmOptions : public QDialog {
 
   public:
     // The controls show the settings as they are now.
-    frmOptions(Application& application, UserInterface& ui, QWidget* parent = nullptr);
+    frmOptions(Application& application, WindowInterface& ui, QWidget* parent = nullptr);
 
     // Sets every control from the settings, those of the open layout editor too.
     void LoadControls();
@@ -71,7 +71,7 @@ class frmOptions : public QDialog {
     void UpdateEnabled();
 
     Application& application_;
-    UserInterface& ui_;
+    WindowInterface& ui_;
     QPointer<frmEditLayout> editor_;
     bool usable_ = true;
 

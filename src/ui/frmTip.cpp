@@ -31,7 +31,7 @@ bool TipsOnStartup(const Registry& registry) {
     return LeadingNumber(text) != 0 || UpperCase(TrimBlanks(text)) == "TRUE"; // so it was written elsewhere
 }
 
-frmTip::frmTip(Application& application, UserInterface& ui, QWidget* parent)
+frmTip::frmTip(Application& application, WindowInterface& ui, QWidget* parent)
     : QDialog(parent), application_(application), ui_(ui), lblTipText_(new QLabel),
       chkLoadTipsAtStartup_(new QCheckBox(tr("&Show tips at start-up"))) {
     setObjectName(u"frmTip"_s);
@@ -95,7 +95,7 @@ void frmTip::LoadTips() {
     try {
         tips_.Load(TipsPath(application_.registry, RunningProgramFolder(), application_.programFolder));
     } catch (const RunTimeError& error) {
-        ShowMessage(ui_, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
     }
 }
 

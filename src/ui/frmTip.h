@@ -3,7 +3,7 @@
 
 #include "Application.h"
 #include "Tips.h"
-#include "UserInterface.h"
+#include "WindowInterface.h"
 
 #include <QDialog>
 
@@ -22,7 +22,7 @@ class frmTip final : public QDialog {
 
   public:
     // Loads the tips and shows a random one when tips are wanted at start-up; shows none otherwise.
-    frmTip(Application& application, UserInterface& ui, QWidget* parent);
+    frmTip(Application& application, WindowInterface& ui, QWidget* parent);
 
     void LoadTips();
     void DoNextTip();
@@ -35,7 +35,7 @@ class frmTip final : public QDialog {
     void DisplayCurrentTip();
 
     Application& application_;
-    UserInterface& ui_;
+    WindowInterface& ui_;
     Tips tips_;
     std::mt19937 generator_{std::random_device{}()};
     QLabel* lblTipText_;

@@ -21,8 +21,8 @@
 namespace tunedex::test {
 
 // Remembers messages and fields as the tests' front end does; controls are taken from the open options
-// dialog.
-class WindowInterface final : public UserInterface {
+// dialog, and filled with the fields.
+class FakeWindowInterface final : public WindowInterface {
   public:
     MainFields Fields() const override { return fake.Fields(); }
     void FillFields(const MainFields& fields) override {
@@ -42,6 +42,9 @@ class WindowInterface final : public UserInterface {
             whileMessageShows();
         }
         return fake.ShowMessage(text, buttons, title);
+    }
+    int ShowMessage(QWidget& /*owner*/, std::string_view text, int buttons, std::string_view title) override {
+        return ShowMessage(text, buttons, title);
     }
     void FocusAndSelect(MainField field) override { fake.FocusAndSelect(field); }
     void EnableWindows() override { fake.EnableWindows(); }
@@ -63,7 +66,7 @@ class LayoutFixture {
     FakeApplication fake{folder.Path()};
     Application& application = fake.application;
     Settings& settings = fake.application.settings;
-    WindowInterface ui;
+    FakeWindowInterface ui;
 
     using Message = FakeUserInterface::Message;
     std::vector<Message>& Messages() { return ui.fake.messages; }

@@ -1,7 +1,8 @@
-// The options dialog and the layout editor beside the main window: what works while they are open, and what a
-// run takes from them.
+// The options dialog and the layout editor beside the main window: what works while they are open, what a run
+// takes from them, and where a message leaves the focus.
 #include "Mp3Builder.h"
 #include "WindowTest.h"
+#include "frmDirSelection.h"
 #include "frmEditLayout.h"
 #include "frmOptions.h"
 #include "frmProgress.h"
@@ -9,8 +10,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTabWidget>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace tunedex;
@@ -58,6 +63,23 @@ void ClickOnScreen(QWidget& control) {
     QWidget& window = *control.window();
     const QPoint place = control.mapTo(&window, control.rect().center());
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+}
+
+// Presses Enter in the next message box, once it is there.
+void ConfirmNextMessage() {
+    QTimer::singleShot(0, qApp, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr && box->isVisible() && box->isActiveWindow()) {
+            QTest::keyClick(box, Qt::Key_Return);
+        } else {
+            ConfirmNextMessage();
+        }
+    });
+}
+
+bool IsFocusedWithWholeText(const QLineEdit& field) {
+    return QApplication::activeWindow() == field.window() && QApplication::focusWidget() == &field &&
+           !field.text().isEmpty() && field.selectedText() == field.text();
 }
 
 } // namespace
@@ -250,6 +272,87 @@ class OpenDialogsTest : public QObject {
         const std::string saved = ReadBytes(desk.folder / "Tunedex.cfg");
         QVERIFY(saved.find("\nErrorLog=1\r\n") != std::string::npos);
         QVERIFY(saved.find("\nDocumentType=XHTML\r\n") != std::string::npos);
+    }
+
+    void AMessageBelongsToTheWindowThatRaisesIt() {
+        EditDesk desk;
+        const auto owner = [&] { return desk.dialogs.messages.back().owner; };
+        frmOptions& options = desk.OpenOptions();
+        Choose(options, "itmHelpTopics");
+        QCOMPARE(owner(), &options);
+        Find<QLineEdit>(options, "txtFilesPerPage").setText(u"many"_s);
+        Click(options, "cmdUse");
+        QCOMPARE(owner(), &options);
+        Choose(desk.Main(), "itmHelpTopics");
+        QCOMPARE(owner(), &desk.Main());
+
+        frmEditLayout& editor = desk.OpenEditor();
+        Click(editor, "cmdHelp");
+        QCOMPARE(owner(), &editor);
+        Find<QLineEdit>(editor, "txtTableWidth").setText(u"wide"_s);
+        Click(editor, "cmdOK");
+        QCOMPARE(owner(), &editor);
+        desk.dialogs.answers = {kAnswerCancel};
+        Click(desk.Main(), "cmdQuit");
+        QCOMPARE(owner(), &desk.Main());
+
+        Find<QCheckBox>(desk.Main(), "chkMultipleDirs").click();
+        desk.TheSettings().Directory = "%MULT%/a";
+        Click(desk.Main(), "cmdSelectDirs");
+        auto& folders = OpenWindow<frmDirSelection>(desk.Main());
+        Click(folders, "cmdClear");
+        QCOMPARE(owner(), &folders);
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(7));
+    }
+
+    void AfterItsMessageABadNumberHasTheFocus_data() {
+        QTest::addColumn<QByteArray>("box");
+        QTest::addColumn<bool>("inEditor");
+        QTest::newRow("files per page") << QByteArray("txtFilesPerPage") << false;
+        QTest::newRow("table width") << QByteArray("txtTableWidth") << true;
+        QTest::newRow("border size") << QByteArray("txtBorderSize") << true;
+        QTest::newRow("cell padding") << QByteArray("txtCellPadding") << true;
+    }
+    void AfterItsMessageABadNumberHasTheFocus() {
+        QFETCH(QByteArray, box);
+        QFETCH(bool, inEditor);
+        Desk desk;
+        desk.TheSettings().SetDefaults();
+        Dialogs boxes; // the real ones
+        WindowsFrontEnd frontEnd(desk.fake.application, boxes);
+        frontEnd.MainWindow().show();
+        frontEnd.OpenOptions();
+        QWidget* window = frontEnd.Options();
+        if (inEditor) {
+            Click(*window, "cmdEditLayout");
+            window = frontEnd.Options()->Editor();
+        }
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        auto& field = Find<QLineEdit>(*window, box.constData());
+        field.setText(u"12a"_s);
+        auto& accept = Find<QPushButton>(*window, inEditor ? "cmdOK" : "cmdUse");
+        accept.setFocus();
+        ConfirmNextMessage();
+        accept.click();
+        QTRY_VERIFY(IsFocusedWithWholeText(field));
+        QTest::keyClick(window->windowHandle(), Qt::Key_5);
+        QCOMPARE(field.text(), u"5"_s);
+    }
+
+    void AfterItsMessageTheFolderFieldHasTheFocusAlthoughOptionsAreOpen() {
+        Desk desk;
+        desk.TheSettings().SetDefaults();
+        Dialogs boxes; // the real ones
+        WindowsFrontEnd frontEnd(desk.fake.application, boxes);
+        frontEnd.MainWindow().show();
+        auto& field = Find<QLineEdit>(frontEnd.MainWindow(), "txtInputDir");
+        field.setText(ToQt(desk.folder / "missing"));
+        frontEnd.OpenOptions();
+        QVERIFY(QTest::qWaitForWindowActive(frontEnd.Options()));
+        ConfirmNextMessage();
+        QVERIFY(!frontEnd.CreateList());
+        QTRY_VERIFY(IsFocusedWithWholeText(field));
     }
 };
 
