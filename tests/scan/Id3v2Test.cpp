@@ -242,6 +242,15 @@ TEST(ReadId3v2, ReadsFrameSizesAsPlainNumbersWithoutTheirHighestBit) {
     EXPECT_EQ(ReadV2Tag(high).Album, "A");
 }
 
+TEST(ReadId3v2, MissesTheFramesBehindAByteThatUnsynchronisationInserted) {
+    // Stored, a zero follows each FF; the picture's size does not count it.
+    const std::string picture = "APIC\x00\x00\x00\x04\x00\x00"s + "\xFF\x00\xE0\xFF\x00\xFB"s;
+    const TrackInfo track = ReadV2Tag(Id3v2Header(500) + Frame({"TALB", Latin1("Album")}) + picture +
+                                      Frame({"TIT2", Latin1("Song")}));
+    EXPECT_EQ(track.Album, "Album");
+    EXPECT_EQ(track.Title, "old title");
+}
+
 TEST(ReadId3v2, ReadsAFrameThatReachesBehindTheTag) {
     EXPECT_EQ(ReadV2Tag(Id3v2Header(12) + Frame({"TIT2", Latin1("longer than declared")})).Title,
               "longer than declared");

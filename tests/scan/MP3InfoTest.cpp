@@ -120,6 +120,14 @@ TEST(ReadTrackInfo, SearchesTheHeaderFromTheTagsLastByteOn) {
     EXPECT_EQ(Read(odd).track.MpegType, "2.0 III");
 }
 
+TEST(ReadTrackInfo, CountsAPictureIntoTheDurationOfAConstantBitrate) {
+    const std::string picture = Id3v2Tag({{"APIC", std::string(160000, 'p')}});
+    EXPECT_EQ(Read(Audio(160000)).track.Duration, "0:10");
+    EXPECT_EQ(Read(picture + Audio(160000)).track.Duration, "0:20");
+    EXPECT_EQ(Read(XingAudio(160000, 383)).track.Duration, "0:10");
+    EXPECT_EQ(Read(picture + XingAudio(160000, 383)).track.Duration, "0:10");
+}
+
 TEST(ReadTrackInfo, KeepsTheTagsOfAFileWithoutAudio) {
     const TrackReading reading = Read(std::string(200, 'a') + V1());
     ASSERT_TRUE(reading.decodeError);
