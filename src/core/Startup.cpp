@@ -104,17 +104,17 @@ bool CreateListCommand(Application& application, UserInterface& ui) {
     return CreateList(application, ui);
 }
 
-void SaveSettingsCommand(const Application& application, UserInterface& ui, const std::string& path) {
+std::string SaveSettingsCommand(const Application& application, const std::string& path) {
     const std::vector<std::string> leftOut =
         SaveSettings(application.settings, path, application.programFolder, StampNow(application));
     if (leftOut.empty()) {
-        return;
+        return {};
     }
     std::string text = "A settings file cannot hold a line break.\r\nThese settings were not saved:\r\n";
     for (const std::string& key : leftOut) {
         text += "\r\n" + key;
     }
-    ShowMessage(ui, text, kOkExclamation, "Settings");
+    return text;
 }
 
 void SaveStatisticsAtExit(const Application& application) {

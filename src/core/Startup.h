@@ -31,8 +31,10 @@ void TakeLayoutControls(Settings& settings);
 // The Create List command: folder field, entity table, then the list job. Whether the list was written.
 bool CreateListCommand(Application& application, UserInterface& ui);
 
-// Saves the settings to `path` as SaveSettings does, and names in a message those that could not be saved.
-void SaveSettingsCommand(const Application& application, UserInterface& ui, const std::string& path);
+// Saves the settings to `path` as SaveSettings does. Returns the text of the message, titled
+// kUnsavedSettingsTitle, that names the settings that could not be saved; empty when all were.
+std::string SaveSettingsCommand(const Application& application, const std::string& path);
+inline constexpr const char* kUnsavedSettingsTitle = "Settings";
 
 // Saves the statistics; the end of an interactive program.
 void SaveStatisticsAtExit(const Application& application);

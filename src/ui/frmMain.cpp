@@ -383,8 +383,8 @@ void frmMain::OpenSettings() {
         const LoadOutcome outcome =
             LoadSettings(application_.settings, *path, application_.programFolder, application_.faults);
         if (outcome == LoadOutcome::Missing) {
-            ShowMessage(ui_, "The specified settings file\r\ndoes not exist!", kOkExclamation,
-                        application_.errorTitle);
+            ui_.ShowMessage(*this, "The specified settings file\r\ndoes not exist!", kOkExclamation,
+                            application_.errorTitle);
             return;
         }
         settingsPath_ = *path;
@@ -407,8 +407,11 @@ void frmMain::SaveSettingsAs() {
 void frmMain::SaveSettingsTo(const std::string& path) {
     Guarded([&] {
         ui_.TakeControls(application_.settings);
-        SaveSettingsCommand(application_, ui_, path);
+        const std::string unsaved = SaveSettingsCommand(application_, path);
         settingsPath_ = path.empty() ? path : SettingsPath(path, application_.programFolder);
+        if (!unsaved.empty()) {
+            ui_.ShowMessage(*this, unsaved, kOkExclamation, kUnsavedSettingsTitle);
+        }
     });
 }
 

@@ -329,7 +329,10 @@ void frmOptions::Save() {
     }
     ui_.TakeControls(application_.settings);
     try {
-        SaveSettingsCommand(application_, ui_, "");
+        const std::string unsaved = SaveSettingsCommand(application_, "");
+        if (!unsaved.empty()) {
+            ui_.ShowMessage(*this, unsaved, kOkExclamation, kUnsavedSettingsTitle);
+        }
     } catch (const RunTimeError& error) {
         ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
         return;
