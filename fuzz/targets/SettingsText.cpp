@@ -39,7 +39,7 @@ bool ApplyPlainly(Settings& settings, const std::string& line) {
 } // namespace
 
 Settings ReadSettingsText(const std::string& bytes) {
-    const std::vector<std::string> lines = SplitTextLines(bytes);
+    const std::vector<std::string> lines = SplitTextLines(bytes, StrayBytes::Escaped);
     Settings settings;
     std::ostringstream faults;
     ApplySettings(settings, lines, "file", faults);
@@ -47,7 +47,8 @@ Settings ReadSettingsText(const std::string& bytes) {
     std::ptrdiff_t faulty = 0;
     for (const std::string& line : lines) {
         Require(line.find_first_of("\r\n") == std::string::npos, "a line holds no line end");
-        Require(IsValidUtf8(line), "a line holds characters");
+        RequireEqual(DecodeFileLine(EncodeFileLine(line, StrayBytes::Escaped), StrayBytes::Escaped), line,
+                     "a line written and read again");
         if (!line.empty() && line.front() != '#' && !ApplyPlainly(expected, line)) {
             ++faulty;
         }

@@ -28,7 +28,7 @@ void RunTheme(Bytes bytes) {
     again.AltRows = !read.AltRows;
     again.TableWidthUnit = again.TableWidth = again.TablePadding = again.TableBorder = -1;
     std::ostringstream faults;
-    ApplySettings(again, ReadTextLines(path), path, faults);
+    ApplySettings(again, ReadTextLines(path, StrayBytes::Escaped), path, faults);
     RequireEqual(faults.str(), "", "a saved theme has no faulty line");
     Require(again == read, "a theme survives saving and loading");
 }
