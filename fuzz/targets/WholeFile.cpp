@@ -110,7 +110,7 @@ void CheckListings(const TrackInfo& track, unsigned choices) {
         }
     }
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        Require(entry.path().filename().string().starts_with("list."), "nothing written aside is left");
+        Require(entry.path().filename().string().starts_with("list."), "no temporary file is left");
     }
 }
 

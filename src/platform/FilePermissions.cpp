@@ -18,7 +18,7 @@ constexpr const char* kAccessList = "system.posix_acl_access";
 constexpr const char* kDefaultList = "system.posix_acl_default";
 constexpr std::string_view kUserPrefix = "user.";
 constexpr mode_t kModeBits = 07777;
-constexpr mode_t kNewMode = 0666;
+constexpr mode_t kCreationMode = 0666;
 
 // False for a refusal, which the caller can deal with; anything else is an error. EINVAL: a list that names
 // users unknown to this user namespace.
@@ -145,7 +145,7 @@ bool GiveNewFilePermissions(int file, int folder) {
         // As the kernel does for a new file: the list, narrowed by the mode that the file is created with.
         struct stat status {};
         return SetAttribute(file, kAccessList, list) && Measure(file, status) &&
-               SetMode(file, status.st_mode & kNewMode);
+               SetMode(file, status.st_mode & kCreationMode);
     }
     if (!IsAbsent(errno)) {
         return false;
@@ -154,7 +154,7 @@ bool GiveNewFilePermissions(int file, int folder) {
     // private than it should be.
     const mode_t mask = umask(S_IRWXG | S_IRWXO);
     umask(mask);
-    return SetMode(file, kNewMode & ~mask);
+    return SetMode(file, kCreationMode & ~mask);
 }
 
 } // namespace tunedex

@@ -7,6 +7,7 @@
 #include "TemporaryFiles.h"
 #include "Uninterrupted.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -22,7 +23,7 @@ constexpr mode_t kNewMode = 0666;
 // Without O_NONBLOCK, opening a FIFO that nobody reads would block.
 constexpr int kWriteFlags = O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
 
-[[noreturn]] void Raise(int errorCode) {
+[[noreturn]] void Fail(int errorCode) {
     throw ErrorFromErrno(errorCode, FileTask::WriteFile);
 }
 
@@ -46,22 +47,20 @@ bool FolderForbidsReplacing(int folder, const struct stat& old) {
            user != status.st_uid && user != old.st_uid;
 }
 
-// The path of an open file, without links, as the kernel knows it.
+// The path of an open file, without links, as the kernel knows it; empty, with errno left, where it cannot be
+// learnt.
 std::string PathOfDescriptor(int descriptor) {
     const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
     std::array<char, PATH_MAX> path{};
     const ssize_t length = Uninterrupted([&] { return readlink(link.c_str(), path.data(), path.size()); });
-    if (length < 0) {
-        Raise(errno);
-    }
-    return {path.data(), static_cast<std::size_t>(length)};
+    return {path.data(), static_cast<std::size_t>(std::max<ssize_t>(length, 0))};
 }
 
 } // namespace
 
 FileReplacement::FileReplacement(const std::string& path, StaleFiles staleFiles) : staleFiles_(staleFiles) {
     if (path.find('\0') != std::string::npos) {
-        Raise(EINVAL);
+        Fail(EINVAL);
     }
     try {
         Open(path);
@@ -81,32 +80,32 @@ void FileReplacement::Open(const std::string& path) {
         // Opened before anything else: this follows links, judges permissions and leaves the file as it is.
         UniqueFd old = OpenToWrite(path, 0);
         if (old) {
-            OpenExisting(std::move(old), path);
+            OpenExisting(std::move(old), path, false);
             return;
         }
         if (errno != ENOENT) {
-            Raise(errno);
+            Fail(errno);
         }
         if (OpenNew(path)) {
             return;
         }
     }
-    Raise(ENOENT);
+    Fail(ENOENT);
 }
 
 // Returns false when there is a file after all.
 bool FileReplacement::OpenNew(const std::string& path) {
     if (!OpenFolderOf(path)) {
-        Raise(errno);
+        Fail(errno);
     }
     if (name_.empty()) {
-        Raise(path.empty() ? ENOENT : EISDIR);
+        Fail(path.empty() ? ENOENT : EISDIR);
     }
     struct stat status {};
     const auto look = [&] { return fstatat(folder_.Get(), name_.c_str(), &status, AT_SYMLINK_NOFOLLOW); };
     if (Uninterrupted(look) != 0) {
         if (errno != ENOENT) {
-            Raise(errno);
+            Fail(errno);
         }
         CreateFresh();
         return true;
@@ -117,27 +116,27 @@ bool FileReplacement::OpenNew(const std::string& path) {
     // A dangling link. Only creating its file lets the kernel follow it, with all its checks.
     UniqueFd made = OpenToWrite(path, O_CREAT);
     if (!made) {
-        Raise(errno);
+        Fail(errno);
     }
-    placeholder_ = true;
-    OpenExisting(std::move(made), path);
+    OpenExisting(std::move(made), path, true);
     return true;
 }
 
-void FileReplacement::OpenExisting(UniqueFd file, const std::string& path) {
+// `created`: the file was not there before, and is empty unless somebody was quicker.
+void FileReplacement::OpenExisting(UniqueFd file, const std::string& path, bool created) {
     struct stat status {};
-    if (Uninterrupted([&] { return fstat(file.Get(), &status); }) != 0) {
-        Raise(errno);
+    // A new file that cannot be examined is written in place: raising would leave it behind, empty.
+    if (Uninterrupted([&] { return fstat(file.Get(), &status); }) != 0 && !created) {
+        Fail(errno);
     }
-    placeholder_ = placeholder_ && S_ISREG(status.st_mode) && status.st_size == 0;
     if (S_ISREG(status.st_mode)) {
-        Locate(path, file.Get(), status);
+        Locate(path, file.Get(), status, created);
         if (folder_ && ReplaceOld(file.Get(), status)) {
             RemovePlaceholder();
             return;
         }
         if (Uninterrupted([&] { return ftruncate(file.Get(), 0); }) != 0) {
-            Raise(errno);
+            Fail(errno);
         }
     }
     written_ = std::move(file);
@@ -153,44 +152,36 @@ bool FileReplacement::OpenFolderOf(const std::string& path) {
     return static_cast<bool>(folder_);
 }
 
-// Whether name_ in folder_ is this very file, not a link to it.
-bool FileReplacement::Holds(const struct stat& file) const {
+// Whether the path itself, not what a link there leads to, is this very file; folder_ and name_ are then
+// those of the path. Otherwise leaves errno.
+bool FileReplacement::IsAt(const std::string& path, const struct stat& file) {
     struct stat status {};
     const auto look = [&] { return fstatat(folder_.Get(), name_.c_str(), &status, AT_SYMLINK_NOFOLLOW); };
-    if (Uninterrupted(look) != 0) {
-        if (IsUnreachable(errno)) {
-            return false;
-        }
-        Raise(errno);
+    if (!OpenFolderOf(path) || Uninterrupted(look) != 0) {
+        return false;
     }
+    errno = ENOENT;
     return status.st_dev == file.st_dev && status.st_ino == file.st_ino;
 }
 
-// Finds the folder and the name of the open file, or leaves no folder where it cannot be reached by name.
-void FileReplacement::Locate(const std::string& path, int file, const struct stat& status) {
-    const auto found = [&](const std::string& candidate) {
-        if (OpenFolderOf(candidate)) {
-            return Holds(status);
+// Finds the folder and the name of the open file, or leaves no folder where no path leads to it. A failure to
+// find a file that was just created is no reason to fail: nothing is lost by writing it in place.
+void FileReplacement::Locate(const std::string& path, int file, const struct stat& status, bool created) {
+    std::string real;
+    if (!IsAt(path, status)) {
+        real = PathOfDescriptor(file);
+        if (real.empty() || !IsAt(real, status)) {
+            const int failure = errno;
+            folder_.Reset();
+            // A file whose name is unknown could be a track.
+            if (!created && (real.empty() || !IsUnreachable(failure))) {
+                Fail(failure);
+            }
         }
-        if (!IsUnreachable(errno)) {
-            Raise(errno);
-        }
-        return false;
-    };
-    if (found(path)) {
-        return;
     }
-    const std::string real = PathOfDescriptor(file);
-    const bool located = found(real);
+    placeholder_ = created && folder_ && status.st_size == 0;
     if (NamesTrack(real)) {
-        if (!located) {
-            placeholder_ = false;
-        }
-        Raise(EACCES);
-    }
-    if (!located) {
-        folder_.Reset();
-        placeholder_ = false;
+        Fail(EACCES);
     }
 }
 
@@ -202,7 +193,7 @@ bool FileReplacement::ReplaceOld(int old, const struct stat& status) {
     }
     if (!CreateTemporary(kPrivateMode)) {
         if (!IsForbidden(errno)) {
-            Raise(errno);
+            Fail(errno);
         }
         return false;
     }
@@ -216,7 +207,7 @@ bool FileReplacement::ReplaceOld(int old, const struct stat& status) {
 // Prepares the temporary file for a name that is new.
 void FileReplacement::CreateFresh() {
     if (!CreateTemporary(kPrivateMode)) {
-        Raise(errno);
+        Fail(errno);
     }
     if (GiveNewFilePermissions(written_.Get(), folder_.Get())) {
         return;
@@ -224,7 +215,7 @@ void FileReplacement::CreateFresh() {
     // A file system on which modes cannot be changed, FAT say: it is given the mode when it is created.
     RemoveTemporary();
     if (!CreateTemporary(kNewMode)) {
-        Raise(errno);
+        Fail(errno);
     }
 }
 
@@ -264,14 +255,14 @@ void FileReplacement::Discard() noexcept {
 void FileReplacement::Commit() {
     // After EINTR the descriptor is gone all the same, and what was written is with the system.
     if (close(written_.Release()) != 0 && errno != EINTR) {
-        Raise(errno);
+        Fail(errno);
     }
     if (!temporary_.empty()) {
         const auto rename = [&] {
             return renameat(folder_.Get(), temporary_.c_str(), folder_.Get(), name_.c_str());
         };
         if (Uninterrupted(rename) != 0) {
-            Raise(errno);
+            Fail(errno);
         }
         temporary_.clear();
     }

@@ -39,10 +39,10 @@ class FileReplacement {
   private:
     void Open(const std::string& path);
     bool OpenNew(const std::string& path);
-    void OpenExisting(UniqueFd file, const std::string& path);
+    void OpenExisting(UniqueFd file, const std::string& path, bool created);
     bool OpenFolderOf(const std::string& path);
-    bool Holds(const struct stat& file) const;
-    void Locate(const std::string& path, int file, const struct stat& status);
+    bool IsAt(const std::string& path, const struct stat& file);
+    void Locate(const std::string& path, int file, const struct stat& status, bool created);
     bool ReplaceOld(int old, const struct stat& status);
     void CreateFresh();
     bool CreateTemporary(mode_t mode);
@@ -53,7 +53,7 @@ class FileReplacement {
     StaleFiles staleFiles_;
     UniqueFd folder_;          // the real file's folder; none when the file is written in place unlocated
     std::string name_;         // the real file's name in it
-    std::string temporary_;    // the name written under; empty when written in place
+    std::string temporary_;    // name of the temporary file; empty when written in place
     UniqueFd written_;         // the file being written
     bool placeholder_ = false; // name_ is an empty file that exists only to learn where a dangling link leads
 };

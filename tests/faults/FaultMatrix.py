@@ -277,7 +277,7 @@ def main():
 
 
 def after_a_kill(scenario, outcome, right, before):
-    """Every file is as it was or as it was to be; what was written aside may be left."""
+    """Every file is as it was or as it was to be; a temporary file may be left."""
     if outcome.status != -9:
         return [] if outcome.struck == 0 and outcome.status == right.status else [f"survives with {outcome.status}"]
     # Only creating the file of a dangling link tells where it leads: for that moment it is there and empty.
