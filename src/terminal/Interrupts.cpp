@@ -3,45 +3,46 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
+#include <fcntl.h>
 #include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 namespace tunedex {
 
 namespace {
 
 constexpr std::array<int, 3> kInterrupts = {SIGINT, SIGTERM, SIGHUP};
+constexpr int kForever = -1;
 
-volatile std::sig_atomic_t interrupted = 0; // all that the signal handler may touch
+// What the signal handler touches. The event is made before the handler is set, and is never read: from the
+// first signal on, every wait for it ends at once. A wait that relied on EINTR would miss a signal that
+// arrives just before it, or one that the system delivers to another thread.
+volatile std::sig_atomic_t interrupted = 0;
+volatile std::sig_atomic_t interruptEvent = -1;
 
 void OnInterrupt(int /*signal*/) {
+    const int errorCode = errno;
     interrupted = 1;
+    const std::uint64_t one = 1;
+    (void)!write(interruptEvent, &one, sizeof one);
+    errno = errorCode;
 }
 
-// Blocks the signals while it lives.
-class BlockedInterrupts {
-  public:
-    BlockedInterrupts() {
-        sigset_t signals;
-        sigemptyset(&signals);
-        for (const int number : kInterrupts) {
-            sigaddset(&signals, number);
-        }
-        pthread_sigmask(SIG_BLOCK, &signals, &before_);
+// Waits for the descriptor or for a signal.
+void Wait(int descriptor, short events, int milliseconds) {
+    std::array<pollfd, 2> waiting{{{descriptor, events, 0}, {interruptEvent, POLLIN, 0}}};
+    while (!Interrupted() && poll(waiting.data(), waiting.size(), milliseconds) < 0 && errno == EINTR) {
     }
-    BlockedInterrupts(const BlockedInterrupts&) = delete;
-    BlockedInterrupts& operator=(const BlockedInterrupts&) = delete;
-    ~BlockedInterrupts() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-
-    // ppoll with the signals let in. Returns what it returns.
-    int Poll(pollfd& waiting, const timespec* timeout) const { return ppoll(&waiting, 1, timeout, &before_); }
-
-  private:
-    sigset_t before_;
-};
+}
 
 } // namespace
 
 void CatchInterrupts() {
+    if (interruptEvent < 0) {
+        interruptEvent = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    }
     struct sigaction action {};
     action.sa_handler = OnInterrupt;
     action.sa_flags = static_cast<int>(SA_RESETHAND);
@@ -58,39 +59,23 @@ bool Interrupted() {
 }
 
 bool WaitForInput(int descriptor) {
-    if (descriptor < 0) {
-        return !Interrupted(); // never ready for ppoll; the read reports the error
-    }
-    pollfd waiting{descriptor, POLLIN, 0};
-    if (poll(&waiting, 1, 0) == 0) { // ready input needs no signal mask: half the system calls
-        const BlockedInterrupts blocked;
-        while (!Interrupted() && blocked.Poll(waiting, nullptr) < 0 && errno == EINTR) {
-        }
+    if (descriptor >= 0) { // poll would ignore another; the read reports the error
+        Wait(descriptor, POLLIN, kForever);
     }
     return !Interrupted();
 }
 
 bool WaitForOutput(int descriptor) {
     if (descriptor < 0) {
-        return true;
+        return true; // the write reports the error
     }
-    pollfd waiting{descriptor, POLLOUT, 0};
-    int ready = poll(&waiting, 1, 0);
-    if (ready == 0) {
-        const BlockedInterrupts blocked;
-        while (!Interrupted() && (ready = blocked.Poll(waiting, nullptr)) < 0 && errno == EINTR) {
-        }
-    }
-    return ready > 0;
+    Wait(descriptor, POLLOUT, kForever);
+    pollfd now{descriptor, POLLOUT, 0};
+    return !Interrupted() || poll(&now, 1, 0) > 0;
 }
 
 bool PauseUnlessInterrupted(std::chrono::milliseconds duration) {
-    const BlockedInterrupts blocked;
-    pollfd nothing{-1, 0, 0};
-    const timespec time{duration.count() / 1000, duration.count() % 1000 * 1'000'000};
-    if (!Interrupted()) {
-        blocked.Poll(nothing, &time);
-    }
+    Wait(-1, 0, static_cast<int>(duration.count()));
     return !Interrupted();
 }
 

@@ -13,8 +13,7 @@ void CatchInterrupts();
 bool Interrupted();
 
 // Wait until the descriptor can be read or written without blocking; at its end or on an error, too, which
-// the next read or write then reports. The signals are blocked except within the wait, so none is lost just
-// before it.
+// the next read or write then reports. A signal ends them whichever thread it is delivered to.
 
 // Returns false once a signal has arrived.
 bool WaitForInput(int descriptor);

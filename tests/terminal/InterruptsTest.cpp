@@ -8,6 +8,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tunedex {
@@ -61,11 +62,25 @@ TEST(Interrupts, ASignalEndsAWaitForInput) {
         CatchInterrupts();
         std::raise(SIGHUP);
         EXPECT_FALSE(WaitForInput(ends[0]));
-        EXPECT_FALSE(PauseUnlessInterrupted(std::chrono::hours(1)));
+        EXPECT_FALSE(PauseUnlessInterrupted(std::chrono::minutes(10)));
     });
     ASSERT_EQ(write(ends[1], "x", 1), 1);
     EXPECT_TRUE(WaitForInput(ends[0]));
     EXPECT_TRUE(WaitForInput(-1)) << "the read reports that there is no input";
+    close(ends[0]);
+    close(ends[1]);
+}
+
+// The readers of a run are threads that a signal may be delivered to while it waits for an answer.
+TEST(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+    test::InChild([&] {
+        CatchInterrupts();
+        std::thread receiver([] { pthread_kill(pthread_self(), SIGINT); });
+        EXPECT_FALSE(WaitForInput(ends[0]));
+        receiver.join();
+    });
     close(ends[0]);
     close(ends[1]);
 }
