@@ -2,16 +2,18 @@
 // exit status.
 
 #include "Application.h"
+#include "CommandLine.h"
+#include "Display.h"
 #include "QSettingsRegistry.h"
 #include "RunTerminal.h"
 #include "RunWindows.h"
-#include "Startup.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <exception>
 #include <fcntl.h>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -19,16 +21,6 @@
 namespace {
 
 constexpr int kCouldNotStart = 2;
-
-bool HasDisplay() {
-    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        const char* value = std::getenv(variable);
-        if (value != nullptr && *value != '\0') {
-            return true;
-        }
-    }
-    return false;
-}
 
 // Started with a standard stream closed, the program would get its number for the next file it opens, and
 // messages would end up in a listing.
@@ -40,13 +32,25 @@ void OpenStandardStreams() {
     }
 }
 
+int Print(const std::string& text) {
+    std::cout << text << std::flush;
+    if (std::cout) {
+        return EXIT_SUCCESS;
+    }
+    std::cerr << "Tunedex: standard output cannot be written.\n";
+    return kCouldNotStart;
+}
+
 int Run(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    if (const std::optional<std::string> information = tunedex::InformationText(arguments)) {
+        return Print(*information);
+    }
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
     const bool automatic = tunedex::IsAutomatic(arguments);
-    if (HasDisplay()) {
+    if (!tunedex::DisplayVariables().empty()) {
         return tunedex::RunWindows(argc, argv, application, automatic);
     }
     if (automatic) {

@@ -1,5 +1,5 @@
 // The bytes are arguments, each up to a NUL.
-#include "Startup.h"
+#include "CommandLine.h"
 #include "Targets.h"
 
 #include <string>

@@ -1,10 +1,10 @@
 #include "Startup.h"
 
+#include "CommandLine.h"
 #include "FileSystem.h"
 #include "Functions.h"
 #include "ListJob.h"
 #include "ProgramFolder.h"
-#include "Text.h"
 #include "Version.h"
 
 #include <exception>
@@ -47,14 +47,6 @@ void StartStatistics(Application& application, UserInterface& ui) {
 FileStamp StampNow(const Application& application) {
     const std::tm now = application.clock.LocalTime();
     return {kVersionText, application.locale.ShortDate(now), application.locale.ShortTime(now)};
-}
-
-bool IsAutomatic(const std::vector<std::string>& arguments) {
-    std::string commandLine;
-    for (const std::string& argument : arguments) {
-        commandLine += argument + ' ';
-    }
-    return UpperCase(commandLine).find("/AUTO") != std::string::npos;
 }
 
 void StartUp(Application& application, UserInterface& ui, const std::vector<std::string>& arguments) {

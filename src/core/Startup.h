@@ -11,9 +11,6 @@
 
 namespace tunedex {
 
-// Whether "/AUTO" occurs anywhere in the arguments, in any case, inside a longer word too.
-bool IsAutomatic(const std::vector<std::string>& arguments);
-
 // Finds the program's folder and help file, loads statistics and default settings, and fills the main
 // window's fields. Malformed statistics are reported in a message box and counted anew. Raises the error of a
 // program folder that cannot be made or a settings file that cannot be read: the program cannot start then.

@@ -1,9 +1,9 @@
 #include "RunWindows.h"
 
 #include "Dialogs.h"
+#include "Display.h"
 #include "FontPreload.h"
 #include "Functions.h"
-#include "Product.h"
 #include "Startup.h"
 #include "WidgetHelpers.h"
 #include "WindowsFrontEnd.h"
@@ -26,15 +26,13 @@ namespace {
 constexpr int kCannotStart = 2;
 constexpr int kIconDelay = 100; // milliseconds; by then the window has been painted
 
-// Qt ends a program that finds no display with abort(). This takes its word and ends it as any failed start.
-void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+// Qt calls abort() when it cannot open the display, after advice to reinstall the program. Intercepts its
+// fatal message and exits with the start-up failure status.
+void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type != QtFatalMsg) {
-        return; // what leads up to it is said again in the last word
+        return; // the messages that lead up to it
     }
-    const QString reason = message.section(u'\n', 0, 0).trimmed();
-    const std::string text =
-        std::string(kProductTitle) + " could not open the display.\n" + reason.toStdString() + "\n";
-    std::fputs(text.c_str(), stderr);
+    std::fputs(UnusableDisplayText(DisplayVariables()).c_str(), stderr);
     std::_Exit(kCannotStart);
 }
 

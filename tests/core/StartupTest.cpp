@@ -19,20 +19,6 @@ namespace {
 
 using Message = test::FakeUserInterface::Message;
 
-TEST(IsAutomatic, FindsTheSwitchAnywhereInAnyCase) {
-    const std::vector<std::vector<std::string>> automatic = {
-        {"/AUTO"},      {"/auto"},   {"/Auto"},     {"list.cfg", "/AUTO"},
-        {"/AUTOMATIC"}, {"x/autoy"}, {"--x=/auto"}, {"/music/automobiles"}};
-    for (const auto& arguments : automatic) {
-        EXPECT_TRUE(IsAutomatic(arguments)) << arguments.front();
-    }
-    const std::vector<std::vector<std::string>> interactive = {
-        {}, {""}, {"list.cfg"}, {"AUTO"}, {"-auto"}, {"/AU", "TO"}, {"/", "AUTO"}, {"\\AUTO"}, {"/aúto"}};
-    for (const auto& arguments : interactive) {
-        EXPECT_FALSE(IsAutomatic(arguments)) << (arguments.empty() ? "" : arguments.front());
-    }
-}
-
 class StartUpTest : public testing::Test {
   protected:
     void Start(const std::vector<std::string>& arguments = {}) { StartUp(fake_.application, ui_, arguments); }

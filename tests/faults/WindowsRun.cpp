@@ -1,9 +1,9 @@
 // The program with its windows, and somebody who answers its messages: every one is printed to standard error
 // and answered with its default button, or with Yes where TUNEDEX_ANSWER says "yes" and there is one.
 #include "Application.h"
+#include "CommandLine.h"
 #include "QSettingsRegistry.h"
 #include "RunWindows.h"
-#include "Startup.h"
 
 #include <QAbstractButton>
 #include <QApplication>

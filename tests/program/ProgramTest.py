@@ -147,6 +147,48 @@ class ProgramTest(unittest.TestCase):
     def test_says_that_there_is_no_display_and_could_not_start(self):
         self.expect(self.run_program("some.cfg"), 2, b"display")
 
+    def paths(self):
+        return sorted(self.folder.rglob("*"))
+
+    def test_prints_help_and_version_and_starts_nothing(self):
+        shutil.rmtree(self.folder / "config")
+        self.program()
+        before = self.paths()
+        for display in ({}, {"DISPLAY": ":65535"}, {"QT_QPA_PLATFORM": "offscreen"}):
+            for argument, text in (("--help", b"Usage: tunedex [/AUTO]\n"), ("--version", b"Tunedex 1.")):
+                with self.subTest(argument, **display):
+                    result = self.run_program(argument, settings=False, **display)
+                    self.assertEqual((result.returncode, result.stderr), (0, b""))
+                    self.assertTrue(result.stdout.startswith(text) and result.stdout.endswith(b"\n"), result.stdout)
+                    self.assertEqual(self.paths(), before)
+        with open("/dev/full", "wb") as full:
+            self.assertEqual(subprocess.run([self.program(), "--help"], stdout=full, check=False).returncode, 2)
+
+    def test_takes_help_for_an_option_only_where_it_is_the_single_argument(self):
+        self.track("a.mp3")
+        self.expect(self.run_program("--help", "/AUTO"), 0, *STATUSES)
+        self.expect(self.run_program("--Help"), 2, b"display")
+
+    def test_names_the_display_that_leads_nowhere_and_how_to_do_without(self):
+        self.track("a.mp3")
+        self.write_settings()
+        self.program()
+        before = self.paths()
+        nowhere = {"DISPLAY": ":65535", "WAYLAND_DISPLAY": "nowhere", "QT_QPA_PLATFORM": "nonsense"}
+        for names in (["DISPLAY"], ["WAYLAND_DISPLAY"], ["QT_QPA_PLATFORM"], ["DISPLAY", "WAYLAND_DISPLAY"], list(nowhere)):
+            variables = {name: nowhere[name] for name in names}
+            expected = "Tunedex could not open the display.\n" + "".join(
+                f'{name} is "{value}".\n' for name, value in variables.items())
+            command = ["env", *(word for name in names for word in ("-u", name)), "tunedex /AUTO"]
+            expected += f"To make the list without a display: {' '.join(command)}\n"
+            for arguments in ([], ["/AUTO"], ["some.cfg"]):
+                with self.subTest(arguments=arguments, **variables):
+                    result = subprocess.run([self.program(), *arguments], capture_output=True, timeout=240, check=False,
+                                            cwd=self.folder, env=self.environment(**variables))
+                    self.expect(result, 2)
+                    self.assertEqual(result.stderr.decode(), expected)
+                    self.assertEqual(self.paths(), before)
+
     def test_gives_the_same_bytes_twice(self):
         for number in range(40):
             self.track(f"folder {number % 5}/{number}.mp3", f"Ärtist {number * 7 % 40}", f"Title {number % 3}")

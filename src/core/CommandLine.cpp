@@ -1,0 +1,69 @@
+#include "CommandLine.h"
+
+#include "Product.h"
+#include "Text.h"
+#include "Version.h"
+
+namespace tunedex {
+
+namespace {
+
+// At most 80 columns. The manual page has the same entries in the same words.
+constexpr const char* kHelpText = R"(Usage: tunedex [/AUTO]
+       tunedex --help
+       tunedex --version
+
+Catalogue a collection of MP3 files: read their ID3 tags and MPEG audio headers
+and write one listing, as web page (.htm), text (.txt) or playlist (.m3u).
+Without an argument the main window opens.
+
+Options:
+  /AUTO      Create the list that the default settings file describes, without
+             the main window, and end. The switch is recognised anywhere on the
+             command line, in upper or lower case.
+  --help     As the single argument: print a summary and end.
+  --version  As the single argument: print the version and end.
+
+Where none of DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM is set, a run with
+/AUTO prints progress and messages on standard error and reads answers from
+standard input.
+
+Files in the program folder (of an installed program ~/.local/share/tunedex/):
+  Tunedex.cfg        the default settings
+  Themes/*.thm       layout themes
+  html_entities.lst  what each special character becomes in a page
+  tips.lst           the tips of the day, one a line
+  stats.lst          the usage statistics
+  Tunedex.log        the errors of the latest run, when the settings ask for a
+                     log
+
+Exit status of an unattended run:
+  0  when the list was written
+  1  when it was not
+  2  when the program could not start
+)";
+
+} // namespace
+
+std::optional<std::string> InformationText(const std::vector<std::string>& arguments) {
+    if (arguments.size() != 1) {
+        return std::nullopt;
+    }
+    if (arguments.front() == "--help") {
+        return kHelpText;
+    }
+    if (arguments.front() == "--version") {
+        return std::string(kProductTitle) + " " + kVersionText + "." + kBuildNumber + "\n";
+    }
+    return std::nullopt;
+}
+
+bool IsAutomatic(const std::vector<std::string>& arguments) {
+    std::string commandLine;
+    for (const std::string& argument : arguments) {
+        commandLine += argument + ' ';
+    }
+    return UpperCase(commandLine).find("/AUTO") != std::string::npos;
+}
+
+} // namespace tunedex
