@@ -57,6 +57,7 @@ class HtmlPages {
             several ? files_.PathOf(number) : settings_.OutputFile, TextEncoding::Windows1252References,
             [this] { return listing_.monitor.AbortRequested(); },
             number == 1 ? StaleFiles::Remove : StaleFiles::Keep);
+        page_.SetSink(TextFile::kPieceBytes, [&file](std::string_view text) { file.Write(text); });
         std::string navigation;
         std::string heading;
         page_.Put(headStart_);
@@ -73,18 +74,18 @@ class HtmlPages {
         WritePageHeading(heading, settings_, number, files_.count, lineBreak_);
         page_.Put(heading);
         page_.Put(tableHead_);
-        const bool whole = WriteRows(file, number, rows);
+        const bool whole = WriteRows(number, rows);
         if (whole) {
             page_.Put(tableFoot_);
             page_.Put(navigation);
             page_.Put(end_);
         }
-        HandOver(file);
+        page_.HandOver();
         file.Close();
         return whole && !file.Stopped();
     }
 
-    bool WriteRows(TextFile& file, std::int32_t number, const TrackRowWriter& rows) {
+    bool WriteRows(std::int32_t number, const TrackRowWriter& rows) {
         std::size_t first = 1;
         std::size_t last = listing_.tracks.Count();
         if (settings_.Spanning > 0) {
@@ -96,19 +97,11 @@ class HtmlPages {
         for (std::size_t position = first; position <= last; ++position) {
             kind = NextKind(kind, settings_.AltRows);
             rows.WriteTrackRow(page_, kind, position);
-            if (page_.Size() >= TextFile::kPieceBytes) {
-                HandOver(file);
-            }
             if (listing_.monitor.AbortRequested()) {
                 return false;
             }
         }
         return true;
-    }
-
-    void HandOver(TextFile& file) {
-        file.Write(page_.View());
-        page_.Clear();
     }
 
     Listing& listing_;

@@ -44,6 +44,7 @@ bool WriteM3uListing(Listing& listing) {
                   [&] { return listing.monitor.AbortRequested(); });
     bool aborted = false;
     PageBuffer text;
+    text.SetSink(TextFile::kPieceBytes, [&file](std::string_view piece) { file.Write(piece); });
     text.Put("#EXTM3U\r\n");
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
@@ -57,14 +58,10 @@ bool WriteM3uListing(Listing& listing) {
         text.Put("\r\n");
         text.PutPadded(track.FullPath);
         text.Put("\r\n");
-        if (text.Size() >= TextFile::kPieceBytes) {
-            file.Write(text.View());
-            text.Clear();
-        }
         listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         aborted = listing.monitor.AbortRequested();
     }
-    file.Write(text.View());
+    text.HandOver();
     file.Close();
     return aborted || file.Stopped();
 }

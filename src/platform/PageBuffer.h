@@ -1,4 +1,5 @@
-// The text of a page on its way to the file: put together at speed from many short pieces.
+// The text of a page on its way to the file: put together at speed from many short pieces. With a sink its
+// memory is bounded, however long the page and each text on it.
 #pragma once
 
 #include <algorithm>
@@ -6,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -18,15 +20,34 @@ class PageBuffer {
     // hold: copying in whole steps is several times as fast as to the byte.
     static constexpr std::size_t kStep = 16;
 
+    // Takes the text of a full buffer. Each call gets whole characters, where each text that is put holds
+    // them.
+    using Sink = std::function<void(std::string_view)>;
+
+    // From now on a buffer of `pieceBytes` bytes is handed to `sink` instead of growing. What the sink raises
+    // leaves the call that filled the buffer.
+    void SetSink(std::size_t pieceBytes, Sink sink) {
+        pieceBytes_ = pieceBytes;
+        sink_ = std::move(sink);
+    }
+    // Hands what is in the buffer to the sink, which must be set.
+    void HandOver();
+
     // Appends any text.
     void Put(std::string_view text) {
-        MakeRoom(text.size());
+        if (capacity_ - used_ < text.size()) {
+            PutSlowly(text);
+            return;
+        }
         std::copy(text.begin(), text.end(), End());
         Advance(text.size());
     }
     // Appends a padded text.
     void PutPadded(std::string_view text) {
-        MakeRoom(text.size());
+        if (capacity_ - used_ < text.size()) {
+            PutSlowly(text);
+            return;
+        }
         for (std::size_t i = 0; i < text.size(); i += kStep) {
             std::memcpy(End() + i, text.data() + i, kStep);
         }
@@ -40,11 +61,11 @@ class PageBuffer {
         Advance(static_cast<std::size_t>(std::to_chars(End(), End() + kLongest, value).ptr - End()));
     }
 
-    // For who fills the buffer without us: makes room for so many bytes and one step more, tells where they
-    // go, and takes note of how many went.
+    // For callers that write directly: reserve `count + kStep` bytes, write at End(), then Advance(). `count`
+    // is small: with a sink, reserving the bytes of a whole text would take its memory a second time.
     void MakeRoom(std::size_t count) {
-        if (capacity_ - used_ < count + kStep) {
-            Grow(count + kStep);
+        if (capacity_ - used_ < count) {
+            Grow(count);
         }
     }
     char* End() { return bytes_.get() + used_; }
@@ -52,23 +73,20 @@ class PageBuffer {
 
     std::string_view View() const { return {bytes_.get(), used_}; }
     std::size_t Size() const { return used_; }
-    // Takes back what was appended beyond the first `size` bytes.
+    // Drops what was appended beyond the first `size` bytes. With a sink only the latest text is sure to be
+    // in the buffer still.
     void CutTo(std::size_t size) { used_ = size; }
     // Keeps the memory.
     void Clear() { used_ = 0; }
 
   private:
-    void Grow(std::size_t needed) {
-        constexpr std::size_t kLeast = 4096;
-        const std::size_t capacity = std::max({kLeast, capacity_ * 2, used_ + needed});
-        std::unique_ptr<char[]> bytes(new char[capacity]); // NOLINT(modernize-avoid-c-arrays): not zeroed
-        std::copy_n(bytes_.get(), used_, bytes.get());
-        bytes_ = std::move(bytes);
-        capacity_ = capacity;
-    }
+    void PutSlowly(std::string_view text);
+    void Grow(std::size_t needed);
 
+    Sink sink_;
+    std::size_t pieceBytes_ = 0;
     std::unique_ptr<char[]> bytes_; // NOLINT(modernize-avoid-c-arrays): not zeroed
-    std::size_t capacity_ = 0;
+    std::size_t capacity_ = 0;      // one step less than is allocated
     std::size_t used_ = 0;
 };
 

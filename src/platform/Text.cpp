@@ -173,6 +173,20 @@ TextStep StepAt(std::string_view text, std::size_t position) {
     return {value, length, false};
 }
 
+std::size_t WholeCharacters(std::string_view text, std::size_t most) {
+    if (text.size() <= most) {
+        return text.size();
+    }
+    // A lead byte always begins a step, so only a character that begins in the last three bytes can be split.
+    constexpr std::size_t kLongestStart = 3;
+    for (std::size_t before = 1; before <= kLongestStart; ++before) {
+        if (StepAt(text, most - before).length > before) {
+            return most - before;
+        }
+    }
+    return most;
+}
+
 bool IsAscii(std::string_view text) {
     return AsciiRun(text, 0) == text.size();
 }

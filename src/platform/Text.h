@@ -26,6 +26,10 @@ bool IsAscii(std::string_view text);
 // Whether the text holds no stray byte.
 bool IsValidUtf8(std::string_view text);
 
+// The length of the longest start of `text` that has at most `most` bytes and splits no character; `most` is
+// 4 or more. A long text is worked on in such pieces.
+std::size_t WholeCharacters(std::string_view text, std::size_t most);
+
 void AppendUtf8(std::string& text, char32_t character);
 
 char32_t FromWindows1252(unsigned char byte);

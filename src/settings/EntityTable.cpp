@@ -137,8 +137,8 @@ std::string_view EntityTable::Expansion(unsigned char byte) const {
     return expansions_[byte];
 }
 
-void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
-    std::size_t done = 0; // what is before this is in the result
+template <class Put> void EntityTable::Escape(std::string_view text, Put put) const {
+    std::size_t done = 0; // what is before this has been put
     for (std::size_t i = 0; i < text.size();) {
         // Nearly every character of nearly every text is ASCII that stays as it is.
         while (i < text.size() && staysAscii_[static_cast<unsigned char>(text[i])]) {
@@ -150,13 +150,17 @@ void EntityTable::AppendEscaped(std::string& result, std::string_view text) cons
         const TextStep step = StepAt(text, i);
         const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
         if (byte && changes_[*byte]) {
-            result.append(text, done, i - done);
-            result += Expansion(*byte);
+            put(text.substr(done, i - done));
+            put(Expansion(*byte));
             done = i + step.length;
         }
         i += step.length;
     }
-    result.append(text, done);
+    put(text.substr(done));
+}
+
+void EntityTable::AppendEscaped(std::string& result, std::string_view text) const {
+    Escape(text, [&result](std::string_view piece) { result += piece; });
 }
 
 // How many of the bytes stand before the first that may change.
@@ -176,7 +180,7 @@ std::size_t EntityTable::PlainLength(const StepBytes& bytes) const {
 
 void EntityTable::PutEscaped(PageBuffer& page, std::string_view text) const {
     if (manyMarks_) {
-        page.Put(EscapeEntities(text));
+        Escape(text, [&page](std::string_view piece) { page.Put(piece); });
         return;
     }
     while (!text.empty()) {

@@ -53,6 +53,8 @@ class EntityTable {
 
     void BuildExpansions();
     std::string_view Expansion(unsigned char byte) const;
+    // Calls `put` with the escaped text, piece by piece.
+    template <class Put> void Escape(std::string_view text, Put put) const;
     std::size_t PlainLength(const StepBytes& bytes) const;
 
     std::vector<Slot> slots_;

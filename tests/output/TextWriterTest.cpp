@@ -157,5 +157,19 @@ TEST_F(TextWriterTest, KeepsTabsLineBreaksAndStrayBytes) {
     EXPECT_EQ(Written("list.txt"), "Title\tFilename\r\na\tb\r\nc\t\xFF\xE3\x81.mp3\r\n");
 }
 
+TEST_F(TextWriterTest, LeavesNothingOfALongLineThatIsAborted) {
+    std::vector<TrackInfo> infos = {SevenTracks()[0], SevenTracks()[0]};
+    infos[1].Title.assign(4 * TextFile::kPieceBytes, 't');
+    Use(infos);
+    settings.OutputFile = folder / "list.txt";
+    settings.ActiveColumns = "Title|Year";
+    EXPECT_FALSE(Write(kTextOutput));
+    EXPECT_TRUE(Written("list.txt") == "Title\tYear\r\nWaterloo\t1974\r\n" + infos[1].Title + "\t1974\r\n");
+    monitor.asked = 0;
+    monitor.abortAtQuestion = 4;
+    EXPECT_TRUE(Write(kTextOutput));
+    EXPECT_EQ(Written("list.txt"), "Title\tYear\r\nWaterloo\t1974\r\n");
+}
+
 } // namespace
 } // namespace tunedex

@@ -51,5 +51,27 @@ TEST(PageBuffer, TakesBackWhatWasAppendedLast) {
     EXPECT_EQ(page.View(), "kept7");
 }
 
+TEST(PageBuffer, HandsItsTextToTheSinkInBoundedPiecesOfWholeCharacters) {
+    constexpr std::size_t kPieceBytes = 262144;
+    std::string text; // three bytes each, so that most bounds fall into one
+    while (text.size() < 4 * kPieceBytes) {
+        text += "\xE2\x82\xAC";
+    }
+    const std::string padded = text + std::string(PageBuffer::kStep, '#');
+    std::string taken;
+    PageBuffer page;
+    page.SetSink(kPieceBytes, [&](std::string_view piece) {
+        EXPECT_LE(piece.size(), kPieceBytes);
+        EXPECT_EQ(piece.size() % 3, 0U) << "a character is split";
+        taken += piece;
+    });
+    page.Put(text);
+    page.PutPadded(std::string_view(padded).substr(0, text.size()));
+    EXPECT_LE(page.Size(), kPieceBytes);
+    page.HandOver();
+    EXPECT_EQ(page.Size(), 0U);
+    EXPECT_TRUE(taken == text + text);
+}
+
 } // namespace
 } // namespace tunedex

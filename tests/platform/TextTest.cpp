@@ -312,5 +312,32 @@ TEST(FileLine, BringsBackEveryTextOfWholeCharacters) {
     }
 }
 
+TEST(WholeCharacters, EndsWhereNoCharacterIsSplit) {
+    struct Row {
+        std::string_view text;
+        std::size_t most;
+        std::size_t length;
+    };
+    const Row rows[] = {
+        {"", 4, 0},
+        {"abc", 4, 3},
+        {"abcdef", 4, 4},
+        {"abc\xC3\xA4z", 4, 3},
+        {"ab\xC3\xA4zz", 4, 4},
+        {"ab\xE2\x82\xACz", 4, 2},
+        {"abc\xE2\x82\xACz", 4, 3},
+        {"a\xF0\x9F\x8E\xB5z", 4, 1},
+        {"\xF0\x9F\x8E\xB5z", 4, 4},
+        // Stray bytes belong to no character.
+        {"\x82\x82\x82\x82\x82\x82", 4, 4},
+        {"abc\xC3zzz", 4, 4},
+        {"ab\xE2\x82zzz", 4, 4},
+        {"abc\xE2\x82", 4, 4},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(WholeCharacters(row.text, row.most), row.length) << row.text;
+    }
+}
+
 } // namespace
 } // namespace tunedex
