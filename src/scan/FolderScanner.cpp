@@ -123,7 +123,9 @@ bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, boo
     }
 
     totals_.StoredCount = 0;
-    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, options_, readers_);
+    ReadOptions options = options_;
+    options.longTexts = &table_.LongTexts();
+    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, options, readers_);
     bool aborted = false;
     std::optional<FileFailure> failure;
     // The files listed before an error are read before it is reported, and one of them may fail first.

@@ -33,12 +33,12 @@ void SetTagText(std::string& text, std::string_view bytes) {
     }
 }
 
+bool HasLeadingThe(std::string_view artist) {
+    return UpperCase(artist.substr(0, kLeadingTheBytes)) == "THE ";
+}
+
 std::string MoveLeadingThe(std::string artist) {
-    constexpr std::size_t kPrefix = 4;
-    if (UpperCase(std::string_view(artist).substr(0, kPrefix)) == "THE ") {
-        return artist.substr(kPrefix) + ", The";
-    }
-    return artist;
+    return HasLeadingThe(artist) ? artist.erase(0, kLeadingTheBytes).append(kTrailingThe) : artist;
 }
 
 bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track) {

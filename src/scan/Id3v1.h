@@ -4,6 +4,7 @@
 #include "ByteSource.h"
 #include "TrackInfo.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -22,5 +23,9 @@ void SetTagText(std::string& text, std::string_view bytes);
 
 // "The Beatles" as "Beatles, The"; any other artist as it is.
 std::string MoveLeadingThe(std::string artist);
+// The parts of that, for a text that is not copied.
+bool HasLeadingThe(std::string_view artist);
+inline constexpr std::size_t kLeadingTheBytes = 4;
+inline constexpr std::string_view kTrailingThe = ", The";
 
 } // namespace tunedex

@@ -21,7 +21,9 @@ Id3v2Location DetectId3v2(ByteSource& file);
 
 // Takes title, artist, album, year and genre from the tag's frames, over what the track holds; what has no
 // frame stays. Text encodings are not decoded: every byte is a Windows-1252 character, NULs are dropped. A
-// frame that cannot be read ends the reading silently.
-void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track);
+// frame that cannot be read ends the reading silently. With `longTexts` a text of kLongTextBytes or more is
+// shared there and goes into the track's LongFields.
+void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track,
+               LongTextPool* longTexts = nullptr);
 
 } // namespace tunedex

@@ -52,7 +52,7 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
     const Id3v2Location id3v2 = DetectId3v2(file);
     const bool id3v1 = ReadId3v1(file, options.moveTheArtists, track);
     if (id3v2.present) {
-        ReadId3v2(file, id3v2, options.moveTheArtists, track);
+        ReadId3v2(file, id3v2, options.moveTheArtists, track, options.longTexts);
         track.TagType = kId3v2Tag;
     } else if (id3v1) {
         track.TagType = kId3v1Tag;

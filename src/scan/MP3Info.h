@@ -14,6 +14,8 @@ struct ReadOptions {
     bool moveTheArtists = false;
     ReadAhead readAhead = ReadAhead::AsUsual;
     StopTest stop = {}; // asked while a file takes many reads; it must be safe on the reading thread
+    // Where long texts of tags are shared; none: each track holds its own.
+    LongTextPool* longTexts = nullptr;
 };
 
 struct TrackReading {

@@ -3,9 +3,9 @@
 #include "Text.h"
 
 #include <algorithm>
-#include <cstring>
-#include <numeric>
-#include <string>
+#include <cstdint>
+#include <memory>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -23,7 +23,13 @@ class AbortPoll {
     explicit AbortPoll(RunMonitor& monitor) : monitor_(monitor) {}
 
     void Step() {
-        if ((steps_++ & 0x1FFFU) == 0 && monitor_.AbortRequested()) {
+        if ((steps_++ & 0x1FFFU) == 0) {
+            Ask();
+        }
+    }
+    // For a step that works on a long text.
+    void Ask() {
+        if (monitor_.AbortRequested()) {
             throw SortAborted();
         }
     }
@@ -41,19 +47,46 @@ std::uint64_t PrefixOf(std::string_view text) {
     return prefix;
 }
 
+// A step that compares `text` with another.
+void StepOver(std::string_view text, AbortPoll& poll) {
+    if (text.size() < kLongTextBytes) {
+        poll.Step();
+    } else {
+        poll.Ask();
+    }
+}
+
+// The upper case of a text, stored in `keys`.
+SharedText KeyFor(std::string_view text, TextStore& keys, AbortPoll& poll) {
+    if (text.size() < kLongTextBytes) {
+        return keys.Add(UpperCase(text));
+    }
+    constexpr std::size_t kPiece = 65536;
+    LongText key;
+    while (!text.empty()) {
+        poll.Ask();
+        const std::size_t count = WholeCharacters(text, kPiece);
+        key.Append(UpperCase(text.substr(0, count)));
+        text.remove_prefix(count);
+    }
+    key.Fit();
+    return keys.Keep(std::make_shared<const LongText>(std::move(key)));
+}
+
 // Ranks of a field that many rows share: every stored text is upper-cased and compared once.
 class SharedRanks {
   public:
     SharedRanks(const std::vector<TrackRow>& rows, SharedText TrackRow::*field, AbortPoll& poll) {
-        std::vector<std::pair<std::string, const void*>> texts;
+        TextStore keys;
+        std::vector<std::pair<std::string_view, const void*>> texts;
         for (const TrackRow& row : rows) {
             poll.Step();
             if (ranks_.emplace((row.*field).Identity(), 0).second) {
-                texts.emplace_back(UpperCase((row.*field).View()), (row.*field).Identity());
+                texts.emplace_back(KeyFor(row.*field, keys, poll), (row.*field).Identity());
             }
         }
         std::sort(texts.begin(), texts.end(), [&poll](const auto& a, const auto& b) {
-            poll.Step();
+            StepOver(a.first, poll);
             return a.first < b.first;
         });
         std::uint32_t rank = 0;
@@ -67,6 +100,23 @@ class SharedRanks {
 
   private:
     std::unordered_map<const void*, std::uint32_t> ranks_;
+};
+
+// Upper-cased titles, a long one once however many rows have it.
+class TitleKeys {
+  public:
+    std::string_view Of(SharedText title, AbortPoll& poll) {
+        const std::string_view text = title;
+        if (text.size() < kLongTextBytes) {
+            return KeyFor(text, keys_, poll);
+        }
+        SharedText& key = long_[title.Identity()];
+        return key.Empty() ? key = KeyFor(text, keys_, poll) : key;
+    }
+
+  private:
+    TextStore keys_;
+    std::unordered_map<const void*, SharedText> long_; // by the title's identity
 };
 
 struct SortKey {
@@ -83,11 +133,11 @@ bool Less(const SortKey& a, const SortKey& b) {
     if (a.titlePrefix != b.titlePrefix) {
         return a.titlePrefix < b.titlePrefix;
     }
-    return a.title < b.title;
+    return a.title.data() != b.title.data() && a.title < b.title;
 }
 
 std::vector<std::uint32_t> Rank(const std::vector<TrackRow>& rows, AbortPoll& poll) {
-    TextStore titles;
+    TitleKeys titles;
     std::vector<SortKey> keys;
     keys.reserve(rows.size());
     {
@@ -97,12 +147,12 @@ std::vector<std::uint32_t> Rank(const std::vector<TrackRow>& rows, AbortPoll& po
             poll.Step();
             const std::uint64_t group =
                 (static_cast<std::uint64_t>(artists.Of(row.Artist)) << 32U) | albums.Of(row.Album);
-            const std::string_view title = titles.Add(UpperCase(row.Title.View())).View();
+            const std::string_view title = titles.Of(row.Title, poll);
             keys.push_back({group, PrefixOf(title), title, static_cast<std::uint32_t>(keys.size())});
         }
     }
     std::sort(keys.begin(), keys.end(), [&poll](const SortKey& a, const SortKey& b) {
-        poll.Step();
+        StepOver(a.title, poll);
         return Less(a, b);
     });
     std::vector<std::uint32_t> ranks(rows.size());

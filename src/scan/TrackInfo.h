@@ -1,13 +1,27 @@
 // What is known of one MP3 file. Every text is as listings show it.
 #pragma once
 
+#include "LongText.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tunedex {
 
 enum TagKind : std::int16_t { kNoTag = 0, kId3v1Tag = 1, kId3v2Tag = 2 };
+
+struct TrackInfo;
+
+// A long text of a track's tag, in the place of the text that `field` would hold.
+struct LongField {
+    std::string TrackInfo::*field;
+    LongTextHandle text;
+
+    bool operator==(const LongField&) const = default;
+};
 
 struct TrackInfo {
     std::string
@@ -25,14 +39,18 @@ struct TrackInfo {
     std::string MpegType; // "1.0 III"
     std::string Duration; // minutes:seconds
     std::int16_t TagType = kNoTag;
+    // The long texts among Artist, Title, Album, Year and Genre, when they were read into a pool; the members
+    // themselves are empty then.
+    std::vector<LongField> LongFields = {};
 
     bool operator==(const TrackInfo&) const = default;
 
-    // Empties everything but FullPath. The texts keep their memory for the next track, unless it is a lot.
+    // Empties everything but FullPath. The texts keep their memory for the next track, unless it is a lot:
+    // thousands of records are in flight.
     void Clear() {
         for (std::string* text : {&BaseFolder, &Artist, &Title, &Album, &Year, &Genre, &Bitrate, &Frequency,
                                   &Mode, &MpegType, &Duration}) {
-            constexpr std::size_t kMostKept = 4096;
+            constexpr std::size_t kMostKept = 512;
             if (text->capacity() > kMostKept) {
                 *text = std::string();
             }
@@ -40,6 +58,17 @@ struct TrackInfo {
         }
         FileSize = 0;
         TagType = kNoTag;
+        LongFields.clear();
+    }
+
+    // Sets one of the five fields, or the long text in its place.
+    void Set(std::string TrackInfo::*field, LongTextHandle text) {
+        Unset(field);
+        LongFields.push_back({field, std::move(text)});
+    }
+    void Unset(std::string TrackInfo::*field) {
+        (this->*field).clear();
+        std::erase_if(LongFields, [field](const LongField& held) { return held.field == field; });
     }
 };
 

@@ -3,6 +3,7 @@
 #include "PageBuffer.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
@@ -17,6 +18,22 @@ namespace {
 constexpr std::size_t kFirstBlocks = 16;
 constexpr std::size_t kSmallBlock = 65536;
 constexpr std::size_t kLargeBlock = 2097152; // a huge page
+
+struct FieldPair {
+    std::string TrackInfo::*read;
+    SharedText TrackRow::*stored;
+};
+
+SharedText TrackRow::*RowField(std::string TrackInfo::*field) {
+    constexpr std::array<FieldPair, 5> kFields = {{{&TrackInfo::Artist, &TrackRow::Artist},
+                                                   {&TrackInfo::Title, &TrackRow::Title},
+                                                   {&TrackInfo::Album, &TrackRow::Album},
+                                                   {&TrackInfo::Year, &TrackRow::Year},
+                                                   {&TrackInfo::Genre, &TrackRow::Genre}}};
+    return std::find_if(kFields.begin(), kFields.end(),
+                        [field](const FieldPair& pair) { return pair.read == field; })
+        ->stored;
+}
 
 } // namespace
 
@@ -45,6 +62,9 @@ SharedText TextStore::Add(std::string_view text) {
     if (text.empty()) {
         return {};
     }
+    if (text.size() >= kLongTextBytes) {
+        return Keep(longTexts_->Share(text));
+    }
     const auto length = static_cast<std::uint32_t>(text.size());
     const std::size_t needed = sizeof length + text.size();
     if (left_ < needed + PageBuffer::kStep) {
@@ -59,8 +79,8 @@ SharedText TextStore::Add(std::string_view text) {
 }
 
 SharedText TextStore::Share(std::string_view text) {
-    if (text.empty()) {
-        return {};
+    if (text.empty() || text.size() >= kLongTextBytes) {
+        return Add(text);
     }
     if (indexed_ * 2 >= index_.size()) {
         GrowIndex();
@@ -75,6 +95,12 @@ SharedText TextStore::Share(std::string_view text) {
     }
     ++indexed_;
     return index_[slot] = Add(text);
+}
+
+SharedText TextStore::Keep(const LongTextHandle& text) {
+    const SharedText shared = text->Shared();
+    kept_.emplace(shared.Identity(), text);
+    return shared;
 }
 
 void TextStore::GrowIndex() {
@@ -112,6 +138,9 @@ void TrackTable::Append(const TrackInfo& track) {
     row.Duration = texts_.Share(track.Duration);
     row.FileSize = track.FileSize;
     row.TagType = track.TagType;
+    for (const LongField& field : track.LongFields) {
+        row.*RowField(field.field) = texts_.Keep(field.text);
+    }
     rows_.push_back(row);
 }
 

@@ -2,46 +2,23 @@
 // texts that many files share stand once.
 #pragma once
 
+#include "LongText.h"
+#include "SharedText.h"
 #include "TrackInfo.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace tunedex {
 
-// A text in a TextStore; valid as long as the store. Copying it copies a pointer. Some bytes behind it can be
-// read, whatever they hold: it is a padded text for a PageBuffer, and so is each part of it.
-class SharedText {
-  public:
-    SharedText() = default;
-    std::string_view View() const {
-        if (record_ == nullptr) {
-            return {};
-        }
-        std::uint32_t length = 0;
-        std::memcpy(&length, record_, sizeof length);
-        return {record_ + sizeof length, length};
-    }
-    operator std::string_view() const { return View(); } // NOLINT(google-explicit-constructor): it is a text
-    bool Empty() const { return View().empty(); }
-    // The same for the same stored text, which for two shared texts means: equal.
-    const void* Identity() const { return record_; }
-
-  private:
-    friend class TextStore;
-    explicit SharedText(const char* record) : record_(record) {}
-
-    const char* record_ = nullptr; // four bytes of length, then the text; none for the empty text
-};
-
 class TextStore {
   public:
-    // A text of its own.
+    // A text of its own; a long one is shared.
     SharedText Add(std::string_view text);
     // The one copy of this text.
     SharedText Share(std::string_view text);
@@ -49,6 +26,11 @@ class TextStore {
     SharedText Share(std::string_view text, SharedText& last) {
         return last.View() == text ? last : last = Share(text);
     }
+    // A long text, kept as long as the store.
+    SharedText Keep(const LongTextHandle& text);
+
+    // Where long texts become those of this store.
+    LongTextPool& LongTexts() { return *longTexts_; }
 
   private:
     void GrowIndex();
@@ -64,6 +46,8 @@ class TextStore {
     char* next_ = nullptr;
     std::vector<SharedText> index_; // open addressing, a power of two long
     std::size_t indexed_ = 0;
+    std::unique_ptr<LongTextPool> longTexts_ = std::make_unique<LongTextPool>(); // a store can be moved
+    std::unordered_map<const void*, LongTextHandle> kept_;                       // by identity
 };
 
 // One track; the members are those of TrackInfo.
@@ -91,6 +75,8 @@ class TrackTable {
     explicit TrackTable(std::size_t count) { rows_.reserve(count); }
 
     void Append(const TrackInfo& track);
+    // For readers: long texts shared here cost the table no second copy.
+    LongTextPool& LongTexts() { return texts_.LongTexts(); }
 
     std::size_t Count() const { return rows_.size(); }
     // Tracks are numbered from 1 to Count().

@@ -170,6 +170,29 @@ TEST(ReadId3v2, TakesAFrameOfAnyLengthWithoutItsNuls) {
     }
 }
 
+TEST(ReadId3v2, SharesLongTextsInThePool) {
+    const std::string text(kLongTextBytes, 't');
+    const std::string bytes = Id3v2Tag({{"TIT2", "short"},
+                                        {"TIT2", text},
+                                        {"TPE1", "The " + text},
+                                        {"TALB", text},
+                                        {"TYER", text},
+                                        {"TYER", std::string(text.size() - 1, 't')},
+                                        {"TCON", std::string(5000, '\0')}});
+    LongTextPool pool;
+    MemoryByteSource file({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
+    TrackInfo track;
+    ReadId3v2(file, {true, bytes.size()}, true, track, &pool);
+    ASSERT_EQ(track.LongFields.size(), 3U);
+    EXPECT_EQ(track.LongFields[0].field, &TrackInfo::Title);
+    EXPECT_EQ(track.LongFields[0].text->View(), text);
+    EXPECT_EQ(track.LongFields[1].text->View(), text + ", The");
+    EXPECT_EQ(track.LongFields[2].field, &TrackInfo::Album);
+    EXPECT_EQ(track.LongFields[2].text, track.LongFields[0].text);
+    EXPECT_EQ(track.Title + track.Artist + track.Album + track.Genre, "");
+    EXPECT_EQ(track.Year, text.substr(1)) << "the later, shorter text takes the place of the long one";
+}
+
 TEST(ReadId3v2, NamesAnEmptyArtistAndTitleAndEmptiesTheRest) {
     for (const std::string& empty : {""s, "\0"s, "\0\0\0"s}) {
         const TrackInfo track = ReadV2Tag(
