@@ -8,7 +8,9 @@
 #include "TextFile.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <pwd.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tunedex {
@@ -17,6 +19,7 @@ namespace {
 
 constexpr std::string_view kHelpFileName = "Help.html";
 constexpr std::string_view kInstalledData = "../share/tunedex/"; // seen from the running program's folder
+constexpr std::string_view kFillingMark = ".filling";            // there while the folder is being filled
 constexpr std::string_view kFilledMark = ".filled";
 
 std::string HomeFolder() {
@@ -45,20 +48,35 @@ bool IsInstalled(const std::string& runningFolder) {
     }
 }
 
-// The files are written before the mark: a first start that fails midway (disk full, say) is repeated by the
-// next. The mark, not the files, says that the folder was filled: what the user deletes later stays deleted,
-// and a settings file that was put there beforehand does not keep the others out.
-void FillOnFirstUse(const std::string& folder, Registry& registry) {
-    const std::string mark = folder + std::string(kFilledMark);
-    if (FileExists(mark)) {
+// Whether the data folder is still to be filled: it is not there yet, an earlier start failed while it filled
+// it (disk full, say), or it came with the installation, as under the prefix ~/.local. A folder that the user
+// has made or changed is left alone: a theme or an entity table that is not there is not wanted.
+bool NeedsFilling(const std::string& folder, const std::string& runningFolder) {
+    if (!FolderExists(folder) || FileExists(folder + std::string(kFillingMark))) {
+        return true;
+    }
+    std::error_code unknown; // what cannot be compared is not the same folder
+    return std::filesystem::equivalent(folder, runningFolder + std::string(kInstalledData), unknown) &&
+           !FileExists(folder + std::string(kFilledMark));
+}
+
+void WriteMark(const std::string& path) {
+    TextFile(path, TextEncoding::Utf8).Close();
+}
+
+void FillOnFirstUse(const std::string& folder, const std::string& runningFolder, Registry& registry) {
+    if (!NeedsFilling(folder, runningFolder)) {
         return;
     }
+    const std::string filling = folder + std::string(kFillingMark);
     CreateFolders(folder);
+    WriteMark(filling);
     FillProgramFolder(folder);
     if (registry.Read("TipsOnStartup").empty()) {
         registry.Write("TipsOnStartup", "1"); // absent it means no, and a new user is to see them
     }
-    TextFile(mark, TextEncoding::Utf8).Close();
+    WriteMark(folder + std::string(kFilledMark));
+    DeleteFile(filling);
 }
 
 } // namespace
@@ -85,7 +103,7 @@ std::string FindProgramFolder(Registry& registry, const std::string& runningFold
         return runningFolder;
     }
     std::string folder = UserDataFolder();
-    FillOnFirstUse(folder, registry);
+    FillOnFirstUse(folder, runningFolder, registry);
     return folder;
 }
 

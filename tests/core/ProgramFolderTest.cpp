@@ -104,14 +104,24 @@ TEST_F(ProgramFolder, IsFilledAlsoWhereItIsTheInstallationsDataFolder) {
     EXPECT_EQ(registry_.Read("TipsOnStartup"), "1");
 }
 
-TEST_F(ProgramFolder, IsFilledAroundWhatWasPutThereBeforehand) {
+TEST_F(ProgramFolder, IsGivenNothingWhereTheUserHasMadeIt) {
     Install();
     folder_.Write("home/tunedex/Tunedex.cfg", "mine");
-    folder_.Write("home/tunedex/tips.lst", "mine");
+    EXPECT_EQ(Find(), data_);
+    EXPECT_FALSE(folder_.Exists("home/tunedex/html_entities.lst"));
+    EXPECT_FALSE(folder_.Exists("home/tunedex/Themes"));
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "");
+}
+
+TEST_F(ProgramFolder, IsFilledOnceWhereItIsTheInstallationsDataFolder) {
+    setenv("XDG_DATA_HOME", (folder_ / "prefix/share").c_str(), 1);
+    folder_.Write("prefix/share/tunedex/Help.html", "help");
+    folder_.Write("prefix/share/tunedex/tips.lst", "mine");
     Find();
-    EXPECT_EQ(test::ReadBytes(data_ + "Tunedex.cfg"), "mine");
-    EXPECT_EQ(test::ReadBytes(data_ + "tips.lst"), "mine");
-    EXPECT_TRUE(folder_.Exists("home/tunedex/html_entities.lst"));
+    EXPECT_EQ(test::ReadBytes(folder_ / "prefix/share/tunedex/tips.lst"), "mine");
+    ASSERT_EQ(unlink((folder_ / "prefix/share/tunedex/html_entities.lst").c_str()), 0);
+    Find();
+    EXPECT_FALSE(folder_.Exists("prefix/share/tunedex/html_entities.lst"));
 }
 
 TEST_F(ProgramFolder, IsFilledToTheEndAfterAFirstStartThatFailed) {
