@@ -1,5 +1,6 @@
 // The bytes are a text up to the first NUL, then an entity file.
 #include "EntityTable.h"
+#include "Escaper.h"
 
 #include "PlainEntities.h"
 #include "RunTimeError.h"
@@ -45,16 +46,17 @@ void RunEntities(Bytes bytes) {
         Require(table.Slots()[i].code == slots[i].code, "a slot's character");
         RequireEqual(table.Slots()[i].text, slots[i].text, "a slot's text");
     }
+    const Escaper escaper(table);
     const plain::Escaped expected = plain::Escape(slots, text, std::string().max_size());
-    RequireEqual(table.EscapeEntities(text), expected.text, "a text with all slots applied");
+    RequireEqual(escaper.EscapeEntities(text), expected.text, "a text with all slots applied");
     std::string appended = "before";
-    table.AppendEscaped(appended, text);
+    escaper.AppendEscaped(appended, text);
     RequireEqual(appended, "before" + expected.text, "a text escaped behind another");
     // What stands behind a padded text can be anything.
     const std::string padded = text + std::string(PageBuffer::kStep, lines.empty() ? '&' : 'a');
     PageBuffer page;
     page.Put("before");
-    table.PutEscaped(page, std::string_view(padded).substr(0, text.size()));
+    escaper.PutEscaped(page, std::string_view(padded).substr(0, text.size()));
     RequireEqual(std::string(page.View()), "before" + expected.text, "a padded text escaped into a page");
 }
 

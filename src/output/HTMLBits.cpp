@@ -18,40 +18,6 @@ void CheckIndex(std::size_t index, std::size_t count) {
     }
 }
 
-bool HasLeftAlignedHeader(ColumnKey key) {
-    switch (key) {
-    case ColumnKey::Artist:
-    case ColumnKey::ArtistTitle:
-    case ColumnKey::ArtistAlbumTitle:
-    case ColumnKey::Album:
-    case ColumnKey::Title:
-    case ColumnKey::FolderPath:
-    case ColumnKey::FullPath:
-    case ColumnKey::Filename:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool HasRightAlignedCells(ColumnKey key) {
-    switch (key) {
-    case ColumnKey::Number:
-    case ColumnKey::Bitrate:
-    case ColumnKey::Frequency:
-    case ColumnKey::Duration:
-    case ColumnKey::FileSize:
-        return true;
-    default:
-        return false;
-    }
-}
-
-// Whether an empty text shows as a blank, so that its cell keeps its background in old browsers.
-bool HasBlankForEmpty(ColumnKey key) {
-    return key == ColumnKey::Album || key == ColumnKey::Year || key == ColumnKey::Genre;
-}
-
 bool UsesFontTags(const Settings& settings) {
     return settings.FontHTML || settings.ColourHTML;
 }
@@ -155,7 +121,7 @@ void WriteTableHead(std::string& page, const Settings& settings, const std::vect
     const std::string font = FontOpen(settings, kHeaderFont, kHeaderText);
     page += Indent(6) + "<tr bgcolor=\"#" + settings.Colour[kHeaderBackground] + "\">";
     for (const Column& column : columns) {
-        page += HasLeftAlignedHeader(column.key) ? R"(<th align="left">)" : "<th>";
+        page += KindOf(column.key).leftHeader ? R"(<th align="left">)" : "<th>";
         page += font + StrengthOpen(settings, kHeaderFont) + HeaderText(column) +
                 StrengthClose(settings, kHeaderFont) + FontClose(settings) + "</th>";
     }
@@ -203,7 +169,7 @@ std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyl
 }
 
 TrackRowWriter::TrackRowWriter(const Listing& listing)
-    : listing_(listing), frames_{MakeFrame(false), MakeFrame(true)} {}
+    : listing_(listing), escaper_(listing.entities), frames_{MakeFrame(false), MakeFrame(true)} {}
 
 TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     const Settings& settings = listing_.settings;
@@ -225,7 +191,7 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
         // A column that nobody knows is not even closed: pages with one have always looked so.
         piece += "<td";
         if (column.key != ColumnKey::Unknown) {
-            piece += HasRightAlignedCells(column.key) ? R"( align="right">)" : ">";
+            piece += KindOf(column.key).rightCells ? R"( align="right">)" : ">";
             piece += fontOpen;
         }
         frame.pieces.emplace_back(piece);
@@ -243,12 +209,13 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
 
 void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track,
                              std::size_t position) const {
-    const EntityTable& entities = listing_.entities;
-    if (const auto stored = StoredText(key, track)) {
-        if (stored->empty() && HasBlankForEmpty(key)) {
+    const ColumnKind& kind = KindOf(key);
+    if (kind.text != nullptr) {
+        const std::string_view text = track.*kind.text;
+        if (text.empty() && kind.blankForEmpty) {
             page.Put("&nbsp;");
         } else {
-            entities.PutEscaped(page, *stored);
+            escaper_.PutEscaped(page, text);
         }
         return;
     }
@@ -256,20 +223,20 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
         page.Put("<b>");
-        entities.PutEscaped(page, track.Artist);
+        escaper_.PutEscaped(page, track.Artist);
         if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
             page.Put(" (");
-            entities.PutEscaped(page, track.Album);
+            escaper_.PutEscaped(page, track.Album);
             page.Put(")");
         }
         page.Put(":</b> ");
-        entities.PutEscaped(page, track.Title);
+        escaper_.PutEscaped(page, track.Title);
         return;
     case ColumnKey::Filename:
-        entities.PutEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
+        escaper_.PutEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
         return;
     case ColumnKey::FolderPath:
-        entities.PutEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
+        escaper_.PutEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
     default: // numbers, which hold nothing to escape
         PutCellText(page, key, track, position, listing_.Cells());

@@ -1,6 +1,7 @@
 // The fragments of a page between its head and its end. Each appends to the page's text; line ends are CR LF.
 #pragma once
 
+#include "Escaper.h"
 #include "OutputList.h"
 #include "PageBuffer.h"
 
@@ -75,6 +76,7 @@ class TrackRowWriter {
     void PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position) const;
 
     const Listing& listing_;
+    const Escaper escaper_;
     std::array<RowFrame, 2> frames_; // normal, alternate
 };
 

@@ -1,12 +1,13 @@
 // The one way into the writers: a table of tracks becomes a listing on disk.
 #pragma once
 
+#include "CellText.h"
 #include "Clock.h"
 #include "Columns.h"
 #include "EntityTable.h"
-#include "FolderScanner.h"
 #include "Locale.h"
 #include "RunMonitor.h"
+#include "RunTotals.h"
 #include "Settings.h"
 #include "TrackTable.h"
 

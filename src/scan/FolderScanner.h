@@ -3,21 +3,13 @@
 
 #include "MP3Info.h"
 #include "RunMonitor.h"
+#include "RunTotals.h"
 #include "TrackTable.h"
 
 #include <cstdint>
 #include <string_view>
 
 namespace tunedex {
-
-// What a run knows of its collection.
-struct RunTotals {
-    std::int32_t FoundCount = 0;  // files of the counting pass
-    std::int32_t StoredCount = 0; // records of the collecting pass
-    std::int32_t UntaggedCount = 0;
-    double TotalBytes = 0;
-    double TotalSeconds = 0; // of whole seconds a file
-};
 
 // Where errors go that do not end the run.
 class ErrorReporter {

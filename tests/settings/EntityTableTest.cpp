@@ -3,28 +3,20 @@
 #include "OrdinaryUser.h"
 #include "Raises.h"
 #include "TestFolder.h"
-#include "Text.h"
-#include "TextLines.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
-#include <set>
 #include <sstream>
 #include <string>
 #include <sys/stat.h>
+#include <utility>
 #include <vector>
 
 namespace tunedex {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-std::string CharacterOf(int code) {
-    std::string text;
-    AppendUtf8(text, FromWindows1252(static_cast<unsigned char>(code)));
-    return text;
-}
+using Entries = std::vector<std::pair<int, std::string>>;
 
 EntityTable TableOf(const Lines& lines) {
     EntityTable table;
@@ -34,28 +26,26 @@ EntityTable TableOf(const Lines& lines) {
     return table;
 }
 
-TEST(EntityTable, ReplacesNothingWithoutAFile) {
+// The slots that hold an entry.
+Entries EntriesOf(const EntityTable& table) {
+    Entries entries;
+    for (const EntityTable::Slot& slot : table.Slots()) {
+        if (slot.code != 0 || !slot.text.empty()) {
+            entries.emplace_back(slot.code, slot.text);
+        }
+    }
+    return entries;
+}
+
+TEST(EntityTable, HasOneEmptySlotWithoutAFile) {
     const test::TestFolder folder;
     std::ostringstream faults;
     EntityTable table;
-    EXPECT_EQ(table.EscapeEntities("Rock & Roll"), "Rock & Roll");
-    table.Load(folder / "html_entities.lst", faults);
-    EXPECT_EQ(table.EscapeEntities("Rock & Roll"), "Rock & Roll");
     EXPECT_EQ(table.Slots().size(), 1U);
+    table.Load(folder / "html_entities.lst", faults);
+    EXPECT_EQ(table.Slots().size(), 1U);
+    EXPECT_EQ(EntriesOf(table), Entries());
     EXPECT_EQ(faults.str(), "");
-}
-
-TEST(EntityTable, AppliesItsEntriesInFileOrderOverEachOthersResults) {
-    EXPECT_EQ(TableOf({"38\t&amp;", "60\t&lt;"}).EscapeEntities("a<b & c"), "a&lt;b &amp; c");
-    EXPECT_EQ(TableOf({"60\t&lt;", "38\t&amp;"}).EscapeEntities("a<b"), "a&amp;lt;b");
-    EXPECT_EQ(TableOf({"97\tb", "98\tc", "99\ta"}).EscapeEntities("abc"), "aaa");
-    EXPECT_EQ(TableOf({"97\tx", "97\ty"}).EscapeEntities("a"), "x") << "the first entry leaves none";
-    EXPECT_EQ(TableOf({"97\taa", "97\tb"}).EscapeEntities("a"), "bb");
-}
-
-TEST(EntityTable, AppliesEveryEntryOfAFileWithCommentsBetweenThem) {
-    const EntityTable table = TableOf({"# one", "38\t&amp;", "", "# two", "60\t&lt;", "#", "62\t&gt;", ""});
-    EXPECT_EQ(table.EscapeEntities("<&>"), "&lt;&amp;&gt;");
 }
 
 TEST(EntityTable, HasOneSlotMoreThanItsFileHasLines) {
@@ -71,45 +61,9 @@ TEST(EntityTable, HasOneSlotMoreThanItsFileHasLines) {
     EXPECT_EQ(TableOf({}).Slots().size(), 1U);
 }
 
-// An empty slot replaces NUL by nothing, and the last slot is never applied: so NUL goes exactly where the
-// file holds a line that is no entry.
-TEST(EntityTable, RemovesNulCharactersOnlyWhereItHasAnEmptySlotThatIsApplied) {
-    const std::string text("a\0b", 3);
-    EXPECT_EQ(TableOf({}).EscapeEntities(text), text);
-    EXPECT_EQ(TableOf({"38\t&amp;"}).EscapeEntities(text), text);
-    EXPECT_EQ(TableOf({"# comment", "38\t&amp;"}).EscapeEntities(text), "ab");
-    EXPECT_EQ(TableOf({""}).EscapeEntities(text), "ab");
-    EXPECT_EQ(TableOf({"0\t[NUL]"}).EscapeEntities(text), "a[NUL]b");
-}
-
 TEST(EntityTable, TakesTheTextUpToASecondTabAndAnyNumberOfTheRange) {
-    const EntityTable table =
-        TableOf({"65\tx\tignored\tmore", " 66 \ty", "67\t", "255\t[255]", "68.4\t[D]", "128\t[E]"});
-    EXPECT_EQ(table.EscapeEntities("ABCDÿ€"), "xy[D][255][E]");
-}
-
-TEST(EntityTable, ReplacesEveryCharacterOfTheCodePage) {
-    Lines lines;
-    std::string text;
-    std::string expected;
-    for (int code = 128; code < 256; ++code) {
-        lines.push_back(std::to_string(code) + "\t{" + std::to_string(code) + "}");
-        text += CharacterOf(code);
-        expected += "{" + std::to_string(code) + "}";
-    }
-    EXPECT_EQ(TableOf(lines).EscapeEntities(text), expected);
-}
-
-TEST(EntityTable, ActsOnCharactersAndLeavesStrayBytesAlone) {
-    const EntityTable table = TableOf({"233\t&eacute;", "195\t&Atilde;", "169\t&copy;"});
-    EXPECT_EQ(table.EscapeEntities("é"), "&eacute;");
-    EXPECT_EQ(table.EscapeEntities("\xE9 \xC3 あ🎵\xA9"), "\xE9 \xC3 あ🎵\xA9");
-}
-
-TEST(EntityTable, AppendsToWhatIsThere) {
-    std::string result = "<b>";
-    TableOf({"60\t&lt;"}).AppendEscaped(result, "a<");
-    EXPECT_EQ(result, "<b>a&lt;");
+    EXPECT_EQ(EntriesOf(TableOf({"65\tx\tignored\tmore", " 66 \ty", "67\t", "255\t[255]", "68.4\t[D]"})),
+              (Entries{{65, "x"}, {66, "y"}, {67, ""}, {255, "[255]"}, {68, "[D]"}}));
 }
 
 TEST(EntityTable, IsRebuiltByEveryLoad) {
@@ -118,12 +72,12 @@ TEST(EntityTable, IsRebuiltByEveryLoad) {
     EntityTable table;
     const std::string path = folder.Write("html_entities.lst", "38\t&amp;\r\n60\t&lt;\r\n");
     table.Load(path, faults);
-    EXPECT_EQ(table.EscapeEntities("&<"), "&amp;&lt;");
+    EXPECT_EQ(EntriesOf(table), (Entries{{38, "&amp;"}, {60, "&lt;"}}));
     folder.Write("html_entities.lst", "38\tand\n");
     table.Load(path, faults);
-    EXPECT_EQ(table.EscapeEntities("&<"), "and<");
+    EXPECT_EQ(EntriesOf(table), (Entries{{38, "and"}}));
     table.Load(folder / "none", faults);
-    EXPECT_EQ(table.EscapeEntities("&<"), "&<");
+    EXPECT_EQ(EntriesOf(table), Entries());
 }
 
 TEST(EntityTable, SkipsAFaultyLineWithAReportOfFileLineAndReason) {
@@ -147,39 +101,9 @@ TEST(EntityTable, SkipsAFaultyLineWithAReportOfFileLineAndReason) {
         std::ostringstream faults;
         table.Load(Lines{"# head", row.line, "60\t&lt;"}, "table.lst", faults);
         EXPECT_EQ(faults.str(), std::string("table.lst:2: line skipped: ") + row.reason + "\n") << row.line;
-        EXPECT_EQ(table.EscapeEntities("&<"), "&&lt;") << row.line;
+        EXPECT_EQ(EntriesOf(table), (Entries{{60, "&lt;"}})) << row.line;
         EXPECT_EQ(table.Slots().size(), 4U) << "a skipped line counts as a line";
     }
-}
-
-TEST(EntityTable, EndsInACommentOrEmptyLineWithoutHarm) {
-    EXPECT_EQ(TableOf({"38\t&amp;", "# end"}).EscapeEntities("&"), "&amp;");
-    EXPECT_EQ(TableOf({"38\t&amp;", "", ""}).EscapeEntities("&"), "&amp;");
-}
-
-TEST(EntityTable, RaisesOverflowOnlyWhereATextMeetsACharacterThatGrowsTooLong) {
-    const std::string million(1000000, 'a');
-    const Lines tables[] = {
-        Lines(64, "97\taa"),                                             // doubles with every line
-        {"97\t" + million, "97\t" + million},                            // multiplies
-        {"97\t" + std::string(EntityTable::kLongestExpansion + 1, 'b')}, // one byte too long
-        {"97\t" + million, "97\t" + million, "97\t"},                    // too long on the way
-    };
-    for (const Lines& lines : tables) {
-        const EntityTable table = TableOf(lines);
-        EXPECT_EQ(table.EscapeEntities("b&c"), "b&c");
-        EXPECT_EQ(test::RaisedBy([&] { table.EscapeEntities("bac"); }), 6);
-        PageBuffer page;
-        const std::string padded = "bac" + std::string(PageBuffer::kStep, ' ');
-        EXPECT_EQ(test::RaisedBy([&] { table.PutEscaped(page, std::string_view(padded).substr(0, 3)); }), 6);
-    }
-}
-
-TEST(EntityTable, ExpandsACharacterToAsMuchAsIsAllowed) {
-    const std::string longest(EntityTable::kLongestExpansion, 'b');
-    EXPECT_EQ(TableOf({"97\t" + longest}).EscapeEntities("ac"), longest + "c");
-    EXPECT_EQ(TableOf(Lines(20, "97\taa")).EscapeEntities("a"),
-              std::string(EntityTable::kLongestExpansion, 'a'));
 }
 
 TEST(EntityTable, ThatCannotBeReadRaisesItsError) {
@@ -191,167 +115,6 @@ TEST(EntityTable, ThatCannotBeReadRaisesItsError) {
         std::ostringstream faults;
         EXPECT_EQ(test::RaisedBy([&] { table.Load(path, faults); }), 75);
     });
-}
-
-// The rule as it reads: each slot in turn over the whole text.
-std::string SlotBySlot(const EntityTable& table, std::string text) {
-    for (std::size_t slot = 0; slot + 1 < table.Slots().size(); ++slot) {
-        text = ReplaceAll(text, CharacterOf(table.Slots()[slot].code), table.Slots()[slot].text);
-    }
-    return text;
-}
-
-TEST(EntityTable, GivesWhatGoingThroughTheTextSlotBySlotGives) {
-    for (unsigned seed = 1; seed <= 300; ++seed) {
-        std::mt19937 random(seed);
-        const auto anyText = [&](std::size_t most) {
-            std::string text;
-            for (std::size_t left = random() % (most + 1); left > 0; --left) {
-                const char* const pieces[] = {"a", "b", "&", ";", "c", "<", "é", "\xFF", "あ"};
-                text += pieces[random() % std::size(pieces)];
-            }
-            return text;
-        };
-        Lines lines;
-        for (std::size_t i = random() % 7; i > 0; --i) {
-            const int codes[] = {'a', 'b', '&', ';', 'c', '<', 233, 0};
-            lines.push_back(random() % 4 == 0
-                                ? "# comment"
-                                : std::to_string(codes[random() % std::size(codes)]) + "\t" + anyText(3));
-        }
-        const EntityTable table = TableOf(lines);
-        const std::string text = anyText(30) + std::string(random() % 2, '\0');
-        ASSERT_EQ(table.EscapeEntities(text), SlotBySlot(table, text)) << "seed " << seed;
-    }
-}
-
-class ShippedEntities : public testing::Test {
-  protected:
-    ShippedEntities()
-        : lines_(ReadTextLines(std::string(TUNEDEX_SOURCE_DIR) + "/data/html_entities.lst")),
-          table_(TableOf(lines_)) {}
-
-    const Lines lines_;
-    const EntityTable table_;
-};
-
-TEST_F(ShippedEntities, BeginWithTheAmpersandAndThenWhatHtmlNeeds) {
-    const std::vector<std::pair<int, const char*>> first = {
-        {38, "&amp;"}, {60, "&lt;"}, {62, "&gt;"}, {34, "&quot;"}};
-    for (std::size_t i = 0; i < first.size(); ++i) {
-        EXPECT_EQ(table_.Slots()[i].code, first[i].first);
-        EXPECT_EQ(table_.Slots()[i].text, first[i].second);
-    }
-}
-
-TEST_F(ShippedEntities, NameEveryCharacterOfIso8859AsHtml4Does) {
-    const std::vector<std::string> names = {
-        "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",
-        "ordf",   "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",
-        "acute",  "micro",  "para",   "middot", "cedil",  "sup1",   "ordm",   "raquo",  "frac14", "frac12",
-        "frac34", "iquest", "Agrave", "Aacute", "Acirc",  "Atilde", "Auml",   "Aring",  "AElig",  "Ccedil",
-        "Egrave", "Eacute", "Ecirc",  "Euml",   "Igrave", "Iacute", "Icirc",  "Iuml",   "ETH",    "Ntilde",
-        "Ograve", "Oacute", "Ocirc",  "Otilde", "Ouml",   "times",  "Oslash", "Ugrave", "Uacute", "Ucirc",
-        "Uuml",   "Yacute", "THORN",  "szlig",  "agrave", "aacute", "acirc",  "atilde", "auml",   "aring",
-        "aelig",  "ccedil", "egrave", "eacute", "ecirc",  "euml",   "igrave", "iacute", "icirc",  "iuml",
-        "eth",    "ntilde", "ograve", "oacute", "ocirc",  "otilde", "ouml",   "divide", "oslash", "ugrave",
-        "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml"};
-    ASSERT_EQ(names.size(), 96U);
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        EXPECT_EQ(table_.EscapeEntities(CharacterOf(160 + static_cast<int>(i))), "&" + names[i] + ";");
-    }
-}
-
-TEST_F(ShippedEntities, ReferToTheCharactersOf128To159ByTheirNumber) {
-    for (int code = 128; code < 160; ++code) {
-        const char32_t character = FromWindows1252(static_cast<unsigned char>(code));
-        const std::string escaped = table_.EscapeEntities(CharacterOf(code));
-        // A page may not hold the control characters of the five unused bytes, not even by their number.
-        const std::uint32_t number = character < 0xA0 ? 0xFFFD : static_cast<std::uint32_t>(character);
-        EXPECT_EQ(escaped, "&#" + std::to_string(number) + ";") << code;
-    }
-}
-
-TEST_F(ShippedEntities, RemoveTheControlCharactersThatNoPageMayHold) {
-    for (int code = 0; code < 32; ++code) {
-        const std::string character(1, static_cast<char>(code));
-        const bool allowed = code == 9 || code == 10 || code == 13;
-        EXPECT_EQ(table_.EscapeEntities("a" + character + "b"), allowed ? "a" + character + "b" : "ab")
-            << code;
-    }
-}
-
-TEST_F(ShippedEntities, LeaveAllOtherAsciiAlone) {
-    for (int code = 32; code < 127; ++code) {
-        const std::string character(1, static_cast<char>(code));
-        if (std::string("&<>\"").find(character) == std::string::npos) {
-            EXPECT_EQ(table_.EscapeEntities(character), character);
-        }
-    }
-}
-
-TEST_F(ShippedEntities, MakeEveryTextPlainAsciiAndNameNoCharacterTwice) {
-    std::set<int> codes;
-    for (const EntityTable::Slot& slot : table_.Slots()) {
-        EXPECT_TRUE(slot.code == 0 || codes.insert(slot.code).second) << slot.code;
-        EXPECT_TRUE(IsAscii(slot.text)) << slot.code;
-    }
-    std::string all;
-    for (int code = 0; code < 256; ++code) {
-        all += CharacterOf(code);
-    }
-    EXPECT_TRUE(IsAscii(table_.EscapeEntities(all)));
-}
-
-std::string RandomText(std::mt19937& random) {
-    static const std::vector<std::string> kPieces = {"a",
-                                                     "Rock",
-                                                     "&",
-                                                     "<",
-                                                     "\"",
-                                                     "\n",
-                                                     "\x7F",
-                                                     "\xC3\xA9",
-                                                     "\xE2\x82\xAC",
-                                                     "\xE3\x81\x82",
-                                                     "\xE9",
-                                                     "\xE2\x82",
-                                                     "0123456789abcdef"};
-    std::string text;
-    for (std::size_t left = random() % 12; left > 0; --left) {
-        text += kPieces[random() % kPieces.size()];
-    }
-    return text;
-}
-
-TEST(EntityTable, PutsIntoAPageWhatItAppendsToAText) {
-    std::mt19937 random(7);
-    for (int round = 0; round < 300; ++round) {
-        std::vector<std::string> lines;
-        for (std::size_t left = random() % 14; left > 0; --left) {
-            // Now and then one that is longer than the buffer is at first.
-            lines.push_back(std::to_string(random() % 256) + "\t" +
-                            std::string(random() % 50 == 0 ? 9000 : random() % 5, '&'));
-        }
-        EntityTable table;
-        std::ostringstream faults;
-        try {
-            table.Load(lines, "test", faults);
-        } catch (const RunTimeError&) {
-            continue; // the entries make too much of each other
-        }
-        PageBuffer page;
-        std::string expected;
-        for (int i = 0; i < 20; ++i) {
-            const std::string text = RandomText(random);
-            // What stands behind a padded text must not count.
-            const std::string padded =
-                text + std::string(PageBuffer::kStep, static_cast<char>(random() % 256));
-            table.PutEscaped(page, std::string_view(padded).substr(0, text.size()));
-            expected += table.EscapeEntities(text);
-        }
-        ASSERT_EQ(page.View(), expected);
-    }
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tunedex {
@@ -50,10 +51,9 @@ class TextStore {
     std::unordered_map<const void*, LongTextHandle> kept_;                       // by identity
 };
 
-// One track; the members are those of TrackInfo.
-struct TrackRow {
+// What moves when two rows are exchanged. The members are those of TrackInfo.
+struct MovingPart {
     SharedText FullPath;
-    SharedText BaseFolder;
     SharedText Artist;
     SharedText Title;
     SharedText Album;
@@ -61,12 +61,24 @@ struct TrackRow {
     SharedText Genre;
     SharedText Bitrate;
     SharedText Frequency;
-    SharedText Mode;
-    SharedText MpegType;
     SharedText Duration;
     std::int32_t FileSize = 0;
-    std::int16_t TagType = kNoTag;
 };
+
+// One track: the part that moves, and what stays with its row. Deliberate: after sorting, a row's tag kind,
+// base folder, mode and MPEG type are those of the file that was found there first. Lists have always been
+// written so.
+struct TrackRow : MovingPart {
+    std::int16_t TagType = kNoTag; // first, in the padding of the other part
+    SharedText BaseFolder;
+    SharedText Mode;
+    SharedText MpegType;
+};
+
+// Exchanges two rows' moving parts.
+inline void SwapTracks(TrackRow& a, TrackRow& b) {
+    std::swap<MovingPart>(a, b);
+}
 
 class TrackTable {
   public:

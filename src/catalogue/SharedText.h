@@ -8,10 +8,12 @@
 
 namespace tunedex {
 
-// Copying it copies a pointer; valid as long as what stores the text. At least PageBuffer::kStep bytes behind
-// it can be read, whatever they hold: it is a padded text for a PageBuffer, and so is each part of it.
+// Copying it copies a pointer; valid as long as what stores the text. It is padded: at least kPadding bytes
+// behind it can be read, whatever they hold, and so behind each part of it.
 class SharedText {
   public:
+    static constexpr std::size_t kPadding = 16;
+
     SharedText() = default;
     std::string_view View() const {
         if (record_ == nullptr) {

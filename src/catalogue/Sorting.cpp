@@ -185,20 +185,6 @@ void ExchangeInOrder(std::vector<RankedRow>& rows, AbortPoll& poll) {
     }
 }
 
-// Exchanges the fields of two rows that move.
-void SwapTracks(TrackRow& a, TrackRow& b) {
-    std::swap(a.FullPath, b.FullPath);
-    std::swap(a.FileSize, b.FileSize);
-    std::swap(a.Artist, b.Artist);
-    std::swap(a.Title, b.Title);
-    std::swap(a.Album, b.Album);
-    std::swap(a.Year, b.Year);
-    std::swap(a.Genre, b.Genre);
-    std::swap(a.Bitrate, b.Bitrate);
-    std::swap(a.Frequency, b.Frequency);
-    std::swap(a.Duration, b.Duration);
-}
-
 } // namespace
 
 bool SortTracks(TrackTable& table, std::int16_t sortOrder, RunMonitor& monitor) {

@@ -1,7 +1,5 @@
 #include "TrackTable.h"
 
-#include "PageBuffer.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -67,8 +65,8 @@ SharedText TextStore::Add(std::string_view text) {
     }
     const auto length = static_cast<std::uint32_t>(text.size());
     const std::size_t needed = sizeof length + text.size();
-    if (left_ < needed + PageBuffer::kStep) {
-        AddBlock(needed + PageBuffer::kStep);
+    if (left_ < needed + SharedText::kPadding) {
+        AddBlock(needed + SharedText::kPadding);
     }
     char* const record = next_;
     std::memcpy(record, &length, sizeof length);

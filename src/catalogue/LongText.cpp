@@ -1,6 +1,6 @@
 #include "LongText.h"
 
-#include "PageBuffer.h"
+#include "SharedText.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -18,7 +18,7 @@ namespace {
 // The block: the length in 64 bits, the mark of a long text, the text, padding.
 constexpr std::size_t kMarkAt = sizeof(std::uint64_t);
 constexpr std::size_t kTextAt = kMarkAt + sizeof(std::uint32_t);
-constexpr std::size_t kAround = kTextAt + PageBuffer::kStep;
+constexpr std::size_t kAround = kTextAt + SharedText::kPadding;
 
 // Blocks of this size are mapped: malloc keeps freed blocks of up to 32 MiB for each thread.
 constexpr std::size_t kMappedBytes = 131072;

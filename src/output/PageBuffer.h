@@ -2,6 +2,8 @@
 // memory is bounded, however long the page and each text on it.
 #pragma once
 
+#include "SharedText.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
@@ -18,7 +20,7 @@ class PageBuffer {
   public:
     // So many bytes are moved in one step, and so many must be readable behind a padded text, whatever they
     // hold: copying in whole steps is several times as fast as to the byte.
-    static constexpr std::size_t kStep = 16;
+    static constexpr std::size_t kStep = SharedText::kPadding;
 
     // Takes the text of a full buffer. Each call gets whole characters, where each text that is put holds
     // them.
