@@ -1,8 +1,6 @@
 // The bytes are a folder setting.
-#include "MultiFolder.h"
+#include "FolderSetting.h"
 
-#include "FolderWalk.h"
-#include "Settings.h"
 #include "Targets.h"
 #include "Text.h"
 

@@ -2,6 +2,7 @@
 
 #include "FileSystem.h"
 #include "FolderScanner.h"
+#include "FolderSetting.h"
 #include "Functions.h"
 #include "Numbers.h"
 #include "OutputLink.h"

@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 #include "FileSystem.h"
+#include "FolderSetting.h"
 #include "Functions.h"
 #include "ListJob.h"
 #include "ProgramFolder.h"

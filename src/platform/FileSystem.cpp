@@ -1,12 +1,12 @@
 #include "FileSystem.h"
 
+#include "FolderStream.h"
 #include "Path.h"
 #include "RunTimeError.h"
 #include "Uninterrupted.h"
 
 #include <array>
 #include <cerrno>
-#include <memory>
 #include <poll.h>
 #include <string_view>
 #include <sys/stat.h>
@@ -38,26 +38,6 @@ bool HoldsNul(const std::string& path) {
 }
 
 } // namespace
-
-DIR* OpenFolderStream(const std::string& path) {
-    DIR* stream = nullptr;
-    do {
-        stream = opendir(path.c_str());
-    } while (stream == nullptr && errno == EINTR);
-    return stream;
-}
-
-const dirent* NextEntry(DIR* stream) {
-    const dirent* entry = nullptr;
-    do {
-        errno = 0;
-        entry = readdir(stream);
-    } while (entry == nullptr && errno == EINTR);
-    if (entry == nullptr && errno != 0) {
-        throw ErrorFromErrno(errno, FileTask::UseFolder);
-    }
-    return entry;
-}
 
 std::optional<mode_t> ModeBehindLinks(int folder, const char* name) {
     struct stat status {};
@@ -143,7 +123,7 @@ void DeleteFile(const std::string& path) {
 
 std::vector<std::string> FileNamesIn(const std::string& folder) {
     std::vector<std::string> names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(OpenFolderStream(folder), closedir);
+    FolderStream stream(folder);
     if (!stream) {
         if (NotThere(errno)) {
             return names;
@@ -151,11 +131,11 @@ std::vector<std::string> FileNamesIn(const std::string& folder) {
         throw ErrorFromErrno(errno, FileTask::UseFolder);
     }
     while (true) {
-        const dirent* entry = NextEntry(stream.get());
+        const dirent* entry = stream.Next();
         if (entry == nullptr) {
             return names;
         }
-        const std::optional<mode_t> mode = ModeBehindLinks(dirfd(stream.get()), entry->d_name);
+        const std::optional<mode_t> mode = ModeBehindLinks(stream.Descriptor(), entry->d_name);
         if (mode && S_ISREG(*mode)) {
             names.emplace_back(entry->d_name);
         }

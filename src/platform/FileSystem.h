@@ -3,7 +3,6 @@
 
 #include "StopTest.h"
 
-#include <dirent.h>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,10 +39,6 @@ void DeleteFile(const std::string& path);
 // that does not exist has none; any other failure raises its error.
 std::vector<std::string> FileNamesIn(const std::string& folder);
 
-// The parts of such a listing. Opens a folder, or returns nullptr and leaves errno.
-DIR* OpenFolderStream(const std::string& path);
-// The next name, or nullptr at the end. Raises the error of a folder that cannot be read on.
-const dirent* NextEntry(DIR* stream);
 // The kind and permissions of what a name in an open folder stands for, links followed; nothing for a name
 // that is gone or a link to nothing. Raises the error of any other failure: that something cannot be looked
 // at does not mean that it is not there.

@@ -1,13 +1,11 @@
 #include "FolderPreload.h"
 
 #include "DiskWaits.h"
-#include "FileSystem.h"
+#include "FolderStream.h"
 #include "Path.h"
 
-#include <dirent.h>
 #include <exception>
 #include <iterator>
-#include <memory>
 #include <new>
 #include <utility>
 
@@ -105,10 +103,10 @@ void FolderPreload::Judge(bool waited) {
 // it.
 std::vector<std::string> FolderPreload::SubFolders(const std::string& folder) const {
     std::vector<std::string> found;
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(OpenFolderStream(folder), closedir);
+    FolderStream stream(folder);
     try {
         while (stream && !stopping_) {
-            const dirent* entry = NextEntry(stream.get());
+            const dirent* entry = stream.Next();
             if (entry == nullptr) {
                 break;
             }

@@ -105,24 +105,24 @@ bool WalkAll(const std::vector<StartFolder>& starts, bool recurse, FolderWalk& w
 
 bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse) {
     const std::vector<StartFolder> starts = StartFolders(folderValue, PathStyle::Native());
-    // When files are read, the folders are in memory from the count.
-    const bool preload = mode == ScanMode::Count && readers_ != 1;
-    FolderWalk walk(preload ? FolderWalk::Preload::WhenWaiting : FolderWalk::Preload::Never);
-    const auto reportWalkError = [&](const std::string& folder, const RunTimeError& error) {
-        reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
-    };
-    if (mode == ScanMode::Count) {
-        totals_.FoundCount = 0;
-        CountingVisitor visitor(totals_, monitor_);
-        try {
-            return !WalkAll(starts, recurse, walk, visitor);
-        } catch (const RunTimeError& error) {
-            reportWalkError(walk.CurrentFolder(), error);
-        }
-        return false;
-    }
+    return mode == ScanMode::Count ? CountTracks(starts, recurse) : CollectTracks(starts, recurse);
+}
 
+bool FolderScanner::CountTracks(const std::vector<StartFolder>& starts, bool recurse) {
+    totals_.FoundCount = 0;
+    FolderWalk walk(readers_ != 1 ? FolderWalk::Preload::WhenWaiting : FolderWalk::Preload::Never);
+    CountingVisitor visitor(totals_, monitor_);
+    try {
+        return !WalkAll(starts, recurse, walk, visitor);
+    } catch (const RunTimeError& error) {
+        ReportWalkError(walk.CurrentFolder(), error);
+    }
+    return false;
+}
+
+bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool recurse) {
     totals_.StoredCount = 0;
+    FolderWalk walk(FolderWalk::Preload::Never); // the count has loaded the folders
     ReadOptions options = options_;
     options.longTexts = &table_.LongTexts();
     CollectingVisitor visitor(totals_, table_, monitor_, reporter_, options, readers_);
@@ -140,9 +140,14 @@ bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, boo
         }
     }
     if (failure && !aborted) {
-        reportWalkError(failure->folder, failure->error);
+        ReportWalkError(failure->folder, failure->error);
     }
     return aborted;
+}
+
+void FolderScanner::ReportWalkError(const std::string& folder, const RunTimeError& error) {
+    // Required: only here, and only in the message, the folder loses its separator.
+    reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
 }
 
 } // namespace tunedex

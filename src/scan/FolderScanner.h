@@ -1,13 +1,16 @@
 // The two passes over the folders: counting the MP3 files, then collecting a record of each.
 #pragma once
 
+#include "FolderSetting.h"
 #include "MP3Info.h"
 #include "RunMonitor.h"
 #include "RunTotals.h"
 #include "TrackTable.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tunedex {
 
@@ -42,6 +45,10 @@ class FolderScanner {
     bool ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse);
 
   private:
+    bool CountTracks(const std::vector<StartFolder>& starts, bool recurse);
+    bool CollectTracks(const std::vector<StartFolder>& starts, bool recurse);
+    void ReportWalkError(const std::string& folder, const RunTimeError& error);
+
     RunTotals& totals_;
     TrackTable& table_;
     RunMonitor& monitor_;

@@ -3,14 +3,13 @@
 #include "DiskWaits.h"
 #include "FileSystem.h"
 #include "FolderPreload.h"
+#include "Path.h"
 #include "RunTimeError.h"
-#include "Settings.h"
 #include "Text.h"
 #include "Uninterrupted.h"
 
 #include <atomic>
 #include <cerrno>
-#include <dirent.h>
 #include <optional>
 #include <set>
 #include <sys/stat.h>
@@ -52,7 +51,7 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
     try {
         return std::make_shared<OpenFolder>(path, baseFolder);
     } catch (const RunTimeError& error) {
-        const bool tooMany = error.Number() == static_cast<int>(ErrorNumber::TooManyFiles);
+        const bool tooMany = error.Is(ErrorNumber::TooManyFiles);
         if (!tooMany || !(preload.Stop() || visitor.ReleaseFolders())) {
             throw;
         }
@@ -63,43 +62,19 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
 } // namespace
 
 OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
-    : path_(std::move(path)), baseFolder_(baseFolder) {
-    stream_ = OpenFolderStream(path_);
-    if (stream_ == nullptr) {
+    : path_(std::move(path)), baseFolder_(baseFolder), stream_(path_) {
+    if (!stream_) {
         throw ErrorFromErrno(errno, FileTask::UseFolder);
     }
     ++OpenFolderCount();
 }
 
 OpenFolder::~OpenFolder() {
-    closedir(static_cast<DIR*>(stream_));
     --OpenFolderCount();
-}
-
-int OpenFolder::Descriptor() const {
-    return dirfd(static_cast<DIR*>(stream_));
 }
 
 int OpenFolder::OpenCount() {
     return OpenFolderCount();
-}
-
-std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle style) {
-    if (!IsMultiFolder(folderValue)) {
-        return {{std::string(folderValue), WithSeparator(folderValue, style)}};
-    }
-    std::vector<StartFolder> folders;
-    const std::vector<std::string> entries =
-        Split(ReplaceAll(folderValue, kMultiFolderMark, ""), kMultiFolderSeparator);
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (entries[i].empty()) {
-            continue;
-        }
-        const bool last = i + 1 == entries.size();
-        std::string path = WithSeparator(entries[i], style);
-        folders.push_back({last ? entries[i] : path, path});
-    }
-    return folders;
 }
 
 bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
@@ -132,9 +107,8 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
 }
 
 bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor) {
-    auto* const stream = static_cast<DIR*>(folder->Stream());
     while (true) {
-        const dirent* entry = NextEntry(stream);
+        const dirent* entry = folder->Stream().Next();
         if (entry == nullptr) {
             return true;
         }

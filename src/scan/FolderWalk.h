@@ -1,7 +1,8 @@
 // The walk through a start folder and, if wished, everything below it.
 #pragma once
 
-#include "Path.h"
+#include "FolderSetting.h"
+#include "FolderStream.h"
 
 #include <memory>
 #include <string>
@@ -22,8 +23,8 @@ class OpenFolder {
 
     const std::string& Path() const { return path_; } // ends in a separator
     const std::string& BaseFolder() const { return baseFolder_; }
-    int Descriptor() const;
-    void* Stream() const { return stream_; }
+    int Descriptor() const { return stream_.Descriptor(); }
+    FolderStream& Stream() { return stream_; }
 
     // How many are open at the moment.
     static int OpenCount();
@@ -31,7 +32,7 @@ class OpenFolder {
   private:
     std::string path_;
     std::string baseFolder_;
-    void* stream_ = nullptr;
+    FolderStream stream_;
 };
 
 class WalkVisitor {
@@ -49,16 +50,6 @@ class WalkVisitor {
     // was.
     virtual bool ReleaseFolders() = 0;
 };
-
-// One start folder of a folder setting.
-struct StartFolder {
-    std::string baseFolder; // as records hold it
-    std::string path;       // where the walk begins; ends in a separator
-};
-
-// The start folders of a folder setting: the single one, or the entries of a multi-folder value, empty ones
-// left out.
-std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle style);
 
 class FolderWalk {
   public:

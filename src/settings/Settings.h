@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace tunedex {
 
@@ -36,7 +35,7 @@ enum ColourIndex : std::size_t {
 };
 
 struct Settings {
-    std::string Directory; // one folder, or "%MULT%" and folders joined by "%||%"
+    std::string Directory; // one folder or several: see FolderSetting.h
     std::string OutputFile;
     std::string WindowTitle;
     std::string PageTitle;
@@ -80,13 +79,5 @@ struct Settings {
 
     bool operator==(const Settings&) const = default;
 };
-
-// What a folder setting begins with when it holds several folders, and what stands between them.
-inline constexpr std::string_view kMultiFolderMark = "%MULT%";
-inline constexpr std::string_view kMultiFolderSeparator = "%||%";
-
-inline bool IsMultiFolder(std::string_view folderValue) {
-    return folderValue.starts_with(kMultiFolderMark);
-}
 
 } // namespace tunedex

@@ -2,8 +2,8 @@
 
 #include "FileSystem.h"
 #include "FolderDrop.h"
+#include "FolderSetting.h"
 #include "Functions.h"
-#include "MultiFolder.h"
 #include "Text.h"
 #include "WidgetHelpers.h"
 

@@ -1,8 +1,8 @@
 #include "frmMain.h"
 
 #include "FolderDrop.h"
+#include "FolderSetting.h"
 #include "Functions.h"
-#include "MultiFolder.h"
 #include "PlaceholderMenu.h"
 #include "Product.h"
 #include "SettingsFuncs.h"

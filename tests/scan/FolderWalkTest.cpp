@@ -295,49 +295,5 @@ TEST(FolderWalk, StopsAtOnceWhileFoldersAreListedAhead) {
     EXPECT_FALSE(walk.Run(StartFolders(folder.Path(), PathStyle::Unix()).front(), true, recorder));
     EXPECT_EQ(recorder.entries, 30);
 }
-
-struct StartRow {
-    std::string value;
-    std::vector<std::pair<std::string, std::string>> folders; // base folder, path
-};
-
-TEST(StartFolders, MakesOneOfEachEntry) {
-    const StartRow rows[] = {
-        {"C:\\Music", {{"C:\\Music", "C:\\Music\\"}}},
-        {"C:\\Music\\", {{"C:\\Music\\", "C:\\Music\\"}}},
-        {"%MULT%C:\\A%||%D:\\B\\", {{"C:\\A\\", "C:\\A\\"}, {"D:\\B\\", "D:\\B\\"}}},
-        {"%MULT%C:\\Music%||%D:\\More\\%||%E:\\Old",
-         {{"C:\\Music\\", "C:\\Music\\"}, {"D:\\More\\", "D:\\More\\"}, {"E:\\Old", "E:\\Old\\"}}},
-        {"%MULT%C:\\A", {{"C:\\A", "C:\\A\\"}}},
-        {"%MULT%", {}},
-        {"%MULT%%||%", {}},
-        {"%MULT%%||%C:\\A%||%%||%D:\\B%||%", {{"C:\\A\\", "C:\\A\\"}, {"D:\\B\\", "D:\\B\\"}}},
-        {"%MULT%C:\\%MULT%A%||%B",
-         {{"C:\\A\\", "C:\\A\\"}, {"B", "B\\"}}}, // the mark goes wherever it stands
-        {"%mult%C:\\A%||%B", {{"%mult%C:\\A%||%B", "%mult%C:\\A%||%B\\"}}},
-        {"C:\\A%||%D:\\B", {{"C:\\A%||%D:\\B", "C:\\A%||%D:\\B\\"}}},
-        {" %MULT%C:\\A", {{" %MULT%C:\\A", " %MULT%C:\\A\\"}}},
-    };
-    for (const StartRow& row : rows) {
-        std::vector<std::pair<std::string, std::string>> folders;
-        for (const StartFolder& start : StartFolders(row.value, PathStyle::Windows())) {
-            folders.emplace_back(start.baseFolder, start.path);
-        }
-        EXPECT_EQ(folders, row.folders) << row.value;
-    }
-}
-
-TEST(StartFolders, TakesALoneSeparatorForTheRootFolder) {
-    for (const char* value : {"%MULT%/%||%/music", "%MULT%/music%||%/"}) {
-        const auto folders = StartFolders(value, PathStyle::Unix());
-        ASSERT_EQ(folders.size(), 2U);
-        const bool first = folders[0].path == "/";
-        EXPECT_EQ(folders[first ? 0 : 1].baseFolder, "/");
-        EXPECT_EQ(folders[first ? 0 : 1].path, "/");
-        EXPECT_EQ(folders[first ? 1 : 0].path, "/music/");
-    }
-    EXPECT_EQ(StartFolders("/", PathStyle::Unix()).front().path, "/");
-}
-
 } // namespace
 } // namespace tunedex

@@ -88,13 +88,5 @@ TEST(Settings, TheDefaultsReplaceWhateverWasThere) {
     EXPECT_EQ(settings.TableSpacing, 0);
 }
 
-TEST(Settings, AMultiFolderValueIsKnownByItsFirstSixCharacters) {
-    EXPECT_TRUE(IsMultiFolder("%MULT%"));
-    EXPECT_TRUE(IsMultiFolder("%MULT%/a%||%/b"));
-    for (const char* text : {"", "%MULT", "/a%MULT%", "%mult%/a", " %MULT%"}) {
-        EXPECT_FALSE(IsMultiFolder(text)) << text;
-    }
-}
-
 } // namespace
 } // namespace tunedex

@@ -1,0 +1,31 @@
+// The entries of one folder, as the directory returns them.
+#pragma once
+
+#include <dirent.h>
+#include <memory>
+#include <string>
+
+namespace tunedex {
+
+// Owns an open directory stream and closes it.
+class FolderStream {
+  public:
+    // Opens the folder. On failure the stream is empty and errno says why.
+    explicit FolderStream(const std::string& path);
+
+    explicit operator bool() const { return stream_ != nullptr; }
+    // The folder's file descriptor; it stays the stream's.
+    int Descriptor() const { return dirfd(stream_.get()); }
+
+    // The next entry, "." and ".." included, valid until the next call; nullptr at the end. Raises the error
+    // of a folder that cannot be read on.
+    const dirent* Next();
+
+  private:
+    struct Close {
+        void operator()(DIR* stream) const { closedir(stream); }
+    };
+    std::unique_ptr<DIR, Close> stream_;
+};
+
+} // namespace tunedex
