@@ -25,7 +25,7 @@ QString NoPreviewText(const RunTimeError& error) {
     QString text =
         u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"_s.arg(
             QString::fromLatin1(error.Description()));
-    if (error.Number() == static_cast<int>(ErrorNumber::InvalidProcedureCall)) {
+    if (error.Is(ErrorNumber::InvalidProcedureCall)) {
         text += u"<p>Where Album is merged, it must not stand before both Artist and Title.</p>"_s;
     }
     return text;
