@@ -7,6 +7,17 @@ using namespace Qt::StringLiterals;
 using namespace tunedex;
 using namespace tunedex::test;
 
+namespace {
+
+// Whether exactly this was said, in a box of the main window.
+bool SaidByMainWindow(Desk& desk, const std::string& text) {
+    const std::vector<FakeDialogs::Message>& messages = desk.dialogs.messages;
+    return messages.size() == 1 && messages[0].text == text && messages[0].buttons == kOkExclamation &&
+           messages[0].title == "Error!" && messages[0].owner == &desk.Main();
+}
+
+} // namespace
+
 class WidgetHelpersTest : public QObject {
     Q_OBJECT
 
@@ -90,35 +101,35 @@ class WidgetHelpersTest : public QObject {
     }
 
     void AMissingHelpFileIsSaid() {
-        TestFolder folder;
-        FakeApplication fake(folder.Path());
-        FakeUserInterface ui;
-        OpenHelp(fake.application, ui);
-        const std::vector<FakeUserInterface::Message> expected{
-            {"The help file could not be found!", kOkExclamation, "Error!"}};
-        QVERIFY(ui.messages == expected);
+        Desk desk;
+        desk.Show();
+        OpenHelp(desk.fake.application, desk.frontEnd, desk.Main());
+        QVERIFY(SaidByMainWindow(desk, "The help file could not be found!"));
     }
 
     void TheHelpFileOpensWhateverBytesItsPathHolds() {
         FakeBrowser browser;
-        TestFolder folder;
-        FakeApplication fake(folder.Path());
-        fake.application.helpFile = "/srv/a b/\xFC#%/Help.html";
-        FakeUserInterface ui;
-        OpenHelp(fake.application, ui);
-        QVERIFY(ui.messages.empty());
+        Desk desk;
+        desk.fake.application.helpFile = "/srv/a b/\xFC#%/Help.html";
+        OpenHelp(desk.fake.application, desk.frontEnd, desk.Main());
+        QVERIFY(desk.dialogs.messages.empty());
         QCOMPARE(browser.opened.size(), std::size_t(1));
         QCOMPARE(browser.opened[0].toEncoded(), QByteArray("file:///srv/a%20b/%FC%23%25/Help.html"));
     }
 
     void AnAddressThatNothingOpensIsSaid() {
-        TestFolder folder;
-        FakeApplication fake(folder.Path());
-        FakeUserInterface ui;
-        OpenAddress(u"https://tunedex.example/"_s, fake.application, ui);
-        const std::vector<FakeUserInterface::Message> expected{
-            {"No program could be found to open\r\nhttps://tunedex.example/", kOkExclamation, "Error!"}};
-        QVERIFY(ui.messages == expected);
+        Desk desk;
+        desk.Show();
+        OpenAddress(u"https://tunedex.example/"_s, desk.fake.application, desk.frontEnd, desk.Main());
+        QVERIFY(SaidByMainWindow(desk, "No program could be found to open\nhttps://tunedex.example/"));
+    }
+
+    void TheMessageOfAHiddenWindowBelongsToTheWindowBehindIt() {
+        Desk desk;
+        desk.Show();
+        QDialog hidden(&desk.Main());
+        OpenHelp(desk.fake.application, desk.frontEnd, hidden);
+        QVERIFY(SaidByMainWindow(desk, "The help file could not be found!"));
     }
 };
 
