@@ -17,18 +17,6 @@ constexpr std::chrono::milliseconds kStopTestInterval{20};
 // slow disk. By the clock alone a busy processor looks the same, and more readers would make it busier.
 constexpr std::chrono::microseconds kSlowFile{100};
 constexpr std::int64_t kFilesToAWait = 4;
-// So many batches from memory, one after the other, and there is one reader too many.
-constexpr unsigned kFastBatches = 16;
-
-void ReadOne(QueuedTrack& track, const ReadOptions& options) {
-    track.failure.reset();
-    try {
-        const char* const name = track.reading.track.FullPath.c_str() + track.folder->Path().size();
-        ReadTrackFile(track.folder->Descriptor(), name, options, track.reading);
-    } catch (const RunTimeError& error) {
-        track.failure = error;
-    }
-}
 
 // Folders must never take the last descriptors: the files in them could not be opened then, however long one
 // waits for the readers.
@@ -54,10 +42,22 @@ bool LackedDescriptor(const QueuedTrack& track) {
 
 } // namespace
 
-TrackQueue::TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest)
+void ReadQueuedTrack(QueuedTrack& track, const ReadOptions& options) {
+    track.failure.reset();
+    try {
+        const char* const name = track.reading.track.FullPath.c_str() + track.folder->Path().size();
+        ReadTrackFile(track.folder->Descriptor(), name, options, track.reading);
+    } catch (const RunTimeError& error) {
+        track.failure = error;
+    }
+}
+
+TrackQueue::TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest,
+                       QueueMachine machine)
     : fixedReaders_(readers), mostOpenFolders_(MostOpenFolders()),
       options_(StoppedBy(std::move(options), [this] { return stopTest_(); })), receiver_(std::move(receiver)),
-      stopTest_(std::move(stopTest)) {}
+      stopTest_(std::move(stopTest)), reader_(std::move(machine.reader)),
+      policy_(readers, machine.processors) {}
 
 TrackQueue::~TrackQueue() {
     StopReaders();
@@ -88,7 +88,7 @@ bool TrackQueue::Submit(const std::shared_ptr<OpenFolder>& folder, const char* n
     track.reading.track.FullPath.assign(folder->Path()).append(name);
     if (fixedReaders_ == 1) {
         std::unique_ptr<Batch> single = std::move(filling_);
-        ReadOne(track, options_);
+        reader_(track, options_);
         Receive(*single);
         Recycle(std::move(single));
         return state_ != State::Stopped;
@@ -131,7 +131,7 @@ bool TrackQueue::Publish() {
         {
             const std::lock_guard lock(mutex_);
             unread_.push_back(&batch);
-            wake = idle_ > 0 && Busy() < wanted_;
+            wake = idle_ > 0 && Busy() < policy_.Wanted();
         }
         if (wake) {
             work_.notify_one();
@@ -200,10 +200,12 @@ void TrackQueue::Receive(Batch& batch) {
         for (QueuedTrack& track : batch.Tracks()) {
             if (LackedDescriptor(track)) {
                 // With the readers' files closed there may be one: a single reader would not have lacked it.
-                for (const auto& other : batches_) {
-                    WaitFor(*other);
+                if (!std::all_of(batches_.begin(), batches_.end(),
+                                 [this](const auto& other) { return WaitFor(*other); })) {
+                    state_ = State::Stopped;
+                    return;
                 }
-                ReadOne(track, options_);
+                reader_(track, options_);
             }
             if (track.reading.stopped) {
                 state_ = State::Stopped;
@@ -223,10 +225,8 @@ void TrackQueue::Receive(Batch& batch) {
 }
 
 void TrackQueue::StartFirstReaders() {
-    fewestReaders_ = fixedReaders_ > 0 ? fixedReaders_ : std::max(1U, std::thread::hardware_concurrency());
     const std::lock_guard lock(mutex_);
-    wanted_ = fewestReaders_;
-    while (readers_.size() < wanted_ && StartReader()) {
+    while (readers_.size() < policy_.Wanted() && StartReader()) {
     }
     haveReaders_ = !readers_.empty();
 }
@@ -245,7 +245,7 @@ void TrackQueue::ReadLoop() {
     std::unique_lock lock(mutex_);
     while (true) {
         ++idle_;
-        work_.wait(lock, [this] { return stopping_ || (!unread_.empty() && Busy() < wanted_); });
+        work_.wait(lock, [this] { return stopping_ || (!unread_.empty() && Busy() < policy_.Wanted()); });
         --idle_;
         if (stopping_) {
             return;
@@ -276,37 +276,28 @@ void TrackQueue::ReadBatch(Batch& batch, const StopTest& stop) const {
             if (stopping_) {
                 return; // nobody takes these any more
             }
-            ReadOne(track, options);
+            reader_(track, options);
         }
     } catch (...) {
         batch.fault = std::current_exception();
     }
 }
 
-// Called under the mutex: one reader more after a batch that had to be waited for, one less after many that
-// had not.
+// Called under the mutex.
 void TrackQueue::Adapt(bool slow) {
-    if (!slow) {
-        if (++fastBatches_ < kFastBatches) {
-            return;
-        }
-        fastBatches_ = 0;
-        if (wanted_ > fewestReaders_) {
-            --wanted_;
-        } else {
-            slowDisk_ = false;
-        }
+    bool begin = false;
+    if (slow) {
+        begin = policy_.AfterSlowBatch(!stopping_ && !unread_.empty());
+    } else {
+        policy_.AfterFastBatch();
+    }
+    slowDisk_ = policy_.SlowDisk();
+    if (!begin) {
         return;
     }
-    fastBatches_ = 0;
-    slowDisk_ = true;
-    if (fixedReaders_ > 0 || stopping_ || unread_.empty()) {
-        return;
-    }
-    wanted_ = std::min(wanted_ + 1, kMostReaders);
     if (idle_ > 0) {
         work_.notify_one();
-    } else if (readers_.size() < wanted_) {
+    } else if (readers_.size() < policy_.Wanted()) {
         StartReader();
     }
 }

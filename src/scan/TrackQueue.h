@@ -4,6 +4,7 @@
 
 #include "FolderWalk.h"
 #include "MP3Info.h"
+#include "ReaderPolicy.h"
 
 #include <array>
 #include <atomic>
@@ -28,6 +29,17 @@ struct QueuedTrack {
     std::optional<RunTimeError> failure; // the file's size could not be read: there is no track
 };
 
+// Reads the track's file.
+void ReadQueuedTrack(QueuedTrack& track, const ReadOptions& options);
+
+// What a queue runs on; tests replace it.
+struct QueueMachine {
+    // 0: unknown.
+    unsigned processors = std::thread::hardware_concurrency();
+    // Reads one file into the track, which comes with its folder and its FullPath. Several threads call it.
+    std::function<void(QueuedTrack&, const ReadOptions&)> reader = ReadQueuedTrack;
+};
+
 class TrackQueue {
   public:
     // Takes what has been read, on the thread that uses the queue. What it throws leaves the queue's
@@ -37,9 +49,9 @@ class TrackQueue {
     // and the queue takes and gives nothing more. Readers end a long file when the queue is destroyed.
     using StopTest = tunedex::StopTest;
 
-    // `readers` is how many threads read: 1 reads on the caller's own thread, 0 begins with one for each core
-    // and has more, up to kMostReaders, for as long as they spend their time waiting for the disk.
-    TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest);
+    // `readers` is how many threads read: 1 reads on the caller's own thread, 0 leaves it to ReaderPolicy.
+    TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest,
+               QueueMachine machine = {});
     TrackQueue(const TrackQueue&) = delete;
     TrackQueue& operator=(const TrackQueue&) = delete;
     // Waits for the readers; what has not been received is dropped.
@@ -52,8 +64,6 @@ class TrackQueue {
     bool Drain();
     // Whether anything is in flight.
     bool Empty() const { return batches_.empty() && filling_ == nullptr; }
-
-    static constexpr unsigned kMostReaders = 32;
 
   private:
     // Files change hands in batches, so that handing them over costs next to nothing.
@@ -87,6 +97,7 @@ class TrackQueue {
     const ReadOptions options_;
     const Receiver receiver_;
     const StopTest stopTest_;
+    const std::function<void(QueuedTrack&, const ReadOptions&)> reader_;
     // Stopped: the stop test said so. Failed: the receiver threw. In both the queue takes and gives nothing
     // more.
     enum class State { Running, Stopped, Failed };
@@ -106,10 +117,8 @@ class TrackQueue {
     std::deque<Batch*> unread_;
     std::vector<std::thread> readers_;
     unsigned idle_ = 0;
-    unsigned fewestReaders_ = 1;
-    unsigned wanted_ = 1;                // how many may read at the same time
-    unsigned fastBatches_ = 0;           // since one from a slow disk
-    std::atomic<bool> slowDisk_ = false; // readers have to wait for it
+    ReaderPolicy policy_;
+    std::atomic<bool> slowDisk_ = false; // the policy's, read between batches without the mutex
     std::atomic<bool> stopping_ = false; // read between files too, so that nobody waits for a batch to end
     bool callerWaits_ = false;
 };

@@ -6,12 +6,19 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <filesystem>
+#include <future>
+#include <memory>
+#include <mutex>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <sys/resource.h>
 #include <system_error>
+#include <thread>
 #include <vector>
 
 namespace tunedex {
@@ -19,9 +26,10 @@ namespace {
 
 using test::TestFolder;
 
-class TrackQueueTest : public testing::TestWithParam<unsigned> {
+// A folder of a hundred tracks.
+class TrackQueueFiles {
   protected:
-    TrackQueueTest() {
+    TrackQueueFiles() {
         for (std::size_t i = 0; i < 100; ++i) {
             names_.push_back(std::to_string(i) + ".mp3");
             files_.Write(names_.back(), test::Audio(417 * (i % 7 + 1)));
@@ -33,6 +41,9 @@ class TrackQueueTest : public testing::TestWithParam<unsigned> {
     std::vector<std::string> names_;
     std::shared_ptr<OpenFolder> folder_;
 };
+
+class TrackQueueTest : public TrackQueueFiles, public testing::TestWithParam<unsigned> {};
+class TrackQueueMachineTest : public TrackQueueFiles, public testing::Test {};
 
 TEST_P(TrackQueueTest, HandsReadingsOutInTheOrderInWhichFilesWentIn) {
     std::vector<std::string> received;
@@ -147,6 +158,60 @@ TEST_P(TrackQueueTest, MayBeThrownAwayWithFilesInFlight) {
         }
     }
     EXPECT_LE(received, 100);
+}
+
+// The first batch lacks descriptors and waits for the second, whose reader is held until the queue has
+// stopped.
+TEST_F(TrackQueueMachineTest, AnswersAStopWhileItWaitsForADescriptor) {
+    constexpr int kBatchFiles = 16;
+    std::promise<void> begunPromise;
+    std::promise<void> stoppedPromise;
+    const std::shared_future<void> begun = begunPromise.get_future().share();
+    const std::shared_future<void> stopped = stoppedPromise.get_future().share();
+    std::atomic<int> lacked = 0;
+    int received = 0;
+    TrackQueue queue(
+        2, {}, [&](QueuedTrack& /*track*/) { ++received; }, [&] { return lacked >= kBatchFiles; },
+        {2, [&](QueuedTrack& track, const ReadOptions& /*options*/) {
+             if (track.reading.track.FullPath.ends_with("/99.mp3")) {
+                 begunPromise.set_value();
+                 stopped.wait();
+             } else {
+                 begun.wait();
+                 track.failure = RunTimeError(ErrorNumber::TooManyFiles);
+                 ++lacked;
+             }
+         }});
+    for (int i = 0; i < kBatchFiles; ++i) {
+        EXPECT_TRUE(queue.Submit(folder_, "0.mp3"));
+    }
+    EXPECT_TRUE(queue.Submit(folder_, "99.mp3"));
+    EXPECT_FALSE(queue.Drain());
+    EXPECT_EQ(received, 0) << "a track is received after the stop";
+    stoppedPromise.set_value();
+}
+
+TEST_F(TrackQueueMachineTest, StartsNoMoreReadersThanTheLimitOnAMachineOfManyProcessors) {
+    std::mutex mutex;
+    std::condition_variable all;
+    std::set<std::thread::id> readers;
+    const auto allThere = [&] { return readers.size() >= ReaderPolicy::kMostReaders; };
+    TrackQueue queue(
+        0, {}, [](QueuedTrack& /*track*/) {}, [] { return false; },
+        {64, [&](QueuedTrack& /*track*/, const ReadOptions& /*options*/) {
+             std::unique_lock lock(mutex);
+             readers.insert(std::this_thread::get_id());
+             all.notify_all();
+             // Each reader holds its first file until the others have theirs.
+             EXPECT_TRUE(all.wait_for(lock, std::chrono::seconds(60), allThere));
+         }});
+    for (int round = 0; round < 20; ++round) {
+        for (const std::string& name : names_) {
+            EXPECT_TRUE(queue.Submit(folder_, name.c_str()));
+        }
+    }
+    EXPECT_TRUE(queue.Drain());
+    EXPECT_EQ(readers.size(), ReaderPolicy::kMostReaders);
 }
 
 INSTANTIATE_TEST_SUITE_P(Readers, TrackQueueTest, testing::Values(1U, 2U, 8U, 32U, 0U), [](const auto& info) {
