@@ -29,6 +29,8 @@ UMASK = os.umask(0o022)
 os.umask(UMASK)
 AUDIO = b"\xff\xfb\x90\x64" + b"\0" * 413
 OLD = b"the old listing\r\n"
+MIB = 1 << 20
+FIVE = (b"TIT2", b"TPE1", b"TALB", b"TYER", b"TCON")
 
 
 def frame(name, text):
@@ -38,6 +40,20 @@ def frame(name, text):
 def tagged(title, artist=b"An Artist"):
     body = frame(b"TIT2", title) + frame(b"TPE1", artist)
     return b"ID3\3\0\0" + bytes([0, len(body) >> 14, len(body) >> 7 & 127, len(body) & 127]) + body + AUDIO * 40
+
+
+def write_long_texts(path, byte, count, names=(b"TIT2",), start=b""):
+    """A track whose frames hold `start` and `count` times one byte. In pieces: this process's peak counts as the
+    program's, which begins as a copy of it."""
+    length = len(start) + count
+    size = len(names) * (10 + 1 + length)
+    with open(path, "wb") as file:
+        file.write(b"ID3\3\0\0" + bytes(size >> shift & 127 for shift in (21, 14, 7, 0)))
+        for name in names:
+            file.write(name + struct.pack(">I", 1 + length) + b"\0\0\0" + start)
+            for done in range(0, count, MIB):
+                file.write(byte * min(MIB, count - done))
+        file.write(AUDIO * 40)
 
 
 class Skipped(Exception):
@@ -107,11 +123,13 @@ class Box:
             "PATH": os.environ["PATH"], "HOME": str(self.root), "LC_ALL": "C",
             "XDG_CONFIG_HOME": str(self.root / "config"), "XDG_CONFIG_DIRS": "/nonexistent"} | more
 
-    def start(self, user=None, **more):
+    def start(self, user=None, shell="", **more):
         # The program's one-second pause is left out.
         env = self.environment(user is not None, LD_PRELOAD=surroundings.preload(PROGRAM, INTERPOSER),
                                TUNEDEX_FAULT_PREFIX=str(self.root), **more)
-        return subprocess.Popen([PROGRAM, "/AUTO"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+        # The shell's commands come first, in the same process.
+        through = ["sh", "-c", shell + ' && exec "$0" "$@"'] if shell else []
+        return subprocess.Popen([*through, PROGRAM, "/AUTO"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.PIPE, env=env, user=user, group=user and 65534,
                                 extra_groups=user and [])
 
@@ -122,6 +140,15 @@ class Box:
             (process.returncode, said[-2000:])
         self.nothing_left()
         return said
+
+    def peak(self):
+        """The most bytes that a run has in memory."""
+        process = self.start()
+        said = process.stderr.read()
+        _, status, usage = os.wait4(process.pid, 0)
+        process.returncode = os.waitstatus_to_exitcode(status)
+        assert process.returncode == 0, (process.returncode, said[-2000:])
+        return usage.ru_maxrss * 1024
 
     def nothing_left(self):
         left = [path for path in self.out.rglob(".tunedex-*")] + [path for path in self.program.rglob(".tunedex-*")]
@@ -713,6 +740,47 @@ class Cases:
         box.run(0, timeout=60)
         assert [row[1] for row in box.page().tracks()] == ["One"]
         assert box.log() == b""
+
+    def test_memory_follows_the_distinct_texts(self, folder):
+        if surroundings.sanitizer_of(PROGRAM):
+            raise Skipped("a sanitizer's own memory would be measured")
+        # What each of the files holds, how many files there are, how many links to each, and the bytes of text
+        # in UTF-8 that are not the same.
+        long = 8 * MIB
+        cases = {
+            "one title": (dict(byte=b"t", count=long), 1, 16, long),
+            "letters of two bytes": (dict(byte=b"\xe9", count=long // 2), 1, 16, long),
+            "one text in five fields": (dict(byte=b"t", count=long, names=FIVE), 1, 16, long),
+            "characters that are escaped": (dict(byte=b"&", count=long, names=FIVE[:2]), 1, 8, long),
+            "different titles": (dict(byte=b"t", count=long), 8, 1, 8 * long),
+            "one album in many files": (dict(byte=b"a", count=MIB, names=(b"TALB",)), 1, 500, MIB),
+            "short texts": (dict(byte=b"\x80", count=500, names=FIVE), 1, 5000, 1500),
+        }
+        for name, (texts, files, links, distinct) in cases.items():
+            box = Box(pathlib.Path(folder, name), ActiveColumns="Artist|Title|Album|Year|Genre")
+            for number in range(files):
+                path = box.root / f"{number}.bin"
+                write_long_texts(path, start=b"%d" % number if files > 1 else b"", **texts)
+                for link in range(links):
+                    os.symlink(path, box.music / f"{number}-{link}.mp3")
+            for output in ("list.htm", "list.txt", "list.m3u"):
+                box.configure(output, ActiveColumns="Artist|Title|Album|Year|Genre")
+                os.symlink("/dev/null", box.listing)
+                peak = box.peak()
+                bound = 3 * distinct + 64 * MIB
+                assert peak <= bound, f"{name}, {output}: {peak / MIB:.1f} MiB of {bound / MIB:.1f} MiB"
+            shutil.rmtree(box.root)
+
+    def test_texts_beyond_the_memory_end_the_run_with_its_message(self, folder):
+        if surroundings.sanitizer_of(PROGRAM):
+            raise Skipped("a sanitizer reserves more memory than the limit")
+        box = Box(folder)
+        for number in range(16):
+            write_long_texts(box.music / f"{number}.mp3", b"\x80", 6 * MIB, start=b"%02d" % number)  # 18 MiB each
+        box.listing.write_bytes(OLD)
+        said = box.run(1, shell="ulimit -v 300000")
+        assert b"Error number 7 - Out of memory" in said, said
+        assert box.listing.read_bytes() == OLD
 
 
 def main():
