@@ -1,23 +1,27 @@
 #!/usr/bin/env python3
-"""Runs the program and its model on random collections and settings and compares everything that they leave behind.
+"""Runs the program and its model on random collections and settings and compares what they leave behind.
 
     compare.py PROGRAM                 a round of 60 cases
     compare.py PROGRAM --seeds 5000    more of them, --first 1000 others
     compare.py PROGRAM --seed 17       one case, kept for a look
 
-Compared are the listings and the log byte for byte, every other file and folder (which must be as before), what is
-printed on standard error, and the exit status. A case depends on its seed alone; only the order of the names in a
-folder is the file system's.
+Compared are the listings and the log byte for byte, every other file and folder (which must be as before), the
+permissions of all files, the text on standard error, and the exit status. A case depends on its seed alone; only the
+order of the names in a folder is the file system's.
 """
 
 import argparse
 import concurrent.futures
+import contextlib
 import datetime
+import fcntl
 import locale
 import os
 import pathlib
 import re
 import shutil
+import stat
+import struct
 import subprocess
 import sys
 import tempfile
@@ -27,7 +31,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 
 import surroundings  # noqa: E402
 from generator import Case  # noqa: E402
-from model import Model, Region, to_disk  # noqa: E402
+from model import Model, Region, program_folder, to_disk  # noqa: E402
 
 NO_SLEEP = """
 #include <time.h>
@@ -59,8 +63,17 @@ def build_no_sleep(folder):
     return library
 
 
-def snapshot(folder):
-    """Everything below a folder: path -> what it is."""
+def permissions(path):
+    """What a file keeps when it is replaced: mode, access-control list and user attributes."""
+    try:
+        attributes = {name: os.getxattr(path, name) for name in sorted(os.listxattr(path))}
+    except OSError:
+        attributes = {}  # The file system has none.
+    return oct(stat.S_IMODE(os.stat(path).st_mode)), attributes
+
+
+def snapshot(folder, to_be_read=()):
+    """Everything below a folder: path -> what it is. Large files are read only where they are in `to_be_read`."""
     found = {}
     pending = [os.fsencode(folder)]
     while pending:
@@ -75,11 +88,11 @@ def snapshot(folder):
                 found[entry.path] = ("locked",)
             elif entry.is_file(follow_symlinks=False):
                 size = entry.stat(follow_symlinks=False).st_size
-                if size > TOO_LARGE_TO_READ:
+                if size > TOO_LARGE_TO_READ and entry.path not in to_be_read:
                     found[entry.path] = ("large file", size)
                 else:
                     with open(entry.path, "rb") as file:
-                        found[entry.path] = ("file", file.read())
+                        found[entry.path] = ("file", file.read(), *permissions(entry.path))
             else:
                 found[entry.path] = ("other",)
     return found
@@ -162,14 +175,47 @@ def region(settings):
     return found
 
 
-def model_outcome(case, before, now):
-    result = Model(case.program_folder, now, case.root, case.answers).run()
+def model_outcome(case, before, now, executable, environment):
+    folder, shipped = program_folder(case.installation_path, executable, environment)
+    result = Model(folder, now, case.root, case.answers, shipped).run()
     files = dict(before)
     for path, data in result.files.items():
-        files[path] = ("file", data)
+        old = before.get(path)
+        kept = old[2:] if old and old[0] == "file" else (oct(0o666 & ~case.umask), {})
+        files[path] = ("file", data, *kept)
     for path in result.folders:
         files[path] = ("folder",)
-    return files, printed(result.events), result.exit_status
+    for path in result.removed:
+        del files[path]
+    return files, printed(result.events), result.exit_status, result.files
+
+
+@contextlib.contextmanager
+def locks(paths):
+    """Holds a lock of either kind on the files, as a run that is still writing them does."""
+    handles = [os.open(path, os.O_RDWR) for path in paths]
+    try:
+        for handle in handles:
+            fcntl.flock(handle, fcntl.LOCK_EX)
+            fcntl.fcntl(handle, fcntl.F_OFD_SETLK, struct.pack("hhqqi4x", fcntl.F_WRLCK, os.SEEK_SET, 0, 0, 0))
+        yield
+    finally:
+        for handle in handles:
+            os.close(handle)
+
+
+def place(program, executable):
+    """Puts the program where the case wants it."""
+    os.makedirs(os.path.dirname(executable), exist_ok=True)
+    try:
+        os.link(program, executable)
+    except OSError:
+        shutil.copy2(program, executable)
+
+
+def shortened(line):
+    text = repr(line)
+    return text if len(text) <= 4000 else f"{text[:4000]}... ({len(line)} bytes)"
 
 
 def difference(name, expected, actual):
@@ -179,9 +225,14 @@ def difference(name, expected, actual):
             wanted = expected[i] if i < len(expected) else None
             got = actual[i] if i < len(actual) else None
             if wanted is None or got is None or not same_line(wanted, got):
-                lines += [f"    line {i + 1}", f"      model:   {wanted!r}", f"      program: {got!r}"]
+                lines.append(f"    line {i + 1}")
+                lines += [f"      model:   {shortened(wanted)}", f"      program: {shortened(got)}"]
                 break
     elif isinstance(expected, tuple) and isinstance(actual, tuple) and expected[0] == actual[0] == "file":
+        if expected[2:] != actual[2:]:
+            lines += [f"    model:   {expected[2:]!r}", f"    program: {actual[2:]!r}"]
+        if expected[1] == actual[1]:
+            return "\n".join(lines)
         return "\n".join(lines) + "\n" + difference("content", expected[1].split(b"\n"), actual[1].split(b"\n"))
     else:
         lines += [f"    model:   {expected!r:.300}", f"    program: {actual!r:.300}"]
@@ -193,23 +244,27 @@ def compare_case(seed, program, no_sleep, scratch, keep):
     remove(root)
     os.makedirs(root)
     case = Case(seed, root)
-    environment = surroundings.kept()
-    environment |= {"PATH": os.environ["PATH"], "HOME": root, "XDG_CONFIG_HOME": case.config_folder}
+    environment = surroundings.kept() | {"PATH": os.environ["PATH"]} | case.environment
     environment.update(case.locale)
     if no_sleep:
         environment["LD_PRELOAD"] = surroundings.preload(program, no_sleep)
+    executable = case.executable or program
+    if case.executable:
+        place(program, executable)
     before = snapshot(root)
     now = region(case.locale)
-    expected = model_outcome(case, before, now)
-    run = subprocess.run(
-        [program, *case.arguments],
-        cwd=root,
-        env=environment,
-        input=b"Yes\n" * case.answers,
-        capture_output=True,
-        timeout=300,
-    )
-    after = snapshot(root)
+    with locks(case.locked):
+        expected = model_outcome(case, before, now, executable, environment)
+        run = subprocess.run(
+            [executable, *case.arguments],
+            cwd=root,
+            env=environment,
+            input=b"Yes\n" * case.answers,
+            capture_output=True,
+            timeout=300,
+            umask=case.umask,
+        )
+    after = snapshot(root, expected[3])
     lines = error_lines(run.stderr)
 
     def agrees(outcome):

@@ -2,8 +2,13 @@
 
 import os
 import random
+import struct
+import time
 
 LARGEST_NAME = 255
+BYTE_ORDER_MARK = b"\xef\xbb\xbf"
+HOUR = 60 * 60  # seconds
+NOBODY = 65534
 
 PIECES = [
     b"Song", b"the", b"THE", b"The ", b"a", b"B", b"Z", b"01", b" - ", b" ", b"  ", b"mix", b"&", b"<b>", b'"', b"'",
@@ -11,8 +16,11 @@ PIECES = [
     b"?", b"|", b"#", b"=", b";", b"\xe9", b"\xc4", b"\x80", b"\xff", b"\xc3", b"\xa9", "é".encode(), "Ä".encode(),
     "ÿ".encode(), "Ÿ".encode(), "œ".encode(), "ž".encode(), "ß".encode(), "€".encode(), "日本".encode(),
     "あ".encode(), "🎵".encode(), "ä̈".encode(), "\u0081".encode(), "\u0080".encode(), "\u00a0".encode(),
-    b"\xed\xa0\x80", b"\xf4\x90\x80\x80", b"\xe3\x81", b".", b"..", b".mp3", b".htm",
+    b"\xed\xa0\x80", b"\xf4\x90\x80\x80", b"\xe3\x81", b".", b"..", b".mp3", b".htm", "\ufffe".encode(),
+    "\uffff".encode(), "\u202f".encode(), "\ufeff".encode(), b"\xed\xb3\xa9",
 ]  # fmt: skip
+
+BREAKS = [b"\n", b"\r", b"\r\n", b"\n\r", b"\r\r\n", b"\\n", b"line", b" ", b"\xe9", "日".encode()]
 
 TAG_PIECES = [
     b"Abba", b"ABBA", b"abba", b"Zz Top", b"The ", b"the ", b"THE ", b"tHe\0", b"Beatles", b"\0", b"\0\0", b" ", b"  ",
@@ -39,31 +47,35 @@ TITLES = [
     "%%%C",
     "%%C", "%T", "Plain", "", "<b>bold</b>", "Müsik", "日本語 %C", "\u0081\u0080", "🎵", "a=b", "a(b)=c", "%%D", "%%%%L",
     "&amp;",
-    "tab\there", "  blanks  ", "#x", "\u20ac %S",
+    "tab\there", "  blanks  ", "#x", "\u20ac %S", "caf\udce9 %C", "\udcff日", "\ufffe\uffff", "\ufeff%D", "\u202f%S",
 ]  # fmt: skip
 
 COLOURS = ["000000", "FFFFFF", "FFFF00", "000066", "CECECE", "", "red", "#123456", "12", "é", "日", '"', "ffeedd",
 "00 00"]
+UNKNOWN_COLUMNS = ["ÄÖÜäöüß", "日本", "é", "🎵x", "Foo", "\udce9\udcff", "ÿ"]
 FACES = ["Arial", "Tahoma, Arial, sans-serif", "", "Times New Roman, serif", "é", "日本", '"Q"', "a|b", "%", "a=b(c)"]
 
 
 class Case:
-    """Writes one case into `root`: the program folder `prog`, the collection `music`, and what else it names."""
+    """Writes one case into `root`: the program folder, the collection `music`, and what else the settings name."""
 
     def __init__(self, seed, root):
         self.random = random.Random(seed)
         self.root = root
-        self.program_folder = os.path.join(root, "prog")
-        self.config_folder = os.path.join(root, "conf")
         self.large_files = 0
         self.folders = []
-        # Some seeds are about one thing, or few cases would get far enough to test it.
+        self.locked = []  # files that another process holds a lock on
+        # Most seeds avoid early failures, or few cases would reach a listing.
         self.tame = self.random.random() < 0.75
-        self._registry()
+        self.breaks = self.chance(0.04)  # names with line breaks, whose errors are logged
+        self.leading_album = self.chance(0.04)  # columns that show in which unit the merge counts
+        self.umask = self.pick([0o022] * 6 + [0o077, 0o027, 0o002])
+        self._program()
         self._collection()
         self._settings()
         self._entities()
         self._statistics()
+        self._abandoned_files()
         self.answers = self.pick([0, 0, 1, 30])
         self.arguments = self.pick([["/AUTO"], ["/AUTO"], ["/auto"], ["some.cfg", "x/aUtOy"], ["-x", "/AUTO", "/AUTO"]])
         self._locale()
@@ -82,30 +94,80 @@ class Case:
         with open(path, "wb") as file:
             file.write(data)
 
+    def marked(self, data):
+        """Now and then a byte-order mark at the start; a second one is text."""
+        if self.chance(0.08):
+            return BYTE_ORDER_MARK * self.pick([1, 1, 1, 2]) + data
+        return data
+
     def line_end(self):
         return self.pick([b"\r\n", b"\r\n", b"\r\n", b"\n", b"\r"])
 
     # -- where the program finds its folder
 
-    def _registry(self):
+    def _program(self):
+        """Where the program is, and which of the rules leads to its folder."""
+        self.environment = {"HOME": self.root, "XDG_CONFIG_DIRS": os.path.join(self.root, "etc")}
+        self.executable = ""  # where the program is to be; empty for where it was built
+        self.installation_path = ""
+        self.own_folders = ["prog", "conf", ".config", "etc", "app", "usr", ".local", "data"]
+        self.program_folder = os.path.join(self.root, "prog")
+        kind = self.random.random()
+        if kind < 0.9:
+            self.installation_path = self.program_folder + self.pick(["", "/"])
+        elif kind < 0.94:
+            self.program_folder = os.path.join(self.root, "app")
+            self.executable = os.path.join(self.program_folder, "tunedex")
+        else:
+            self._installed_program(new=kind >= 0.98)
         os.makedirs(self.program_folder)
-        folder = os.path.join(self.config_folder, "Corvale Works")
+        self._registry()
+        if self.chance(0.1):
+            self.write(os.path.join(self.program_folder, "Tunedex.log"), b"an earlier run\r\n")
+            os.chmod(os.path.join(self.program_folder, "Tunedex.log"), self.pick([0o600, 0o644, 0o666]))
+
+    def _installed_program(self, new):
+        self.executable = os.path.join(self.root, "usr", "bin", "tunedex")
+        share = os.path.join(self.root, "usr", "share", "tunedex")
+        os.makedirs(os.path.join(share, "Themes"))
+        for name in ("html_entities.lst", "tips.lst", "Themes/Dark.thm", "Themes/Light.thm", "Help.html"):
+            if self.chance(0.9):
+                self.write(os.path.join(share, name), b"38\t&amp;\r\n" + name.encode())
+        data = os.path.join(self.root, "data")
+        kind = self.random.randrange(3)
+        if kind == 0:
+            self.environment["XDG_DATA_HOME"] = data
+        else:
+            data = os.path.join(self.root, ".local", "share")
+            if kind == 1:
+                self.environment["XDG_DATA_HOME"] = ""
+        if not new:
+            self.program_folder = os.path.join(data, "tunedex")
+
+    def _registry(self):
+        """The installation path comes from the user's file, else from the system-wide one."""
+        folder = self.pick(["conf", "conf", "conf", ".config", "etc"])
+        if folder != ".config":
+            self.environment["XDG_CONFIG_HOME"] = os.path.join(self.root, "conf")
+        text = "[General]\nTipsOnStartup=0\n"
+        if self.installation_path:
+            text += f"InstallationPath={self.installation_path}\n"
+        folder = os.path.join(self.root, folder, "Corvale Works")
         os.makedirs(folder)
-        ending = self.pick(["", "/"])
-        text = f"[General]\nInstallationPath={self.program_folder}{ending}\nTipsOnStartup=0\n"
         self.write(os.path.join(folder, "Tunedex.conf"), text.encode())
 
     def _locale(self):
         """The variables that choose the locale; the collection itself does not depend on them."""
         self.locale = {"LC_ALL": "C"}
-        if self.chance(0.4):
-            names = ["de_DE.UTF-8", "en_US.UTF-8", "fr_FR.UTF-8", "C", "POSIX", "C.UTF-8", "xx_YY.UTF-8", ""]
+        if self.chance(0.5):
+            names = ["de_DE.UTF-8", "en_US.UTF-8", "fr_FR.UTF-8", "fr_FR.UTF-8", "C", "POSIX", "C.UTF-8", "xx_YY.UTF-8",
+                     ""]  # fmt: skip
             self.locale = {name: self.pick(names) for name in ("LC_ALL", "LC_TIME", "LC_NUMERIC",
             "LANG") if self.chance(0.5)}
 
     def _locks(self):
         """What the user may not read or write; pointless for the superuser."""
-        own = (os.fsencode(self.program_folder), os.fsencode(self.config_folder))
+        own = tuple(os.fsencode(os.path.join(self.root, name)) for name in self.own_folders)
         for path, _, files in list(os.walk(os.fsencode(self.root), topdown=False)):
             if path.startswith(own):
                 continue
@@ -124,6 +186,8 @@ class Case:
             pieces = [piece for piece in PIECES[:16]]
         else:
             pieces = PIECES
+        if self.breaks:
+            pieces = BREAKS
         name = b"".join(self.pick(pieces) for _ in range(count)).strip(b"/")
         if self.chance(0.01):
             name = b"n" * self.pick([200, 250, 251])
@@ -193,6 +257,9 @@ class Case:
         if self.chance(0.008) and self.large_files < 1:
             self.large_files += 1
             self._large_file(path)
+            return
+        if self.breaks and self.chance(0.5):
+            self.write(path, b"no audio")
             return
         parts = []
         if self.chance(0.4):
@@ -362,6 +429,8 @@ class Case:
             "artist|title",
                               "Artist", "Title", "Album|Artist|Title", "Number||Artist", "|Number|", "ArtistTitle",
                               "ArtistAlbumTitle|Number", "Artist|TITLE|Title", "ARTIST|Title|Album"])  # fmt: skip
+        if self.leading_album or kind == 4:
+            return self.columns_behind_an_album()
         columns = list(ACTIVE)
         self.random.shuffle(columns)
         columns = columns[: self.random.randrange(1, 16)]
@@ -378,6 +447,12 @@ class Case:
         if kind == 3:
             text = self.pick(["|", ""]) + text + self.pick(["|", ""])
         return text
+
+    def columns_behind_an_album(self):
+        """An album that stands first makes the merge cut at the wrong place, and so in the midst of a name."""
+        columns = ["Artist", "Title", self.pick(UNKNOWN_COLUMNS), *self.random.choices(UNKNOWN_COLUMNS + ACTIVE, k=3)]
+        self.random.shuffle(columns)
+        return "|".join([self.pick(["Album", "Album", "ALBUM", "Foo", "é"]), *columns])
 
     def number(self, sound):
         return self.pick(sound) if self.chance(0.85 if self.tame else 0.5) else self.pick(NUMBERS)
@@ -418,6 +493,7 @@ class Case:
             "list.TXT", "list.m3u", "list.M3U", "list.xml", "list", "txt", "m3u", "a.b.htm", "list.html5", "é.htm",
             "日本.txt",
             "x.y/list", ".htm", ".txt", "a b.htm", "tab\t.m3u", "é日.html", "list.", "list.txt.", '"q".htm', "a=b.txt",
+            "caf\udce9.htm", "\udcff.m3u", "\udce9.b.html",
         ])  # fmt: skip
         if self.chance(0.02):
             name = "n" * self.pick([247, 251, 252, 255, 256]) + self.pick([".htm", ".txt", ".m3u", ""])
@@ -431,21 +507,82 @@ class Case:
         return path
 
     def _what_is_there_already(self, path):
-        """Now and then the output file exists before, as a file, as a link to one, or as a folder."""
-        if not self.chance(0.2) or not os.path.isdir(os.path.dirname(path)) or len(os.path.basename(path)) > 240:
+        """Now and then the output file, or a page of it, exists before: a file, a link or a folder."""
+        if not self.chance(0.25) or not os.path.isdir(os.path.dirname(path)) or len(os.path.basename(path)) > 240:
             return
-        path = path.encode()
-        kind = self.random.randrange(8)
+        stem, extension = os.path.splitext(path)
+        path = self.pick([path] * 4 + [path + ".htm", path + ".txt", path + ".m3u", stem + ".001" + extension,
+                                       stem + ".002" + extension])  # fmt: skip
+        path = os.fsencode(path)
+        kind = self.random.randrange(12)
         if os.path.lexists(path) or os.path.basename(path) in (b"", b".", b".."):
             return
         if kind == 0:
             os.mkdir(path)
-        elif kind in (1, 2):
-            target = os.path.join(os.fsencode(self.root), b"real.dat")
-            self.write(target, b"what was there")
-            os.symlink(self.pick([target, os.path.relpath(target, os.path.dirname(path))]), path)
+        elif kind < 6:
+            self._link(path, kind)
         else:
             self.write(path, b"what was there\n" * 300)
+            self._permissions(path)
+
+    def _link(self, path, kind):
+        root = os.fsencode(self.root)
+        target = os.path.join(root, b"real.dat")
+        if kind < 5:
+            self.write(target, b"what was there")
+            self._permissions(target)
+        if kind == 3:
+            target = self._music_file()
+        elif kind == 4:
+            # A second link in between: the last one counts.
+            between = os.path.join(root, self.pick([b"between", b"between.mp3"]))
+            os.symlink(self.pick([target, self._music_file()]), between)
+            target = between
+        elif kind == 5:
+            target = os.path.join(root, self.pick([b"new.dat", b"missing/new.dat", os.path.basename(path), b"out"]))
+        os.symlink(self.pick([target, os.path.relpath(target, os.path.dirname(path))]), path)
+        if os.geteuid() == 0 and self.chance(0.2):
+            # A link of another user in a shared folder, which the kernel may refuse to follow.
+            os.chown(path, NOBODY, NOBODY, follow_symlinks=False)
+            os.chmod(os.path.dirname(path), 0o1777)
+
+    def _music_file(self):
+        path = os.path.join(self.music, self.pick([b"target.mp3", b"target.MP3", b"target.mP3", b"target.mp2"]))
+        self.write(path, self.header() + bytes(2000) + self.id3v1())
+        return path
+
+    def _permissions(self, path):
+        """What a file is to keep when it is replaced: mode, access-control list and user attributes."""
+        os.chmod(path, self.pick([0o644, 0o600, 0o640, 0o666, 0o755, 0o620]))
+        try:
+            if self.chance(0.2):
+                os.setxattr(path, b"user.note", b"kept")
+            if self.chance(0.2):
+                os.setxattr(path, b"system.posix_acl_access", self.access_list())
+        except OSError:
+            pass  # The file system has none.
+
+    def access_list(self):
+        """The owner writes, user 1234 and the group read."""
+        none = 0xFFFFFFFF
+        entries = [(1, 6, none), (2, 4, 1234), (4, self.pick([0, 4]), none), (16, 4, none), (32, 0, none)]
+        return struct.pack("<I", 2) + b"".join(struct.pack("<HHI", *entry) for entry in entries)
+
+    def _abandoned_files(self):
+        """Temporary files of earlier runs, some of them too young to be removed, and names that are like theirs."""
+        for folder in (self.root, os.path.join(self.root, "out"), os.fsdecode(self.music), self.program_folder):
+            if not self.chance(0.12) or not os.path.isdir(folder):
+                continue
+            for _ in range(self.pick([1, 2, 4])):
+                number = f"{self.random.randrange(1, 99999)}-{self.random.randrange(1, 30)}"
+                name = self.pick([f".tunedex-{number}.tmp"] * 6 + [f".tunedex-{number}.bak", f"tunedex-{number}.tmp"])
+                path = os.path.join(folder, name)
+                self.write(path, b"half a listing")
+                os.chmod(path, self.pick([0o600, 0o600, 0o644]))
+                written = time.time() - self.pick([0, 23 * HOUR, 25 * HOUR, 48 * HOUR, 10000 * HOUR, -48 * HOUR])
+                os.utime(path, (time.time(), written))
+                if self.chance(0.15):
+                    self.locked.append(path)
 
     def font(self):
         parts = [self.pick(FACES), self.pick(list("1234567") + ["9", "", "x", "12", " 3"]), self.flag(), self.flag()]
@@ -467,7 +604,7 @@ class Case:
 
         def add(key, value):
             if isinstance(value, str):
-                value = value.encode("utf-8")
+                value = os.fsencode(value)
             lines.append(key.encode("utf-8") + b"=" + value)
 
         sorts_links = self.chance(0.12)
@@ -483,7 +620,7 @@ class Case:
             "SizeType": lambda: self.number(["0", "1", "2", "3"]),
             "SortOrder": lambda: self.number(["0", "1", "1", "2", "3"]),
             "ErrorWarnings": self.flag,
-            "ErrorLog": self.flag,
+            "ErrorLog": lambda: "1" if self.breaks else self.flag(),
             "ConfirmQuit": self.flag,
             "DocumentType": lambda: self.pick(["HTML", "HTML", "XHTML", "XHTML", "xhtml", "", "html", "XHTML ",
             "Text"]),
@@ -492,7 +629,7 @@ class Case:
             "LinkPrefix": lambda: self.pick(["file:///", "", "http://x/", "é", "日", '"', "%D"]),
             "ActiveColumns": self.columns,
             "InactiveColumns": self.columns,
-            "Merge": lambda: self.number(["0", "1", "2", "2", "3", "-1"]),
+            "Merge": lambda: self.pick("12") if self.leading_album else self.number(["0", "1", "2", "2", "3", "-1"]),
             "MoveTheArtists": self.flag,
             "Font(0)": self.font,
             "Font(1)": self.font,
@@ -529,9 +666,16 @@ class Case:
         data = b"".join(line + (self.line_end() if mixed else ends) for line in lines)
         if self.chance(0.3) and data:
             data = data[: -len(ends)] if data.endswith(ends) else data
-        self.write(os.path.join(self.program_folder, "Tunedex.cfg"), data)
+        self.write(os.path.join(self.program_folder, "Tunedex.cfg"), self.marked(data))
 
     def _in_some_encoding(self, line):
+        text = line.decode("utf-8", "surrogateescape")
+        if any(0xDC80 <= ord(character) <= 0xDCFF for character in text):
+            # As the settings writer would; left alone, the whole line is read as Windows-1252.
+            return text.encode("utf-8", "surrogatepass") if self.chance(0.75) else line
+        if self.chance(0.15):
+            # Bytes that form characters again when they are read.
+            return "".join(chr(byte if byte < 128 else 0xDC00 + byte) for byte in line).encode("utf-8", "surrogatepass")
         if self.chance(0.3):
             try:
                 return line.decode("utf-8").encode("cp1252")
@@ -577,14 +721,36 @@ class Case:
                     b"1e2\td", b"97\t",
                     b"98\tbb\tignored", b"0\tnul", b"129\tC1", b"32\t_", b"195\tA", b"169\t(c)", b"47\t|",
                     "101\té".encode(), b"102\t\xe9",
-                    "103\t日".encode(), b"99999\tx", b"38x\ty", b"1e400\tx", b"46.4\t.dot.", b"-0.2\tx", b"255.5\tx",
+                    "103\t日".encode(), b"104\t\xed\xb3\xa9", "105\t\ufffe".encode(),
+                    b"99999\tx", b"38x\ty", b"1e400\tx", b"46.4\t.dot.", b"-0.2\tx", b"255.5\tx",
                     b"\t", b"65\t",
                     b"+70\tF", b"255.4\tyy",
                 ])  # fmt: skip
                 entries.insert(self.random.randrange(len(entries) + 1), odd)
+        if self.chance(0.08):
+            entries = self.pick([[], entries]) + self.repeated_entries()
         end = self.line_end()
         data = end.join(entries) + (end if self.chance(0.8) else b"")
-        self.write(path, data)
+        self.write(path, self.marked(data))
+
+    def repeated_entries(self):
+        """Replacements that double a character again and again: up to the limit, past it, and far past it."""
+        if self.chance(0.5):
+            # Characters that are frequent, and so with short expansions.
+            code, times = self.pick([38, 97, 66, 32]), self.pick([1, 5, 10])
+        else:
+            # Characters that are rare, for expansions of a megabyte: 2^20 bytes are allowed.
+            code, times = self.pick([1, 127, 129]), self.pick([19, 20, 21])
+            if self.chance(0.3):
+                code, times = self.pick([38, 62, 97]), self.pick([21, 40, 64, 200])
+        character = bytes([code])
+        entries = [b"%d\t%s" % (code, character * 2)] * times
+        if self.chance(0.2):
+            # The second character of a pair takes over.
+            entries = [b"%d\t12" % code, b"49\t22", b"50\t11"] + [b"49\t22", b"50\t11"] * (times // 2)
+        if self.chance(0.2):
+            entries.append(b"%d\t%s" % (code, self.pick([b"", b"x", b"&amp;"])))
+        return entries
 
     def _statistics(self):
         path = os.path.join(self.program_folder, "stats.lst")
@@ -597,11 +763,11 @@ class Case:
             lines[index] = self.pick([
                 b"", b"x", b"5", b"12", b" 7 ", b"2147483647", b"2147483646", b"2147483648", b"1.5", b"5x", b"-3",
                 b"1e3", b"2147483646.4",
-                b"2147483647.5", b"-2147483649", b"1e99", b"2147483646.5",
+                b"2147483647.5", b"-2147483649", b"1e99", b"2147483646.5", "é".encode(), b"\xe9", "日".encode(),
             ])  # fmt: skip
             if self.chance(0.2):
                 lines = lines[: self.random.randrange(4)]
             if self.chance(0.1):
                 lines += [b"fifth", b""]
         end = self.line_end()
-        self.write(path, end.join(lines) + (end if self.chance(0.8) else b""))
+        self.write(path, self.marked(end.join(lines) + (end if self.chance(0.8) else b"")))

@@ -1,23 +1,27 @@
-"""A second reading of what an unattended run does, kept apart from the program on purpose.
+"""A second, independent implementation of an unattended run.
 
-The model is slow, plain and literal: it says which messages appear, which files are written with which bytes, and
-how the run ends. compare.py lets it and the program work on the same collections and settings. Nothing in here may
-be copied from the program's sources, and nothing there may be changed to please the model: where the two differ,
-one of them is wrong, and it is worth finding out which.
+The model is slow and literal: it predicts the messages, the bytes of every file written, the files removed and the
+exit status. compare.py runs it and the program on the same collections and settings. Write it from the description of
+the behaviour, never from the program's sources: where the two differ, one of them is wrong.
 
-Texts are Python strings in which a byte that is no UTF-8 is a lone surrogate ("surrogateescape").
+The model reads the disk but never changes it. Texts are Python strings; a byte that is not UTF-8 is a lone surrogate
+("surrogateescape").
 """
 
 import errno
+import fcntl
 import os
 import re
 import stat
+import time
+from collections import Counter
 from decimal import ROUND_HALF_EVEN, Decimal
 from fractions import Fraction
 
 ERRORS = {
     5: "Invalid procedure call or argument",
     6: "Overflow",
+    7: "Out of memory",
     9: "Subscript out of range",
     11: "Division by zero",
     13: "Type mismatch",
@@ -40,6 +44,10 @@ VERSION = "1.0"
 ERROR_TITLE = "Tunedex Error! (Automatic Mode)"
 MULT = "%MULT%"
 BETWEEN = "%||%"
+BYTE_ORDER_MARK = b"\xef\xbb\xbf"
+LARGEST_EXPANSION = 1 << 20  # bytes of UTF-8
+DAY = 24 * 60 * 60  # seconds
+TEMPORARY_NAME = re.compile(rb"\.tunedex-[0-9]+-[0-9]+\.tmp")
 
 
 class RunTimeError(Exception):
@@ -55,6 +63,10 @@ def file_error(error):
         number = 52
     if error.errno == errno.ENOENT:
         number = 53
+    if error.errno in (errno.ENOSPC, errno.EDQUOT):
+        number = 61
+    if error.errno in (errno.EMFILE, errno.ENFILE):
+        number = 67
     if error.errno in (errno.EACCES, errno.EPERM, errno.EROFS, errno.EISDIR):
         number = 75
     if error.errno == errno.ENOTDIR:
@@ -96,7 +108,7 @@ def from_disk(data):
 
 
 def settled(text):
-    """Stray bytes that have come to stand side by side may have become a character."""
+    """Stray bytes that have become neighbours may form a character."""
     return from_disk(to_disk(text))
 
 
@@ -136,7 +148,12 @@ def encode_listing(text, missing):
 
 
 def encode_page(text):
-    return encode_listing(text, lambda character: f"&#{ord(character)};")
+    def reference(character):
+        # No document may hold U+FFFE or U+FFFF, not even as a reference.
+        code = 0xFFFD if ord(character) in (0xFFFE, 0xFFFF) else ord(character)
+        return f"&#{code};"
+
+    return encode_listing(text, reference)
 
 
 def encode_text_listing(text):
@@ -157,19 +174,29 @@ def encode_own_line(text):
     return to_disk(text)
 
 
-def read_own_lines(path):
-    with open(to_disk(path), "rb") as file:
-        data = file.read()
-    lines = re.split(b"\r\n|\n|\r", data)
+def decode_own_line(line):
+    try:
+        return line.decode("utf-8")
+    except UnicodeDecodeError:
+        return from_code_page(line)
+
+
+def decode_settings_line(line):
+    """In settings files the lone surrogates U+DC80 to U+DCFF stand for stray bytes."""
+    try:
+        text = line.decode("utf-8", "surrogatepass")
+    except UnicodeDecodeError:
+        return from_code_page(line)
+    if any(0xD800 <= ord(character) <= 0xDFFF and not is_stray(character) for character in text):
+        return from_code_page(line)
+    return settled(text)
+
+
+def own_lines(data, decode=decode_own_line):
+    lines = re.split(b"\r\n|\n|\r", data.removeprefix(BYTE_ORDER_MARK))
     if lines[-1] == b"":
         lines.pop()
-    texts = []
-    for line in lines:
-        try:
-            texts.append(line.decode("utf-8"))
-        except UnicodeDecodeError:
-            texts.append(from_code_page(line))
-    return texts
+    return [decode(line) for line in lines]
 
 
 # ------------------------------------------------------------------------------------------------------- numbers
@@ -211,7 +238,8 @@ class Region:
     def __init__(self, date="", time="", thousands=",", point="."):
         self.date = date
         self.time = time
-        self.thousands = thousands
+        # Listings are Windows-1252: a separator that it lacks (U+202F in French) becomes a no-break space.
+        self.thousands = "\u00a0" if any(character not in TO_CODE_PAGE for character in thousands) else thousands
         self.point = point
 
     def grouped(self, number):
@@ -594,20 +622,39 @@ class Result:
         self.events = []  # ("message", title, text, buttons, answered), ("status", text), ("warning", file, line number)
         self.files = {}  # path as bytes -> bytes
         self.folders = []  # paths of the folders created, as bytes
+        self.removed = set()  # paths of the files removed, as bytes
         self.exit_status = 1
 
 
-class Model:
-    """One unattended run in `current_folder`; the first `answers` messages get one, Yes where there is a choice."""
+def program_folder(installation_path, executable, environment):
+    """The program folder, and the folder with the shipped files that a new one is given ("" when it is given none)."""
+    if installation_path != "":
+        return installation_path, ""
+    beside = os.path.dirname(executable)
+    share = os.path.join(os.path.dirname(beside), "share", "tunedex")
+    installed = os.path.isdir(share)
+    if not installed and os.access(beside, os.W_OK):
+        return beside, ""
+    data = environment.get("XDG_DATA_HOME") or os.path.join(environment["HOME"], ".local", "share")
+    return os.path.join(data, "tunedex"), share if installed else beside
 
-    def __init__(self, program_folder, region, current_folder, answers=0):
-        self.app_folder = program_folder if program_folder.endswith("/") else program_folder + "/"
+
+class Model:
+    """One unattended run in `current_folder`; the first `answers` messages get one, Yes where there is a choice.
+
+    `folder` and `shipped` are what program_folder() returns.
+    """
+
+    def __init__(self, folder, region, current_folder, answers=0, shipped=""):
+        self.app_folder = folder if folder.endswith("/") else folder + "/"
+        self.shipped = shipped
         self.region = region
         self.answers = answers
         self.current_folder = current_folder
         self.result = Result()
         self.settings = Settings()
         self.entities = []
+        self.too_long = {}  # character -> whether its expansion exceeds the limit
         self.log = None
         self.tracks = []
         self.found_count = 0
@@ -621,6 +668,7 @@ class Model:
         here = os.getcwd()
         os.chdir(self.current_folder)
         try:
+            self._make_program_folder()
             self._load_statistics()
             self._load_settings()
             self._load_entities()
@@ -652,21 +700,64 @@ class Model:
     def _store(self, path, data):
         self.result.files[self._absolute(path)] = data
 
+    def _own_file(self, path, decode=decode_own_line):
+        """The lines of one of the program's own files; none when there is no such file."""
+        data = self.result.files.get(self._absolute(path))
+        if data is None:
+            if not os.path.exists(to_disk(path)):
+                return None
+            with open(to_disk(path), "rb") as file:
+                data = file.read()
+        return own_lines(data, decode)
+
     def _check_writable(self, path):
-        """The error that opening the file for writing raises, if any."""
+        """Raises the error that opening the file for writing raises, if any. The kernel follows links."""
         try:
-            if stat.S_ISDIR(os.stat(to_disk(path)).st_mode):
-                raise RunTimeError(75)
-            if not os.access(to_disk(path), os.W_OK):
-                raise RunTimeError(75)
+            os.close(os.open(to_disk(path), os.O_WRONLY | os.O_NONBLOCK))
         except FileNotFoundError:
             folder = os.path.dirname(self._absolute(path))
             if len(os.path.basename(to_disk(path))) > 255:
                 raise RunTimeError(52) from None
-            if folder not in self.result.folders and not os.access(folder, os.W_OK | os.X_OK):
-                raise RunTimeError(75) from None
+            if folder not in self.result.folders:
+                if not os.path.isdir(folder):
+                    raise RunTimeError(76) from None
+                if not os.access(folder, os.W_OK | os.X_OK):
+                    raise RunTimeError(75) from None
         except OSError as error:
             raise file_error(error) from error
+
+    def _refuse_link_to_music(self, path):
+        """A listing must never replace a file of the collection."""
+        link = os.path.join(to_disk(self.current_folder), to_disk(path))
+        if os.path.islink(link) and upper(from_disk(os.path.realpath(link))).endswith(".MP3"):
+            raise RunTimeError(75)
+
+    def _open_listing(self, path):
+        self._refuse_link_to_music(path)
+        self._check_writable(path)
+        self._remove_abandoned_files(os.path.dirname(self._absolute(path)))
+
+    def _remove_abandoned_files(self, folder):
+        """Temporary files that an earlier run left in the folder of a listing."""
+        if not os.path.isdir(folder) or not os.access(folder, os.R_OK | os.W_OK | os.X_OK):
+            return
+        for entry in os.scandir(folder):
+            if not TEMPORARY_NAME.fullmatch(entry.name) or not entry.is_file(follow_symlinks=False):
+                continue
+            old = time.time() - entry.stat(follow_symlinks=False).st_mtime > DAY
+            if old and not self._is_locked(entry.path):
+                self.result.removed.add(entry.path)
+
+    @staticmethod
+    def _is_locked(path):
+        handle = os.open(path, os.O_RDONLY)
+        try:
+            fcntl.flock(handle, fcntl.LOCK_EX | fcntl.LOCK_NB)
+            return False
+        except BlockingIOError:
+            return True
+        finally:
+            os.close(handle)
 
     def _absolute(self, path):
         return os.path.realpath(os.path.join(to_disk(self.current_folder), to_disk(path)))
@@ -698,12 +789,35 @@ class Model:
 
     # -- the program's own files
 
+    def _make_program_folder(self):
+        """A new data folder is given the shipped files, once; later nothing is copied."""
+        if self.shipped == "" or os.path.isdir(to_disk(self.app_folder)):
+            return
+        missing = self._absolute(self.app_folder)
+        levels = []
+        while not os.path.isdir(missing):
+            levels.insert(0, missing)
+            missing = os.path.dirname(missing)
+        self.result.folders += levels
+        for name in ("html_entities.lst", "tips.lst"):
+            self._copy_shipped(name)
+        themes = os.path.join(self.shipped, "Themes")
+        if os.path.isdir(themes):
+            self.result.folders.append(self._absolute(self.app_folder + "Themes"))
+            for name in os.listdir(themes):
+                self._copy_shipped("Themes/" + name)
+
+    def _copy_shipped(self, name):
+        path = os.path.join(self.shipped, name)
+        if os.path.isfile(path):
+            with open(path, "rb") as file:
+                self._store(self.app_folder + name, file.read())
+
     def _load_statistics(self):
-        path = self.app_folder + "stats.lst"
-        if not os.path.exists(to_disk(path)):
+        lines = self._own_file(self.app_folder + "stats.lst")
+        if lines is None:
             return
         try:
-            lines = read_own_lines(path)
             if len(lines) < 4:
                 raise RunTimeError(62)
             if len(lines[0]) < 2:
@@ -717,10 +831,11 @@ class Model:
 
     def _load_settings(self):
         path = self.app_folder + "Tunedex.cfg"
-        if not os.path.exists(to_disk(path)):
+        lines = self._own_file(path, decode_settings_line)
+        if lines is None:
             self.settings.set_defaults()
             return
-        for number, line in enumerate(read_own_lines(path), 1):
+        for number, line in enumerate(lines, 1):
             if line == "" or line[0] == "#":
                 continue
             try:
@@ -730,11 +845,12 @@ class Model:
 
     def _load_entities(self):
         path = self.app_folder + "html_entities.lst"
-        if not os.path.exists(to_disk(path)):
+        lines = self._own_file(path)
+        if lines is None:
             return
         slots = [(0, "")]
         n = 0
-        for number, line in enumerate(read_own_lines(path), 1):
+        for number, line in enumerate(lines, 1):
             slots.append((0, ""))
             if line == "" or line[0] == "#":
                 continue
@@ -753,9 +869,28 @@ class Model:
         self.entities = slots[: len(slots) - 1]
 
     def _escape(self, text):
+        for character in set(settled(text)):
+            if character not in self.too_long:
+                self.too_long[character] = self._expands_too_far(character)
+            if self.too_long[character]:
+                raise RunTimeError(6)
         for code, replacement in self.entities:
             text = settled(text.replace(CODE_PAGE[code], replacement))
         return text
+
+    def _expands_too_far(self, character):
+        """Whether the character's expansion exceeds the limit after any of the slots. Lengths are computed from the
+        number of each character, because an expansion that is refused may have 2^40 bytes."""
+        counts = Counter({character: 1})
+        for code, replacement in self.entities:
+            replaced = counts.pop(CODE_PAGE[code], 0)
+            if replaced == 0:
+                continue
+            for each, count in Counter(replacement).items():
+                counts[each] += count * replaced
+            if sum(count * len(to_disk(each)) for each, count in counts.items()) > LARGEST_EXPANSION:
+                return True
+        return False
 
     def _report(self, template, track, folder, error):
         if folder != "":
@@ -769,6 +904,8 @@ class Model:
             self._message("An error occurred " + template, OK_EXCLAMATION, ERROR_TITLE)
         if self.settings.ErrorLog:
             template = template.replace("\r\n", "")
+            # One line an error, whatever line breaks its names hold.
+            template = template.replace("\r", " ").replace("\n", " ")
             self.log.append(encode_own_line("An error occurred " + template))
 
     # -- the job
@@ -815,6 +952,7 @@ class Model:
                     self._create_folder(path)
         extension = "." + upper(s.OutputFile.split(".")[-1]) if "." in s.OutputFile else ""
         output_type = {".HTM": 0, ".HTML": 0, ".TXT": 1, ".TEXT": 1, ".M3U": 2}.get(extension, 0)
+        self._refuse_link_to_music(self._with_extension(s.OutputFile, output_type))
         if s.ErrorLog:
             self._check_writable(self.app_folder + "Tunedex.log")
             self.log = []
@@ -869,6 +1007,8 @@ class Model:
             if not current.endswith("/"):
                 current += "/"
             state["folder"] = current
+            if self._absolute(current) in self.result.folders:
+                continue  # Created for the listing, and empty.
             try:
                 what = os.stat(to_disk(current))
                 if (what.st_dev, what.st_ino) in seen:
@@ -960,14 +1100,14 @@ class Model:
             start = min(position_artist, position_title)
             prefix = start - 1
             bar = columns.find("|", start - 1) + 1
-            columns = columns.replace("Title" if position_artist < position_title else "Artist", "")
+            columns = settled(columns.replace("Title" if position_artist < position_title else "Artist", ""))
             columns = columns.replace("||", "|")
             merged = ""
             if s.Merge == 1:
                 merged = "ArtistTitle"
             elif s.Merge == 2:
                 merged = "ArtistAlbumTitle"
-                columns = columns.replace("Album", "").replace("||", "|")
+                columns = settled(columns.replace("Album", "")).replace("||", "|")
             columns = left(columns, prefix) + merged + right(columns, len(columns) - bar + 1)
             if columns.endswith("|"):
                 columns = columns[:-1]
@@ -985,14 +1125,18 @@ class Model:
             self._write_html(columns)
 
     @staticmethod
+    def _with_extension(path, output_type):
+        endings, added = [((".HTML", ".HTM"), ".htm"), ((".TXT",), ".txt"), ((".M3U",), ".m3u")][output_type]
+        return path if upper(path).endswith(endings) else path + added
+
+    @staticmethod
     def _header_text(column):
         return {"ARTISTTITLE": "Artist: Title", "ARTISTALBUMTITLE": "Artist (Album): Title"}.get(upper(column), column)
 
     def _write_text(self, columns):
         s = self.settings
-        if upper(s.OutputFile[-4:]) != ".TXT":
-            s.OutputFile += ".txt"
-        self._check_writable(s.OutputFile)
+        s.OutputFile = self._with_extension(s.OutputFile, 1)
+        self._open_listing(s.OutputFile)
         lines = []
 
         def finish(line):
@@ -1035,9 +1179,8 @@ class Model:
 
     def _write_playlist(self):
         s = self.settings
-        if upper(s.OutputFile[-4:]) != ".M3U":
-            s.OutputFile += ".m3u"
-        self._check_writable(s.OutputFile)
+        s.OutputFile = self._with_extension(s.OutputFile, 2)
+        self._open_listing(s.OutputFile)
         ascii_only = all(all(ord(character) < 128 for character in track.full_path) for track in self.tracks)
         encode = encode_text_listing if ascii_only else to_disk
         data = b"#EXTM3U\r\n"
@@ -1078,8 +1221,7 @@ class Model:
 
     def _write_html(self, columns):
         s = self.settings
-        if upper(s.OutputFile[-5:]) != ".HTML" and upper(s.OutputFile[-4:]) != ".HTM":
-            s.OutputFile += ".htm"
+        s.OutputFile = self._with_extension(s.OutputFile, 0)
         line_break = "<br />" if s.DocumentType == "XHTML" else "<br>"
         count = len(self.tracks)
         pages = 1
@@ -1098,7 +1240,7 @@ class Model:
             if pages > 1:
                 name = f"{base_name}.{page:03d}{extension}"
                 title = f"{s.WindowTitle} - Page {page} of {pages}"
-            self._check_writable(name)
+            self._open_listing(name)
             lines = self._head(title)
             if pages > 1:
                 lines.append(self._navigation(page, pages, base_name, extension))
@@ -1275,11 +1417,11 @@ class Model:
         return row + "</tr>"
 
     def _html_cell(self, key, track, i):
-        artist, album, title = (self._escape(text) for text in (track.artist, track.album, track.title))
-        if key == "ARTISTTITLE":
-            return f"<b>{artist}:</b> {title}"
-        if key == "ARTISTALBUMTITLE":
-            return f"<b>{artist}" + (f" ({album})" if track.album != "" else "") + f":</b> {title}"
+        if key in ("ARTISTTITLE", "ARTISTALBUMTITLE"):
+            cell = "<b>" + self._escape(track.artist)
+            if key == "ARTISTALBUMTITLE" and track.album != "":
+                cell += f" ({self._escape(track.album)})"
+            return cell + ":</b> " + self._escape(track.title)
         text = self._text_cell(key, track, i)
         if text is None or key in ("NUMBER", "FILE SIZE"):
             return text
