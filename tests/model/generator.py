@@ -115,6 +115,8 @@ class Case:
         kind = self.random.random()
         if kind < 0.9:
             self.installation_path = self.program_folder + self.pick(["", "/"])
+            if self.chance(0.02):
+                self._installed_program(new=True)
         elif kind < 0.94:
             self.program_folder = os.path.join(self.root, "app")
             self.executable = os.path.join(self.program_folder, "tunedex")
@@ -729,7 +731,7 @@ class Case:
                     b"+70\tF", b"255.4\tyy",
                 ])  # fmt: skip
                 entries.insert(self.random.randrange(len(entries) + 1), odd)
-        if self.chance(0.08):
+        if self.chance(0.12):
             entries = self.pick([[], entries]) + self.repeated_entries()
         end = self.line_end()
         data = end.join(entries) + (end if self.chance(0.8) else b"")
@@ -743,8 +745,8 @@ class Case:
         else:
             # Characters that are rare, for expansions of a megabyte: 2^20 bytes are allowed.
             code, times = self.pick([1, 127, 129]), self.pick([19, 20, 21])
-            if self.chance(0.3):
-                code, times = self.pick([38, 62, 97]), self.pick([21, 40, 64, 200])
+            if self.chance(0.6):
+                code, times = self.pick([38, 62, 97, 46, 32, 103, 101]), self.pick([21, 40, 64, 200])
         character = bytes([code])
         entries = [b"%d\t%s" % (code, character * 2)] * times
         if self.chance(0.2):

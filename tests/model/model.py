@@ -238,12 +238,13 @@ class Region:
     def __init__(self, date="", time="", thousands=",", point="."):
         self.date = date
         self.time = time
-        # Listings are Windows-1252: a separator that it lacks (U+202F in French) becomes a no-break space.
-        self.thousands = "\u00a0" if any(character not in TO_CODE_PAGE for character in thousands) else thousands
+        self.thousands = thousands
         self.point = point
 
     def grouped(self, number):
-        return f"{number:,}".replace(",", self.thousands)
+        # Listings are Windows-1252: a separator that it lacks (U+202F in French) becomes a no-break space.
+        sound = all(character in TO_CODE_PAGE for character in self.thousands)
+        return f"{number:,}".replace(",", self.thousands if sound else "\u00a0")
 
 
 def size_text(size, size_type, region):
