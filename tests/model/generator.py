@@ -543,7 +543,7 @@ class Case:
             os.symlink(self.pick([target, self._music_file()]), between)
             target = between
         elif kind == 5:
-            target = os.path.join(root, self.pick([b"new.dat", b"missing/new.dat", os.path.basename(path), b"out"]))
+            target = os.path.join(root, self.pick([b"new.dat", b"missing/new.dat", b"music/new.mp3", os.path.basename(path), b"out"]))
         os.symlink(self.pick([target, os.path.relpath(target, os.path.dirname(path))]), path)
         if os.geteuid() == 0 and self.chance(0.2):
             # A link of another user in a shared folder, which the kernel may refuse to follow.
