@@ -213,13 +213,12 @@ class ModelTest(unittest.TestCase):
         os.makedirs(self.path("usr/share/tunedex"))
         here = self.folder
         for installation, executable, environment, expected in [
-            ("/set", here + "/usr/bin/tunedex", {"HOME": here}, ("/set", "")),
-            ("", here + "/prog/tunedex", {"HOME": here}, (here + "/prog", "")),
-            ("", here + "/usr/bin/tunedex", {"HOME": here},
-             (here + "/.local/share/tunedex", here + "/usr/share/tunedex")),
-            ("", here + "/usr/bin/tunedex", {"HOME": here, "XDG_DATA_HOME": "/d"},
-             ("/d/tunedex", here + "/usr/share/tunedex")),
-        ]:  # fmt: skip
+            ("/set", here + "/usr/bin/tunedex", {"HOME": here}, ("/set", False)),
+            ("", here + "/prog/tunedex", {"HOME": here}, (here + "/prog", False)),
+            ("", here + "/usr/bin/tunedex", {"HOME": here}, (here + "/.local/share/tunedex", True)),
+            ("", here + "/usr/bin/tunedex", {"HOME": here, "XDG_DATA_HOME": ""}, (here + "/.local/share/tunedex", True)),
+            ("", here + "/usr/bin/tunedex", {"HOME": here, "XDG_DATA_HOME": "/d"}, ("/d/tunedex", True)),
+        ]:
             with self.subTest((installation, executable)):
                 self.assertEqual(program_folder(installation, executable, environment), expected)
 

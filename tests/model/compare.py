@@ -47,6 +47,7 @@ FLEETING = re.compile(
 )
 PROMPTS = {48: b"[OK] ", 64: b"[OK] ", 52: b"Yes or No? [No] "}
 REASON = b"\0reason"
+SHIPPED = str(pathlib.Path(__file__).resolve().parents[2] / "data")
 TOO_LARGE_TO_READ = 4 << 20
 
 
@@ -175,8 +176,7 @@ def region(settings):
     return found
 
 
-def model_outcome(case, before, now, executable, environment):
-    folder, shipped = program_folder(case.installation_path, executable, environment)
+def model_outcome(case, before, now, folder, shipped):
     result = Model(folder, now, case.root, case.answers, shipped).run()
     files = dict(before)
     for path, data in result.files.items():
@@ -188,6 +188,26 @@ def model_outcome(case, before, now, executable, environment):
     for path in result.removed:
         del files[path]
     return files, printed(result.events), result.exit_status, result.files
+
+
+def make_data_folder(case, command, environment):
+    """An earlier run makes the data folder. Then the user deletes what it was given, and adds the files of the case."""
+    aside = os.path.join(case.root, "aside")
+    os.rename(case.program_folder, aside)
+    subprocess.run(command, cwd=case.root, env=environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
+    os.makedirs(case.program_folder, exist_ok=True)
+    for entry in os.scandir(case.program_folder):
+        if not entry.name.startswith("."):
+            shutil.rmtree(entry.path) if entry.is_dir() else os.remove(entry.path)
+    for name in os.listdir(aside):
+        os.rename(os.path.join(aside, name), os.path.join(case.program_folder, name))
+    os.rmdir(aside)
+
+
+def without_marks(found, folder):
+    """How the program remembers that it made its data folder is its own affair."""
+    marks = os.fsencode(folder) + b"/."
+    return {path: what for path, what in found.items() if not path.startswith(marks)}
 
 
 @contextlib.contextmanager
@@ -251,10 +271,13 @@ def compare_case(seed, program, no_sleep, scratch, keep):
     executable = case.executable or program
     if case.executable:
         place(program, executable)
+    folder, is_data_folder = program_folder(case.installation_path, executable, environment)
+    if case.in_data_folder:
+        make_data_folder(case, [executable, "/AUTO"], environment)
     before = snapshot(root)
     now = region(case.locale)
     with locks(case.locked):
-        expected = model_outcome(case, before, now, executable, environment)
+        expected = model_outcome(case, before, now, folder, SHIPPED if is_data_folder else "")
         run = subprocess.run(
             [executable, *case.arguments],
             cwd=root,
@@ -265,6 +288,8 @@ def compare_case(seed, program, no_sleep, scratch, keep):
             umask=case.umask,
         )
     after = snapshot(root, expected[3])
+    if is_data_folder and not case.in_data_folder:
+        after = without_marks(after, folder)
     lines = error_lines(run.stderr)
 
     def agrees(outcome):

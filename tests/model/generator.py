@@ -110,6 +110,7 @@ class Case:
         self.environment = {"HOME": self.root, "XDG_CONFIG_DIRS": os.path.join(self.root, "etc")}
         self.executable = ""  # where the program is to be; empty for where it was built
         self.installation_path = ""
+        self.in_data_folder = False  # whether the program folder is a data folder that an earlier run made
         self.own_folders = ["prog", "conf", ".config", "etc", "app", "usr", ".local", "data"]
         self.program_folder = os.path.join(self.root, "prog")
         kind = self.random.random()
@@ -131,10 +132,7 @@ class Case:
     def _installed_program(self, new):
         self.executable = os.path.join(self.root, "usr", "bin", "tunedex")
         share = os.path.join(self.root, "usr", "share", "tunedex")
-        os.makedirs(os.path.join(share, "Themes"))
-        for name in ("html_entities.lst", "tips.lst", "Themes/Dark.thm", "Themes/Light.thm", "Help.html"):
-            if self.chance(0.9):
-                self.write(os.path.join(share, name), b"38\t&amp;\r\n" + name.encode())
+        os.makedirs(share)
         data = os.path.join(self.root, "data")
         kind = self.random.randrange(3)
         if kind == 0:
@@ -145,6 +143,7 @@ class Case:
                 self.environment["XDG_DATA_HOME"] = ""
         if not new:
             self.program_folder = os.path.join(data, "tunedex")
+            self.in_data_folder = True
 
     def _registry(self):
         """The installation path comes from the user's file, else from the system-wide one."""

@@ -628,22 +628,21 @@ class Result:
 
 
 def program_folder(installation_path, executable, environment):
-    """The program folder, and the folder with the shipped files that a new one is given ("" when it is given none)."""
+    """The program folder, and whether it is the user's data folder."""
     if installation_path != "":
-        return installation_path, ""
+        return installation_path, False
     beside = os.path.dirname(executable)
-    share = os.path.join(os.path.dirname(beside), "share", "tunedex")
-    installed = os.path.isdir(share)
+    installed = os.path.isdir(os.path.join(os.path.dirname(beside), "share", "tunedex"))
     if not installed and os.access(beside, os.W_OK):
-        return beside, ""
+        return beside, False
     data = environment.get("XDG_DATA_HOME") or os.path.join(environment["HOME"], ".local", "share")
-    return os.path.join(data, "tunedex"), share if installed else beside
+    return os.path.join(data, "tunedex"), True
 
 
 class Model:
     """One unattended run in `current_folder`; the first `answers` messages get one, Yes where there is a choice.
 
-    `folder` and `shipped` are what program_folder() returns.
+    `shipped` is the folder of the files that a new program folder is given; empty when it is given none.
     """
 
     def __init__(self, folder, region, current_folder, answers=0, shipped=""):
@@ -806,7 +805,8 @@ class Model:
         if os.path.isdir(themes):
             self.result.folders.append(self._absolute(self.app_folder + "Themes"))
             for name in os.listdir(themes):
-                self._copy_shipped("Themes/" + name)
+                if name.endswith(".thm"):
+                    self._copy_shipped("Themes/" + name)
 
     def _copy_shipped(self, name):
         path = os.path.join(self.shipped, name)
