@@ -213,8 +213,11 @@ def without_marks(found, folder):
 @contextlib.contextmanager
 def locks(paths):
     """Holds a lock of either kind on the files, as a run that is still writing them does."""
-    handles = [os.open(path, os.O_RDWR) for path in paths]
+    handles = []
     try:
+        for path in paths:
+            with contextlib.suppress(PermissionError):  # In a folder that nobody may enter.
+                handles.append(os.open(path, os.O_RDWR))
         for handle in handles:
             fcntl.flock(handle, fcntl.LOCK_EX)
             fcntl.fcntl(handle, fcntl.F_OFD_SETLK, struct.pack("hhqqi4x", fcntl.F_WRLCK, os.SEEK_SET, 0, 0, 0))

@@ -173,7 +173,7 @@ class Case:
             if path.startswith(own):
                 continue
             for name in files:
-                if name.startswith(b".tunedex-"):
+                if b"tunedex-" in name:
                     continue  # Whether it is locked could not be found out.
                 if self.chance(0.03) and os.path.isfile(os.path.join(path, name)):
                     if not os.path.islink(os.path.join(path, name)):
