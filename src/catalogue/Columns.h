@@ -41,7 +41,7 @@ struct ColumnKind {
     bool rightCells = false;         // cells are aligned right
     bool blankForEmpty = false;      // an empty text shows as "&nbsp;" in pages, so that its cell is painted
     SharedText TrackRow::*text = {}; // the stored text it shows; none where the writers make the text
-    std::string_view header = {};    // what stands over it; none where that is the name in the settings
+    std::string_view header = {};    // its header in listings; none where that is the name in the settings
 };
 
 // In the order of the keys; the columns that users can choose come first, in the order in which they are
@@ -95,21 +95,21 @@ constexpr const ColumnKind& KindOf(ColumnKey key) {
 }
 
 struct Column {
-    std::string name; // as it stands in the settings, or the merge's
+    std::string name; // as the settings spell it, or the merge's
     ColumnKey key = ColumnKey::Unknown;
 };
 
-// The column that a name stands for, in whatever case it is written.
+// The column of that name, compared without regard to case.
 ColumnKey ColumnKeyOf(std::string_view name);
 
 // The column list of a listing: `activeColumns` with artist and title (`merge` 1) or artist, album and title
 // (2) made one column where both artist and title are active. Positions count characters, a stray byte as
-// one. Raises error 5 where album stands so far before the others that nothing is left behind them.
+// one. Raises error 5 where album comes so far before the others that nothing is left behind them.
 std::string MergeColumns(const std::string& activeColumns, std::int16_t merge);
 
 std::vector<Column> SplitColumns(const std::string& columnList);
 
-// What stands over a column.
+// A column's header.
 std::string HeaderText(const Column& column);
 
 } // namespace tunedex

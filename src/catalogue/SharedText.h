@@ -35,7 +35,7 @@ class SharedText {
     friend class LongText;
     friend class TextStore;
 
-    // In the place of the length: a length of 64 bits stands before it.
+    // In place of the length: a length of 64 bits precedes it.
     static constexpr std::uint32_t kLongMark = 0xFFFFFFFFU;
 
     explicit SharedText(const char* record) : record_(record) {}

@@ -70,14 +70,14 @@ char32_t InDocument(char32_t character) {
     return character == 0xFFFE || character == 0xFFFF ? kReplacementCharacter : character;
 }
 
-// A stray byte xx (80 to FF) stands for the lone surrogate U+DCxx where characters are needed.
+// As a character, a stray byte xx (80 to FF) is the lone surrogate U+DCxx.
 constexpr char32_t kStraySurrogates = 0xDC00;
 
 bool IsStraySurrogate(char32_t character) {
     return character >= kStraySurrogates + 0x80 && character <= kStraySurrogates + 0xFF;
 }
 
-// The stray byte that the UTF-8 form of a lone surrogate at `position` stands for.
+// The stray byte that is escaped at `position`: the UTF-8 form of a lone surrogate.
 std::optional<unsigned char> EscapedStrayByte(std::string_view bytes, std::size_t position) {
     if (bytes.size() - position < 3 || ByteAt(bytes, position) != 0xED) {
         return std::nullopt;

@@ -25,7 +25,7 @@ enum class TextEncoding {
 //
 // A stream (a FIFO, a pipe behind /dev/stdout, a terminal) that takes no more is waited for. The stop test is
 // asked while that lasts; once it ends the wait, everything that is still to be written is dropped, and
-// Close() closes the file as it stands.
+// Close() closes the file as it is.
 //
 // The constructor, the writes and Close() raise the error of what failed: 75 where the file or the folder may
 // not be written, 76 for a folder that is not there, 61 for a full disk, 52 for an impossible name, 57 for

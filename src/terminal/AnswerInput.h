@@ -1,4 +1,4 @@
-// Standard input, or what stands for it, as a source of answers: one line each.
+// Answers from a file descriptor, standard input as a rule: one line each.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,5 @@
-// Standard error, or what stands for it: written in full while someone reads it, abandoned after an abort.
+// Output to a file descriptor, standard error as a rule: written in full while it is read, abandoned after an
+// abort.
 #pragma once
 
 #include <string_view>
