@@ -124,7 +124,7 @@ LongTextHandle LongTextPool::Share(LongText text) {
     const std::lock_guard lock(mutex_);
     const auto [first, last] = texts_.equal_range(hash);
     for (auto entry = first; entry != last;) {
-        const LongTextHandle known = entry->second.lock();
+        LongTextHandle known = entry->second.lock();
         if (known && known->View() == text.View()) {
             return known;
         }

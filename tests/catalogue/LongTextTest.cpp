@@ -68,9 +68,9 @@ TEST(LongTextPool, LetsOneReaderAtATimeExceedTheLimit) {
         std::this_thread::yield();
         --exceeding;
     };
-    std::vector<std::thread> readers;
-    for (int i = 0; i < 16; ++i) {
-        readers.emplace_back(read);
+    std::vector<std::thread> readers(16);
+    for (std::thread& reader : readers) {
+        reader = std::thread(read);
     }
     for (std::thread& reader : readers) {
         reader.join();

@@ -7,7 +7,7 @@
 namespace tunedex {
 namespace {
 
-std::string TextOf(std::size_t length, char last = 'z') {
+std::string LettersOf(std::size_t length, char last = 'z') {
     std::string text(length, 't');
     text.back() = last;
     return text;
@@ -20,8 +20,8 @@ TEST(TrackTable, HoldsTextsOfEveryLengthAsTheyAre) {
                                      std::size_t{65536}, std::size_t{2097153}}) {
         TrackInfo track;
         track.FullPath = "/music/" + std::to_string(length) + ".mp3";
-        track.Title = TextOf(length);
-        track.Album = TextOf(length, 'y');
+        track.Title = LettersOf(length);
+        track.Album = LettersOf(length, 'y');
         track.TagType = kId3v2Tag;
         table.Append(track);
         tracks.push_back(track);
@@ -34,26 +34,26 @@ TEST(TrackTable, HoldsTextsOfEveryLengthAsTheyAre) {
 TEST(TrackTable, HoldsALongTextOnceWhateverFieldsShowIt) {
     TrackTable table(2);
     TrackInfo track;
-    track.Artist = track.Title = track.Album = track.Year = track.Genre = TextOf(4096);
+    track.Artist = track.Title = track.Album = track.Year = track.Genre = LettersOf(4096);
     track.TagType = kId3v2Tag;
     table.Append(track);
-    track.Title = TextOf(4096, 'y');
+    track.Title = LettersOf(4096, 'y');
     table.Append(track);
     const TrackRow& first = table.At(1);
     for (const SharedText& text : {first.Artist, first.Album, first.Year, first.Genre, table.At(2).Artist}) {
         EXPECT_EQ(text.Identity(), first.Title.Identity());
     }
     EXPECT_NE(table.At(2).Title.Identity(), first.Title.Identity());
-    EXPECT_EQ(table.At(2).Title.View(), TextOf(4096, 'y'));
+    EXPECT_EQ(table.At(2).Title.View(), LettersOf(4096, 'y'));
 }
 
 TEST(TrackTable, TakesOverTheLongTextsThatReadersShare) {
     TrackTable table(1);
     const TrackInfo fresh;
     TrackInfo track;
-    const LongTextHandle text = table.LongTexts().Share(TextOf(5000));
+    const LongTextHandle text = table.LongTexts().Share(LettersOf(5000));
     track.Set(&TrackInfo::Genre, text);
-    track.Set(&TrackInfo::Title, table.LongTexts().Share(TextOf(5000)));
+    track.Set(&TrackInfo::Title, table.LongTexts().Share(LettersOf(5000)));
     table.Append(track);
     EXPECT_EQ(table.At(1).Genre.Identity(), text->Shared().Identity());
     EXPECT_EQ(table.At(1).Title.Identity(), text->Shared().Identity());
@@ -65,10 +65,10 @@ TEST(TrackTable, TakesOverTheLongTextsThatReadersShare) {
 TEST(TrackTable, MovesWithItsLongTexts) {
     TrackTable table(1);
     TrackInfo track;
-    track.Title = TextOf(5000);
+    track.Title = LettersOf(5000);
     table.Append(track);
     const TrackTable moved = std::move(table);
-    EXPECT_EQ(moved.At(1).Title.View(), TextOf(5000));
+    EXPECT_EQ(moved.At(1).Title.View(), LettersOf(5000));
 }
 
 } // namespace
