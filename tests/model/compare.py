@@ -275,7 +275,7 @@ def compare_case(seed, program, no_sleep, scratch, keep):
     if case.executable:
         place(program, executable)
     folder, is_data_folder = program_folder(case.installation_path, executable, environment)
-    if case.in_data_folder:
+    if case.made_by_the_program:
         make_data_folder(case, [executable, "/AUTO"], environment)
     before = snapshot(root)
     now = region(case.locale)

@@ -110,7 +110,8 @@ class Case:
         self.environment = {"HOME": self.root, "XDG_CONFIG_DIRS": os.path.join(self.root, "etc")}
         self.executable = ""  # where the program is to be; empty for where it was built
         self.installation_path = ""
-        self.in_data_folder = False  # whether the program folder is a data folder that an earlier run made
+        self.in_data_folder = False  # whether the program folder is a data folder that exists already
+        self.made_by_the_program = False  # whether an earlier run made it
         self.own_folders = ["prog", "conf", ".config", "etc", "app", "usr", ".local", "data"]
         self.program_folder = os.path.join(self.root, "prog")
         kind = self.random.random()
@@ -144,6 +145,7 @@ class Case:
         if not new:
             self.program_folder = os.path.join(data, "tunedex")
             self.in_data_folder = True
+            self.made_by_the_program = self.chance(0.5)
 
     def _registry(self):
         """The installation path comes from the user's file, else from the system-wide one."""
@@ -213,7 +215,7 @@ class Case:
             name = self.name()
             if self.chance(0.1):
                 name += b".mp3"
-            path = os.path.join(parent, name)
+            path = os.path.join(parent, name[:LARGEST_NAME])
             if name not in (b".", b"..") and not os.path.lexists(path):
                 os.mkdir(path)
                 self.folders.append(path)
