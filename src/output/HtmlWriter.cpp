@@ -52,11 +52,9 @@ class HtmlPages {
     // Returns false when the user aborted within the page.
     bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
         const bool several = files_.count > 1;
-        // All pages are in one folder: one look for stale files is enough.
         TextFile file(
             several ? files_.PathOf(number) : settings_.OutputFile, TextEncoding::Windows1252References,
-            [this] { return listing_.monitor.AbortRequested(); },
-            number == 1 ? StaleFiles::Remove : StaleFiles::Keep);
+            [this] { return listing_.monitor.AbortRequested(); }, &cleaned_);
         page_.SetSink(TextFile::kPieceBytes, [&file](std::string_view text) { file.Write(text); });
         std::string navigation;
         std::string heading;
@@ -115,6 +113,7 @@ class HtmlPages {
     std::string tableFoot_;
     std::string end_;
     PageBuffer page_; // what is still to be written
+    CleanedFolders cleaned_;
 };
 
 } // namespace

@@ -58,7 +58,7 @@ std::string PathOfDescriptor(int descriptor) {
 
 } // namespace
 
-FileReplacement::FileReplacement(const std::string& path, StaleFiles staleFiles) : staleFiles_(staleFiles) {
+FileReplacement::FileReplacement(const std::string& path, CleanedFolders* cleaned) : cleaned_(cleaned) {
     if (path.find('\0') != std::string::npos) {
         Fail(EINVAL);
     }
@@ -220,7 +220,7 @@ void FileReplacement::CreateFresh() {
 }
 
 bool FileReplacement::CreateTemporary(mode_t mode) {
-    if (std::exchange(staleFiles_, StaleFiles::Keep) == StaleFiles::Remove) {
+    if (cleaned_ == nullptr || cleaned_->Add(folder_.Get())) {
         RemoveStaleTemporaryFiles(folder_.Get());
     }
     TemporaryFile file = CreateTemporaryFile(folder_.Get(), mode);

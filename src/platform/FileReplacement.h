@@ -2,15 +2,13 @@
 // file, or written in place where that cannot be done.
 #pragma once
 
+#include "TemporaryFiles.h"
 #include "UniqueFd.h"
 
 #include <string>
 #include <sys/stat.h>
 
 namespace tunedex {
-
-// Whether temporary files that an earlier run left in the folder are removed. That lists the folder.
-enum class StaleFiles { Remove, Keep };
 
 // Symbolic links are followed by the kernel, so its protection of links in shared folders applies; what it
 // has opened is then found by device and inode. The temporary file has mode 0600 until it is given the old
@@ -24,7 +22,7 @@ class FileReplacement {
     // Raises 75 where the file or its folder may not be written, the link may not be followed or leads to a
     // name that ends in .mp3; 76 for a folder that is not there; 52 for an impossible name; 57 for a FIFO
     // without a reader, and other errors as ErrorFromErrno names them.
-    FileReplacement(const std::string& path, StaleFiles staleFiles);
+    FileReplacement(const std::string& path, CleanedFolders* cleaned);
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
     // Unless Commit() has returned, removes the temporary file; the old file is then as it was.
@@ -50,7 +48,7 @@ class FileReplacement {
     void RemovePlaceholder() noexcept;
     void Discard() noexcept;
 
-    StaleFiles staleFiles_;
+    CleanedFolders* cleaned_;
     UniqueFd folder_;          // the real file's folder; none when the file is written in place unlocated
     std::string name_;         // the real file's name in it
     std::string temporary_;    // name of the temporary file; empty when written in place

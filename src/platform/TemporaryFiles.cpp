@@ -90,4 +90,9 @@ void RemoveStaleTemporaryFiles(int folder) {
     }
 }
 
+bool CleanedFolders::Add(int folder) {
+    struct stat status {};
+    return fstat(folder, &status) == 0 && folders_.emplace(status.st_dev, status.st_ino).second;
+}
+
 } // namespace tunedex

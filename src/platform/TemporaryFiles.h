@@ -4,8 +4,10 @@
 
 #include "UniqueFd.h"
 
+#include <set>
 #include <string>
 #include <sys/types.h>
+#include <utility>
 
 namespace tunedex {
 
@@ -18,8 +20,17 @@ struct TemporaryFile {
 TemporaryFile CreateTemporaryFile(int folder, mode_t mode);
 
 // Removes the temporary files in the open folder `folder` that were last written more than a day ago and that
-// no process holds locked. What cannot be examined or removed stays. Lists the whole folder: to be called
-// once for several files in it.
+// no process holds locked. What cannot be examined or removed stays. Lists the whole folder.
 void RemoveStaleTemporaryFiles(int folder);
+
+// The folders that need not be listed again for several files of one listing.
+class CleanedFolders {
+  public:
+    // Whether the open folder `folder` is a new one; one that cannot be examined is not.
+    bool Add(int folder);
+
+  private:
+    std::set<std::pair<dev_t, ino_t>> folders_;
+};
 
 } // namespace tunedex

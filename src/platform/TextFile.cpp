@@ -14,8 +14,8 @@ constexpr std::size_t kDirectBytes = 16384;
 
 } // namespace
 
-TextFile::TextFile(const std::string& path, TextEncoding encoding, StopTest stop, StaleFiles staleFiles)
-    : encoding_(encoding), stop_(std::move(stop)), file_(path, staleFiles) {}
+TextFile::TextFile(const std::string& path, TextEncoding encoding, StopTest stop, CleanedFolders* cleaned)
+    : encoding_(encoding), stop_(std::move(stop)), file_(path, cleaned) {}
 
 void TextFile::Write(std::string_view text) {
     // A large piece that no encoding changes goes to the system from where it is.

@@ -35,10 +35,10 @@ class TextFile {
     // How many bytes of text a writer best hands over at a time: that much goes to the system without a copy.
     static constexpr std::size_t kPieceBytes = 262144;
 
-    // With StaleFiles::Remove it removes temporary files that an earlier run left in the folder: the first of
-    // several files in one folder should.
+    // Removes temporary files that an earlier run left in the folder. For several files, `cleaned` keeps each
+    // folder from being listed again.
     TextFile(const std::string& path, TextEncoding encoding, StopTest stop = {},
-             StaleFiles staleFiles = StaleFiles::Remove);
+             CleanedFolders* cleaned = nullptr);
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
     ~TextFile() = default;

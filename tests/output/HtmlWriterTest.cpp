@@ -5,6 +5,7 @@
 #include <array>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tunedex {
 namespace {
@@ -249,6 +250,22 @@ TEST_F(HtmlWriterTest, LooksForStaleTemporaryFilesOnceForAllPages) {
     EXPECT_TRUE(removed);
     EXPECT_TRUE(folder.Exists("list.003.htm"));
     EXPECT_TRUE(folder.Exists(".tunedex-1-1.tmp")) << "later pages do not list the folder again";
+}
+
+TEST_F(HtmlWriterTest, LooksForStaleTemporaryFilesInEachFolderThatPagesAreLinkedTo) {
+    UseMany(9);
+    settings.Spanning = 3;
+    folder.Write("elsewhere/first.htm", "old");
+    ASSERT_EQ(symlink("elsewhere/first.htm", (folder / "list.001.htm").c_str()), 0);
+    const timespec time{1'000'000'000, 0};
+    const std::array<timespec, 2> times = {time, time};
+    for (const char* name : {".tunedex-1-1.tmp", "elsewhere/.tunedex-1-2.tmp"}) {
+        folder.Write(name, "left");
+        ASSERT_EQ(utimensat(AT_FDCWD, (folder / name).c_str(), times.data(), 0), 0);
+    }
+    EXPECT_FALSE(Write(kHtmlOutput));
+    EXPECT_FALSE(folder.Exists("elsewhere/.tunedex-1-2.tmp"));
+    EXPECT_FALSE(folder.Exists(".tunedex-1-1.tmp"));
 }
 
 } // namespace
