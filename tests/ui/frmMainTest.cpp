@@ -411,7 +411,7 @@ class frmMainTest : public QObject {
                                                             "These settings were not saved:\n\nDirectory"));
         QCOMPARE(desk.dialogs.messages[0].buttons, 48);
         QCOMPARE(desk.dialogs.messages[0].title, std::string("Settings"));
-        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "Recurse=1"));
+        QVERIFY(HoldsLine(desk.folder / "Tunedex.cfg", "Recurse=0"));
         QVERIFY(test::ReadBytes(desk.folder / "Tunedex.cfg").find("Directory=") == std::string::npos);
     }
 
