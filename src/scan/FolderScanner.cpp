@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace tunedex {
 
@@ -41,7 +42,7 @@ class CollectingVisitor final : public WalkVisitor {
                       ReadOptions options, unsigned readers)
         : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
           queue_(
-              readers, options, [this](QueuedTrack& track) { Store(track); },
+              readers, std::move(options), [this](QueuedTrack& track) { Store(track); },
               [this] { return monitor_.AbortRequested(); }) {}
 
     void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) override {
@@ -125,7 +126,7 @@ bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool r
     FolderWalk walk(FolderWalk::Preload::Never); // the count has loaded the folders
     ReadOptions options = options_;
     options.longTexts = &table_.LongTexts();
-    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, options, readers_);
+    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, std::move(options), readers_);
     bool aborted = false;
     std::optional<FileFailure> failure;
     // The files listed before an error are read before it is reported, and one of them may fail first.

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tunedex {
@@ -36,8 +37,8 @@ class FolderScanner {
     // `readers`: see TrackQueue.
     FolderScanner(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
                   ReadOptions options, unsigned readers = 0)
-        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter), options_(options),
-          readers_(readers) {}
+        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
+          options_(std::move(options)), readers_(readers) {}
 
     // Walks a folder setting: one folder, or a multi-folder value. Collecting stores no more records than the
     // counting pass found files. An error in the walk is reported and ends it; the records so far stay.
