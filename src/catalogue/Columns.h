@@ -90,8 +90,7 @@ static_assert(
 
 // The row of a key.
 constexpr const ColumnKind& KindOf(ColumnKey key) {
-    return kColumns[static_cast<std::size_t>(
-        key)]; // NOLINT(cppcoreguidelines-pro-bounds-constant-array-index)
+    return kColumns[static_cast<std::size_t>(key)];
 }
 
 struct Column {
