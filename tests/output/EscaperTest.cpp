@@ -16,7 +16,7 @@
 namespace tunedex {
 namespace {
 
-using Lines = std::vector<std::string>;
+using EntityLines = std::vector<std::string>;
 
 std::string CharacterOf(int code) {
     std::string text;
@@ -24,7 +24,7 @@ std::string CharacterOf(int code) {
     return text;
 }
 
-EntityTable TableOf(const Lines& lines) {
+EntityTable TableOf(const EntityLines& lines) {
     EntityTable table;
     std::ostringstream faults;
     table.Load(lines, "test", faults);
@@ -32,7 +32,7 @@ EntityTable TableOf(const Lines& lines) {
     return table;
 }
 
-Escaper EscaperOf(const Lines& lines) {
+Escaper EscaperOf(const EntityLines& lines) {
     return Escaper(TableOf(lines));
 }
 
@@ -65,7 +65,7 @@ TEST(Escaper, RemovesNulCharactersOnlyWhereItHasAnEmptySlotThatIsApplied) {
 }
 
 TEST(Escaper, ReplacesEveryCharacterOfTheCodePage) {
-    Lines lines;
+    EntityLines lines;
     std::string text;
     std::string expected;
     for (int code = 128; code < 256; ++code) {
@@ -95,13 +95,13 @@ TEST(Escaper, EndsInACommentOrEmptyLineWithoutHarm) {
 
 TEST(Escaper, RaisesOverflowOnlyWhereATextMeetsACharacterThatGrowsTooLong) {
     const std::string million(1000000, 'a');
-    const Lines tables[] = {
-        Lines(64, "97\taa"),                                         // doubles with every line
+    const EntityLines tables[] = {
+        EntityLines(64, "97\taa"),                                   // doubles with every line
         {"97\t" + million, "97\t" + million},                        // multiplies
         {"97\t" + std::string(Escaper::kLongestExpansion + 1, 'b')}, // one byte too long
         {"97\t" + million, "97\t" + million, "97\t"},                // too long on the way
     };
-    for (const Lines& lines : tables) {
+    for (const EntityLines& lines : tables) {
         const Escaper table = EscaperOf(lines);
         EXPECT_EQ(table.EscapeEntities("b&c"), "b&c");
         EXPECT_EQ(test::RaisedBy([&] { table.EscapeEntities("bac"); }), 6);
@@ -114,7 +114,7 @@ TEST(Escaper, RaisesOverflowOnlyWhereATextMeetsACharacterThatGrowsTooLong) {
 TEST(Escaper, ExpandsACharacterToAsMuchAsIsAllowed) {
     const std::string longest(Escaper::kLongestExpansion, 'b');
     EXPECT_EQ(EscaperOf({"97\t" + longest}).EscapeEntities("ac"), longest + "c");
-    EXPECT_EQ(EscaperOf(Lines(20, "97\taa")).EscapeEntities("a"),
+    EXPECT_EQ(EscaperOf(EntityLines(20, "97\taa")).EscapeEntities("a"),
               std::string(Escaper::kLongestExpansion, 'a'));
 }
 
@@ -137,7 +137,7 @@ TEST(Escaper, GivesWhatGoingThroughTheTextSlotBySlotGives) {
             }
             return text;
         };
-        Lines lines;
+        EntityLines lines;
         for (std::size_t i = random() % 7; i > 0; --i) {
             const int codes[] = {'a', 'b', '&', ';', 'c', '<', 233, 0};
             lines.push_back(random() % 4 == 0
@@ -156,7 +156,7 @@ class ShippedEntities : public testing::Test {
         : lines_(ReadTextLines(std::string(TUNEDEX_SOURCE_DIR) + "/data/html_entities.lst")),
           table_(TableOf(lines_)), escaper_(table_) {}
 
-    const Lines lines_;
+    const EntityLines lines_;
     const EntityTable table_;
     const Escaper escaper_;
 };

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <string>
 #include <sys/resource.h>
+#include <utility>
 #include <vector>
 
 namespace tunedex {
@@ -29,7 +30,7 @@ constexpr const char* kDecodeError = R"(decoding the headers of: \n\n%F)";
 // Both passes as a run makes them.
 struct Scan {
     explicit Scan(unsigned readerCount = 1, ReadOptions readOptions = {})
-        : readers(readerCount), options(readOptions) {}
+        : readers(readerCount), options(std::move(readOptions)) {}
 
     bool Count(const std::string& folders, bool recurse = true) {
         return FolderScanner(totals, table, monitor, reporter, options, readers)

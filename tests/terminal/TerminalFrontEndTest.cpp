@@ -257,8 +257,11 @@ TEST_F(TerminalFrontEndTest, KeepsTheLineBreaksOfNamesOutOfATerminal) {
         const std::string shown =
             terminal ? "\r\na??b?c?d?e?f\r\n[OK] \r\n" : "\na\nb\nc\nd\u2029e\u202Ef\n[OK] \n";
         const std::string title = terminal ? "Error!\r\n" : "Error!\n";
-        EXPECT_EQ(Written(), title + "An error occurred scanning: " + shown + title +
-                                 "An error occurred decoding: " + shown);
+        std::string expected;
+        for (const char* step : {"scanning", "decoding"}) {
+            expected.append(title).append("An error occurred ").append(step).append(": ").append(shown);
+        }
+        EXPECT_EQ(Written(), expected);
         close(input_);
         close(read_);
         close(write_);
