@@ -83,8 +83,9 @@ TEST(LogFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
     LogFile log(path, [&] { return ++asked > 2; });
     const std::string line(1000, 'x');
     int lines = 0;
-    for (; asked == 0; ++lines) {
+    while (asked == 0) {
         log.WriteLine(line);
+        ++lines;
     }
     EXPECT_GT(lines, 2);
     EXPECT_EQ(asked, 3) << "a wait asks again and again";
