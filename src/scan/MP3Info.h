@@ -20,10 +20,9 @@ struct ReadOptions {
 
 struct TrackReading {
     TrackInfo track;
-    std::int64_t seconds = 0; // whole seconds of playing time
-    std::optional<RunTimeError>
-        decodeError;      // why the audio header gave nothing; the track stands all the same
-    bool stopped = false; // the stop test ended the reading: the rest is not to be used
+    std::int64_t seconds = 0;                // whole seconds of playing time
+    std::optional<RunTimeError> decodeError; // why the audio header gave nothing; the track is kept
+    bool stopped = false;                    // the stop test ended the reading: the rest is not to be used
 };
 
 // The longest file size a record holds, in bytes.

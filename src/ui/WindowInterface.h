@@ -12,7 +12,7 @@ class WindowInterface : public UserInterface {
     using UserInterface::ShowMessage;
 
     // As above, for a message that `owner` raises: the box stays in front of that window and gives the focus
-    // back to it. A hidden owner stands for the window that it belongs to.
+    // back to it. For a hidden owner, its nearest visible parent owns the box.
     virtual int ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) = 0;
 };
 

@@ -112,7 +112,7 @@ bool Concerns(int folder, const char* path) {
     return !prefix.empty() && (text.starts_with('/') ? text.starts_with(prefix) : Concerns(folder));
 }
 
-// The descriptor that a path like /proc/self/fd/7 stands for; -1 for other paths.
+// The file descriptor that a path like /proc/self/fd/7 names; -1 for other paths.
 int DescriptorIn(const char* path) {
     constexpr std::string_view kLinks = "/proc/self/fd/";
     return std::string_view(path).starts_with(kLinks) ? NumberOf(path + kLinks.size()) : -1;

@@ -454,7 +454,7 @@ class Case:
         return text
 
     def columns_behind_an_album(self):
-        """An album that stands first makes the merge cut at the wrong place, and so in the midst of a name."""
+        """A leading album makes the merge cut at the wrong position, and so within a name."""
         columns = ["Artist", "Title", self.pick(UNKNOWN_COLUMNS), *self.random.choices(UNKNOWN_COLUMNS + ACTIVE, k=3)]
         self.random.shuffle(columns)
         return "|".join([self.pick(["Album", "Album", "ALBUM", "Foo", "é"]), *columns])

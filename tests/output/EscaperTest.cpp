@@ -267,7 +267,7 @@ TEST(Escaper, PutsIntoAPageWhatItAppendsToAText) {
             if (test::RaisedBy([&] { escaper.EscapeEntities(text); }) != 0) {
                 continue; // the entries expand each other beyond what is allowed
             }
-            // What stands behind a padded text must not count.
+            // The padding behind a text must not affect the result.
             const std::string padded =
                 text + std::string(PageBuffer::kStep, static_cast<char>(random() % 256));
             escaper.PutEscaped(page, std::string_view(padded).substr(0, text.size()));

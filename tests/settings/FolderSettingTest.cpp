@@ -52,7 +52,7 @@ TEST(StartFolders, MakesOneOfEachEntry) {
         {"%MULT%%||%", {}},
         {"%MULT%%||%C:\\A%||%%||%D:\\B%||%", {{"C:\\A\\", "C:\\A\\"}, {"D:\\B\\", "D:\\B\\"}}},
         {"%MULT%C:\\%MULT%A%||%B",
-         {{"C:\\A\\", "C:\\A\\"}, {"B", "B\\"}}}, // the mark goes wherever it stands
+         {{"C:\\A\\", "C:\\A\\"}, {"B", "B\\"}}}, // every mark is removed, wherever it is
         {"%mult%C:\\A%||%B", {{"%mult%C:\\A%||%B", "%mult%C:\\A%||%B\\"}}},
         {"C:\\A%||%D:\\B", {{"C:\\A%||%D:\\B", "C:\\A%||%D:\\B\\"}}},
         {" %MULT%C:\\A", {{" %MULT%C:\\A", " %MULT%C:\\A\\"}}},
