@@ -32,7 +32,7 @@ FileByteSource::FileByteSource(const std::string& path)
 
 FileByteSource::FileByteSource(int folder, const char* name, ReadAhead readAhead, const StopTest* stop)
     : stop_(stop) {
-    // Not to hang where a FIFO has taken the file's place since its folder was listed.
+    // O_NONBLOCK: a FIFO may have replaced the file since its folder was listed.
     descriptor_ =
         Uninterrupted([&] { return openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); });
     if (descriptor_ < 0) {
@@ -50,7 +50,7 @@ FileByteSource::FileByteSource(int folder, const char* name, ReadAhead readAhead
     }
     size_ = static_cast<std::uint64_t>(status.st_size);
     if (readAhead == ReadAhead::Nothing) {
-        posix_fadvise(descriptor_, 0, 0, POSIX_FADV_RANDOM); // refused, the file is read all the same
+        posix_fadvise(descriptor_, 0, 0, POSIX_FADV_RANDOM); // only a hint: failure does no harm
     }
 }
 
@@ -79,7 +79,7 @@ std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_
         }
         done += static_cast<std::size_t>(got);
         if (offset + done >= size_) {
-            break; // the end is where it was: no further call to learn that there is nothing behind it
+            break; // saves the pread that would only return 0
         }
     }
     return done;
@@ -96,7 +96,7 @@ std::size_t FileByteSource::Read(std::uint64_t offset, std::span<std::uint8_t> b
             return ReadFile(offset, buffer);
         }
         if (offset + buffer.size() >= size_ && buffer.size() >= 128) {
-            return ReadFile(offset, buffer); // the tail: loading it would throw the head's window away
+            return ReadFile(offset, buffer); // the tail: keep the window on the head
         }
         window_.length = 0;
         window_.offset = offset;

@@ -1,5 +1,4 @@
-// Bounded random access to bytes: a file or a block of memory behind one interface, for the three tag
-// readers.
+// Bounded random access to the bytes of a file or of a memory block, for the tag readers.
 #pragma once
 
 #include "StopTest.h"
@@ -22,11 +21,11 @@ class ByteSource {
     // Length in bytes.
     virtual std::uint64_t Size() const = 0;
 
-    // Fills `buffer` from `offset` (0-based) on and returns how many bytes there were: fewer than asked for
-    // only at the end. Raises error 57 and the like when reading fails.
+    // Fills `buffer` from the 0-based `offset` and returns the number of bytes read; fewer than requested
+    // only at the end. Raises error 57 and the like when the read fails.
     virtual std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) = 0;
 
-    // Fills the whole buffer. Raises error 62 when the bytes end before it is full.
+    // Fills the whole buffer. Raises error 62 when the source ends first.
     void ReadExactly(std::uint64_t offset, std::span<std::uint8_t> buffer);
 };
 
@@ -42,20 +41,19 @@ class MemoryByteSource final : public ByteSource {
     std::span<const std::uint8_t> bytes_;
 };
 
-// What the system may load beside what is asked for. It guesses that a file is read on, and loads four times
-// as much as a tag reader needs: no matter where the file is in memory already, but it fills the memory from
-// a slow disk.
+// Kernel readahead assumes sequential reads and loads about four times what a tag reader needs. From a slow
+// disk, that fills the page cache for nothing; Nothing turns it off.
 enum class ReadAhead { AsUsual, Nothing };
 
-// A file, opened once. A small read loads a window of the file, since the next read is nearly always close
-// by: a typical file costs one read for its head and one for its tail.
+// A file that is opened once. A small read loads a window of the file, because the next read is usually
+// nearby: a typical file costs one pread for its head and one for its tail.
 class FileByteSource final : public ByteSource {
   public:
-    // Raises error 53 for a path that is not there or is a folder, 75 where it may not be read, and so on.
+    // Raises error 53 for a missing path or a folder, 75 where reading is not permitted, and so on.
     explicit FileByteSource(const std::string& path);
-    // The same for a name in an open folder. `folder` is a descriptor and stays the caller's. `stop`, which
-    // must outlive the source, is asked at each read of the file after the first few: once it says so, the
-    // file counts as ended, and Stopped() tells so.
+    // Opens `name` in the folder descriptor `folder`, which remains the caller's. `stop`, which must outlive
+    // the source, is called before each read after the first kReadsUnasked; once it returns true, the file
+    // reads as ended and Stopped() is true.
     FileByteSource(int folder, const char* name, ReadAhead readAhead = ReadAhead::AsUsual,
                    const StopTest* stop = nullptr);
     ~FileByteSource() override;
@@ -66,7 +64,7 @@ class FileByteSource final : public ByteSource {
 
   private:
     static constexpr std::size_t kWindowBytes = 4096;
-    // As many reads as a file of the usual shape needs: such a file never asks.
+    // The number of reads of a file with ordinary tags: it never calls the stop test.
     static constexpr unsigned kReadsUnasked = 4;
 
     struct Window {
@@ -80,7 +78,7 @@ class FileByteSource final : public ByteSource {
     int descriptor_ = -1;
     std::uint64_t size_ = 0;
     const StopTest* stop_ = nullptr;
-    unsigned reads_ = 0; // no more are counted than kReadsUnasked
+    unsigned reads_ = 0; // counts up to kReadsUnasked
     bool stopped_ = false;
     Window window_;
 };

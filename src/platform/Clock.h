@@ -1,4 +1,4 @@
-// The time of day and waiting, behind an interface so that tests can set both.
+// Time of day and sleeping, behind an interface so that tests can control both.
 #pragma once
 
 #include <chrono>
@@ -15,7 +15,6 @@ class Clock {
 
     // The current local date and time.
     virtual std::tm LocalTime() const = 0;
-    // Returns after that time has passed.
     virtual void Sleep(std::chrono::milliseconds duration) = 0;
 };
 

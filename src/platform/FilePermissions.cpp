@@ -13,15 +13,15 @@ namespace tunedex {
 
 namespace {
 
-// The kernel keeps POSIX access-control lists under these names.
+// Extended attributes in which the kernel stores POSIX access-control lists.
 constexpr const char* kAccessList = "system.posix_acl_access";
 constexpr const char* kDefaultList = "system.posix_acl_default";
 constexpr std::string_view kUserPrefix = "user.";
 constexpr mode_t kModeBits = 07777;
 constexpr mode_t kCreationMode = 0666;
 
-// False for a refusal, which the caller can deal with; anything else is an error. EINVAL: a list that names
-// users unknown to this user namespace.
+// Returns false for a refusal, which the caller handles by writing in place; raises any other error. EINVAL
+// means a list that names users unknown to this user namespace.
 bool RefusedOrRaise(int errorCode) {
     switch (errorCode) {
     case EPERM:
@@ -40,8 +40,8 @@ bool IsAbsent(int errorCode) {
     return errorCode == ENODATA || errorCode == EOPNOTSUPP;
 }
 
-// Fills `value` through `get(buffer, size)`, which returns the length, that alone for a size of 0, or -1.
-// Returns false and leaves errno when it fails.
+// Reads a value of unknown length. `get(buffer, size)` returns the length, or -1 with errno set; with size 0
+// it only measures. On failure returns false and keeps errno.
 template <typename Get> bool ReadWhole(std::string& value, Get get) {
     while (true) {
         ssize_t length = Uninterrupted([&] { return get(nullptr, 0); });
@@ -55,7 +55,7 @@ template <typename Get> bool ReadWhole(std::string& value, Get get) {
             value.resize(static_cast<std::size_t>(length));
             return true;
         }
-        if (errno != ERANGE) { // it has grown in between
+        if (errno != ERANGE) { // ERANGE: grew between the two calls
             return false;
         }
     }
@@ -65,7 +65,7 @@ bool SetAttribute(int file, const char* name, const std::string& value) {
     return Uninterrupted([&] { return fsetxattr(file, name, value.data(), value.size(), 0); }) == 0;
 }
 
-// A folder's default list gives a new file a list that the old file need not have.
+// The new file may have inherited a list from the folder's default list that the old file does not have.
 bool RemoveAttribute(int file, const char* name) {
     const auto measure = [&] { return fgetxattr(file, name, nullptr, 0); };
     if (Uninterrupted(measure) < 0 && IsAbsent(errno)) {
@@ -107,7 +107,7 @@ bool Measure(int file, struct stat& status) {
     return Uninterrupted([&] { return fstat(file, &status); }) == 0;
 }
 
-// Only root may give a file away; a user may still give it to a group that he is a member of.
+// Only root may change the owner; a user may still change to a group of which they are a member.
 void CopyOwner(const struct stat& old, const struct stat& made, int to) {
     if ((old.st_uid != made.st_uid || old.st_gid != made.st_gid) && fchown(to, old.st_uid, old.st_gid) != 0) {
         (void)!fchown(to, static_cast<uid_t>(-1), old.st_gid);
@@ -125,8 +125,8 @@ bool CopyPermissions(int from, const struct stat& old, int to) {
     if (!CopyAttribute(from, to, kAccessList) || !CopyUserAttributes(from, to)) {
         return false;
     }
-    // The mode last: a change of owner or list changes it. Where a mount gives every file the same mode,
-    // nothing differs and nothing need be set.
+    // Set the mode last: fchown and a list change it. On mounts with a fixed mode it is already equal and
+    // fchmod, which would fail, is skipped.
     if (!Measure(to, made)) {
         throw ErrorFromErrno(errno, FileTask::WriteFile);
     }
@@ -135,14 +135,14 @@ bool CopyPermissions(int from, const struct stat& old, int to) {
 }
 
 bool GiveNewFilePermissions(int file, int folder) {
-    // An O_PATH descriptor gives no attributes itself; the name that leads through it does.
+    // fgetxattr fails on an O_PATH descriptor; its /proc path works.
     const std::string path = "/proc/self/fd/" + std::to_string(folder);
     std::string list;
     const auto get = [&](char* bytes, std::size_t size) {
         return getxattr(path.c_str(), kDefaultList, bytes, size);
     };
     if (ReadWhole(list, get)) {
-        // As the kernel does for a new file: the list, narrowed by the mode that the file is created with.
+        // Like the kernel: the access list is the default list, narrowed by the creation mode.
         struct stat status {};
         return SetAttribute(file, kAccessList, list) && Measure(file, status) &&
                SetMode(file, status.st_mode & kCreationMode);
@@ -150,8 +150,8 @@ bool GiveNewFilePermissions(int file, int folder) {
     if (!IsAbsent(errno)) {
         return false;
     }
-    // The mask can be read only by setting it. A file that another thread creates meanwhile is no less
-    // private than it should be.
+    // The umask can only be read by setting it. A file that another thread creates meanwhile gets fewer
+    // permissions, never more.
     const mode_t mask = umask(S_IRWXG | S_IRWXO);
     umask(mask);
     return SetMode(file, kCreationMode & ~mask);

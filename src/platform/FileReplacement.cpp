@@ -20,7 +20,7 @@ namespace {
 
 constexpr mode_t kPrivateMode = 0600;
 constexpr mode_t kNewMode = 0666;
-// Without O_NONBLOCK, opening a FIFO that nobody reads would block.
+// O_NONBLOCK: opening a FIFO without a reader would block.
 constexpr int kWriteFlags = O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
 
 [[noreturn]] void Fail(int errorCode) {
@@ -39,7 +39,7 @@ UniqueFd OpenToWrite(const std::string& path, int moreFlags) {
     return UniqueFd(Uninterrupted([&] { return open(path.c_str(), kWriteFlags | moreFlags, kNewMode); }));
 }
 
-// A shared folder like /tmp takes new files from everybody, but only owners may replace an old one.
+// In a sticky folder such as /tmp, everybody may create files but only the owners may rename over one.
 bool FolderForbidsReplacing(int folder, const struct stat& old) {
     struct stat status {};
     const uid_t user = geteuid();
@@ -47,8 +47,7 @@ bool FolderForbidsReplacing(int folder, const struct stat& old) {
            user != status.st_uid && user != old.st_uid;
 }
 
-// The path of an open file, without links, as the kernel knows it; empty, with errno left, where it cannot be
-// learnt.
+// The path of an open file with links resolved; empty with errno set on failure.
 std::string PathOfDescriptor(int descriptor) {
     const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
     std::array<char, PATH_MAX> path{};
@@ -75,9 +74,10 @@ FileReplacement::~FileReplacement() {
 }
 
 void FileReplacement::Open(const std::string& path) {
-    constexpr int kMostTries = 8; // others may create and remove the file between two looks at it
+    constexpr int kMostTries = 8; // another process may create or remove the file between two checks
     for (int i = 0; i < kMostTries; ++i) {
-        // Opened before anything else: this follows links, judges permissions and leaves the file as it is.
+        // Open first, without O_CREAT or O_TRUNC: the kernel follows links and checks permissions, and the
+        // file stays unchanged.
         UniqueFd old = OpenToWrite(path, 0);
         if (old) {
             OpenExisting(std::move(old), path, false);
@@ -93,7 +93,7 @@ void FileReplacement::Open(const std::string& path) {
     Fail(ENOENT);
 }
 
-// Returns false when there is a file after all.
+// Returns false when the file exists by now.
 bool FileReplacement::OpenNew(const std::string& path) {
     if (!OpenFolderOf(path)) {
         Fail(errno);
@@ -113,7 +113,7 @@ bool FileReplacement::OpenNew(const std::string& path) {
     if (!S_ISLNK(status.st_mode)) {
         return false;
     }
-    // A dangling link. Only creating its file lets the kernel follow it, with all its checks.
+    // A dangling link. Creating its target lets the kernel resolve it with all its checks.
     UniqueFd made = OpenToWrite(path, O_CREAT);
     if (!made) {
         Fail(errno);
@@ -122,10 +122,10 @@ bool FileReplacement::OpenNew(const std::string& path) {
     return true;
 }
 
-// `created`: the file was not there before, and is empty unless somebody was quicker.
+// `created`: we just created the file. It is empty unless another process was faster.
 void FileReplacement::OpenExisting(UniqueFd file, const std::string& path, bool created) {
     struct stat status {};
-    // A new file that cannot be examined is written in place: raising would leave it behind, empty.
+    // A new file that fstat rejects is written in place; raising would leave it behind, empty.
     if (Uninterrupted([&] { return fstat(file.Get(), &status); }) != 0 && !created) {
         Fail(errno);
     }
@@ -142,8 +142,7 @@ void FileReplacement::OpenExisting(UniqueFd file, const std::string& path, bool 
     written_ = std::move(file);
 }
 
-// Splits the path into folder_, opened, and name_. Returns false and leaves errno for a folder that cannot be
-// opened.
+// Sets name_ and opens folder_. Returns false with errno set when the folder cannot be opened.
 bool FileReplacement::OpenFolderOf(const std::string& path) {
     const std::string prefix(FolderPrefixOf(path, PathStyle::Unix()));
     name_ = path.substr(prefix.size());
@@ -152,8 +151,8 @@ bool FileReplacement::OpenFolderOf(const std::string& path) {
     return static_cast<bool>(folder_);
 }
 
-// Whether the path itself, not what a link there leads to, is this very file; folder_ and name_ are then
-// those of the path. Otherwise leaves errno.
+// Whether the path, without following a link there, is this file; sets folder_ and name_ to it. Returns false
+// with errno set.
 bool FileReplacement::IsAt(const std::string& path, const struct stat& file) {
     struct stat status {};
     const auto look = [&] { return fstatat(folder_.Get(), name_.c_str(), &status, AT_SYMLINK_NOFOLLOW); };
@@ -164,8 +163,8 @@ bool FileReplacement::IsAt(const std::string& path, const struct stat& file) {
     return status.st_dev == file.st_dev && status.st_ino == file.st_ino;
 }
 
-// Finds the folder and the name of the open file, or leaves no folder where no path leads to it. A failure to
-// find a file that was just created is no reason to fail: nothing is lost by writing it in place.
+// Sets folder_ and name_ to those of the open file; resets folder_ where no path leads to it. A file that was
+// just created is then written in place, since there is no old content to lose.
 void FileReplacement::Locate(const std::string& path, int file, const struct stat& status, bool created) {
     std::string real;
     if (!IsAt(path, status)) {
@@ -173,7 +172,7 @@ void FileReplacement::Locate(const std::string& path, int file, const struct sta
         if (real.empty() || !IsAt(real, status)) {
             const int failure = errno;
             folder_.Reset();
-            // A file whose name is unknown could be a track.
+            // Fail: a file without a known name could be a track.
             if (!created && (real.empty() || !IsUnreachable(failure))) {
                 Fail(failure);
             }
@@ -185,8 +184,8 @@ void FileReplacement::Locate(const std::string& path, int file, const struct sta
     }
 }
 
-// Prepares the temporary file that will replace the open file `old`. Returns false where that is to be
-// written in place.
+// Creates the temporary file that will replace the open file `old`. Returns false when `old` must be written
+// in place.
 bool FileReplacement::ReplaceOld(int old, const struct stat& status) {
     if (FolderForbidsReplacing(folder_.Get(), status)) {
         return false;
@@ -204,7 +203,7 @@ bool FileReplacement::ReplaceOld(int old, const struct stat& status) {
     return true;
 }
 
-// Prepares the temporary file for a name that is new.
+// Creates the temporary file for a name that does not exist yet.
 void FileReplacement::CreateFresh() {
     if (!CreateTemporary(kPrivateMode)) {
         Fail(errno);
@@ -212,7 +211,7 @@ void FileReplacement::CreateFresh() {
     if (GiveNewFilePermissions(written_.Get(), folder_.Get())) {
         return;
     }
-    // A file system on which modes cannot be changed, FAT say: it is given the mode when it is created.
+    // A file system without fchmod, for example FAT: set the mode on creation.
     RemoveTemporary();
     if (!CreateTemporary(kNewMode)) {
         Fail(errno);
@@ -253,7 +252,7 @@ void FileReplacement::Discard() noexcept {
 }
 
 void FileReplacement::Commit() {
-    // After EINTR the descriptor is gone all the same, and what was written is with the system.
+    // After EINTR, Linux has closed the descriptor and keeps the data written.
     if (close(written_.Release()) != 0 && errno != EINTR) {
         Fail(errno);
     }

@@ -1,5 +1,5 @@
-// A file on its way to its place: written under a temporary name in the same folder and renamed over the old
-// file, or written in place where that cannot be done.
+// Replaces a file atomically: writes to a temporary file in the same folder and renames it over the old one.
+// Falls back to writing in place.
 #pragma once
 
 #include "TemporaryFiles.h"
@@ -10,28 +10,28 @@
 
 namespace tunedex {
 
-// Symbolic links are followed by the kernel, so its protection of links in shared folders applies; what it
-// has opened is then found by device and inode. The temporary file has mode 0600 until it is given the old
-// file's mode, access-control list and user attributes, before anything is written to it.
+// The kernel follows symbolic links, so that its link protection in shared folders applies; the opened file
+// is then located by device and inode. The temporary file has mode 0600 until it receives the mode,
+// access-control list and user attributes of the old file, before any data is written.
 //
-// The file is written in place where the folder takes no new file or lets nobody replace this one, where
-// those permissions cannot be set, where the real file's folder cannot be reached, and when it is no regular
-// file (a FIFO, a terminal, a device).
+// The file is written in place when the folder does not permit new files or replacing this one, when those
+// permissions cannot be copied, when the folder of the real file cannot be reached, and when it is not a
+// regular file (FIFO, terminal, device).
 class FileReplacement {
   public:
-    // Raises 75 where the file or its folder may not be written, the link may not be followed or leads to a
-    // name that ends in .mp3; 76 for a folder that is not there; 52 for an impossible name; 57 for a FIFO
-    // without a reader, and other errors as ErrorFromErrno names them.
+    // Raises 75 where the file or its folder is not writable, or where the link may not be followed or leads
+    // to a name that ends in .mp3; 76 for a missing folder; 52 for an impossible name; 57 for a FIFO without
+    // a reader; other errors as ErrorFromErrno maps them.
     FileReplacement(const std::string& path, CleanedFolders* cleaned);
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
-    // Unless Commit() has returned, removes the temporary file; the old file is then as it was.
+    // Without Commit(), removes the temporary file; the old file is unchanged.
     ~FileReplacement();
 
-    // The file to write to. Non-blocking where it is no regular file.
+    // The file to write to; non-blocking when it is not a regular file.
     int Descriptor() const { return written_.Get(); }
 
-    // Closes the file and puts it in its place. Raises the error of a close or rename that fails.
+    // Closes the file and renames it into place. Raises the error of a failed close or rename.
     void Commit();
 
   private:
@@ -49,11 +49,11 @@ class FileReplacement {
     void Discard() noexcept;
 
     CleanedFolders* cleaned_;
-    UniqueFd folder_;          // the real file's folder; none when the file is written in place unlocated
-    std::string name_;         // the real file's name in it
+    UniqueFd folder_;          // folder of the real file; none when that was not located
+    std::string name_;         // name of the real file in folder_
     std::string temporary_;    // name of the temporary file; empty when written in place
     UniqueFd written_;         // the file being written
-    bool placeholder_ = false; // name_ is an empty file that exists only to learn where a dangling link leads
+    bool placeholder_ = false; // name_ is an empty file, created only to resolve a dangling link
 };
 
 } // namespace tunedex

@@ -20,12 +20,12 @@ bool NotThere(int errorCode) {
     return errorCode == ENOENT || errorCode == ENOTDIR;
 }
 
-// Returns false when `stop` says so before the descriptor can be written to.
+// Returns false when `stop` returns true before the descriptor is writable.
 bool WaitUntilWritable(int descriptor, const StopTest& stop) {
     constexpr int kSliceMilliseconds = 20;
     while (!Stops(stop)) {
         pollfd waiting{descriptor, POLLOUT, 0};
-        // A signal ends the slice early, so that what it asks for is seen at once.
+        // A signal interrupts poll, so that the loop calls `stop` at once.
         if (poll(&waiting, 1, kSliceMilliseconds) > 0) {
             return true;
         }

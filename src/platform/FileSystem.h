@@ -1,4 +1,4 @@
-// Questions to the file system and small changes in it. Paths are native, as bytes.
+// File system queries and small changes. Paths are native bytes.
 #pragma once
 
 #include "StopTest.h"
@@ -11,43 +11,42 @@
 
 namespace tunedex {
 
-// Whether the path is an existing folder; an empty path is the current folder and exists. Raises error 52
-// when the question itself fails for any cause but "not there" (no permission, a loop of links, a name too
+// Whether the path is an existing folder. Required: the empty path is the current folder and exists. Raises
+// error 52 when the lookup fails for any reason but a missing path (no permission, a link loop, a name too
 // long, a NUL).
 bool FolderExists(const std::string& path);
 
-// Whether the path is an existing file (anything but a folder). Raises the error of a failed look-up that is
-// not "not there".
+// Whether the path exists and is not a folder. Raises the error of a lookup that fails for any reason but a
+// missing path.
 bool FileExists(const std::string& path);
 
 // Creates one folder. Raises errors 61, 75, 76 and the like.
 void CreateFolder(const std::string& path);
 
-// Creates every folder on the way to `folderPrefix` (a path that ends in a separator) that is not there,
-// outermost first. Raises the errors of FolderExists and CreateFolder.
+// Creates the missing folders of `folderPrefix` (a path that ends in a separator), outermost first. Raises
+// the errors of FolderExists and CreateFolder.
 void CreateFolders(const std::string& folderPrefix);
 
-// Writes all the bytes to an open file. A non-blocking descriptor that takes no more (a full pipe, a stopped
-// terminal) is waited for; `stop` is asked before and about every 20 ms of such a wait. Returns false when it
-// ended the wait: part of the bytes may then be written. Raises errors 61, 57 and the like.
+// Writes all bytes to an open file. Waits on a non-blocking descriptor that is full (pipe, stopped terminal),
+// calling `stop` before the wait and about every 20 ms. Returns false when `stop` ended the wait; part of the
+// bytes may then be written. Raises errors 61, 57 and the like.
 bool WriteWhole(int descriptor, std::string_view bytes, const StopTest& stop = {});
 
-// Removes a file. Raises error 53 when it is not there.
+// Raises error 53 when the file does not exist.
 void DeleteFile(const std::string& path);
 
-// The names of the files in a folder (folders left out), as the directory returns them. A folder
-// that does not exist has none; any other failure raises its error.
+// The names of the regular files in a folder, links followed, in directory order. Empty for a missing folder;
+// any other failure raises its error.
 std::vector<std::string> FileNamesIn(const std::string& folder);
 
-// The kind and permissions of what a name in an open folder stands for, links followed; nothing for a name
-// that is gone or a link to nothing. Raises the error of any other failure: that something cannot be looked
-// at does not mean that it is not there.
+// The mode of a name in an open folder, links followed; empty for a missing name or a dangling link. Raises
+// any other error: a name that cannot be examined may still exist.
 std::optional<mode_t> ModeBehindLinks(int folder, const char* name);
 
-// Whether the user may create files in this folder.
+// Whether the user has permission to create files in this folder.
 bool FolderIsWritable(const std::string& path);
 
-// The running program's own path with links resolved, and the folder it is in (with its separator).
+// The path of the running program with links resolved, and its folder with a trailing separator.
 std::string RunningProgram();
 std::string RunningProgramFolder();
 

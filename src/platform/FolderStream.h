@@ -1,4 +1,4 @@
-// The entries of one folder, as the directory returns them.
+// Reads the entries of one folder in directory order.
 #pragma once
 
 #include <dirent.h>
@@ -14,11 +14,11 @@ class FolderStream {
     explicit FolderStream(const std::string& path);
 
     explicit operator bool() const { return stream_ != nullptr; }
-    // The folder's file descriptor; it stays the stream's.
+    // The folder's file descriptor; the stream keeps ownership.
     int Descriptor() const { return dirfd(stream_.get()); }
 
-    // The next entry, "." and ".." included, valid until the next call; nullptr at the end. Raises the error
-    // of a folder that cannot be read on.
+    // The next entry, including "." and ".."; valid until the next call; nullptr at the end. Raises the error
+    // of a failed read.
     const dirent* Next();
 
   private:

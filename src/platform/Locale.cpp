@@ -12,14 +12,13 @@ namespace tunedex {
 
 namespace {
 
-// The locale's name for one category, by POSIX's order of precedence; empty where only the default formats
-// apply.
+// The locale name for one category, in POSIX order of precedence; empty for the neutral formats.
 std::string NameFor(const char* category) {
     for (const char* variable : {"LC_ALL", category, "LANG"}) {
         const char* value = std::getenv(variable);
         if (value != nullptr && *value != '\0') {
             const std::string_view name(value);
-            // "C.UTF-8" in any of its spellings: "C.utf8", "C.UTF8" and so on.
+            // "C.UTF-8" in any spelling: "C.utf8", "C.UTF8" and so on.
             if (name == "C" || name == "POSIX" || name.starts_with("C.")) {
                 return {};
             }
@@ -40,10 +39,11 @@ std::shared_ptr<void> OpenLocale(int mask, const std::string& name) {
     return {opened, [](void* closing) { freelocale(static_cast<locale_t>(closing)); }};
 }
 
-// A locale's own text as UTF-8; unchanged where the system cannot convert it.
+// Converts text of the locale to UTF-8; unchanged where iconv cannot convert it.
 std::string ToUtf8(std::string text, const std::string& charset) {
     const iconv_t converter = iconv_open("UTF-8", charset.c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1)) { // NOLINT(performance-no-int-to-ptr): so POSIX says it
+    if (converter ==
+        reinterpret_cast<iconv_t>(-1)) { // NOLINT(performance-no-int-to-ptr): the value POSIX prescribes
         return text;
     }
     std::string result(text.size() * 4 + 16, '\0');
@@ -60,8 +60,8 @@ std::string ToUtf8(std::string text, const std::string& charset) {
     return result;
 }
 
-// Listings are in Windows-1252, which lacks the narrow no-break space between French thousands: all of them,
-// whatever their encoding, show the no-break space that it has.
+// Required: every listing, whatever its encoding, uses U+00A0 for a separator that Windows-1252 lacks, such
+// as the narrow no-break space of French locales.
 std::string InWindows1252(std::string separator) {
     constexpr std::string_view kNoBreakSpace = "\u00A0";
     for (std::size_t i = 0; i < separator.size(); i += StepAt(separator, i).length) {

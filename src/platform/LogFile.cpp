@@ -13,7 +13,7 @@
 
 namespace tunedex {
 
-// Without O_NONBLOCK, opening a FIFO that nobody reads would block.
+// O_NONBLOCK: opening a FIFO without a reader would block.
 LogFile::LogFile(const std::string& path, StopTest stop)
     : descriptor_(Uninterrupted([&] {
           return open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
@@ -26,7 +26,7 @@ LogFile::LogFile(const std::string& path, StopTest stop)
 
 void LogFile::WriteLine(std::string_view text) {
     std::string line = EncodeFileLine(text);
-    // A file's name may hold line breaks; scripts count one line an error.
+    // File names may contain line breaks, but scripts count one line per error.
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
     stopped_ = stopped_ || !WriteWhole(descriptor_.Get(), line + "\r\n", stop_);

@@ -1,5 +1,5 @@
-// The error log of a run: a line is on its way to the disk as soon as it is written, so that a run that ends
-// badly still leaves its log.
+// The error log of a run. Each line is written at once, unbuffered, so that a run that crashes still leaves
+// its log.
 #pragma once
 
 #include "StopTest.h"
@@ -12,20 +12,20 @@ namespace tunedex {
 
 class LogFile {
   public:
-    // Creates the file or empties it; unlike a listing it is written in place. A log that is a FIFO may be
-    // full: `stop` can then end the wait for its reader. Raises 75, 76, 61 and the like, and 57 for a FIFO
-    // without a reader.
+    // Creates or truncates the file. Unlike a listing it is written in place. Writing to a full FIFO waits
+    // for its reader; `stop` can end the wait. Raises 75, 76, 61 and the like, and 57 for a FIFO without a
+    // reader.
     explicit LogFile(const std::string& path, StopTest stop = {});
     LogFile(const LogFile&) = delete;
     LogFile& operator=(const LogFile&) = delete;
     ~LogFile() = default;
 
-    // One line, encoded for itself and ended by CR LF; a CR or LF within it is written as a blank. It is
-    // dropped, in part perhaps, when the stop test ends the wait for a reader, and so are later ones. Raises
-    // the error of a write that fails.
+    // Writes one line in its own encoding (EncodeFileLine), ended by CR LF; a CR or LF in the text becomes a
+    // blank. When the stop test ends a wait, the rest of this line and all later lines are dropped. Raises
+    // the error of a failed write.
     void WriteLine(std::string_view text);
 
-    // Closes the file and raises the error of a close that fails; the destructor closes silently.
+    // Raises the error of a failed close; the destructor ignores it.
     void Close();
 
   private:

@@ -29,7 +29,7 @@ struct ParsedNumber {
     std::size_t end = 0; // one past the number's last character; 0 when there is none
 };
 
-// The end of the digits, fraction and exponent that begin at `start`; `start` itself when there are no
+// The end of the digits, fraction and exponent that begin at `start`; returns `start` when there are no
 // digits.
 std::size_t NumberEnd(std::string_view text, std::size_t start) {
     std::size_t end = SkipDigits(text, start);
@@ -57,8 +57,8 @@ std::size_t NumberEnd(std::string_view text, std::size_t start) {
     return end;
 }
 
-// Whether a number that a double cannot hold is too close to 0 for it, and not too large: where its first
-// digit that counts stands, and what the exponent makes of that.
+// Whether an out-of-range number underflowed rather than overflowed: compares the position of its first
+// significant digit, shifted by the exponent, with the decimal point.
 bool IsTiny(std::string_view number) {
     const std::size_t exponentSign = std::min(number.find_first_of("eE"), number.size());
     const std::string_view mantissa = number.substr(0, exponentSign);
@@ -94,7 +94,7 @@ ParsedNumber ParseNumber(std::string_view text) {
     double value = 0;
     const auto result = std::from_chars(text.data() + position, text.data() + end, value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too small a number is 0 for every purpose here; too large a one must not pass for 0.
+        // Underflow yields 0; overflow must stay out of every integer range.
         value = IsTiny(text.substr(position, end - position)) ? 0 : std::numeric_limits<double>::infinity();
     }
     return {negative ? -value : value, end};
@@ -106,7 +106,7 @@ double LeadingNumber(std::string_view text) {
     constexpr std::size_t kShort = 9;
     const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     if (text.size() <= kShort && std::all_of(text.begin(), text.end(), isDigit)) {
-        // What is most often read, and a million times in a playlist.
+        // Fast path for the usual input, a short string of digits.
         std::int32_t value = 0;
         for (const char digit : text) {
             value = value * 10 + (digit - '0');

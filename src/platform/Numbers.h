@@ -1,4 +1,4 @@
-// Numbers in texts, and conversions that raise error 6 instead of wrapping round.
+// Parses and formats numbers; conversions raise error 6 instead of wrapping.
 #pragma once
 
 #include <cstdint>
@@ -7,27 +7,27 @@
 
 namespace tunedex {
 
-// The number a text begins with: optional blanks, optional sign, digits with an optional fraction and decimal
-// exponent; what follows is ignored; 0 where there is none.
+// Parses the number at the start of a text: optional blanks, optional sign, digits with an optional fraction
+// and decimal exponent. Ignores the rest. Returns 0 where there is no number.
 double LeadingNumber(std::string_view text);
 
-// Whether a text, blanks around it aside, is wholly such a number.
+// Whether the whole text, apart from blanks around it, is such a number.
 bool IsNumeric(std::string_view text);
 
-// The number that a text wholly is. Raises error 13 for any other text.
+// The value of such a text. Raises error 13 for any other.
 double RequireNumber(std::string_view text);
 
-// Halves go to the even neighbour.
+// Rounds to the nearest integer, halves to the even one.
 double RoundHalfToEven(double value);
 
-// Rounded half to even. Raise error 6 when the result does not fit.
+// Round half to even. Raise error 6 when the result does not fit.
 std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 
 // a + b. Raises error 6 when the sum does not fit.
 std::int32_t CheckedAdd(std::int32_t a, std::int32_t b);
 
-// Decimal digits, with at least `digits` of them (leading zeros).
+// Decimal, padded with leading zeros to `digits` digits; a minus sign is not counted.
 std::string PadNumber(std::int64_t value, int digits);
 
 } // namespace tunedex

@@ -16,7 +16,7 @@ namespace tunedex {
 
 namespace {
 
-constexpr int kMostLinks = 40; // as the kernel counts
+constexpr int kMostLinks = 40; // MAXSYMLINKS of the kernel
 
 std::optional<std::string> LinkTarget(const std::string& path) {
     std::array<char, PATH_MAX> target{};
@@ -28,7 +28,7 @@ std::optional<std::string> LinkTarget(const std::string& path) {
     return std::string(target.data(), static_cast<std::size_t>(length));
 }
 
-// The path where a chain of links ends. Nothing need exist there.
+// Follows a chain of links to its last path, which need not exist.
 std::string EndOfLinks(std::string path) {
     for (int i = 0; i < kMostLinks; ++i) {
         const std::optional<std::string> target = LinkTarget(path);

@@ -1,4 +1,4 @@
-// Where an output file's symbolic link may lead.
+// Checks where the symbolic link of an output file leads.
 #pragma once
 
 #include <string>
@@ -6,12 +6,12 @@
 
 namespace tunedex {
 
-// Whether a file of this name would be catalogued: it ends in ".mp3", in any case.
+// Whether the name ends in ".mp3" in any case, so that a scan would catalogue the file.
 bool NamesTrack(std::string_view path);
 
-// Raises error 75 when `path` is a symbolic link that the system refuses to follow, or one that leads to a
-// name for which NamesTrack holds, whether that file exists or not. Creates and opens nothing: it lets a run
-// fail early, and the writer of the file checks again what the kernel has opened.
+// Raises error 75 when `path` is a symbolic link that the system refuses to follow, or that leads to a name
+// for which NamesTrack holds, whether or not that file exists. Creates and opens nothing. It lets a run fail
+// early; FileReplacement repeats the check on the file that it opened.
 void CheckOutputLink(const std::string& path);
 
 } // namespace tunedex

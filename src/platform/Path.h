@@ -1,5 +1,5 @@
-// Splitting and joining paths. A path is bytes as the file system holds them; the separator is a value, so
-// that the rules of both kinds of platform can be tested on either.
+// Splits and joins paths. A path is the bytes that the file system stores. The separator is a parameter so
+// that both path styles can be tested on any platform.
 #pragma once
 
 #include <string>
@@ -27,18 +27,18 @@ struct PathStyle {
 
 bool EndsInSeparator(std::string_view path, PathStyle style);
 std::string WithSeparator(std::string_view path, PathStyle style);
-// Without any separator at its end, the root folder aside.
+// Removes all trailing separators, except that of a root folder.
 std::string WithoutSeparator(std::string_view path, PathStyle style);
 
-// The last piece of a path split at its separators: the file's name.
+// The text after the last separator: the file name.
 std::string_view FileNameOf(std::string_view path, PathStyle style);
-// Every piece but the last, without a separator at the end: C:\Music for C:\Music\a.mp3, C: for C:\a.mp3.
+// The text before the last separator: C:\Music for C:\Music\a.mp3. Required: C: for C:\a.mp3, without the
+// separator of the root.
 std::string_view FolderPathOf(std::string_view path, PathStyle style);
-// Every piece but the last, each followed by a separator; empty for a bare name.
+// The path up to and including the last separator; empty for a bare name.
 std::string_view FolderPrefixOf(std::string_view path, PathStyle style);
 
-// The folders on the way down to `folderPrefix`, outermost first, each with its separator: C:\, C:\a\,
-// C:\a\b\.
+// `folderPrefix` and its parent folders, outermost first, each with its separator: C:\, C:\a\, C:\a\b\.
 std::vector<std::string> FolderLevels(std::string_view folderPrefix, PathStyle style);
 
 } // namespace tunedex

@@ -1,4 +1,4 @@
-// What the product is called and where it can be reached.
+// Product name and contact addresses.
 #pragma once
 
 namespace tunedex {

@@ -1,5 +1,4 @@
-// The small persistent key-value store that outlives the program's folder: where the program is, which tips
-// to show.
+// A small persistent key-value store outside the program folder: where that folder is, which tips to show.
 #pragma once
 
 #include <string>
@@ -14,7 +13,7 @@ class Registry {
     Registry& operator=(const Registry&) = delete;
     virtual ~Registry() = default;
 
-    // The value's text (UTF-8), or the empty text where there is none.
+    // The value (UTF-8); empty when there is none.
     virtual std::string Read(std::string_view name) const = 0;
     virtual void Write(std::string_view name, std::string_view text) = 0;
 };

@@ -1,4 +1,4 @@
-// What a long phase of a run needs of its surroundings: somewhere to show how far it is, and whether to stop.
+// How a long phase of a run shows progress and learns that it should stop.
 #pragma once
 
 #include <cstdint>
@@ -15,15 +15,14 @@ class RunMonitor {
 
     // The text of the status label.
     virtual void SetStatus(std::string_view text) = 0;
-    // The same for `before` + `count` + "/" + `total` + `after`, set for every single file: implementations
-    // store the numbers and make the text when they paint. The two texts must be literals or live as long as
-    // the run.
+    // Sets the status to `before` + `count` + "/" + `total` + `after`. Called for every file: implementations
+    // store the numbers and format them when they paint. Both texts must be literals or outlive the run.
     virtual void SetCountedStatus(std::string_view before, std::int32_t count, std::int32_t total,
                                   std::string_view after) = 0;
     virtual void SetMaximum(std::int32_t maximum) = 0;
     virtual void SetPosition(std::int32_t position) = 0;
-    // Lets pending input be handled, if there is any, and tells whether the user has asked to stop. Cheap
-    // enough to be asked for every file.
+    // Processes pending input, if any, and returns whether the user asked to stop. Cheap enough to call for
+    // every file.
     virtual bool AbortRequested() = 0;
 };
 

@@ -49,7 +49,7 @@ RunTimeError CaughtError() {
         return error;
     } catch (const std::bad_alloc&) {
         return RunTimeError(ErrorNumber::OutOfMemory);
-    } catch (const std::length_error&) { // a text longer than any memory
+    } catch (const std::length_error&) { // from a std::string longer than max_size()
         return RunTimeError(ErrorNumber::OutOfMemory);
     }
 }

@@ -1,4 +1,4 @@
-// The one exception type of the program: a number with its description, as messages and the error log print
+// The only exception type of the program: a number and its description, as messages and the error log print
 // them.
 #pragma once
 
@@ -31,7 +31,7 @@ class RunTimeError : public std::exception {
 
     int Number() const { return static_cast<int>(number_); }
     bool Is(ErrorNumber number) const { return number_ == number; }
-    // The description for messages, "Path not found" say; plain ASCII.
+    // The description for messages, for example "Path not found"; plain ASCII.
     const char* Description() const;
     const char* what() const noexcept override { return Description(); }
 
@@ -39,18 +39,19 @@ class RunTimeError : public std::exception {
     ErrorNumber number_;
 };
 
-// The exception being handled as an error: itself, or error 7 for want of memory. Any other is thrown on.
+// Call inside a catch block. Returns a RunTimeError unchanged and std::bad_alloc or std::length_error as
+// error 7; rethrows any other exception.
 RunTimeError CaughtError();
 
-// What the failed system call was about: the same errno means different things for a file and for a folder.
+// What the failed system call was for: the error number depends on it.
 enum class FileTask {
     ReadFile,   // opening, measuring or reading a file
-    WriteFile,  // opening for output, writing, renaming into place: what is missing then is the folder
+    WriteFile,  // opening for output, writing, renaming; ENOENT means a missing folder
     UseFolder,  // listing or creating a folder
-    TestFolder, // asking whether a folder exists
+    TestFolder, // asking whether a folder exists: every failure is error 52
 };
 
-// The error that stands for a failed system call. `errorCode` is errno as the call left it.
+// Maps errno, as the failed call left it, to an error.
 RunTimeError ErrorFromErrno(int errorCode, FileTask task);
 
 } // namespace tunedex

@@ -1,12 +1,12 @@
-// Asked by code that waits or works for long, to learn whether it should end early.
+// A test by which long work or a wait learns that it should end early.
 #pragma once
 
 #include <functional>
 
 namespace tunedex {
 
-// Returns true once the work should end, and from then on. Called often and on the thread that does the work.
-// An empty one never ends anything.
+// Returns true once the work should end, and on every later call. Called often, on the thread that does the
+// work. An empty test never stops.
 using StopTest = std::function<bool()>;
 
 inline bool Stops(const StopTest& stop) {

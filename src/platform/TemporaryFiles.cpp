@@ -48,7 +48,7 @@ bool Lock(int descriptor) {
     return Uninterrupted([&] { return flock(descriptor, LOCK_EX | LOCK_NB); }) == 0;
 }
 
-// Opened for writing: a network file system locks nothing else exclusively.
+// O_WRONLY: NFS grants an exclusive lock only on a file opened for writing.
 bool IsStale(int folder, const char* name) {
     struct stat status {};
     const UniqueFd file(Uninterrupted(
@@ -70,7 +70,7 @@ TemporaryFile CreateTemporaryFile(int folder, mode_t mode) {
         }));
     } while (!file.descriptor && errno == EEXIST);
     if (file.descriptor) {
-        // Where a file system has no locks, stale files cannot be told apart and stay.
+        // On a file system without locks, stale files cannot be recognised and are kept.
         (void)Lock(file.descriptor.Get());
     }
     return file;
@@ -82,7 +82,7 @@ void RemoveStaleTemporaryFiles(int folder) {
     if (!stream) {
         return;
     }
-    (void)listed.Release(); // the stream's now
+    (void)listed.Release(); // the stream owns it now
     while (const dirent* const entry = readdir(stream.get())) {
         if (IsTemporaryName(entry->d_name) && IsStale(folder, entry->d_name)) {
             Uninterrupted([&] { return unlinkat(folder, entry->d_name, 0); });

@@ -1,5 +1,5 @@
-// The temporary files that listings and settings are written to before they are renamed: .tunedex-PID-N.tmp,
-// N counted by the process. Each is locked (flock) by the process that writes it.
+// Temporary files to which listings and settings are written before they are renamed: .tunedex-PID-N.tmp,
+// with N counted per process. The writing process holds an exclusive flock on each.
 #pragma once
 
 #include "UniqueFd.h"
@@ -12,21 +12,22 @@
 namespace tunedex {
 
 struct TemporaryFile {
-    UniqueFd descriptor; // none when the file could not be created; errno tells why
+    UniqueFd descriptor; // none when creation failed; errno says why
     std::string name;
 };
 
-// Creates and locks a temporary file in the open folder `folder`. `mode` as for open(): the umask applies.
+// Creates and locks a temporary file in the open folder `folder`. `mode` is subject to the umask, as for
+// open().
 TemporaryFile CreateTemporaryFile(int folder, mode_t mode);
 
-// Removes the temporary files in the open folder `folder` that were last written more than a day ago and that
-// no process holds locked. What cannot be examined or removed stays. Lists the whole folder.
+// Removes temporary files from the open folder `folder` that are unlocked and were last written more than a
+// day ago. Ignores errors. Reads the whole folder.
 void RemoveStaleTemporaryFiles(int folder);
 
-// The folders that need not be listed again for several files of one listing.
+// Remembers cleaned folders, so that a listing of several files cleans each folder once.
 class CleanedFolders {
   public:
-    // Whether the open folder `folder` is a new one; one that cannot be examined is not.
+    // Returns true when the open folder `folder` was not added before; false when it cannot be examined.
     bool Add(int folder);
 
   private:

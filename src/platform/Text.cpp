@@ -9,7 +9,7 @@ namespace tunedex {
 
 namespace {
 
-// Windows-1252 for the bytes 80 to 9F; the other bytes stand for the character of their own number.
+// Windows-1252 for bytes 80 to 9F; every other byte equals its code point.
 constexpr std::array<char32_t, 32> kHighControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -19,7 +19,7 @@ unsigned char ByteAt(std::string_view text, std::size_t position) {
     return static_cast<unsigned char>(text[position]);
 }
 
-// How many bytes from `position` on are ASCII; many at a time, since nearly all text is.
+// The number of ASCII bytes from `position` on. Tests 64 bytes at a time, since nearly all text is ASCII.
 std::size_t AsciiRun(std::string_view text, std::size_t position) {
     const std::size_t start = position;
     constexpr std::uint64_t kHighBits = 0x8080808080808080U;
@@ -64,20 +64,20 @@ char32_t UpperCaseOf(char32_t character) {
     }
 }
 
-// HTML and XML documents may not hold U+FFFE and U+FFFF, not even as references.
+// HTML and XML forbid U+FFFE and U+FFFF, even as references.
 char32_t InDocument(char32_t character) {
     constexpr char32_t kReplacementCharacter = 0xFFFD;
     return character == 0xFFFE || character == 0xFFFF ? kReplacementCharacter : character;
 }
 
-// As a character, a stray byte xx (80 to FF) is the lone surrogate U+DCxx.
+// A stray byte xx (80 to FF) is represented by the lone surrogate U+DCxx.
 constexpr char32_t kStraySurrogates = 0xDC00;
 
 bool IsStraySurrogate(char32_t character) {
     return character >= kStraySurrogates + 0x80 && character <= kStraySurrogates + 0xFF;
 }
 
-// The stray byte that is escaped at `position`: the UTF-8 form of a lone surrogate.
+// Decodes the UTF-8 form of a lone surrogate at `position` into its stray byte.
 std::optional<unsigned char> EscapedStrayByte(std::string_view bytes, std::size_t position) {
     if (bytes.size() - position < 3 || ByteAt(bytes, position) != 0xED) {
         return std::nullopt;
@@ -90,7 +90,7 @@ std::optional<unsigned char> EscapedStrayByte(std::string_view bytes, std::size_
     return static_cast<unsigned char>(((middle & 0x03U) << 6U) | (last & 0x3FU));
 }
 
-// Whether a line's bytes are valid UTF-8, escaped stray bytes counting as characters where the file has them.
+// Whether the line is valid UTF-8; with StrayBytes::Escaped, escaped stray bytes count as valid.
 bool IsUtf8Line(std::string_view bytes, StrayBytes strayBytes) {
     for (std::size_t i = 0; i < bytes.size();) {
         const TextStep step = StepAt(bytes, i);
@@ -177,7 +177,8 @@ std::size_t WholeCharacters(std::string_view text, std::size_t most) {
     if (text.size() <= most) {
         return text.size();
     }
-    // A lead byte always begins a step, so only a character that begins in the last three bytes can be split.
+    // A step always begins at a lead byte, so only a character that begins in the last three bytes can be
+    // split.
     constexpr std::size_t kLongestStart = 3;
     for (std::size_t before = 1; before <= kLongestStart; ++before) {
         if (StepAt(text, most - before).length > before) {
@@ -281,7 +282,7 @@ void AppendWindows1252(std::string& bytes, std::string_view text, Substitute sub
 
 std::string UpperCase(std::string_view text) {
     std::string upper(text);
-    unsigned char bits = 0; // of all bytes together: without a branch, many are done at a time
+    unsigned char bits = 0; // OR of all bytes; no branch in the loop, so the compiler vectorises it
     for (char& byte : upper) {
         bits |= static_cast<unsigned char>(byte);
         byte = static_cast<char>(byte - (byte >= 'a' && byte <= 'z' ? 0x20 : 0));
@@ -385,7 +386,7 @@ std::string EncodeFileLine(std::string_view text, StrayBytes strayBytes) {
         bytes += static_cast<char>(*byte);
         i += step.length;
     }
-    // Read back, such bytes would be decoded as the UTF-8 that they resemble.
+    // These bytes are also valid UTF-8 and would be decoded as such.
     if (!IsAscii(bytes) && IsUtf8Line(bytes, strayBytes)) {
         return std::string(text);
     }

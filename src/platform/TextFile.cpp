@@ -18,7 +18,7 @@ TextFile::TextFile(const std::string& path, TextEncoding encoding, StopTest stop
     : encoding_(encoding), stop_(std::move(stop)), file_(path, cleaned) {}
 
 void TextFile::Write(std::string_view text) {
-    // A large piece that no encoding changes goes to the system from where it is.
+    // Pass a large piece that needs no encoding to write() without a copy.
     if (text.size() >= kDirectBytes && (encoding_ == TextEncoding::Utf8 || IsAscii(text))) {
         Flush();
         Send(text);

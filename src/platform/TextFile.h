@@ -1,4 +1,4 @@
-// A text file being written: the one place where texts become bytes on disk.
+// Writes a text file. The only place where text is encoded into bytes on disk.
 #pragma once
 
 #include "FileReplacement.h"
@@ -10,49 +10,47 @@
 
 namespace tunedex {
 
-// How a file's texts are encoded. Stray bytes are written as they are in all of them but the last.
+// The encoding of a file. Stray bytes are written unchanged, except by SettingsLine.
 enum class TextEncoding {
-    Windows1252References, // what Windows-1252 lacks becomes a decimal character reference: HTML and XHTML
-    Windows1252Questions,  // what Windows-1252 lacks becomes "?"
+    Windows1252References, // decimal character references for what Windows-1252 lacks: HTML, XHTML
+    Windows1252Questions,  // "?" for what Windows-1252 lacks
     Utf8,
-    FileLine,     // each line for itself, as EncodeFileLine does, stray bytes as they are
-    SettingsLine, // the same with stray bytes escaped, for files whose texts are read back
+    FileLine,     // EncodeFileLine for each line
+    SettingsLine, // the same with stray bytes escaped, so that they survive a round trip
 };
 
-// The file is written to a temporary file in its own folder, which replaces the old file when it is closed;
-// FileReplacement says when it is written in place instead. Unless Close() has returned, the destructor
-// removes the temporary file and the old file is still there.
+// Writes to a temporary file in the same folder, which Close() renames over the old file; see FileReplacement
+// for the cases written in place. Without Close(), the destructor removes the temporary file and the old file
+// is unchanged.
 //
-// A stream (a FIFO, a pipe behind /dev/stdout, a terminal) that takes no more is waited for. The stop test is
-// asked while that lasts; once it ends the wait, everything that is still to be written is dropped, and
-// Close() closes the file as it is.
+// A write to a full stream (FIFO, pipe, terminal) waits for its reader and polls the stop test meanwhile.
+// Once the stop test ends the wait, the rest is dropped and Close() closes the incomplete file.
 //
-// The constructor, the writes and Close() raise the error of what failed: 75 where the file or the folder may
-// not be written, 76 for a folder that is not there, 61 for a full disk, 52 for an impossible name, 57 for
-// other failures.
+// The constructor, the writes and Close() raise 75 where the file or folder is not writable, 76 for a missing
+// folder, 61 for a full disk, 52 for an impossible name, 57 for other failures.
 class TextFile {
   public:
-    // How many bytes of text a writer best hands over at a time: that much goes to the system without a copy.
+    // The best size of a Write() in bytes: a piece this large is passed to write() without a copy.
     static constexpr std::size_t kPieceBytes = 262144;
 
-    // Removes temporary files that an earlier run left in the folder. For several files, `cleaned` keeps each
-    // folder from being listed again.
+    // Also removes stale temporary files from the folder. For several files, pass one `cleaned` to scan each
+    // folder only once.
     TextFile(const std::string& path, TextEncoding encoding, StopTest stop = {},
              CleanedFolders* cleaned = nullptr);
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
     ~TextFile() = default;
 
-    // Text as it stands; line breaks within it are the caller's.
+    // Encodes and writes text; any line breaks are the caller's.
     void Write(std::string_view text);
-    // Text and a line end, CR LF.
+    // Writes text and CR LF.
     void WriteLine(std::string_view text);
-    // Bytes that no encoding touches: a path as it is on disk. No line end.
+    // Writes bytes without encoding, for example a path as stored on disk.
     void WriteRaw(std::string_view bytes);
 
     void Close();
 
-    // Whether the stop test has ended a wait: the file is then incomplete.
+    // Whether the stop test ended a wait; the file is then incomplete.
     bool Stopped() const { return stopped_; }
 
   private:

@@ -30,7 +30,7 @@ std::vector<std::string> ReadTextLines(const std::string& path, StrayBytes stray
     std::string bytes;
     constexpr std::size_t kBlock = 65536;
     while (true) {
-        // The size is not asked for: the file may be growing.
+        // Reads until the end instead of trusting Size(): the file may be growing.
         const std::size_t have = bytes.size();
         bytes.resize(have + kBlock);
         const std::size_t got =

@@ -1,4 +1,4 @@
-// Reading the program's own text files: settings, themes, statistics, entity table, tips.
+// Reads the program's own text files: settings, themes, statistics, entity table, tips.
 #pragma once
 
 #include "Text.h"
@@ -9,13 +9,13 @@
 
 namespace tunedex {
 
-// Every line of a file, decoded; lines end in CR LF, LF or CR, and the last may lack its end. A byte-order
-// mark before the first, as some editors leave it, is no part of it. Raises error 53 when the file is not
-// there, 75 when it may not be read, 57 when reading fails.
+// The decoded lines of a file. Lines end in CR LF, LF or CR; the last may lack its line end. Skips a
+// byte-order mark. Raises error 53 for a missing file, 75 where reading is not permitted, 57 when a read
+// fails.
 std::vector<std::string> ReadTextLines(const std::string& path,
                                        StrayBytes strayBytes = StrayBytes::AsTheyAre);
 
-// The same for bytes already in memory.
+// The same for bytes in memory.
 std::vector<std::string> SplitTextLines(std::string_view bytes,
                                         StrayBytes strayBytes = StrayBytes::AsTheyAre);
 

@@ -1,12 +1,12 @@
-// System calls that a signal may interrupt: they are made again, and nobody hears of it. Not for close, after
-// which the descriptor is gone whatever it returns.
+// Retries a system call that fails with EINTR. Not for close(): Linux releases the descriptor even when it
+// returns EINTR.
 #pragma once
 
 #include <cerrno>
 
 namespace tunedex {
 
-// The result of `call`, which returns -1 and sets errno when it fails.
+// `call` returns -1 and sets errno on failure.
 template <typename Call> auto Uninterrupted(Call call) {
     auto result = call();
     while (result == -1 && errno == EINTR) {

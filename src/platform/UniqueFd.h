@@ -1,4 +1,4 @@
-// A file descriptor that its owner closes.
+// Owns a file descriptor and closes it.
 #pragma once
 
 #include <unistd.h>
@@ -9,7 +9,7 @@ namespace tunedex {
 class UniqueFd {
   public:
     UniqueFd() = default;
-    // A negative value, as a failed open() returns it, is no descriptor.
+    // A negative value, as a failed open() returns, means none.
     explicit UniqueFd(int descriptor) : descriptor_(descriptor) {}
     UniqueFd(UniqueFd&& other) noexcept : descriptor_(other.Release()) {}
     UniqueFd& operator=(UniqueFd&& other) noexcept {
