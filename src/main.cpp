@@ -1,5 +1,5 @@
-// Chooses the front end, owns every object that lives as long as the program, and turns the outcome into an
-// exit status.
+// Chooses the front end, owns every object that lives as long as the program, and maps the outcome to an exit
+// status.
 
 #include "Application.h"
 #include "CommandLine.h"
@@ -22,12 +22,12 @@ namespace {
 
 constexpr int kCouldNotStart = 2;
 
-// Started with a standard stream closed, the program would get its number for the next file it opens, and
-// messages would end up in a listing.
+// If a standard stream is closed, the next file opened gets its descriptor, and messages would be written
+// into a listing.
 void OpenStandardStreams() {
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
         if (fcntl(descriptor, F_GETFD) < 0) {
-            open("/dev/null", O_RDWR); // takes the lowest free number, which is this one
+            open("/dev/null", O_RDWR); // gets the lowest free descriptor: this one
         }
     }
 }
@@ -64,10 +64,10 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     OpenStandardStreams();
-    // A reader of our messages that goes away must not end a run.
+    // A broken pipe on standard output or error must not end a run.
     std::signal(SIGPIPE, SIG_IGN);
-    // A listing that grows beyond the largest file the user may write fails as on a full disk, and is cleared
-    // away.
+    // With SIGXFSZ ignored, a write beyond the file size limit fails like a full disk, and the listing is
+    // removed.
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         return Run(argc, argv);

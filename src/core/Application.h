@@ -1,4 +1,4 @@
-// What lives as long as the program: owned by main, handed on by reference.
+// State that lives as long as the program; main owns it and passes it by reference.
 #pragma once
 
 #include "Clock.h"
@@ -17,23 +17,23 @@ namespace tunedex {
 struct Application {
     Clock& clock;
     Registry& registry;
-    std::ostream& faults; // where faulty lines of settings, theme and entity files are reported
+    std::ostream& faults; // receives reports of faulty lines in settings, theme and entity files
     Locale locale = Locale::FromEnvironment();
 
     Settings settings = {};
     Statistics statistics = {};
-    bool statisticsUnread = false; // the file is there and could not be read: it is left as it is
+    bool statisticsUnread = false; // the file exists but could not be read, so it must not be replaced
     EntityTable entities = {};
 
     std::string programFolder = {}; // settings file, statistics, log, themes; ends in a separator
     std::string helpFile = {};      // empty when there is none
     bool automaticMode = false;
     std::string errorTitle = "Error!"; // the title of every error message
-    unsigned readers = 0;        // how many threads read files: see TrackQueue; not a setting of the user's
-    bool abortRequested = false; // set by the Abort button alone; cleared by each run
+    unsigned readers = 0;              // number of reader threads; 0: automatic. Not a user setting
+    bool abortRequested = false;       // set only by the Abort button, cleared when a run starts
 };
 
-// Version, date and time for the head of a file written now.
+// Version, date and time for the header of a file written now.
 FileStamp StampNow(const Application& application);
 
 } // namespace tunedex

@@ -8,7 +8,7 @@ namespace tunedex {
 
 namespace {
 
-// At most 80 columns. The manual page has the same entries in the same words.
+// At most 80 columns. Keep the manual page in step: same entries, same words.
 constexpr const char* kHelpText = R"(Usage: tunedex [/AUTO]
        tunedex --help
        tunedex --version

@@ -1,4 +1,4 @@
-// What the program's arguments ask for. The program's own path is not among them.
+// Interprets the program's arguments, without the program's own path.
 #pragma once
 
 #include <optional>
@@ -7,11 +7,11 @@
 
 namespace tunedex {
 
-// The text to print on standard output, with its last line end, when the single argument is exactly --help or
-// --version; the program ends then. Nothing for any other arguments.
+// The text for standard output, including its last line end, when the only argument is exactly --help or
+// --version; otherwise empty.
 std::optional<std::string> InformationText(const std::vector<std::string>& arguments);
 
-// Whether "/AUTO" occurs anywhere in the arguments, in any case, inside a longer word too.
+// Whether "/AUTO" occurs anywhere in the arguments, in any case. Required: also inside a longer word.
 bool IsAutomatic(const std::vector<std::string>& arguments);
 
 } // namespace tunedex

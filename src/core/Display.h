@@ -11,12 +11,12 @@ struct DisplayVariable {
     std::string value;
 };
 
-// Those of DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM that are set; an empty one counts as unset. Without
-// any there is no display.
+// Those of DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM that are set and not empty. If none is, there is no
+// display.
 std::vector<DisplayVariable> DisplayVariables();
 
-// What to print when the display that these variables name cannot be opened: each with its value, and the
-// command that runs without them. Whole lines; values are cleaned for a terminal.
+// The message for a display that cannot be opened: each variable with its value, and the command that runs
+// without them. Complete lines; values are safe to print on a terminal.
 std::string UnusableDisplayText(const std::vector<DisplayVariable>& variables);
 
 } // namespace tunedex

@@ -1,4 +1,4 @@
-// Looking for a file that is optional.
+// Looks up optional files.
 #pragma once
 
 #include "FileSystem.h"
@@ -8,8 +8,8 @@
 
 namespace tunedex {
 
-// Whether the path is an existing file that can be examined. Raises nothing: for an optional file, a path
-// that leads nowhere and one that is forbidden are the same.
+// Whether the path is an existing file. Raises nothing: an optional file that cannot be examined counts as
+// missing.
 inline bool FileIsThere(const std::string& path) {
     try {
         return FileExists(path);

@@ -9,7 +9,8 @@ namespace tunedex {
 
 namespace {
 
-// The placeholders are replaced one after the other: a folder whose name holds "%N" gets the number in it.
+// Required: placeholders are replaced one after another, so "%N" in a folder name is replaced too. Do not
+// "fix".
 std::string ExpandTemplate(std::string_view errorTemplate, std::string_view folder, std::string_view file,
                            const RunTimeError& error) {
     std::string text(errorTemplate);

@@ -21,12 +21,12 @@ namespace {
 
 constexpr std::string_view kLogFileName = "Tunedex.log";
 
-// One run: its table, its totals, its log and its own copy of the settings.
+// One run, with its own table, totals, log and copy of the settings.
 class ListRun final : public ErrorReporter {
   public:
     ListRun(Application& application, UserInterface& ui) : application_(application), ui_(ui) {}
 
-    // Returns whether the run may begin; what is wrong has been said then.
+    // Returns whether the run may start; if not, the user has been told why.
     bool Validate();
     void Work();
     bool ListWritten() const { return listWritten_; }
@@ -55,7 +55,7 @@ class ListRun final : public ErrorReporter {
     Settings settings_;
     RunTotals totals_;
     TrackTable table_;
-    RunMonitor* monitor_ = nullptr; // once the progress is shown
+    RunMonitor* monitor_ = nullptr; // set once the progress window is shown
     std::optional<LogFile> log_;
     bool listWritten_ = false;
 };
@@ -104,7 +104,7 @@ bool ListRun::Validate() {
     return ValidateInput() && ValidateOutput();
 }
 
-// One pass over the folders. Returns false when the user aborted.
+// One pass over the folders. Returns false on abort.
 bool ListRun::Scan(RunMonitor& monitor, ScanMode mode) {
     FolderScanner scanner(totals_, table_, monitor, *this, {settings_.MoveTheArtists}, application_.readers);
     const bool aborted = scanner.ScanFolders(mode, settings_.Directory, settings_.Recurse);
@@ -167,7 +167,8 @@ void ListRun::Work() {
     RunMonitor& monitor = ui_.ShowProgress();
     monitor_ = &monitor;
     monitor.SetStatus("Searching for MP3 files...");
-    // An abort here is answered by the next phase, which finds the request still standing.
+    // Required: the result of the search is ignored. After an abort the read phase stops at its first test.
+    // Do not "fix".
     Scan(monitor, ScanMode::Count);
     if (totals_.FoundCount == 0) {
         ShowMessage(ui_, "No MP3 files were found\r\nin the " + folderWord_ + " specified.", kOkInformation,

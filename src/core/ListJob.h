@@ -1,4 +1,4 @@
-// The list-creation job: from the user's choices to the finished listing.
+// The list-creation job: from validating the user's input to the finished listing.
 #pragma once
 
 #include "Application.h"
@@ -6,9 +6,9 @@
 
 namespace tunedex {
 
-// Validates folder and output file (creating a missing output folder on request), searches, reads, sorts and
-// writes, with every message that the run gives. Returns whether the listing was written to its end. Run-time
-// errors end in a message, never in an exception.
+// Validates folder and output file (creating a missing output folder if the user agrees), searches, reads,
+// sorts and writes, and shows all messages of the run. Returns whether the listing was written completely.
+// Run-time errors are shown in a message and not raised.
 bool CreateList(Application& application, UserInterface& ui);
 
 } // namespace tunedex

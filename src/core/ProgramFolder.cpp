@@ -18,8 +18,8 @@ namespace tunedex {
 namespace {
 
 constexpr std::string_view kHelpFileName = "Help.html";
-constexpr std::string_view kInstalledData = "../share/tunedex/"; // seen from the running program's folder
-constexpr std::string_view kFillingMark = ".filling";            // there while the folder is being filled
+constexpr std::string_view kInstalledData = "../share/tunedex/"; // relative to the running program's folder
+constexpr std::string_view kFillingMark = ".filling";            // exists while the folder is being filled
 constexpr std::string_view kFilledMark = ".filled";
 
 std::string HomeFolder() {
@@ -33,29 +33,29 @@ std::string HomeFolder() {
 
 std::string UserDataFolder() {
     const char* data = std::getenv("XDG_DATA_HOME");
-    // A relative path there counts as none.
+    // XDG_DATA_HOME must be absolute; a relative path is ignored.
     const std::string base = data != nullptr && *data == '/' ? data : HomeFolder() + "/.local/share";
     return WithSeparator(base, PathStyle::Native()) + "tunedex/";
 }
 
-// Whether the program is an installed one: bin/tunedex beside share/tunedex/, under whatever prefix. Such a
-// folder of programs is never written to, also not by root or under ~/.local.
+// Whether the program is installed: bin/tunedex next to share/tunedex/, under any prefix. An installed
+// program never writes to its own folder, even as root or under ~/.local.
 bool IsInstalled(const std::string& runningFolder) {
     try {
         return FolderExists(runningFolder + std::string(kInstalledData));
     } catch (const RunTimeError&) {
-        return false; // what cannot be examined is no installation of ours
+        return false; // a folder that cannot be examined is not our installation
     }
 }
 
-// Whether the data folder is still to be filled: it is not there yet, an earlier start failed while it filled
-// it (disk full, say), or it came with the installation, as under the prefix ~/.local. A folder that the user
-// has made or changed is left alone: a theme or an entity table that is not there is not wanted.
+// Whether the data folder needs the shipped files: it does not exist, an earlier start failed while filling
+// it (disk full), or it came with the installation (prefix ~/.local). Any other folder is left alone: a theme
+// or an entity table missing there was deleted by the user.
 bool NeedsFilling(const std::string& folder, const std::string& runningFolder) {
     if (!FolderExists(folder) || FileExists(folder + std::string(kFillingMark))) {
         return true;
     }
-    std::error_code unknown; // what cannot be compared is not the same folder
+    std::error_code unknown; // on error: not the same folder
     return std::filesystem::equivalent(folder, runningFolder + std::string(kInstalledData), unknown) &&
            !FileExists(folder + std::string(kFilledMark));
 }
@@ -73,7 +73,7 @@ void FillOnFirstUse(const std::string& folder, const std::string& runningFolder,
     WriteMark(filling);
     FillProgramFolder(folder);
     if (registry.Read("TipsOnStartup").empty()) {
-        registry.Write("TipsOnStartup", "1"); // absent it means no, and a new user is to see them
+        registry.Write("TipsOnStartup", "1"); // a missing value means off; new users should see the tips
     }
     WriteMark(folder + std::string(kFilledMark));
     DeleteFile(filling);

@@ -1,4 +1,4 @@
-// Where the program keeps its files, and what it puts there on first use.
+// Locates the program folder and fills it on first use.
 #pragma once
 
 #include "Registry.h"
@@ -7,20 +7,19 @@
 
 namespace tunedex {
 
-// The folder of settings, statistics, log and themes, ending in a separator: the one that the registry names;
-// else, for an installed program, the user's data folder; else the running program's folder if it can be
-// written; else the user's data folder. The data folder is made on first use and then given the shipped
-// files, once; that also turns the tips at start-up on. One that is there already, unless it came with the
-// installation, is given nothing. `runningFolder` is the running program's folder, ending in a separator.
-// Raises the error of a folder or file that cannot be made.
+// The folder of settings, statistics, log and themes, with a trailing separator: the folder in the registry
+// if there is one; for an installed program, the user's data folder; otherwise the folder of the running
+// program if it is writable, else the user's data folder. On first use, the data folder is created and filled
+// with the shipped files, and tips at start-up are turned on. An existing folder is not filled, unless it
+// came with the installation. `runningFolder` is the folder of the running program, with a trailing
+// separator. Raises the error of a folder or file that cannot be created.
 std::string FindProgramFolder(Registry& registry, const std::string& runningFolder);
 
-// Copies every shipped file that is missing there into the folder; an existing one is never replaced.
+// Copies the shipped files into the folder; existing files are kept.
 void FillProgramFolder(const std::string& folder);
 
-// The help page: the registry's, else the one beside the program, else that of an installed program. A path
-// that cannot be examined (no permission, a name too long, a NUL) counts as missing. Empty when there is
-// none.
+// The help page: from the registry, else next to the program, else of an installed program; empty when there
+// is none. A path that cannot be examined (no permission, name too long, a NUL) counts as missing.
 std::string FindHelpFile(const Registry& registry, const std::string& programFolder);
 
 } // namespace tunedex

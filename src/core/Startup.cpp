@@ -18,7 +18,7 @@ std::string StatisticsPath(const Application& application) {
     return application.programFolder + std::string(kStatisticsFileName);
 }
 
-// Whether the error is the file's content's, and not of reading it.
+// Whether the error came from the content of the file rather than from reading it.
 bool IsMalformed(const RunTimeError& error) {
     switch (static_cast<ErrorNumber>(error.Number())) {
     case ErrorNumber::InvalidProcedureCall:
@@ -112,7 +112,7 @@ std::string SaveSettingsCommand(const Application& application, const std::strin
 
 void SaveStatisticsAtExit(const Application& application) {
     if (application.statisticsUnread) {
-        return; // years of counting are not lost to a moment without a free file
+        return; // do not replace an existing file because of a transient read error
     }
     SaveStatistics(application.statistics, StatisticsPath(application));
 }

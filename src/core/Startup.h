@@ -1,4 +1,4 @@
-// The start-up sequence, and the commands that a front end passes on.
+// The start-up sequence, and the commands that a front end calls.
 #pragma once
 
 #include "Application.h"
@@ -11,29 +11,30 @@
 
 namespace tunedex {
 
-// Finds the program's folder and help file, loads statistics and default settings, and fills the main
-// window's fields. Malformed statistics are reported in a message box and counted anew. Raises the error of a
-// program folder that cannot be made or a settings file that cannot be read: the program cannot start then.
+// Finds program folder and help file, loads statistics and default settings, and fills the fields of the main
+// window. Malformed statistics are reported in a message box and reset. Raises the error of a program folder
+// that cannot be created or a settings file that cannot be read; the program cannot start then.
 void StartUp(Application& application, UserInterface& ui, const std::vector<std::string>& arguments);
 
-// The fields that the settings stand for.
+// The main window's fields for these settings.
 MainFields FieldsFor(const Settings& settings);
 
-// Takes the main window's fields into the settings: output file and the three titles.
+// Copies the main window's fields into the settings: output file and the three titles.
 void TakeMainFields(Settings& settings, const MainFields& fields);
-// What passing through the layout editor's controls does to settings: the document type becomes "XHTML" when
-// it is exactly that, else "HTML".
+// The effect of the layout editor's controls on settings. Required: every document type except exactly
+// "XHTML" becomes "HTML".
 void TakeLayoutControls(Settings& settings);
 
-// The Create List command: folder field, entity table, then the list job. Whether the list was written.
+// The Create List command: takes the folder field, loads the entity table and runs the list job. Returns
+// whether the listing was written.
 bool CreateListCommand(Application& application, UserInterface& ui);
 
-// Saves the settings to `path` as SaveSettings does. Returns the text of the message, titled
-// kUnsavedSettingsTitle, that names the settings that could not be saved; empty when all were.
+// Saves the settings to `path` with SaveSettings. Returns a message, titled kUnsavedSettingsTitle, that names
+// the settings that could not be saved; empty when all were.
 std::string SaveSettingsCommand(const Application& application, const std::string& path);
 inline constexpr const char* kUnsavedSettingsTitle = "Settings";
 
-// Saves the statistics; the end of an interactive program.
+// Saves the statistics when an interactive program ends.
 void SaveStatisticsAtExit(const Application& application);
 
 } // namespace tunedex

@@ -19,7 +19,7 @@ bool SteersTerminal(char32_t c) {
 std::string TerminalText(std::string_view text) {
     std::string clean;
     for (std::size_t i = 0; i < text.size();) {
-        const TextStep step = StepAt(text, i); // the character of a stray byte is the byte's value
+        const TextStep step = StepAt(text, i); // for a stray byte, `character` is the byte's value
         if (SteersTerminal(step.character)) {
             clean += '?';
         } else {

@@ -1,4 +1,4 @@
-// Text of unknown origin on a terminal.
+// Makes text of unknown origin safe to print on a terminal.
 #pragma once
 
 #include <cstddef>
@@ -7,12 +7,13 @@
 
 namespace tunedex {
 
-// The text with "?" in place of every character that would move the cursor, change the terminal's state or
-// reorder the line: control characters, line breaks (U+2028 and U+2029 too), marks of writing direction, and
-// stray bytes that an 8-bit terminal takes for control characters. UTF-8 in and out; other stray bytes stay.
+// Replaces with "?" every character that would move the cursor, change the state of the terminal or reorder
+// the line: control characters, line breaks (also U+2028 and U+2029), marks of writing direction, and stray
+// bytes 80 to 9F, which an 8-bit terminal treats as control characters. UTF-8 in and out; other stray bytes
+// are kept.
 std::string TerminalText(std::string_view text);
 
-// The first characters of the text, `bytes` bytes at most. No character is cut in two.
+// The longest prefix of at most `bytes` bytes that splits no character.
 std::string_view CutToBytes(std::string_view text, std::size_t bytes);
 
 } // namespace tunedex

@@ -30,7 +30,7 @@ void Tips::Next() {
 }
 
 void Tips::PickRandom(double random) {
-    // A value next to 1 may be rounded up to one tip too many.
+    // The product can round up to tips_.size() for a value close to 1.
     const auto index = static_cast<std::size_t>(random * static_cast<double>(tips_.size()));
     number_ = static_cast<std::int32_t>(tips_.empty() ? 1 : std::min(index, tips_.size() - 1) + 1);
 }

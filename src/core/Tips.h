@@ -1,4 +1,4 @@
-// The tips of the day: the list, and which of them is the current one.
+// The tips of the day and the current one.
 #pragma once
 
 #include "Registry.h"
@@ -11,26 +11,26 @@ namespace tunedex {
 
 inline constexpr std::string_view kTipsFileName = "tips.lst";
 
-// Where the tips are: the registry's "TipsFile"; where there is none, the file beside the running program,
-// and where that is missing the one in the program's folder (an installed program keeps its data there).
-// Folders end in a separator.
+// The path of the tips: the registry value "TipsFile" if there is one; else the file next to the running
+// program; else the file in the program folder, where an installed program keeps its data. Folders end in a
+// separator.
 std::string TipsPath(const Registry& registry, const std::string& runningFolder,
                      const std::string& programFolder);
 
 class Tips {
   public:
-    // Every line of the file is a tip, an empty one too. A file that is missing or cannot be examined
-    // leaves no tips. Raises the error of a file that cannot be read. The current number is kept.
+    // Loads one tip per line, including empty lines. A file that is missing or cannot be examined yields no
+    // tips. Raises the error of a failed read. Keeps the current number.
     void Load(const std::string& path);
 
-    // The next tip in file order; the first after the last.
+    // Selects the next tip in file order; after the last, the first.
     void Next();
-    // Any tip with equal chance, the current one too; `random` is in [0, 1).
+    // Selects any tip with equal probability, possibly the current one; `random` is in [0, 1).
     void PickRandom(double random);
 
-    // 1-based; 0 before the first choice.
+    // 1-based; 0 before the first selection.
     std::int32_t Number() const { return number_; }
-    // Empty where there are no tips or none has been chosen.
+    // Empty when there are no tips or none is selected.
     std::string Current() const;
 
   private:

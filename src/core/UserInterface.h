@@ -1,5 +1,5 @@
-// What start-up and the list job need of a front end. The windows and the terminal implement it, and so do
-// the tests.
+// What start-up and the list job need from a front end. Implemented by the windows, the terminal and the test
+// fakes.
 #pragma once
 
 #include "RunMonitor.h"
@@ -10,8 +10,8 @@
 
 namespace tunedex {
 
-// Buttons and icon of a message box, and the button pressed. The numbers are an interface: they stand in logs
-// and tests.
+// Buttons and icon of a message box, and its answer. The values are an interface: they appear in logs and
+// tests.
 enum MessageButtons : int {
     kOkCancelQuestion = 33,
     kYesNoQuestion = 36,
@@ -27,8 +27,8 @@ enum MessageAnswer : int {
     kAnswerNo = 7,
 };
 
-// The main window's fields: txtInputDir, txtOutputFile, txtWindowTitle, txtPageTitle, txtPageFooter and the
-// check box chkMultipleDirs. UTF-8; paths may hold stray bytes.
+// The fields of the main window: txtInputDir, txtOutputFile, txtWindowTitle, txtPageTitle, txtPageFooter and
+// the check box chkMultipleDirs. UTF-8; paths may contain stray bytes.
 struct MainFields {
     bool multipleFolders = false;
     std::string inputFolder;
@@ -50,27 +50,27 @@ class UserInterface {
     virtual MainFields Fields() const = 0;
     virtual void FillFields(const MainFields& fields) = 0;
 
-    // Takes every control of the windows into the settings, as TakeMainFields and TakeLayoutControls do where
-    // there is no open dialog.
+    // Copies the controls of all windows into the settings, with TakeMainFields and TakeLayoutControls where
+    // no dialog is open.
     virtual void TakeControls(Settings& settings) = 0;
 
-    // Shows a message and waits for its answer. Line breaks in `text` are CR LF.
+    // Shows a message and waits for the answer. Line breaks in `text` are CR LF.
     virtual int ShowMessage(std::string_view text, int buttons, std::string_view title) = 0;
 
-    // A name of a file or folder as it goes into a message: unchanged unless the front end shows messages
-    // where a line break or another character of the name could pass for part of the message.
+    // The form of a file or folder name within a message. Override where a line break or another character of
+    // the name could be mistaken for part of the message.
     virtual std::string NameInMessage(std::string_view name) const { return std::string(name); }
 
-    // Moves the focus into a field and selects its whole text.
+    // Sets the focus to a field and selects all its text.
     virtual void FocusAndSelect(MainField field) = 0;
-    // Lets the user at the main window and the options window again.
+    // Re-enables the main window and the options window.
     virtual void EnableWindows() = 0;
 
-    // Shows the progress window without waiting; the monitor lives until the front end does. While the window
-    // is closed the monitor stores texts and numbers and shows nothing.
+    // Shows the progress window and returns at once. The monitor lives as long as the front end; while the
+    // window is closed it stores texts and numbers and shows nothing.
     virtual RunMonitor& ShowProgress() = 0;
     virtual void SetProgressCaption(std::string_view caption) = 0;
-    // Closes the progress window, if it is open.
+    // Does nothing when the progress window is closed.
     virtual void CloseProgress() = 0;
 };
 
