@@ -22,7 +22,7 @@ namespace {
 
 using Buffer = std::vector<std::uint8_t>;
 
-// Bytes that tell their own position.
+// Bytes that encode their own position.
 Buffer Numbered(std::size_t count) {
     Buffer bytes(count);
     for (std::size_t i = 0; i < count; ++i) {
@@ -62,7 +62,7 @@ class AnySource : public testing::TestWithParam<bool> {
 INSTANTIATE_TEST_SUITE_P(ByteSource, AnySource, testing::Bool(),
                          [](const auto& param) { return param.param ? "File" : "Memory"; });
 
-TEST_P(AnySource, GivesTheBytesOfAnyStretchAndFewerOnlyAtTheEnd) {
+TEST_P(AnySource, ReadsAnyRangeAndFewerBytesOnlyAtTheEnd) {
     for (const std::size_t size : {0U, 1U, 127U, 128U, 4095U, 4096U, 4097U, 10000U}) {
         const Buffer bytes = Numbered(size);
         const auto source = Open(bytes);
@@ -77,10 +77,10 @@ TEST_P(AnySource, GivesTheBytesOfAnyStretchAndFewerOnlyAtTheEnd) {
     }
 }
 
-TEST_P(AnySource, GivesTheSameBytesWhateverWasReadBefore) {
+TEST_P(AnySource, ReadsDoNotDependOnEarlierReads) {
     const Buffer bytes = Numbered(30000);
     const auto source = Open(bytes);
-    std::mt19937 random(7); // NOLINT(cert-msc51-cpp): the same reads every time
+    std::mt19937 random(7); // NOLINT(cert-msc51-cpp): fixed seed for repeatable reads
     for (int i = 0; i < 5000; ++i) {
         const std::uint64_t offset = random() % 31000;
         const std::size_t count = random() % (i % 7 == 0 ? 9000 : 300);
@@ -88,7 +88,7 @@ TEST_P(AnySource, GivesTheSameBytesWhateverWasReadBefore) {
     }
 }
 
-TEST_P(AnySource, RaisesErrorSixtyTwoWhenBytesAreMissing) {
+TEST_P(AnySource, RaisesErrorSixtyTwoWhenTheSourceEndsFirst) {
     const Buffer ten = Numbered(10);
     const auto source = Open(ten);
     Buffer four(4);
@@ -110,7 +110,7 @@ TEST(FileByteSource, ReadsFarBeyondFourGigabytes) {
     EXPECT_EQ(ReadAt(source, 0, 4), (Buffer{'h', 'e', 'a', 'd'}));
 }
 
-TEST(FileByteSource, OpensANameInAnOpenFolder) {
+TEST(FileByteSource, OpensANameRelativeToAFolderDescriptor) {
     const test::TestFolder folder;
     folder.Write("a.mp3", "x");
     const int descriptor = open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -120,11 +120,11 @@ TEST(FileByteSource, OpensANameInAnOpenFolder) {
         EXPECT_EQ(ReadAt(source, 0, 9), Buffer{'x'});
         EXPECT_EQ(test::RaisedBy([&] { FileByteSource(descriptor, "b.mp3"); }), 53);
     }
-    EXPECT_EQ(fcntl(descriptor, F_GETFD), FD_CLOEXEC) << "the folder stays the caller's";
+    EXPECT_EQ(fcntl(descriptor, F_GETFD), FD_CLOEXEC) << "the caller keeps the folder descriptor";
     close(descriptor);
 }
 
-TEST(FileByteSource, RaisesTheErrorOfWhatIsNoReadableFileAndNeverWaits) {
+TEST(FileByteSource, RaisesTheErrorOfAnythingButAReadableFileWithoutBlocking) {
     const test::TestFolder folder;
     folder.Write("file", "x");
     ASSERT_EQ(symlink("self", (folder / "self").c_str()), 0);
@@ -161,16 +161,16 @@ TEST(FileByteSource, RaisesTheErrorOfWhatIsNoReadableFileAndNeverWaits) {
     });
 }
 
-TEST(FileByteSource, RaisesErrorSixtySevenWithoutAFreeDescriptor) {
+TEST(FileByteSource, RaisesErrorSixtySevenWhenDescriptorsRunOut) {
     const test::TestFolder folder;
     const std::string path = folder.Write("file", "x");
     test::InChild([&] {
-        // A sanitizer takes a descriptor of its own to look at a class for the first time: these two.
+        // A sanitizer opens a descriptor when it first inspects a class: trigger that for these two.
         EXPECT_EQ(FileByteSource(path).Size(), 1U);
         EXPECT_EQ(test::RaisedBy([&] { FileByteSource(path + " is gone"); }), 53);
         const rlimit none{3, 3};
         ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
-        // Whatever the test program holds open is below the limit or does not count against it.
+        // Open descriptors of the test program are below the limit or do not count against it.
         int number = 0;
         std::vector<std::unique_ptr<FileByteSource>> open;
         while (number == 0 && open.size() < 10) {
@@ -180,7 +180,7 @@ TEST(FileByteSource, RaisesErrorSixtySevenWithoutAFreeDescriptor) {
     });
 }
 
-TEST(FileByteSource, SeesAFileThatShrankSinceItWasOpened) {
+TEST(FileByteSource, DetectsAFileThatShrankAfterItWasOpened) {
     const test::TestFolder folder;
     const std::string path = folder.Write("file", std::string(10000, 'x'));
     FileByteSource source(path);
@@ -190,7 +190,7 @@ TEST(FileByteSource, SeesAFileThatShrankSinceItWasOpened) {
     EXPECT_EQ(ReadAt(source, 0, 100).size(), 10U);
 }
 
-TEST(FileByteSource, EndsOnceTheStopTestSaysSoButAsksForNoFewReads) {
+TEST(FileByteSource, EndsWhenTheStopTestReturnsTrueButDoesNotCallItForTheFirstReads) {
     const test::TestFolder folder;
     const std::string path = folder.Write("file", std::string(1'000'000, 'x'));
     int asked = 0;
@@ -203,7 +203,7 @@ TEST(FileByteSource, EndsOnceTheStopTestSaysSoButAsksForNoFewReads) {
         got += buffer.size();
         EXPECT_FALSE(source.Stopped());
     }
-    EXPECT_EQ(reads, 6) << "four are not asked about, and two answers were no";
+    EXPECT_EQ(reads, 6) << "four reads without a call, two with the result false";
     EXPECT_TRUE(source.Stopped());
     EXPECT_EQ(source.Read(0, buffer), 0U);
     EXPECT_EQ(asked, 3);

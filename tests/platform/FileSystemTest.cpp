@@ -33,7 +33,7 @@ class FileSystemTest : public testing::Test {
     const test::TestFolder folder_;
 };
 
-TEST_F(FileSystemTest, TellsFoldersFromFilesAndFromNothing) {
+TEST_F(FileSystemTest, DistinguishesFoldersFilesAndMissingPaths) {
     EXPECT_TRUE(FolderExists(folder_ / "folder"));
     EXPECT_TRUE(FolderExists(folder_ / "folder/"));
     EXPECT_TRUE(FolderExists(folder_ / "to-folder"));
@@ -50,11 +50,11 @@ TEST_F(FileSystemTest, TellsFoldersFromFilesAndFromNothing) {
     EXPECT_EQ(test::RaisedBy([&] { FileExists(std::string("a\0b", 3)); }), 52);
 }
 
-TEST_F(FileSystemTest, AnEmptyFolderTextIsTheCurrentFolder) {
+TEST_F(FileSystemTest, AnEmptyPathIsTheCurrentFolder) {
     EXPECT_TRUE(FolderExists(""));
 }
 
-TEST_F(FileSystemTest, AFolderTestThatCannotBeAnsweredRaisesErrorFiftyTwo) {
+TEST_F(FileSystemTest, AFailedFolderTestRaisesErrorFiftyTwo) {
     EXPECT_EQ(test::RaisedBy([&] { FolderExists(folder_ / "self"); }), 52);
     EXPECT_EQ(test::RaisedBy([&] { FolderExists(folder_ / std::string(256, 'n')); }), 52);
     EXPECT_EQ(test::RaisedBy([&] { FolderExists(std::string("a\0b", 3)); }), 52);
@@ -80,25 +80,25 @@ TEST_F(FileSystemTest, CreatesOneFolderAtATime) {
     });
 }
 
-TEST_F(FileSystemTest, CreatesEveryFolderThatIsMissingOnTheWay) {
+TEST_F(FileSystemTest, CreatesEveryMissingParentFolder) {
     CreateFolders(folder_ / "folder/one/two/three/");
     EXPECT_TRUE(FolderExists(folder_ / "folder/one/two/three"));
-    CreateFolders(folder_ / "folder/one/two/"); // all there
+    CreateFolders(folder_ / "folder/one/two/"); // all exist
     CreateFolders(folder_ / "to-folder/one/four/");
     EXPECT_TRUE(FolderExists(folder_ / "folder/one/four"));
     EXPECT_EQ(test::RaisedBy([&] { CreateFolders(folder_ / "file/below/"); }), 57) << "a file is in the way";
 }
 
-TEST_F(FileSystemTest, DeletesAFileAndSaysSoWhenThereIsNone) {
+TEST_F(FileSystemTest, DeletesAFileAndRaisesAnErrorForAMissingOne) {
     DeleteFile(folder_ / "file");
     EXPECT_FALSE(folder_.Exists("file"));
     EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / "file"); }), 53);
     EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / "folder"); }), 75);
     EXPECT_EQ(test::RaisedBy([&] { DeleteFile(folder_ / std::string("to-file\0x", 9)); }), 52);
-    EXPECT_TRUE(folder_.Exists("to-file")) << "a name is not cut at its first zero byte";
+    EXPECT_TRUE(folder_.Exists("to-file")) << "a name is not truncated at a zero byte";
 }
 
-TEST_F(FileSystemTest, ListsTheFilesOfAFolderLinksToFilesIncluded) {
+TEST_F(FileSystemTest, ListsTheFilesOfAFolderIncludingLinksToFiles) {
     folder_.Write(".hidden", "x");
     ASSERT_EQ(mkfifo((folder_ / "fifo").c_str(), 0600), 0);
     std::vector<std::string> names = FileNamesIn(folder_.Path());
@@ -109,14 +109,14 @@ TEST_F(FileSystemTest, ListsTheFilesOfAFolderLinksToFilesIncluded) {
     test::AsOrdinaryUser(folder_, [&] {
         ASSERT_EQ(chmod((folder_ / "folder").c_str(), 0), 0);
         EXPECT_EQ(test::RaisedBy([&] { FileNamesIn(folder_ / "folder"); }), 75);
-        // Names may be read there, but not what they stand for.
+        // A folder with read but without search permission: names can be read, their files not examined.
         folder_.Write("names only/file", "x");
         ASSERT_EQ(chmod((folder_ / "names only").c_str(), 0444), 0);
         EXPECT_EQ(test::RaisedBy([&] { FileNamesIn(folder_ / "names only"); }), 75);
     });
 }
 
-TEST_F(FileSystemTest, KnowsWhetherTheUserMayCreateFilesInAFolder) {
+TEST_F(FileSystemTest, TestsWhetherTheUserMayCreateFilesInAFolder) {
     EXPECT_FALSE(FolderIsWritable(folder_ / "none"));
     test::AsOrdinaryUser(folder_, [&] {
         EXPECT_TRUE(FolderIsWritable(folder_ / "folder"));
@@ -127,13 +127,13 @@ TEST_F(FileSystemTest, KnowsWhetherTheUserMayCreateFilesInAFolder) {
     });
 }
 
-TEST_F(FileSystemTest, KnowsTheRunningProgramAndItsFolder) {
+TEST_F(FileSystemTest, FindsTheRunningProgramAndItsFolder) {
     const std::string program = RunningProgram();
     EXPECT_TRUE(std::filesystem::equivalent(program, "/proc/self/exe"));
     EXPECT_EQ(RunningProgramFolder() + "platform_test", program);
 }
 
-TEST(WriteWhole, WaitsForAReaderOfAFullPipe) {
+TEST(WriteWhole, WaitsForTheReaderOfAFullPipe) {
     std::array<int, 2> pipe{};
     ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
     const std::string bytes(1'000'000, 'x');
@@ -154,7 +154,7 @@ TEST(WriteWhole, WaitsForAReaderOfAFullPipe) {
     close(pipe[1]);
 }
 
-TEST(WriteWhole, IsEndedByTheStopTestWhereNobodyReads) {
+TEST(WriteWhole, StopsWaitingWhenTheStopTestReturnsTrue) {
     std::array<int, 2> pipe{};
     ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
     int asked = 0;

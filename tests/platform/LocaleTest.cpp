@@ -14,7 +14,7 @@ namespace {
 
 const char* const kVariables[] = {"LC_ALL", "LC_TIME", "LC_NUMERIC", "LANG"};
 
-// The environment of one test; the old one is back afterwards.
+// Restores the environment after each test.
 class LocaleTest : public testing::Test {
   public:
     LocaleTest() {
@@ -84,43 +84,43 @@ Formats FormatsOf(const Locale& locale, const std::tm& time) {
 
 const Formats kDefault = {"2026-11-21", "14:05", ",", "."};
 
-TEST_F(LocaleTest, UsesTheFormatsOfNoCountryWithoutAnyVariable) {
+TEST_F(LocaleTest, UsesNeutralFormatsWhenNoVariableIsSet) {
     EXPECT_EQ(FormatsOf(Locale(), now_), kDefault);
     EXPECT_EQ(FormatsOf(With({}), now_), kDefault);
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", ""}, {"LANG", ""}}), now_), kDefault);
 }
 
-TEST_F(LocaleTest, UsesTheFormatsOfNoCountryForTheLocalesThatNameNone) {
+TEST_F(LocaleTest, UsesNeutralFormatsForTheCLocales) {
     for (const char* name : {"C", "POSIX", "C.UTF-8", "C.utf8", "C.UTF8", "C.utf-8"}) {
         EXPECT_EQ(FormatsOf(With({{"LC_ALL", name}}), now_), kDefault) << name;
         EXPECT_EQ(FormatsOf(With({{"LANG", name}}), now_), kDefault) << name;
     }
 }
 
-TEST_F(LocaleTest, UsesTheFormatsOfNoCountryForALocaleThatIsNotInstalled) {
+TEST_F(LocaleTest, UsesNeutralFormatsForALocaleThatIsNotInstalled) {
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", "tlh_QO.UTF-8"}}), now_), kDefault);
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", "tlh_QO.UTF-8"}, {"LANG", "de_DE.UTF-8"}}), now_), kDefault);
 }
 
-TEST_F(LocaleTest, FollowsGermanDatesAndSeparators) {
+TEST_F(LocaleTest, UsesGermanDatesAndSeparators) {
     NEEDS_LOCALE("de_DE.UTF-8");
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", "de_DE.UTF-8"}}), now_), (Formats{"21.11.2026", "14:05", ".", ","}));
     EXPECT_EQ(FormatsOf(With({{"LANG", "de_DE.UTF-8"}}), now_), (Formats{"21.11.2026", "14:05", ".", ","}));
 }
 
-TEST_F(LocaleTest, ShowsATwelveHourClockWhereTheLocaleHasOne) {
+TEST_F(LocaleTest, UsesATwelveHourClockWhereTheLocaleDoes) {
     NEEDS_LOCALE("en_US.UTF-8");
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", "en_US.UTF-8"}}), now_),
               (Formats{"11/21/2026", "02:05 PM", ",", "."}));
 }
 
-TEST_F(LocaleTest, GivesTheNoBreakSpaceForASeparatorThatWindows1252Lacks) {
+TEST_F(LocaleTest, ReplacesASeparatorThatWindows1252LacksByTheNoBreakSpace) {
     NEEDS_LOCALE("fr_FR.UTF-8");
     EXPECT_EQ(FormatsOf(With({{"LC_ALL", "fr_FR.UTF-8"}}), now_),
               (Formats{"21/11/2026", "14:05", "\u00A0", ","}));
 }
 
-TEST_F(LocaleTest, TakesTimesAndNumbersEachFromItsOwnVariable) {
+TEST_F(LocaleTest, ReadsTimeAndNumberFormatsFromSeparateVariables) {
     NEEDS_LOCALE("de_DE.UTF-8");
     NEEDS_LOCALE("en_US.UTF-8");
     EXPECT_EQ(FormatsOf(With({{"LC_TIME", "en_US.UTF-8"}, {"LANG", "de_DE.UTF-8"}}), now_),
@@ -134,7 +134,7 @@ TEST_F(LocaleTest, TakesTimesAndNumbersEachFromItsOwnVariable) {
         kDefault);
 }
 
-TEST_F(LocaleTest, StaysUsableWhenCopiedAndWhenItsOriginalIsGone) {
+TEST_F(LocaleTest, CopiesOutliveTheirOriginal) {
     NEEDS_LOCALE("de_DE.UTF-8");
     Locale copy;
     {
@@ -144,7 +144,7 @@ TEST_F(LocaleTest, StaysUsableWhenCopiedAndWhenItsOriginalIsGone) {
     EXPECT_EQ(copy.ShortDate(now_), "21.11.2026");
 }
 
-TEST(IsTwelveHourFormat, LooksForTheConversionsOfATwelveHourClock) {
+TEST(IsTwelveHourFormat, RecognisesTheConversionsOfATwelveHourClock) {
     for (const char* format : {"%r", "%I:%M:%S %p", "%l.%M", "%-I:%M", "%OI", "%P", "at %T %p"}) {
         EXPECT_TRUE(IsTwelveHourFormat(format)) << format;
     }

@@ -15,14 +15,14 @@
 namespace tunedex {
 namespace {
 
-TEST(LogFile, EmptiesTheOldLogWhenItIsOpened) {
+TEST(LogFile, TruncatesTheOldLogWhenItIsOpened) {
     const test::TestFolder folder;
     const std::string path = folder.Write("Tunedex.log", "old\r\n");
     LogFile log(path);
     EXPECT_EQ(test::ReadBytes(path), "");
 }
 
-TEST(LogFile, PutsEachLineOnDiskAtOnceEndedByCrLf) {
+TEST(LogFile, WritesEachLineAtOnceEndedByCrLf) {
     const test::TestFolder folder;
     LogFile log(folder / "Tunedex.log");
     log.WriteLine("one");
@@ -33,7 +33,7 @@ TEST(LogFile, PutsEachLineOnDiskAtOnceEndedByCrLf) {
     EXPECT_EQ(test::ReadBytes(folder / "Tunedex.log"), "one\r\n\r\ntwo\r\n");
 }
 
-TEST(LogFile, EncodesEachLineForItself) {
+TEST(LogFile, EncodesEachLineSeparately) {
     const test::TestFolder folder;
     LogFile log(folder / "Tunedex.log");
     log.WriteLine("Café");
@@ -62,7 +62,7 @@ TEST(LogFile, RaisesTheErrorOfALogThatCannotBeOpened) {
     });
 }
 
-TEST(LogFile, RaisesDiskFullForALineThatFindsNoRoom) {
+TEST(LogFile, RaisesDiskFullWhenALineDoesNotFit) {
     LogFile log("/dev/full");
     EXPECT_EQ(test::RaisedBy([&] { log.WriteLine("x"); }), 61);
 }
@@ -73,7 +73,7 @@ TEST(LogFile, RefusesAFifoWithoutAReaderAtOnce) {
     EXPECT_EQ(test::RaisedBy([&] { LogFile log(folder / "Tunedex.log"); }), 57);
 }
 
-TEST(LogFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
+TEST(LogFile, DropsTheRestWhenTheStopTestEndsTheWaitForAFullFifo) {
     const test::TestFolder folder;
     const std::string path = folder / "Tunedex.log";
     ASSERT_EQ(mkfifo(path.c_str(), 0666), 0);
@@ -88,9 +88,9 @@ TEST(LogFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
         ++lines;
     }
     EXPECT_GT(lines, 2);
-    EXPECT_EQ(asked, 3) << "a wait asks again and again";
+    EXPECT_EQ(asked, 3) << "polled during the wait";
     log.WriteLine(line);
-    EXPECT_EQ(asked, 3) << "nothing more is written, and nothing waited for";
+    EXPECT_EQ(asked, 3) << "no further writes and no waits";
     log.Close();
     std::array<char, 1002> first{};
     ASSERT_EQ(read(reader, first.data(), first.size()), 1002);

@@ -17,7 +17,7 @@ struct LeadingRow {
     double value;
 };
 
-TEST(LeadingNumber, TakesWhatATextBeginsWithAndIgnoresTheRest) {
+TEST(LeadingNumber, ParsesTheNumberAtTheStartAndIgnoresTheRest) {
     const LeadingRow rows[] = {
         {"", 0},         {"yes", 0},     {"-", 0},    {"+", 0},       {".", 0},
         {"12", 12},      {"  12", 12},   {"-1", -1},  {"+7", 7},      {"12abc", 12},
@@ -31,7 +31,7 @@ TEST(LeadingNumber, TakesWhatATextBeginsWithAndIgnoresTheRest) {
     EXPECT_EQ(LeadingNumber("1e999"), std::numeric_limits<double>::infinity());
 }
 
-TEST(LeadingNumber, TellsNumbersTooLargeFromNumbersTooSmall) {
+TEST(LeadingNumber, DistinguishesOverflowFromUnderflow) {
     const double infinity = std::numeric_limits<double>::infinity();
     const std::string zeros(400, '0');
     const std::pair<std::string, double> rows[] = {
@@ -53,7 +53,7 @@ TEST(LeadingNumber, TellsNumbersTooLargeFromNumbersTooSmall) {
     }
 }
 
-TEST(LeadingNumber, SkipsNothingButBlanksBeforeIt) {
+TEST(LeadingNumber, SkipsOnlyLeadingBlanks) {
     EXPECT_EQ(LeadingNumber("\t7"), 0);
     EXPECT_EQ(LeadingNumber("\n7"), 0);
 }
@@ -65,7 +65,7 @@ TEST(RequireNumber, RaisesTypeMismatchForAnyOtherText) {
     }
 }
 
-TEST(IsNumeric, AsksForAWholeNumberTextBlanksAside) {
+TEST(IsNumeric, AcceptsOnlyANumberWithBlanksAround) {
     for (const char* text : {"1", " 12 ", "-3.5", "1e4", "+0"}) {
         EXPECT_TRUE(IsNumeric(text)) << text;
     }
@@ -101,14 +101,14 @@ TEST(ToInt32, RoundsHalvesToEvenAndRaisesOverflow) {
     }
 }
 
-TEST(CheckedAdd, RaisesOverflowInsteadOfWrappingRound) {
+TEST(CheckedAdd, RaisesOverflowInsteadOfWrapping) {
     EXPECT_EQ(CheckedAdd(2147483646, 1), 2147483647);
     EXPECT_EQ(CheckedAdd(-2147483647, -1), -2147483648);
     EXPECT_EQ(test::RaisedBy([] { CheckedAdd(2147483647, 1); }), 6);
     EXPECT_EQ(test::RaisedBy([] { CheckedAdd(-2147483648, -1); }), 6);
 }
 
-TEST(PadNumber, FillsUpWithZerosBehindTheSign) {
+TEST(PadNumber, PadsWithZerosAfterTheSign) {
     EXPECT_EQ(PadNumber(7, 3), "007");
     EXPECT_EQ(PadNumber(1234, 3), "1234");
     EXPECT_EQ(PadNumber(0, 1), "0");

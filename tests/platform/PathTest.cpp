@@ -11,7 +11,7 @@ namespace {
 constexpr PathStyle kUnix = PathStyle::Unix();
 constexpr PathStyle kWindows = PathStyle::Windows();
 
-TEST(PathStyle, TheNativeOneOfThisSystemSeparatesBySlashesAndHasNoDrives) {
+TEST(PathStyle, NativeUsesSlashesAndNoDriveLetters) {
     EXPECT_EQ(PathStyle::Native().separator, '/');
     EXPECT_FALSE(PathStyle::Native().driveLetters);
     EXPECT_EQ(kWindows.separator, '\\');
@@ -38,7 +38,7 @@ TEST(Path, SplitsIntoFolderAndNameAtTheLastSeparator) {
         {kUnix, "a.mp3", "", "", "a.mp3"},
         {kUnix, "music/", "music/", "music", ""},
         {kUnix, "", "", "", ""},
-        // A backslash in a name is a character like any other.
+        // A backslash is an ordinary character in a Unix name.
         {kUnix, R"(/music/AC\DC.mp3)", "/music/", "/music", R"(AC\DC.mp3)"},
     };
     for (const Row& row : rows) {
@@ -48,7 +48,7 @@ TEST(Path, SplitsIntoFolderAndNameAtTheLastSeparator) {
     }
 }
 
-TEST(Path, GetsASeparatorAtItsEndUnlessItHasOne) {
+TEST(Path, WithSeparatorAppendsOneIfMissing) {
     EXPECT_EQ(WithSeparator(R"(C:\Music)", kWindows), R"(C:\Music\)");
     EXPECT_EQ(WithSeparator(R"(C:\)", kWindows), R"(C:\)");
     EXPECT_EQ(WithSeparator("/music/", kUnix), "/music/");
@@ -60,7 +60,7 @@ TEST(Path, GetsASeparatorAtItsEndUnlessItHasOne) {
     EXPECT_FALSE(EndsInSeparator("a\\", kUnix));
 }
 
-TEST(Path, LosesTheSeparatorAtItsEndTheRootFolderAside) {
+TEST(Path, WithoutSeparatorRemovesAllButTheRootFolders) {
     EXPECT_EQ(WithoutSeparator("/music/", kUnix), "/music");
     EXPECT_EQ(WithoutSeparator("/music", kUnix), "/music");
     EXPECT_EQ(WithoutSeparator("/", kUnix), "/");
@@ -73,7 +73,7 @@ TEST(Path, LosesTheSeparatorAtItsEndTheRootFolderAside) {
     EXPECT_EQ(WithoutSeparator("\\", kWindows), "\\");
 }
 
-TEST(FolderLevels, AreTheFoldersOnTheWayDownOutermostFirst) {
+TEST(FolderLevels, AreTheParentFoldersOutermostFirst) {
     using Levels = std::vector<std::string>;
     EXPECT_EQ(FolderLevels(R"(C:\a\b\c\)", kWindows),
               (Levels{R"(C:\)", R"(C:\a\)", R"(C:\a\b\)", R"(C:\a\b\c\)"}));

@@ -9,7 +9,7 @@
 namespace tunedex {
 namespace {
 
-TEST(RunTimeError, CarriesTheNumberAndDescriptionThatMessagesPrint) {
+TEST(RunTimeError, HasTheNumberAndDescriptionThatMessagesPrint) {
     const std::vector<std::pair<int, std::string>> table = {
         {5, "Invalid procedure call or argument"},
         {6, "Overflow"},
@@ -33,7 +33,7 @@ TEST(RunTimeError, CarriesTheNumberAndDescriptionThatMessagesPrint) {
     }
 }
 
-TEST(ErrorFromErrno, MapsEachCauseByWhatTheCallWasAbout) {
+TEST(ErrorFromErrno, MapsEachErrnoByTask) {
     struct Row {
         int errorCode;
         int readFile;
@@ -41,24 +41,15 @@ TEST(ErrorFromErrno, MapsEachCauseByWhatTheCallWasAbout) {
         int useFolder;
     };
     const std::vector<Row> rows = {
-        {EINVAL, 52, 52, 52},
-        {ENAMETOOLONG, 52, 52, 52},
-        {ELOOP, 52, 52, 52},
-        {ENOENT, 53, 76, 76}, // a file to write is created: what is missing then is its folder
-        {ENOTDIR, 76, 76, 76},
-        {EACCES, 75, 75, 75},
-        {EPERM, 75, 75, 75},
-        {EROFS, 75, 75, 75},
-        {EISDIR, 75, 75, 75},
-        {ENOSPC, 61, 61, 61},
-        {EDQUOT, 61, 61, 61},
-        {EMFILE, 67, 67, 67},
-        {ENFILE, 67, 67, 67},
-        {EIO, 57, 57, 57},
-        {EBADF, 57, 57, 57},
-        {ENXIO, 57, 57, 57},
-        {ETXTBSY, 57, 57, 57},
-        {0, 57, 57, 57},
+        {EINVAL, 52, 52, 52},  {ENAMETOOLONG, 52, 52, 52},
+        {ELOOP, 52, 52, 52},   {ENOENT, 53, 76, 76}, // writing creates the file, so its folder is missing
+        {ENOTDIR, 76, 76, 76}, {EACCES, 75, 75, 75},
+        {EPERM, 75, 75, 75},   {EROFS, 75, 75, 75},
+        {EISDIR, 75, 75, 75},  {ENOSPC, 61, 61, 61},
+        {EDQUOT, 61, 61, 61},  {EMFILE, 67, 67, 67},
+        {ENFILE, 67, 67, 67},  {EIO, 57, 57, 57},
+        {EBADF, 57, 57, 57},   {ENXIO, 57, 57, 57},
+        {ETXTBSY, 57, 57, 57}, {0, 57, 57, 57},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(ErrorFromErrno(row.errorCode, FileTask::ReadFile).Number(), row.readFile) << row.errorCode;
@@ -66,7 +57,7 @@ TEST(ErrorFromErrno, MapsEachCauseByWhatTheCallWasAbout) {
             << row.errorCode;
         EXPECT_EQ(ErrorFromErrno(row.errorCode, FileTask::UseFolder).Number(), row.useFolder)
             << row.errorCode;
-        // A folder that cannot be examined is a bad name, whatever the cause.
+        // A failed folder test is error 52 whatever errno is.
         EXPECT_EQ(ErrorFromErrno(row.errorCode, FileTask::TestFolder).Number(), 52) << row.errorCode;
     }
 }

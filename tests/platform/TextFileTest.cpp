@@ -44,7 +44,7 @@ unsigned PermissionsOf(const std::string& path) {
     return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
 }
 
-// An access-control list as the kernel exchanges it: version 2, then tag, permissions and id of each entry.
+// The binary form of an access-control list: version 2, then tag, permissions and id of each entry.
 constexpr const char* kAccessList = "system.posix_acl_access";
 constexpr const char* kDefaultList = "system.posix_acl_default";
 
@@ -89,7 +89,7 @@ void MakeOld(const std::string& path, int hours) {
     ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
 }
 
-TEST(TextFile, EncodesItsTextsAsItWasTold) {
+TEST(TextFile, EncodesTextInTheGivenEncoding) {
     const test::TestFolder folder;
     struct Row {
         TextEncoding encoding;
@@ -115,7 +115,7 @@ TEST(TextFile, EncodesItsTextsAsItWasTold) {
     EXPECT_EQ(test::ReadBytes(folder / "f"), "Caf\xE9\r\nあé\r\n");
 }
 
-TEST(TextFile, WritesRawBytesAsTheyAreInEveryEncoding) {
+TEST(TextFile, WritesRawBytesUnchangedInEveryEncoding) {
     const test::TestFolder folder;
     for (const TextEncoding encoding :
          {TextEncoding::Windows1252References, TextEncoding::Windows1252Questions, TextEncoding::Utf8,
@@ -127,7 +127,7 @@ TEST(TextFile, WritesRawBytesAsTheyAreInEveryEncoding) {
     }
 }
 
-TEST(TextFile, EndsLinesWithCrLfAndAddsNothingElse) {
+TEST(TextFile, EndsLinesWithCrLf) {
     const test::TestFolder folder;
     TextFile file(folder / "f", TextEncoding::Utf8);
     file.WriteLine("a");
@@ -153,7 +153,7 @@ TEST(TextFile, WritesMoreThanItsBufferHolds) {
     EXPECT_EQ(test::ReadBytes(folder / "f"), expected + big);
 }
 
-TEST(TextFile, LeavesTheOldFileInPlaceUntilItIsClosed) {
+TEST(TextFile, KeepsTheOldFileUntilItIsClosed) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old and rather longer");
     TextFile file(path, TextEncoding::Utf8);
@@ -161,10 +161,10 @@ TEST(TextFile, LeavesTheOldFileInPlaceUntilItIsClosed) {
     EXPECT_EQ(test::ReadBytes(path), "old and rather longer");
     file.Close();
     EXPECT_EQ(test::ReadBytes(path), "new");
-    EXPECT_EQ(CountIn(folder.Path()), 1U) << "nothing else stays in the folder";
+    EXPECT_EQ(CountIn(folder.Path()), 1U) << "no other file is left in the folder";
 }
 
-TEST(TextFile, RemovesWhatWasWrittenAsideWhenItIsNotClosed) {
+TEST(TextFile, RemovesTheTemporaryFileWhenItIsNotClosed) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old");
     {
@@ -206,7 +206,7 @@ TEST(TextFile, WritesThroughALinkToAPipe) {
     const test::TestFolder folder;
     std::array<int, 2> pipe{};
     ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
-    const std::string link = "/proc/self/fd/" + std::to_string(pipe[1]); // as /dev/stdout
+    const std::string link = "/proc/self/fd/" + std::to_string(pipe[1]); // like /dev/stdout
     ASSERT_EQ(symlink(link.c_str(), (folder / "link").c_str()), 0);
     for (const std::string& path : {link, folder / "link"}) {
         Save(path, "new");
@@ -230,10 +230,10 @@ TEST(TextFile, KeepsTheOldFilesPermissions) {
     }
 }
 
-TEST(TextFile, LeavesTheOldFileToItsOwner) {
+TEST(TextFile, KeepsTheOwnerOfTheOldFile) {
     const test::TestFolder folder;
     if (geteuid() != 0) {
-        GTEST_SKIP() << "only root can make a file of another user's";
+        GTEST_SKIP() << "only root can create a file owned by another user";
     }
     const std::string path = folder.Write("list.htm", "old");
     ASSERT_EQ(chown(path.c_str(), 65534, 65533), 0);
@@ -245,7 +245,7 @@ TEST(TextFile, LeavesTheOldFileToItsOwner) {
     EXPECT_EQ(status.st_gid, 65533U);
 }
 
-TEST(TextFile, GivesANewFileThePermissionsThatTheUserMaskLeaves) {
+TEST(TextFile, GivesANewFilePermissionsByTheUmask) {
     const test::TestFolder folder;
     test::InChild([&] {
         umask(027);
@@ -254,7 +254,7 @@ TEST(TextFile, GivesANewFileThePermissionsThatTheUserMaskLeaves) {
     });
 }
 
-TEST(TextFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
+TEST(TextFile, WritesInPlaceWhereTheFolderPermitsNoNewFile) {
     const test::TestFolder folder;
     const std::string path = folder.Write("closed/list.htm", "old and rather longer");
     test::AsOrdinaryUser(folder, [&] {
@@ -266,13 +266,13 @@ TEST(TextFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
     });
 }
 
-TEST(TextFile, WritesInPlaceWhereTheFolderLetsNobodyReplaceAnothersFile) {
+TEST(TextFile, WritesInPlaceToAnotherUsersFileInAStickyFolder) {
     const test::TestFolder folder;
     if (geteuid() != 0) {
-        GTEST_SKIP() << "only root can make a file of another user's";
+        GTEST_SKIP() << "only root can create a file owned by another user";
     }
     const std::string path = folder.Write("sticky/list.htm", "old and rather longer");
-    test::AsOrdinaryUser(folder, [] {}); // everything is the ordinary user's now
+    test::AsOrdinaryUser(folder, [] {}); // chowns everything to the ordinary user
     ASSERT_EQ(chown((folder / "sticky").c_str(), 0, 0), 0);
     ASSERT_EQ(chmod((folder / "sticky").c_str(), 01777), 0);
     ASSERT_EQ(chown(path.c_str(), 0, 0), 0);
@@ -297,7 +297,7 @@ TEST(TextFile, NeverReplacesAFileThatTheUserMayNotWrite) {
     });
 }
 
-TEST(TextFile, TakesNamesAsLongAsTheFileSystemDoes) {
+TEST(TextFile, SupportsTheLongestNamesOfTheFileSystem) {
     const test::TestFolder folder;
     const std::string path = folder / (std::string(251, 'n') + ".htm");
     Save(path, "new");
@@ -332,7 +332,7 @@ TEST(TextFile, WritesABareNameIntoTheCurrentFolder) {
     EXPECT_EQ(CountIn(folder.Path()), 1U);
 }
 
-TEST(TextFile, RaisesDiskFullFromADeviceThatHoldsNothing) {
+TEST(TextFile, RaisesDiskFullFromAFullDevice) {
     EXPECT_EQ(test::RaisedBy([] { Save("/dev/full", "x"); }), 61);
     EXPECT_EQ(test::RaisedBy([] {
                   TextFile file("/dev/full", TextEncoding::Utf8);
@@ -342,8 +342,8 @@ TEST(TextFile, RaisesDiskFullFromADeviceThatHoldsNothing) {
     EXPECT_TRUE(fs::is_character_file("/dev/full")) << "a device is never replaced by a file";
 }
 
-// Stands for a disk that fills up half-way: the system stops the file at that length.
-TEST(TextFile, KeepsTheOldFileWhenAWriteFailsHalfWay) {
+// The file size limit simulates a disk that fills up during the write.
+TEST(TextFile, KeepsTheOldFileWhenAWriteFails) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old");
     test::InChild([&] {
@@ -364,7 +364,7 @@ TEST(TextFile, KeepsTheOldFileWhenTheDiskIsFull) {
     }
     const std::string path = folder.Write("disk/list.htm", "old");
     EXPECT_EQ(test::RaisedBy([&] { Save(path, std::string(1'000'000, 'x')); }), 61);
-    EXPECT_EQ(test::RaisedBy([&] { Save(path, std::string(100'000, 'x')); }), 61) << "told at the close";
+    EXPECT_EQ(test::RaisedBy([&] { Save(path, std::string(100'000, 'x')); }), 61) << "raised by Close()";
     EXPECT_EQ(test::ReadBytes(path), "old");
     EXPECT_EQ(CountIn(disk), 1U);
     EXPECT_EQ(umount(disk.c_str()), 0);
@@ -374,11 +374,11 @@ TEST(TextFile, RaisesTheErrorOfARenameThatFails) {
     const test::TestFolder folder;
     TextFile file(folder / "list.htm", TextEncoding::Utf8);
     file.Write("new");
-    folder.Make("list.htm"); // someone was quicker
+    folder.Make("list.htm"); // another process was faster
     EXPECT_EQ(test::RaisedBy([&] { file.Close(); }), 75);
 }
 
-TEST(TextFile, LetsTwoFilesOfOneFolderBeWrittenAtATime) {
+TEST(TextFile, AllowsTwoFilesInOneFolderAtATime) {
     const test::TestFolder folder;
     TextFile one(folder / "one", TextEncoding::Utf8);
     TextFile two(folder / "two", TextEncoding::Utf8);
@@ -390,7 +390,7 @@ TEST(TextFile, LetsTwoFilesOfOneFolderBeWrittenAtATime) {
     EXPECT_EQ(test::ReadBytes(folder / "two"), "2");
 }
 
-TEST(TextFile, HidesWhatItWritesAsideFromTheWalk) {
+TEST(TextFile, GivesTheTemporaryFileANameThatTheWalkIgnores) {
     const test::TestFolder folder;
     const TextFile file(folder / "list.htm", TextEncoding::Utf8);
     const std::vector<std::string> names = FileNamesIn(folder.Path());
@@ -404,7 +404,7 @@ TEST(TextFile, KeepsTheAccessControlListOfTheOldFile) {
     ASSERT_EQ(chmod(path.c_str(), 0660), 0);
     const std::string list = ListNaming(6, 0);
     if (!SetAttribute(path, kAccessList, list)) {
-        GTEST_SKIP() << "no access-control lists here";
+        GTEST_SKIP() << "the file system has no access-control lists";
     }
     const unsigned mode = PermissionsOf(path);
     Save(path, "new");
@@ -417,7 +417,7 @@ TEST(TextFile, KeepsTheUserAttributesOfTheOldFile) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old");
     if (!SetAttribute(path, "user.tags", "music") || !SetAttribute(path, "user.empty", "")) {
-        GTEST_SKIP() << "no user attributes here";
+        GTEST_SKIP() << "the file system has no user attributes";
     }
     Save(path, "new");
     EXPECT_EQ(test::ReadBytes(path), "new");
@@ -425,30 +425,30 @@ TEST(TextFile, KeepsTheUserAttributesOfTheOldFile) {
     EXPECT_EQ(Attribute(path, "user.empty"), "");
 }
 
-TEST(TextFile, GivesTheOldFileNoListFromItsFolder) {
+TEST(TextFile, DoesNotGiveTheOldFileTheDefaultListOfItsFolder) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old");
     ASSERT_EQ(chmod(path.c_str(), 0640), 0);
     if (!SetAttribute(folder.Path(), kDefaultList, ListNaming(6, 4))) {
-        GTEST_SKIP() << "no access-control lists here";
+        GTEST_SKIP() << "the file system has no access-control lists";
     }
     Save(path, "new");
     EXPECT_EQ(Attribute(path, kAccessList), std::nullopt);
     EXPECT_EQ(PermissionsOf(path), 0640U);
 }
 
-TEST(TextFile, GivesANewFileWhatItsFolderGivesToNewFiles) {
+TEST(TextFile, GivesANewFileTheDefaultListOfItsFolder) {
     const std::vector<std::string> lists = {
         ListNaming(6, 4),
         ListNaming(4, 0),
         ListNaming(7, 7),
-        AccessList({{1, 6, kNoId}, {4, 0, kNoId}, {0x20, 0, kNoId}}), // no more than a mode says
+        AccessList({{1, 6, kNoId}, {4, 0, kNoId}, {0x20, 0, kNoId}}), // equivalent to a mode
         AccessList({{1, 7, kNoId}, {4, 7, kNoId}, {0x20, 7, kNoId}}),
     };
     for (const std::string& list : lists) {
         const test::TestFolder folder;
         if (!SetAttribute(folder.Path(), kDefaultList, list)) {
-            GTEST_SKIP() << "no access-control lists here";
+            GTEST_SKIP() << "the file system has no access-control lists";
         }
         const int usual = open((folder / "usual").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
         ASSERT_GE(usual, 0);
@@ -459,7 +459,7 @@ TEST(TextFile, GivesANewFileWhatItsFolderGivesToNewFiles) {
     }
 }
 
-TEST(TextFile, LetsNobodyReadTheTemporaryFileWhoMayNotReadTheOldOne) {
+TEST(TextFile, TheTemporaryFileIsNoMoreReadableThanTheOldFile) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old");
     ASSERT_EQ(chmod(path.c_str(), 0600), 0);
@@ -469,7 +469,7 @@ TEST(TextFile, LetsNobodyReadTheTemporaryFileWhoMayNotReadTheOldOne) {
     }
 }
 
-TEST(TextFile, RemovesTemporaryFilesThatAnEarlierRunLeft) {
+TEST(TextFile, RemovesStaleTemporaryFiles) {
     const test::TestFolder folder;
     struct Row {
         const char* name;
@@ -499,7 +499,7 @@ TEST(TextFile, RemovesTemporaryFilesThatAnEarlierRunLeft) {
     EXPECT_TRUE(fs::is_symlink(folder / ".tunedex-2-2.tmp"));
 }
 
-TEST(TextFile, LeavesTheTemporaryFileOfARunThatIsStillWriting) {
+TEST(TextFile, KeepsTheTemporaryFileOfARunThatIsStillWriting) {
     const test::TestFolder folder;
     TextFile slow(folder / "slow.htm", TextEncoding::Utf8);
     const std::vector<std::string> names = FileNamesIn(folder.Path());
@@ -536,10 +536,10 @@ TEST(TextFile, RefusesALinkToATrack) {
     }
     EXPECT_EQ(test::ReadBytes(folder / "music/a.mp3"), "audio");
     EXPECT_EQ(test::ReadBytes(folder / "music/B.Mp3"), "audio");
-    EXPECT_EQ(CountIn(folder / "music"), 2U) << "the file of a dangling link is not made either";
+    EXPECT_EQ(CountIn(folder / "music"), 2U) << "the target of a dangling link is not created either";
 }
 
-TEST(TextFile, LeavesNothingWhereADanglingLinkLeadsWhenItIsNotClosed) {
+TEST(TextFile, RemovesTheTargetOfADanglingLinkWhenItIsNotClosed) {
     const test::TestFolder folder;
     folder.Make("real");
     ASSERT_EQ(symlink("real/list.htm", (folder / "link").c_str()), 0);
@@ -555,10 +555,10 @@ TEST(TextFile, LeavesNothingWhereADanglingLinkLeadsWhenItIsNotClosed) {
     });
 }
 
-TEST(TextFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
+TEST(TextFile, DropsTheRestWhenTheStopTestEndsTheWaitForAFullFifo) {
     const test::TestFolder folder;
     ASSERT_EQ(mkfifo((folder / "list.htm").c_str(), 0666), 0);
-    EXPECT_EQ(test::RaisedBy([&] { Save(folder / "list.htm", "x"); }), 57) << "there is no reader";
+    EXPECT_EQ(test::RaisedBy([&] { Save(folder / "list.htm", "x"); }), 57) << "the FIFO has no reader";
     const int reader = open((folder / "list.htm").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     ASSERT_GE(reader, 0);
     int asked = 0;
@@ -578,12 +578,12 @@ TEST(TextFile, DropsWhatAFullFifoDoesNotTakeOnceTheStopTestSaysSo) {
     EXPECT_TRUE(fs::is_fifo(folder / "list.htm"));
 }
 
-TEST(TextFile, WritesInPlaceWhereItsFolderCannotBeReachedByName) {
+TEST(TextFile, WritesInPlaceWhenItsFolderCannotBeReachedByName) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old and rather longer");
     const int open = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     ASSERT_GE(open, 0);
-    fs::remove(path); // still there for those who hold it open
+    fs::remove(path); // still exists for processes that have it open
     Save("/proc/self/fd/" + std::to_string(open), "new");
     std::array<char, 9> bytes{};
     EXPECT_EQ(read(open, bytes.data(), bytes.size()), 3);
@@ -592,10 +592,10 @@ TEST(TextFile, WritesInPlaceWhereItsFolderCannotBeReachedByName) {
     EXPECT_EQ(CountIn(folder.Path()), 0U);
 }
 
-TEST(TextFile, KeepsTheGroupOfAnothersFileWhereOnlyThatIsAllowed) {
+TEST(TextFile, KeepsTheGroupWhenTheOwnerCannotBeKept) {
     const test::TestFolder folder;
     if (geteuid() != 0) {
-        GTEST_SKIP() << "only root can make a file of another user's";
+        GTEST_SKIP() << "only root can create a file owned by another user";
     }
     const std::string path = folder.Write("open/list.htm", "old");
     ASSERT_EQ(chown(path.c_str(), 12345, 54321), 0);

@@ -16,7 +16,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-TEST(SplitTextLines, EndsLinesAtEveryKindOfLineEnd) {
+TEST(SplitTextLines, AcceptsEveryKindOfLineEnd) {
     const std::vector<std::pair<std::string, Lines>> rows = {
         {"", {}},
         {"a", {"a"}},
@@ -36,12 +36,12 @@ TEST(SplitTextLines, EndsLinesAtEveryKindOfLineEnd) {
     }
 }
 
-TEST(SplitTextLines, DecodesEachLineForItself) {
+TEST(SplitTextLines, DecodesEachLineSeparately) {
     EXPECT_EQ(SplitTextLines("Caf\xE9\r\nCaf\xC3\xA9\r\n\x81\xC3\xA9"),
               (Lines{"Café", "Café", "\xC2\x81Ã©"}));
 }
 
-TEST(SplitTextLines, LeavesOutTheMarkOfTheByteOrder) {
+TEST(SplitTextLines, SkipsTheByteOrderMark) {
     EXPECT_EQ(SplitTextLines("\xEF\xBB\xBF"
                              "Key=1\r\n\xEF\xBB\xBFx"),
               (Lines{"Key=1", "\uFEFFx"}));

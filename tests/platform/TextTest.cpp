@@ -26,7 +26,7 @@ std::string InWindows1252(std::string_view text, Substitute substitute = Substit
     return bytes;
 }
 
-// The code page as its publisher tabulates it for 80 to 9F.
+// Bytes 80 to 9F as published for the code page.
 const std::map<int, char32_t> kSpecialBytes = {
     {0x80, U'€'}, {0x82, U'‚'}, {0x83, U'ƒ'}, {0x84, U'„'}, {0x85, U'…'}, {0x86, U'†'}, {0x87, U'‡'},
     {0x88, U'ˆ'}, {0x89, U'‰'}, {0x8A, U'Š'}, {0x8B, U'‹'}, {0x8C, U'Œ'}, {0x8E, U'Ž'}, {0x91, U'‘'},
@@ -51,10 +51,10 @@ TEST(AppendUtf8, WritesCharactersOfEveryLength) {
     }
 }
 
-TEST(Windows1252, AllItsBytesStandForTheirCharactersBothWays) {
+TEST(Windows1252, MapsEveryByteInBothDirections) {
     for (int byte = 0; byte < 256; ++byte) {
         const auto special = kSpecialBytes.find(byte);
-        // Everything else, the five unused bytes included, stands for its own number.
+        // Every other byte, including the five unused ones, maps to its own number.
         const auto character = special == kSpecialBytes.end() ? static_cast<char32_t>(byte) : special->second;
         const auto raw = static_cast<unsigned char>(byte);
         EXPECT_EQ(FromWindows1252(raw), character) << byte;
@@ -66,7 +66,7 @@ TEST(Windows1252, AllItsBytesStandForTheirCharactersBothWays) {
 }
 
 TEST(Windows1252, DecodesLongMixturesOfAsciiAndOtherBytes) {
-    // Long runs of ASCII take another way through the code than single characters.
+    // Long runs of ASCII are handled by other code than single characters.
     for (std::size_t before = 0; before < 20; ++before) {
         for (std::size_t after = 0; after < 20; ++after) {
             const std::string bytes = std::string(before, 'a') + "\xE9" + std::string(after, 'b') + "\x80";
@@ -77,14 +77,14 @@ TEST(Windows1252, DecodesLongMixturesOfAsciiAndOtherBytes) {
     }
 }
 
-TEST(Windows1252, LacksWhatIsNotInItsTable) {
+TEST(Windows1252, DoesNotEncodeOtherCharacters) {
     for (const char32_t character :
          {U'\u0080', U'\u0082', U'\u009F', U'\u0100', U'あ', U'\uFEFF', U'\U0001F3B5'}) {
         EXPECT_EQ(ToWindows1252(character), std::nullopt) << static_cast<unsigned>(character);
     }
 }
 
-TEST(Windows1252, WritesAQuestionMarkOrAReferenceForWhatItLacks) {
+TEST(Windows1252, SubstitutesAQuestionMarkOrAReference) {
     EXPECT_EQ(InWindows1252("aあb"), "a?b");
     EXPECT_EQ(InWindows1252("aあb", Substitute::DecimalReference), "a&#12354;b");
     EXPECT_EQ(InWindows1252("🎵"), "?");
@@ -92,13 +92,13 @@ TEST(Windows1252, WritesAQuestionMarkOrAReferenceForWhatItLacks) {
     EXPECT_EQ(InWindows1252("\xC2\x80", Substitute::DecimalReference), "&#128;");
 }
 
-TEST(Windows1252, ReferencesNoCharacterThatADocumentMayNotHold) {
+TEST(Windows1252, WritesNoReferenceThatHtmlForbids) {
     std::string bytes;
     AppendWindows1252(bytes, "\uFFFD\uFFFE\uFFFF\U00010000", Substitute::DecimalReference);
     EXPECT_EQ(bytes, "&#65533;&#65533;&#65533;&#65536;");
 }
 
-TEST(Windows1252, StrayBytesAreWrittenAsTheyAre) {
+TEST(Windows1252, WritesStrayBytesUnchanged) {
     for (const Substitute substitute : {Substitute::QuestionMark, Substitute::DecimalReference}) {
         EXPECT_EQ(InWindows1252("a\xFF"
                                 "b\xE3\x81",
@@ -108,7 +108,7 @@ TEST(Windows1252, StrayBytesAreWrittenAsTheyAre) {
     }
 }
 
-TEST(StepAt, TakesWholeCharactersAndCallsEverythingElseAStrayByte) {
+TEST(StepAt, DecodesCharactersAndTreatsInvalidBytesAsStray) {
     struct Row {
         std::string text;
         char32_t character;
@@ -142,7 +142,7 @@ TEST(StepAt, TakesWholeCharactersAndCallsEverythingElseAStrayByte) {
         {"\xED\xA0\x80", 0xED, 1, true},
         {"\xED\xBF\xBF", 0xED, 1, true},
         {"\xF4\x90\x80\x80", 0xF4, 1, true},
-        // Cut off at the end, or by another character.
+        // Truncated by the end or by another character.
         {"\xC3", 0xC3, 1, true},
         {"\xE3\x81", 0xE3, 1, true},
         {"\xF0\x9F\x8E", 0xF0, 1, true},
@@ -162,7 +162,7 @@ TEST(StepAt, TakesWholeCharactersAndCallsEverythingElseAStrayByte) {
     }
 }
 
-TEST(StepAt, GoesThroughATextOfEveryKindOfStep) {
+TEST(StepAt, StepsThroughMixedText) {
     const std::string text = "a\xFF"
                              "éあ🎵\x80z";
     std::vector<std::size_t> lengths;
@@ -172,7 +172,7 @@ TEST(StepAt, GoesThroughATextOfEveryKindOfStep) {
     EXPECT_EQ(lengths, (std::vector<std::size_t>{1, 1, 2, 3, 4, 1, 1}));
 }
 
-TEST(UpperCase, MapsEveryLetterOfTheCodePageThatHasAPartnerThereAndNothingElse) {
+TEST(UpperCase, MapsOnlyLettersWhoseUpperCaseIsInTheCodePage) {
     const std::map<char32_t, char32_t> special = {{U'š', U'Š'}, {U'œ', U'Œ'}, {U'ž', U'Ž'}, {U'ÿ', U'Ÿ'}};
     for (int byte = 0; byte < 256; ++byte) {
         const char32_t character = FromWindows1252(static_cast<unsigned char>(byte));
@@ -188,14 +188,14 @@ TEST(UpperCase, MapsEveryLetterOfTheCodePageThatHasAPartnerThereAndNothingElse) 
     }
 }
 
-TEST(UpperCase, LeavesOtherScriptsAndStrayBytesAlone) {
+TEST(UpperCase, KeepsOtherScriptsAndStrayBytes) {
     for (const char* text : {"ß", "÷", "×", "µ", "ƒ", "а", "α", "ā", "あ", "ａ", "\xE9", "\xFF\xE0", "ı"}) {
         EXPECT_EQ(UpperCase(text), text);
     }
     EXPECT_EQ(UpperCase("a\xE9z é"), "A\xE9Z É");
 }
 
-TEST(EndsInIgnoringCase, ComparesTheEndWithoutCase) {
+TEST(EndsInIgnoringCase, IgnoresCase) {
     EXPECT_TRUE(EndsInIgnoringCase("list.Cfg", ".CFG"));
     EXPECT_TRUE(EndsInIgnoringCase(".cfg", ".CFG"));
     EXPECT_FALSE(EndsInIgnoringCase("cfg", ".CFG"));
@@ -203,7 +203,7 @@ TEST(EndsInIgnoringCase, ComparesTheEndWithoutCase) {
     EXPECT_FALSE(EndsInIgnoringCase("", ".CFG"));
 }
 
-TEST(ReplaceAll, ReplacesFromLeftToRightAndNeverWhatItPutIn) {
+TEST(ReplaceAll, ReplacesFromLeftToRightAndNotWithinReplacements) {
     EXPECT_EQ(ReplaceAll("a.b.c", ".", ".."), "a..b..c");
     EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");
     EXPECT_EQ(ReplaceAll("", "a", "b"), "");
@@ -211,7 +211,7 @@ TEST(ReplaceAll, ReplacesFromLeftToRightAndNeverWhatItPutIn) {
     EXPECT_EQ(ReplaceAll("%D%D", "%D", ""), "");
 }
 
-TEST(Split, KeepsEmptyPiecesButAnEmptyTextHasNone) {
+TEST(Split, KeepsEmptyPiecesButReturnsNoneForAnEmptyText) {
     using Pieces = std::vector<std::string>;
     EXPECT_EQ(Split("", "|"), Pieces());
     EXPECT_EQ(Split("a", "|"), Pieces{"a"});
@@ -220,7 +220,7 @@ TEST(Split, KeepsEmptyPiecesButAnEmptyTextHasNone) {
     EXPECT_EQ(Split("a%|%b%|%", "%|%"), (Pieces{"a", "b", ""}));
 }
 
-TEST(TrimBlanks, TakesBlanksAndNothingElse) {
+TEST(TrimBlanks, RemovesOnlyBlanks) {
     EXPECT_EQ(TrimBlanks("  a b  "), "a b");
     EXPECT_EQ(TrimBlanks("\ta\t"), "\ta\t");
     EXPECT_EQ(TrimBlanks("   "), "");
@@ -229,17 +229,17 @@ TEST(TrimBlanks, TakesBlanksAndNothingElse) {
     EXPECT_EQ(TrimBlanksRight("  "), "");
 }
 
-TEST(FileLine, IsWindows1252WhereThatCanHoldItAndUtf8Otherwise) {
+TEST(FileLine, IsWrittenAsWindows1252WherePossibleOtherwiseAsUtf8) {
     EXPECT_EQ(EncodeFileLine("plain"), "plain");
     EXPECT_EQ(EncodeFileLine("Café"), "Caf\xE9");
     EXPECT_EQ(EncodeFileLine("€ – š"), "\x80 \x96 \x9A");
     EXPECT_EQ(EncodeFileLine("あ é"), "あ é");
-    // "Ã©" in Windows-1252 is the UTF-8 of é: such a line must not come back as another.
+    // "Ã©" in Windows-1252 is the UTF-8 form of é, so it must be written as UTF-8.
     EXPECT_EQ(EncodeFileLine("Ã©"), "Ã©");
     EXPECT_EQ(EncodeFileLine("Ã"), "\xC3");
 }
 
-TEST(FileLine, IsReadAsUtf8WhereValidAndAsWindows1252Otherwise) {
+TEST(FileLine, IsReadAsUtf8WhereValidOtherwiseAsWindows1252) {
     EXPECT_EQ(DecodeFileLine("Caf\xE9"), "Café");
     EXPECT_EQ(DecodeFileLine("Caf\xC3\xA9"), "Café");
     EXPECT_EQ(DecodeFileLine("\xC3\xA9 \xE9"), "Ã© é");
@@ -253,7 +253,7 @@ TEST(SettingsLine, EscapesStrayBytesAsLoneSurrogates) {
         {"é\xE9", "é\xED\xB3\xA9"},
         {"Café", "Caf\xE9"},
         {"あ", "あ"},
-        // Windows-1252 would give ED B2 80, which is read as an escaped stray byte.
+        // In Windows-1252 this is ED B2 80, which would be read as an escaped stray byte.
         {"í²€", "í²€"},
         // Three stray bytes that look like an escaped one.
         {"\xED\xB2\x80", "\xED\xB3\xAD\xED\xB2\xB2\xED\xB2\x80"},
@@ -265,7 +265,7 @@ TEST(SettingsLine, EscapesStrayBytesAsLoneSurrogates) {
     EXPECT_EQ(EncodeFileLine("é \xE9", StrayBytes::AsTheyAre), "é \xE9");
 }
 
-TEST(SettingsLine, IsReadAsWindows1252WhereItIsNeitherUtf8NorEscaped) {
+TEST(SettingsLine, IsReadAsWindows1252WhereNeitherUtf8NorEscaped) {
     for (const char* bytes : {"\xE9", "\xED\xB2", "\xED\xB1\xBF", "\xED\xA0\x80", "\xED\xB4\x80",
                               "\xED\xB2\x80\xE9", "\xED\xB2\x41"}) {
         EXPECT_EQ(DecodeFileLine(bytes, StrayBytes::Escaped), DecodeWindows1252(bytes))
@@ -274,7 +274,7 @@ TEST(SettingsLine, IsReadAsWindows1252WhereItIsNeitherUtf8NorEscaped) {
     EXPECT_EQ(DecodeFileLine("\xED\xB2\x80", StrayBytes::AsTheyAre), DecodeWindows1252("\xED\xB2\x80"));
 }
 
-TEST(SettingsLine, BringsBackAnyText) {
+TEST(SettingsLine, RoundTripsAnyText) {
     std::mt19937 random(1);
     const std::string pieces[] = {"a", "é", "€", "あ", "\xED", "\xB2", "\x80", "\xBF", "\xE9", "í", "²", "🎵"};
     for (int round = 0; round < 20000; ++round) {
@@ -292,13 +292,13 @@ TEST(Characters, CountEachCharacterAndEachStrayByteOnce) {
     EXPECT_EQ(FromCharacters(Characters("aé\xE9あ🎵")), "aé\xE9あ🎵");
 }
 
-TEST(FileLine, BringsBackEveryTextOfWholeCharacters) {
+TEST(FileLine, RoundTripsEveryTextWithoutStrayBytes) {
     std::vector<std::string> pieces = {"",       "a",      "あ",         "🎵",      "\u0100", "\u07FF",
                                        "\u0800", "\uFFFF", "\U00010000", "\u0080", "\u009F", "\uFEFF"};
     for (int byte = 0x80; byte < 256; ++byte) {
         pieces.push_back(Utf8(FromWindows1252(static_cast<unsigned char>(byte))));
     }
-    // Three in a row: a character of three bytes in UTF-8 can look like three of the code page.
+    // Three characters: a three-byte UTF-8 character can look like three code page characters.
     const std::vector<std::string> third = {"", "a", "‚", "\u0081", "¿", "あ", "é"};
     for (const std::string& first : pieces) {
         for (const std::string& second : pieces) {
@@ -312,7 +312,7 @@ TEST(FileLine, BringsBackEveryTextOfWholeCharacters) {
     }
 }
 
-TEST(WholeCharacters, EndsWhereNoCharacterIsSplit) {
+TEST(WholeCharacters, SplitsNoCharacter) {
     struct Row {
         std::string_view text;
         std::size_t most;
@@ -328,7 +328,7 @@ TEST(WholeCharacters, EndsWhereNoCharacterIsSplit) {
         {"abc\xE2\x82\xACz", 4, 3},
         {"a\xF0\x9F\x8E\xB5z", 4, 1},
         {"\xF0\x9F\x8E\xB5z", 4, 4},
-        // Stray bytes belong to no character.
+        // Stray bytes are not part of a character.
         {"\x82\x82\x82\x82\x82\x82", 4, 4},
         {"abc\xC3zzz", 4, 4},
         {"ab\xE2\x82zzz", 4, 4},
