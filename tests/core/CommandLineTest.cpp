@@ -24,7 +24,7 @@ TEST(IsAutomatic, FindsTheSwitchAnywhereInAnyCase) {
     }
 }
 
-TEST(InformationText, IsForASingleArgumentThatIsExactlyOne) {
+TEST(InformationText, ExistsOnlyForASingleExactArgument) {
     EXPECT_TRUE(InformationText({"--help"}).has_value());
     EXPECT_TRUE(InformationText({"--version"}).has_value());
     const std::vector<std::vector<std::string>> others = {{},
@@ -44,11 +44,11 @@ TEST(InformationText, IsForASingleArgumentThatIsExactlyOne) {
     }
 }
 
-TEST(InformationText, TellsTheVersionWithItsBuildNumber) {
+TEST(InformationText, ShowsTheVersionWithItsBuildNumber) {
     EXPECT_EQ(InformationText({"--version"}), "Tunedex 1.0.0\n");
 }
 
-TEST(InformationText, HelpFitsIntoEightyColumns) {
+TEST(InformationText, HelpFitsInEightyColumns) {
     const std::string text = *InformationText({"--help"});
     EXPECT_TRUE(text.ends_with(".\n") || text.ends_with("t\n"));
     EXPECT_TRUE(IsAscii(text));

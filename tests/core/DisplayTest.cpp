@@ -7,7 +7,7 @@
 namespace tunedex {
 namespace {
 
-TEST(Display, IsNamedByTheVariablesThatAreSetAndNotEmpty) {
+TEST(Display, UsesTheVariablesThatAreSetAndNotEmpty) {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         unsetenv(name);
     }
@@ -21,7 +21,7 @@ TEST(Display, IsNamedByTheVariablesThatAreSetAndNotEmpty) {
     EXPECT_EQ(variables[1].name + "=" + variables[1].value, "QT_QPA_PLATFORM=xcb");
 }
 
-TEST(Display, ThatCannotBeOpenedIsReportedWithTheWayToRunWithoutIt) {
+TEST(Display, ReportsAnUnusableDisplayWithTheCommandToRunWithoutIt) {
     EXPECT_EQ(UnusableDisplayText({{"DISPLAY", ":9"}}), "Tunedex could not open the display.\n"
                                                         "DISPLAY is \":9\".\n"
                                                         "To make the list without a display: "

@@ -21,7 +21,7 @@ constexpr const char* kWalkTemplate = R"(scanning the directory: \n\n%D\n\n%N: %
 constexpr const char* kDecodeTemplate = R"(decoding the headers of: \n\n%F)";
 const RunTimeError kPathNotFound(ErrorNumber::PathNotFound);
 
-TEST(ShowMessage, PassesEverythingOnAndReturnsTheButton) {
+TEST(ShowMessage, ForwardsItsArgumentsAndReturnsTheButton) {
     test::FakeUserInterface ui;
     ui.answers = {kAnswerYes, kAnswerNo};
     EXPECT_EQ(ShowMessage(ui, "text", kYesNoExclamation, "title"), 6);
@@ -29,13 +29,13 @@ TEST(ShowMessage, PassesEverythingOnAndReturnsTheButton) {
     EXPECT_EQ(ui.messages, (std::vector<Message>{{"text", 52, "title"}, {"other", 64, "t"}}));
 }
 
-TEST(ShowMessage, PutsTheProgramsNameInTheTitleWhereThereIsNone) {
+TEST(ShowMessage, UsesTheProgramNameForAnEmptyTitle) {
     test::FakeUserInterface ui;
     ShowMessage(ui, "text", kOkExclamation, "");
     EXPECT_EQ(ui.messages, (std::vector<Message>{{"text", 48, "Tunedex"}}));
 }
 
-TEST(MessageCodes, AreTheNumbersThatCallersAndFrontEndsAgreeOn) {
+TEST(MessageCodes, HaveTheirFixedValues) {
     EXPECT_EQ(kOkExclamation, 48);
     EXPECT_EQ(kYesNoExclamation, 52);
     EXPECT_EQ(kOkInformation, 64);
@@ -45,7 +45,7 @@ TEST(MessageCodes, AreTheNumbersThatCallersAndFrontEndsAgreeOn) {
 
 class ReportErrorTest : public testing::Test {
   protected:
-    // The log's content after a report, without a line end to it.
+    // The log's content after a report, without its line end.
     std::string Report(bool warnings, bool logging, const std::string& errorTemplate, const std::string& file,
                        const std::string& folder) {
         fake_.application.settings.ErrorWarnings = warnings;
@@ -65,13 +65,13 @@ class ReportErrorTest : public testing::Test {
     test::FakeUserInterface ui_;
 };
 
-TEST_F(ReportErrorTest, LeavesNoTraceWithWarningsAndLogOff) {
+TEST_F(ReportErrorTest, DoesNothingWithWarningsAndLogOff) {
     Report(false, false, kWalkTemplate, "", "/music");
     EXPECT_TRUE(ui_.messages.empty());
     EXPECT_FALSE(folder_.Exists("Tunedex.log"));
 }
 
-TEST_F(ReportErrorTest, ShowsABoxOfFiveLinesAndLogsTheirPartsRunTogether) {
+TEST_F(ReportErrorTest, ShowsFiveLinesAndLogsThemJoined) {
     EXPECT_EQ(Report(true, true, kWalkTemplate, "", R"(C:\Music)"),
               "An error occurred scanning the directory: C:\\Music76: Path not found\r\n");
     EXPECT_EQ(ui_.messages,
@@ -87,7 +87,7 @@ TEST_F(ReportErrorTest, LogsLineBreaksAsTwoCharactersWithWarningsOff) {
     EXPECT_TRUE(ui_.messages.empty());
 }
 
-TEST_F(ReportErrorTest, ShowsTheBoxAloneWithTheLogOff) {
+TEST_F(ReportErrorTest, OnlyShowsTheBoxWithTheLogOff) {
     Report(true, false, kDecodeTemplate, "/music/a.mp3", "");
     EXPECT_EQ(ui_.messages,
               (std::vector<Message>{
@@ -95,21 +95,21 @@ TEST_F(ReportErrorTest, ShowsTheBoxAloneWithTheLogOff) {
     EXPECT_FALSE(folder_.Exists("Tunedex.log"));
 }
 
-TEST_F(ReportErrorTest, KeepsThePlaceholdersOfWhatItWasNotGiven) {
+TEST_F(ReportErrorTest, KeepsThePlaceholdersOfEmptyNames) {
     EXPECT_EQ(Report(false, true, "%D %F %N %S %X", "", ""),
               "An error occurred %D %F 76 Path not found %X\r\n");
     EXPECT_EQ(Report(false, true, "%D %F", "/a.mp3", ""), "An error occurred %D /a.mp3\r\n");
     EXPECT_EQ(Report(false, true, "%D %F", "", "/m"), "An error occurred /m %F\r\n");
 }
 
-TEST_F(ReportErrorTest, ReplacesEveryPlaceholderEachTimeItOccursOneKindAfterTheOther) {
+TEST_F(ReportErrorTest, ReplacesAllPlaceholdersOneKindAfterAnother) {
     EXPECT_EQ(Report(false, true, "%D%D %N%N", "", "/m"), "An error occurred /m/m 7676\r\n");
-    // A name that holds a later placeholder is hit by it.
+    // A later placeholder within a name is replaced too.
     EXPECT_EQ(Report(false, true, "%D", "/f", "/%N%S%F"), "An error occurred /76Path not found/f\r\n");
     EXPECT_EQ(Report(false, true, "%F", "/%D.mp3", "/m"), "An error occurred /%D.mp3\r\n");
 }
 
-TEST_F(ReportErrorTest, ShowsNamesAsTheFrontEndWantsThemAndLogsThemAsTheyAre) {
+TEST_F(ReportErrorTest, ShowsNamesAsTheFrontEndFormatsThemAndLogsThemUnchanged) {
     ui_.shownNames = "shown";
     EXPECT_EQ(Report(true, true, "%F", "raw", ""), "An error occurred raw\r\n");
     EXPECT_EQ(ui_.messages, (std::vector<Message>{{"An error occurred shown", 48, "Error!"}}));
@@ -117,26 +117,26 @@ TEST_F(ReportErrorTest, ShowsNamesAsTheFrontEndWantsThemAndLogsThemAsTheyAre) {
     EXPECT_EQ(ui_.messages, (std::vector<Message>{{"An error occurred shown", 48, "Error!"}}));
 }
 
-TEST_F(ReportErrorTest, TitlesTheBoxAsTheProgramWasStarted) {
+TEST_F(ReportErrorTest, UsesTheErrorTitleOfTheMode) {
     fake_.application.errorTitle = "Tunedex Error! (Automatic Mode)";
     Report(true, false, kWalkTemplate, "", "/m");
     ASSERT_EQ(ui_.messages.size(), 1U);
     EXPECT_EQ(ui_.messages.front().title, "Tunedex Error! (Automatic Mode)");
 }
 
-TEST_F(ReportErrorTest, RaisesTheErrorOfALogThatTakesNoMore) {
+TEST_F(ReportErrorTest, RaisesTheErrorOfALogThatIsFull) {
     fake_.application.settings.ErrorLog = true;
     LogFile full("/dev/full");
     EXPECT_EQ(test::RaisedBy([&] { ReportError("x", "", "", kPathNotFound, fake_.application, ui_, &full); }),
               61);
 }
 
-TEST(UnexpectedErrorText, NamesNumberAndDescription) {
+TEST(UnexpectedErrorText, ShowsNumberAndDescription) {
     EXPECT_EQ(UnexpectedErrorText(kPathNotFound),
               "An unexpected error occurred. The error was: \r\n\r\nError number 76 - Path not found");
 }
 
-TEST(PauseSeconds, WaitsForWholeSeconds) {
+TEST(PauseSeconds, SleepsForSeconds) {
     for (const std::int16_t seconds : {std::int16_t{0}, std::int16_t{1}, std::int16_t{32767}}) {
         test::FakeClock clock;
         PauseSeconds(seconds, clock);

@@ -65,14 +65,14 @@ class ListJob : public testing::Test {
         const auto& statuses = ui_.monitor.statuses;
         return std::find(statuses.begin(), statuses.end(), status) != statuses.end();
     }
-    // Abort stays pressed from the moment on in which that status is shown.
+    // Abort is pressed once this status is shown, and stays pressed.
     void AbortFrom(const std::string& status) {
         ui_.monitor.abortWhen = [this, status] {
             begun_ = begun_ || Said(status);
             return begun_;
         };
     }
-    // A run that ended before anything was opened or shown.
+    // The run ended before any file or window was opened.
     void ExpectRefused(const Messages& messages) {
         EXPECT_FALSE(Run());
         EXPECT_EQ(ui_.messages, messages);
@@ -90,7 +90,7 @@ class ListJob : public testing::Test {
     bool begun_ = false; // whether Abort has been pressed
 };
 
-TEST_F(ListJob, SaysWhatItIsDoingInAFixedOrderAndWritesTheList) {
+TEST_F(ListJob, ShowsItsPhasesInOrderAndWritesTheList) {
     AddTrack("a.mp3", "Zappa");
     AddTrack("b.MP3", "Abba");
     EXPECT_TRUE(Run());
@@ -105,10 +105,10 @@ TEST_F(ListJob, SaysWhatItIsDoingInAFixedOrderAndWritesTheList) {
     EXPECT_EQ(ui_.shown, 1);
     EXPECT_EQ(ui_.closed, 1);
     EXPECT_TRUE(ui_.messages.empty());
-    EXPECT_EQ(ui_.enabled, 0) << "closing the progress window does that";
+    EXPECT_EQ(ui_.enabled, 0) << "closing the progress window enables the windows";
 }
 
-TEST_F(ListJob, WaitsForASecondBeforeTheProgressWindowCloses) {
+TEST_F(ListJob, PausesOneSecondBeforeTheProgressWindowCloses) {
     AddTracks(1);
     int closedWhenWriting = -1;
     ui_.monitor.abortWhen = [&] {
@@ -120,7 +120,7 @@ TEST_F(ListJob, WaitsForASecondBeforeTheProgressWindowCloses) {
     EXPECT_EQ(ui_.monitor.statuses.back(), "Operation complete!");
 }
 
-TEST_F(ListJob, NamesTheAutomaticModeInTheProgressWindowFromTheReadPhaseOn) {
+TEST_F(ListJob, ShowsAutomaticModeInTheProgressCaptionFromTheReadPhaseOn) {
     AddTracks(2);
     EXPECT_TRUE(Run());
     EXPECT_EQ(ui_.caption, "");
@@ -137,7 +137,7 @@ TEST_F(ListJob, NamesTheAutomaticModeInTheProgressWindowFromTheReadPhaseOn) {
     EXPECT_EQ(ui_.caption, "Tunedex (Automatic Mode)");
 }
 
-TEST_F(ListJob, KeepsTheOrderOfTheFoldersWithoutSorting) {
+TEST_F(ListJob, KeepsFolderOrderWithoutSorting) {
     AddTracks(12);
     application_.settings.SortOrder = 0;
     application_.settings.ActiveColumns = "Filename";
@@ -150,7 +150,7 @@ TEST_F(ListJob, KeepsTheOrderOfTheFoldersWithoutSorting) {
     EXPECT_TRUE(Said("Sorting information..."));
 }
 
-TEST_F(ListJob, SortsDownwardsWhenAskedTo) {
+TEST_F(ListJob, SortsDescendingWhenSet) {
     AddTrack("a.mp3", "Abba");
     AddTrack("b.mp3", "Zappa");
     application_.settings.SortOrder = 2;
@@ -158,7 +158,7 @@ TEST_F(ListJob, SortsDownwardsWhenAskedTo) {
     EXPECT_EQ(List(), "Artist\tTitle\r\nZappa\tT\r\nAbba\tT\r\n");
 }
 
-TEST_F(ListJob, WalksSubFoldersOnlyWhenAskedTo) {
+TEST_F(ListJob, WalksSubfoldersOnlyWhenSet) {
     AddTrack("a.mp3", "Abba");
     AddTrack("sub/b.mp3", "Zappa");
     application_.settings.Recurse = false;
@@ -180,7 +180,7 @@ TEST_F(ListJob, WritesTheSameBytesTwice) {
     }
 }
 
-TEST_F(ListJob, PicksTheKindOfListingFromTheExtension) {
+TEST_F(ListJob, ChoosesTheFormatByExtension) {
     AddTracks(1);
     struct Row {
         const char* outputFile;
@@ -206,7 +206,7 @@ TEST_F(ListJob, PicksTheKindOfListingFromTheExtension) {
     }
 }
 
-TEST_F(ListJob, RefusesAnInputFolderThatIsNotThere) {
+TEST_F(ListJob, RefusesAMissingInputFolder) {
     ui_.fields.inputFolder = folder_ / "none";
     application_.settings.Directory = "before";
     ExpectRefused({{"The specified directory does not exist!", 48, "Error!"}});
@@ -214,25 +214,25 @@ TEST_F(ListJob, RefusesAnInputFolderThatIsNotThere) {
     EXPECT_EQ(application_.settings.Directory, "before");
 }
 
-TEST_F(ListJob, RefusesAFileForAnInputFolder) {
+TEST_F(ListJob, RefusesAFileAsInputFolder) {
     AddTracks(1);
     ui_.fields.inputFolder = folder_ / "music/t0.mp3";
     ExpectRefused({{"The specified directory does not exist!", 48, "Error!"}});
 }
 
-TEST_F(ListJob, TitlesItsRefusalsAsTheProgramWasStarted) {
+TEST_F(ListJob, UsesTheErrorTitleOfTheModeForRefusals) {
     application_.errorTitle = "Tunedex Error! (Automatic Mode)";
     ui_.fields.inputFolder = folder_ / "none";
     ExpectRefused({{"The specified directory does not exist!", 48, "Tunedex Error! (Automatic Mode)"}});
 }
 
-TEST_F(ListJob, RefusesARunWithoutAnInputFolder) {
+TEST_F(ListJob, RefusesAnEmptyInputFolder) {
     ui_.fields.inputFolder = ""; // the current folder passes the folder test
     ExpectRefused({{"No input directory specified!", 48, "Error!"}});
     EXPECT_TRUE(ui_.focused.empty());
 }
 
-TEST_F(ListJob, RefusesAListOfNoFolders) {
+TEST_F(ListJob, RefusesAnEmptyFolderList) {
     ui_.fields.multipleFolders = true;
     for (const char* value : {"%MULT%", ""}) {
         application_.settings.Directory = value;
@@ -242,13 +242,13 @@ TEST_F(ListJob, RefusesAListOfNoFolders) {
     }
 }
 
-TEST_F(ListJob, RefusesARunWithoutAnOutputFile) {
+TEST_F(ListJob, RefusesAnEmptyOutputFile) {
     ui_.fields.outputFile = "";
     application_.settings.OutputFile = "taken over by the field";
     ExpectRefused({{"No output file specified!", 48, "Error!"}});
 }
 
-TEST_F(ListJob, JudgesTheInputBeforeTheOutput) {
+TEST_F(ListJob, ValidatesTheInputBeforeTheOutput) {
     ui_.fields.inputFolder = "";
     ui_.fields.outputFile = "";
     ExpectRefused({{"No input directory specified!", 48, "Error!"}});
@@ -260,7 +260,7 @@ TEST_F(ListJob, JudgesTheInputBeforeTheOutput) {
 const Message kCreateQuestion = {"The output directory does not exist!\r\n\r\nDo you want to create it?", 52,
                                  "Error!"};
 
-TEST_F(ListJob, CreatesNothingUnlessTheAnswerIsYes) {
+TEST_F(ListJob, CreatesTheOutputFolderOnlyIfTheAnswerIsYes) {
     AddTracks(1);
     ui_.fields.outputFile = folder_ / "new/list.txt";
     for (const int answer : {kAnswerNo, kAnswerCancel, kAnswerOk}) {
@@ -289,7 +289,7 @@ TEST_F(ListJob, ReportsAnOutputFolderThatCannotBeCreated) {
     EXPECT_FALSE(Run());
     ASSERT_EQ(ui_.messages.size(), 2U);
     ui_.messages.erase(ui_.messages.begin());
-    // Something of that name is there, so the system refuses a folder beside it.
+    // A file of that name exists, so mkdir fails.
     EXPECT_EQ(ui_.messages.front().title, "Error");
     EXPECT_EQ(ui_.messages.front().buttons, 48);
     EXPECT_TRUE(
@@ -324,7 +324,7 @@ const char* const kFolderNotExamined = "An error occurred verifying your input d
                                        "to access the directory, or you may be attempting\r\n"
                                        "to use a non-existent network share.";
 
-TEST_F(ListJob, SaysWhyAFolderMightNotBeExamined) {
+TEST_F(ListJob, ExplainsWhyAFolderCouldNotBeExamined) {
     ASSERT_EQ(symlink("self", (folder_ / "self").c_str()), 0);
     application_.errorTitle = "Tunedex Error! (Automatic Mode)";
     ui_.fields.inputFolder = folder_ / "self";
@@ -335,7 +335,7 @@ TEST_F(ListJob, SaysWhyAFolderMightNotBeExamined) {
     ExpectRefused({{kFolderNotExamined, 48, "Error"}});
 }
 
-TEST_F(ListJob, SaysWhyAForbiddenFolderCannotBeExamined) {
+TEST_F(ListJob, ExplainsAFolderWithoutPermission) {
     folder_.Make("closed/music");
     test::AsOrdinaryUser(folder_, [&] {
         ASSERT_EQ(chmod((folder_ / "closed").c_str(), 0), 0);
@@ -344,20 +344,20 @@ TEST_F(ListJob, SaysWhyAForbiddenFolderCannotBeExamined) {
     });
 }
 
-TEST_F(ListJob, SaysThatNothingWasFoundAndCountsNothing) {
+TEST_F(ListJob, ReportsThatNothingWasFoundAndKeepsTheStatistics) {
     folder_.Write("music/readme.txt", "x");
     EXPECT_FALSE(Run());
     EXPECT_EQ(ui_.messages,
               (Messages{{"No MP3 files were found\r\nin the directory specified.", 64, "No MP3 files!"}}));
     EXPECT_EQ(ui_.enabled, 1);
-    EXPECT_EQ(ui_.closed, 0) << "the progress window stays";
+    EXPECT_EQ(ui_.closed, 0) << "the progress window stays open";
     EXPECT_EQ(ui_.monitor.statuses, std::vector<std::string>{"Searching for MP3 files..."});
     EXPECT_EQ(application_.statistics, (Statistics{"2026-11-21", 1, 4, 40}));
     EXPECT_EQ(application_.settings.Directory, folder_ / "music");
     EXPECT_FALSE(folder_.Exists("out/list.txt"));
 }
 
-TEST_F(ListJob, SpeaksOfDirectoriesWhereSeveralWereSearched) {
+TEST_F(ListJob, SaysDirectoriesForSeveralFolders) {
     ui_.fields.multipleFolders = true;
     application_.settings.Directory = "%MULT%" + folder_ / "music" + "%||%" + folder_ / "out";
     EXPECT_FALSE(Run());
@@ -365,7 +365,7 @@ TEST_F(ListJob, SpeaksOfDirectoriesWhereSeveralWereSearched) {
               (Messages{{"No MP3 files were found\r\nin the directories specified.", 64, "No MP3 files!"}}));
 }
 
-TEST_F(ListJob, ListsSeveralFoldersWithoutLookingAtTheFolderField) {
+TEST_F(ListJob, IgnoresTheFolderFieldForSeveralFolders) {
     AddTrack("one/a.mp3", "Abba");
     AddTrack("two/b.mp3", "Zappa");
     ui_.fields.multipleFolders = true;
@@ -377,7 +377,7 @@ TEST_F(ListJob, ListsSeveralFoldersWithoutLookingAtTheFolderField) {
     EXPECT_EQ(application_.settings.Directory, value);
 }
 
-TEST_F(ListJob, LeavesTheLogAloneWhenItIsOff) {
+TEST_F(ListJob, DoesNotTouchTheLogWhenItIsOff) {
     AddTracks(1);
     EXPECT_TRUE(Run());
     EXPECT_FALSE(folder_.Exists("program/Tunedex.log"));
@@ -386,7 +386,7 @@ TEST_F(ListJob, LeavesTheLogAloneWhenItIsOff) {
     EXPECT_EQ(List("program/Tunedex.log"), "old");
 }
 
-TEST_F(ListJob, EmptiesTheLogAtTheStartOfEveryRunThatPassesValidation) {
+TEST_F(ListJob, TruncatesTheLogAtTheStartOfEveryValidRun) {
     AddTracks(1);
     application_.settings.ErrorLog = true;
     folder_.Write("program/Tunedex.log", "old");
@@ -399,7 +399,7 @@ TEST_F(ListJob, EmptiesTheLogAtTheStartOfEveryRunThatPassesValidation) {
     fs::remove_all(folder_ / "music");
     folder_.Make("music");
     folder_.Write("program/Tunedex.log", "old");
-    EXPECT_FALSE(Run()) << "nothing to find";
+    EXPECT_FALSE(Run()) << "no files found";
     EXPECT_EQ(List("program/Tunedex.log"), "");
 }
 
@@ -411,7 +411,7 @@ TEST_F(ListJob, EndsWhenTheLogCannotBeOpened) {
     EXPECT_FALSE(folder_.Exists("out/list.txt"));
 }
 
-TEST_F(ListJob, ReportsAFolderThatCannotBeListedAndGoesOn) {
+TEST_F(ListJob, ReportsAFolderThatCannotBeReadAndContinues) {
     AddTrack("a.mp3", "Abba");
     folder_.Make("music/closed");
     test::AsOrdinaryUser(folder_, [&] {
@@ -421,7 +421,7 @@ TEST_F(ListJob, ReportsAFolderThatCannotBeListedAndGoesOn) {
         const Message message = {"An error occurred scanning the directory: \r\n\r\n" +
                                      folder_ / "music/closed" + "\r\n\r\n75: Path/File access error",
                                  48, "Error!"};
-        EXPECT_EQ(ui_.messages, (Messages{message, message})) << "once in each of the two walks";
+        EXPECT_EQ(ui_.messages, (Messages{message, message})) << "once per walk";
         const std::string line = "An error occurred scanning the directory: " + folder_ / "music/closed" +
                                  "75: Path/File access error\r\n";
         EXPECT_EQ(List("program/Tunedex.log"), line + line);
@@ -440,7 +440,7 @@ TEST_F(ListJob, ReportsAFileWhoseHeadersCannotBeDecodedAndListsIt) {
     EXPECT_EQ(List("program/Tunedex.log"),
               "An error occurred decoding the headers of: " + folder_ / "music/junk.mp3" + "\r\n");
     EXPECT_EQ(List(), "Artist\tTitle\r\nJunk\tJ\r\n");
-    // With warnings off the line breaks stay in the log as two characters.
+    // With warnings off, the log shows line breaks as two characters.
     application_.settings.ErrorWarnings = false;
     ui_.messages.clear();
     EXPECT_TRUE(Run());
@@ -449,11 +449,11 @@ TEST_F(ListJob, ReportsAFileWhoseHeadersCannotBeDecodedAndListsIt) {
               R"(An error occurred decoding the headers of: \n\n)" + folder_ / "music/junk.mp3" + "\r\n");
 }
 
-TEST_F(ListJob, CountsItselfAndTheFilesItFound) {
+TEST_F(ListJob, CountsTheListAndItsFiles) {
     AddTracks(3);
     EXPECT_TRUE(Run());
     EXPECT_EQ(application_.statistics, (Statistics{"2026-11-21", 1, 5, 43}));
-    // Found is what the first walk counted, even if a file goes before it is read.
+    // The count is that of the search, even if a file vanishes before it is read.
     ui_.monitor.statuses.clear();
     bool removed = false;
     ui_.monitor.abortWhen = [&] {
@@ -473,7 +473,7 @@ TEST_F(ListJob, ReportsStatisticsThatOverflow) {
     Run();
     EXPECT_EQ(ui_.messages, Trapped("6 - Overflow"));
     EXPECT_EQ(application_.statistics, (Statistics{"x", 1, kMost, 0}));
-    EXPECT_EQ(ui_.closed, 0) << "the trap closes nothing";
+    EXPECT_EQ(ui_.closed, 0) << "the error trap closes no window";
     EXPECT_TRUE(folder_.Exists("out/list.txt"));
     application_.statistics = {"x", 1, 0, kMost - 1};
     ui_.messages.clear();
@@ -487,7 +487,7 @@ TEST_F(ListJob, ReportsStatisticsThatOverflow) {
     EXPECT_EQ(application_.statistics, (Statistics{"x", 1, 1, kMost}));
 }
 
-TEST_F(ListJob, KeepsWhatTheWritersChangeInItsSettingsToItself) {
+TEST_F(ListJob, KeepsTheWritersChangesOutOfTheSettings) {
     AddTracks(1);
     ui_.fields.outputFile = folder_ / "out/list"; // the writer appends ".htm" and expands the titles
     EXPECT_TRUE(Run());
@@ -499,7 +499,7 @@ TEST_F(ListJob, KeepsWhatTheWritersChangeInItsSettingsToItself) {
     EXPECT_EQ(application_.settings.PageFooter, "%N");
     EXPECT_EQ(application_.settings.ActiveColumns, "Artist|Title");
     EXPECT_EQ(ui_.fields.outputFile, folder_ / "out/list");
-    // However the run ends.
+    // Whatever the outcome.
     ui_.monitor.statuses.clear();
     AbortFrom("Writing information...");
     EXPECT_FALSE(Run());
@@ -511,7 +511,7 @@ TEST_F(ListJob, KeepsWhatTheWritersChangeInItsSettingsToItself) {
     EXPECT_EQ(application_.settings, expected);
 }
 
-TEST_F(ListJob, TakesTheControlsBeforeItValidates) {
+TEST_F(ListJob, ReadsTheControlsBeforeItValidates) {
     AddTracks(1);
     application_.settings.DocumentType = "xhtml";
     application_.settings.SizeType = 7;
@@ -523,7 +523,7 @@ TEST_F(ListJob, TakesTheControlsBeforeItValidates) {
     EXPECT_EQ(application_.settings.Directory, folder_ / "music");
 }
 
-TEST_F(ListJob, ForgetsAnAbortOfTheRunBefore) {
+TEST_F(ListJob, ClearsTheAbortOfThePreviousRun) {
     AddTracks(1);
     application_.abortRequested = true;
     EXPECT_TRUE(Run());
@@ -557,7 +557,7 @@ TEST_F(AbortedListJob, EndsAtOnceWhenAbortedWhileReading) {
     EXPECT_EQ(List(), "old");
 }
 
-TEST_F(AbortedListJob, EndsAtOnceWhenAbortedAmongTheFiles) {
+TEST_F(AbortedListJob, EndsAtOnceWhenAbortedBetweenFiles) {
     AbortFrom("Retrieving MPEG/ID3 information (7/20)...");
     ExpectAborted();
     EXPECT_FALSE(Said("Sorting information..."));
@@ -571,14 +571,14 @@ TEST_F(AbortedListJob, EndsAtOnceWhenAbortedWhileSorting) {
     EXPECT_EQ(List(), "old");
 }
 
-TEST_F(AbortedListJob, LeavesTheListAsItStandsWhenAbortedWhileWriting) {
+TEST_F(AbortedListJob, KeepsThePartialListWhenAbortedWhileWriting) {
     AbortFrom("Writing information...");
     ExpectAborted();
     EXPECT_EQ(List(), "Artist\tTitle\r\n");
 }
 
-TEST_F(AbortedListJob, GoesOnFromASearchThatWasAbortedToTheReadPhaseThatEndsIt) {
-    // Not from the very first entry on: that may be "." and nothing found yet.
+TEST_F(AbortedListJob, ContinuesAfterAnAbortedSearchAndEndsInTheReadPhase) {
+    // Not at the first entry: nothing may have been found yet.
     ui_.monitor.abortWhen = [this] {
         begun_ = begun_ || ui_.monitor.asked >= 10;
         return begun_;
@@ -588,7 +588,7 @@ TEST_F(AbortedListJob, GoesOnFromASearchThatWasAbortedToTheReadPhaseThatEndsIt) 
     EXPECT_EQ(List(), "old");
 }
 
-TEST_F(ListJob, SaysThatNothingWasFoundAlsoWhenTheSearchWasAborted) {
+TEST_F(ListJob, ReportsThatNothingWasFoundEvenIfTheSearchWasAborted) {
     folder_.Write("music/readme.txt", "x");
     ui_.monitor.abort = true;
     EXPECT_FALSE(Run());
@@ -600,7 +600,7 @@ TEST_F(ListJob, KeepsTheOldListWhenAWriterFails) {
     folder_.Write("music/junk.mp3", std::string(5000, 'x'));
     application_.settings.ErrorWarnings = false;
     ui_.fields.outputFile = folder_.Write("out/list.m3u", "old");
-    EXPECT_FALSE(Run()) << "a playlist needs the duration that this file has not";
+    EXPECT_FALSE(Run()) << "a playlist needs a duration, which this file lacks";
     EXPECT_EQ(ui_.messages, Trapped("5 - Invalid procedure call or argument"));
     EXPECT_EQ(List("out/list.m3u"), "old");
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "out"), fs::directory_iterator()), 1);
@@ -628,7 +628,7 @@ TEST_F(ListJob, ReportsAListThatCannotBeWritten) {
     });
 }
 
-TEST_F(ListJob, TellsWhenMemoryRunsOutAndKeepsTheOldList) {
+TEST_F(ListJob, ReportsOutOfMemoryAndKeepsTheOldList) {
     AddTracks(3);
     for (const char* phase : {"Searching", "Retrieving", "Sorting", "Writing"}) {
         ui_.messages.clear();
@@ -648,13 +648,13 @@ TEST_F(ListJob, TellsWhenMemoryRunsOutAndKeepsTheOldList) {
     }
 }
 
-TEST_F(ListJob, TakesALongNameApartForTheSystem) {
+TEST_F(ListJob, ReportsATooLongFileNameAsErrorFiftyTwo) {
     AddTracks(1);
     ui_.fields.outputFile = folder_ / "out/" + std::string(251, 'n') + ".txt";
     EXPECT_TRUE(Run());
     ui_.fields.outputFile = folder_ / "out/" + std::string(252, 'n') + ".txt";
     EXPECT_FALSE(Run());
-    EXPECT_EQ(ui_.messages, (Messages{{kFolderNotExamined, 48, "Error"}})) << "error 52, as for a bad folder";
+    EXPECT_EQ(ui_.messages, (Messages{{kFolderNotExamined, 48, "Error"}})) << "the message of error 52";
 }
 
 TEST_F(ListJob, RefusesAnOutputLinkToATrackBeforeAnythingIsOpened) {
@@ -663,7 +663,7 @@ TEST_F(ListJob, RefusesAnOutputLinkToATrackBeforeAnythingIsOpened) {
     const std::string audio = List("music/t0.mp3");
     struct Row {
         const char* outputFile;
-        const char* link; // named as the writer will name its file
+        const char* link; // the name that the writer will use
     };
     for (const Row& row : {Row{"list", "list.htm"}, Row{"list.txt", "list.txt"},
                            Row{"list.text", "list.text.txt"}, Row{"list.m3u", "list.m3u"}}) {
@@ -680,7 +680,7 @@ TEST_F(ListJob, RefusesAnOutputLinkToATrackBeforeAnythingIsOpened) {
     EXPECT_FALSE(folder_.Exists("music/new.MP3"));
 }
 
-// A FIFO whose reader reads nothing. Abort is pressed as soon as no more than a page fits into it.
+// A FIFO whose reader never reads; full when less than about a page is free.
 class UnreadFifo {
   public:
     explicit UnreadFifo(const std::string& path)
@@ -701,13 +701,13 @@ class UnreadFifo {
     int reader_;
 };
 
-TEST_F(ListJob, AbandonsAListingThatNobodyReadsWhenItIsAborted) {
+TEST_F(ListJob, AbortEndsTheWriteToAFullListingFifo) {
     AddTracks(1);
     ui_.fields.pageTitle = std::string(1'000'000, 'x');
     for (const char* const name : {"out/list.htm", "out/list.txt", "out/list.m3u"}) {
         const UnreadFifo fifo(folder_ / name);
         ui_.fields.outputFile = folder_ / name;
-        // Text lists have no title: a folder's path that fills the FIFO takes many tracks.
+        // A text list has no title to fill the FIFO, so it needs many tracks with a long folder path.
         if (std::string_view(name) == "out/list.txt") {
             AddTracks(1200);
             application_.settings.ActiveColumns = "Full Path|Folder Path|Filename";
@@ -721,7 +721,7 @@ TEST_F(ListJob, AbandonsAListingThatNobodyReadsWhenItIsAborted) {
     }
 }
 
-TEST_F(ListJob, AbandonsALogThatNobodyReadsWhenItIsAborted) {
+TEST_F(ListJob, AbortEndsTheWriteToAFullLogFifo) {
     for (int i = 0; i < 600; ++i) {
         folder_.Write("music/" + std::string(200, 'n') + std::to_string(i) + ".mp3", "no audio");
     }
@@ -735,7 +735,7 @@ TEST_F(ListJob, AbandonsALogThatNobodyReadsWhenItIsAborted) {
     EXPECT_FALSE(folder_.Exists("out/list.txt"));
 }
 
-TEST_F(ListJob, EndsWhenTheLogIsAFifoThatNobodyReads) {
+TEST_F(ListJob, EndsWhenTheLogIsAFifoWithoutAReader) {
     AddTracks(1);
     application_.settings.ErrorLog = true;
     ASSERT_EQ(mkfifo((folder_ / "program/Tunedex.log").c_str(), 0666), 0);

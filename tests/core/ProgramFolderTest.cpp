@@ -20,7 +20,7 @@
 namespace tunedex {
 namespace {
 
-// The user's data folder is in a folder of the test's own; so is the program.
+// Puts the user's data folder and the program into a test folder.
 class ProgramFolder : public testing::Test {
   protected:
     ProgramFolder() { setenv("XDG_DATA_HOME", (folder_ / "home").c_str(), 1); }
@@ -39,7 +39,7 @@ class ProgramFolder : public testing::Test {
     test::FakeRegistry registry_{};
 };
 
-TEST_F(ProgramFolder, IsTheOneThatTheRegistryNames) {
+TEST_F(ProgramFolder, IsTheRegisteredFolder) {
     Install();
     registry_.values["InstallationPath"] = "/opt/tunedex";
     EXPECT_EQ(Find(), "/opt/tunedex/");
@@ -48,24 +48,25 @@ TEST_F(ProgramFolder, IsTheOneThatTheRegistryNames) {
     EXPECT_FALSE(folder_.Exists("home"));
 }
 
-TEST_F(ProgramFolder, IsTheRunningProgramsWhenThatCanBeWritten) {
+TEST_F(ProgramFolder, IsTheRunningProgramsFolderIfWritable) {
     EXPECT_EQ(Find(), bin_);
-    EXPECT_EQ(registry_.Read("TipsOnStartup"), "") << "that is for a user's own data folder";
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "") << "set only for a user's data folder";
     EXPECT_FALSE(folder_.Exists("home"));
 }
 
-TEST_F(ProgramFolder, IsTheUsersDataFolderForAnInstalledProgramWhoeverMayWriteThere) {
+TEST_F(ProgramFolder, IsTheUsersDataFolderForAnInstalledProgramEvenIfWritable) {
     Install();
     ASSERT_TRUE(FolderIsWritable(bin_));
     EXPECT_EQ(Find(), data_);
     ExpectShippedFiles();
-    EXPECT_EQ(registry_.Read("TipsOnStartup"), "1") << "a new user is shown the tips";
+    EXPECT_EQ(registry_.Read("TipsOnStartup"), "1") << "new users see the tips";
     EXPECT_TRUE(std::filesystem::is_empty(bin_));
 }
 
-TEST_F(ProgramFolder, IsTheUsersDataFolderWhereTheProgramsCannotBeWritten) {
+TEST_F(ProgramFolder, IsTheUsersDataFolderIfTheProgramsFolderIsNotWritable) {
     if (geteuid() != 0) {
-        GTEST_SKIP() << "only root can become a user who may not write the test program's folder";
+        GTEST_SKIP()
+            << "only root can switch to a user without write permission for the test program's folder";
     }
     test::AsOrdinaryUser(folder_, [&] {
         ASSERT_EQ(chmod(bin_.c_str(), 0555), 0);
@@ -74,7 +75,7 @@ TEST_F(ProgramFolder, IsTheUsersDataFolderWhereTheProgramsCannotBeWritten) {
     });
 }
 
-TEST_F(ProgramFolder, IsFilledOnceAndThenLeftToTheUser) {
+TEST_F(ProgramFolder, IsFilledOnlyOnce) {
     Install();
     Find();
     registry_.values["TipsOnStartup"] = "";
@@ -95,8 +96,8 @@ TEST_F(ProgramFolder, KeepsTheUsersChoiceOfTips) {
     EXPECT_EQ(registry_.Read("TipsOnStartup"), "0");
 }
 
-// As with the prefix ~/.local, where the help is already in that folder.
-TEST_F(ProgramFolder, IsFilledAlsoWhereItIsTheInstallationsDataFolder) {
+// As under the prefix ~/.local, where that folder already contains the help.
+TEST_F(ProgramFolder, IsFilledEvenIfItIsTheInstallationsDataFolder) {
     setenv("XDG_DATA_HOME", (folder_ / "prefix/share").c_str(), 1);
     folder_.Write("prefix/share/tunedex/Help.html", "help");
     EXPECT_EQ(Find(), folder_ / "prefix/share/tunedex/");
@@ -104,7 +105,7 @@ TEST_F(ProgramFolder, IsFilledAlsoWhereItIsTheInstallationsDataFolder) {
     EXPECT_EQ(registry_.Read("TipsOnStartup"), "1");
 }
 
-TEST_F(ProgramFolder, IsGivenNothingWhereTheUserHasMadeIt) {
+TEST_F(ProgramFolder, IsNotFilledIfTheUserCreatedIt) {
     Install();
     folder_.Write("home/tunedex/Tunedex.cfg", "mine");
     EXPECT_EQ(Find(), data_);
@@ -113,7 +114,7 @@ TEST_F(ProgramFolder, IsGivenNothingWhereTheUserHasMadeIt) {
     EXPECT_EQ(registry_.Read("TipsOnStartup"), "");
 }
 
-TEST_F(ProgramFolder, IsFilledOnceWhereItIsTheInstallationsDataFolder) {
+TEST_F(ProgramFolder, IsFilledOnlyOnceIfItIsTheInstallationsDataFolder) {
     setenv("XDG_DATA_HOME", (folder_ / "prefix/share").c_str(), 1);
     folder_.Write("prefix/share/tunedex/Help.html", "help");
     folder_.Write("prefix/share/tunedex/tips.lst", "mine");
@@ -124,10 +125,10 @@ TEST_F(ProgramFolder, IsFilledOnceWhereItIsTheInstallationsDataFolder) {
     EXPECT_FALSE(folder_.Exists("prefix/share/tunedex/html_entities.lst"));
 }
 
-TEST_F(ProgramFolder, IsFilledToTheEndAfterAFirstStartThatFailed) {
+TEST_F(ProgramFolder, IsFilledCompletelyAfterAFailedFirstStart) {
     Install();
     test::InChild([&] {
-        // Every file but the smallest is too long, as on a full disk.
+        // All but the smallest files exceed the limit, as on a full disk.
         const rlimit few{1000, RLIM_INFINITY};
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &few), 0);
         std::signal(SIGXFSZ, SIG_IGN);
@@ -139,7 +140,7 @@ TEST_F(ProgramFolder, IsFilledToTheEndAfterAFirstStartThatFailed) {
     ExpectShippedFiles();
 }
 
-TEST_F(ProgramFolder, IsInTheUsersHomeWithoutAVariableThatNamesAnAbsolutePath) {
+TEST_F(ProgramFolder, IsInTheUsersHomeUnlessTheVariableIsAnAbsolutePath) {
     Install();
     setenv("HOME", (folder_ / "home").c_str(), 1);
     for (const char* value : {"", "relative/data"}) {
@@ -151,7 +152,7 @@ TEST_F(ProgramFolder, IsInTheUsersHomeWithoutAVariableThatNamesAnAbsolutePath) {
     EXPECT_TRUE(folder_.Exists("home/.local/share/tunedex/tips.lst"));
 }
 
-TEST_F(ProgramFolder, ThatCannotBeMadeRaisesItsError) {
+TEST_F(ProgramFolder, RaisesTheErrorOfAFolderThatCannotBeCreated) {
     Install();
     folder_.Make("home");
     test::AsOrdinaryUser(folder_, [&] {
@@ -160,10 +161,10 @@ TEST_F(ProgramFolder, ThatCannotBeMadeRaisesItsError) {
     });
 }
 
-TEST(FillProgramFolder, NeverReplacesWhatTheUserHas) {
+TEST(FillProgramFolder, KeepsExistingFiles) {
     const test::TestFolder folder;
     folder.Write("tips.lst", "mine");
-    folder.Make("html_entities.lst"); // not even a folder of that name
+    folder.Make("html_entities.lst"); // a folder of that name is kept too
     FillProgramFolder(folder.Path());
     EXPECT_EQ(test::ReadBytes(folder / "tips.lst"), "mine");
     EXPECT_TRUE(FolderExists(folder / "html_entities.lst"));
@@ -172,7 +173,7 @@ TEST(FillProgramFolder, NeverReplacesWhatTheUserHas) {
     }
 }
 
-TEST(ShippedFiles, HoldTheFilesOfTheSourceByteForByte) {
+TEST(ShippedFiles, EmbedTheSourceFilesByteForByte) {
     bool tips = false;
     bool entities = false;
     for (const ShippedFile& shipped : ShippedFiles()) {
@@ -184,20 +185,20 @@ TEST(ShippedFiles, HoldTheFilesOfTheSourceByteForByte) {
     EXPECT_TRUE(tips && entities);
 }
 
-TEST(HelpFile, IsTheRegisteredOneIfThatIsAHelpFile) {
+TEST(HelpFile, IsTheRegisteredOneIfItHasTheRightName) {
     const test::TestFolder folder;
     test::FakeRegistry registry;
     const std::string registered = folder.Write("doc/Help.html", "x");
     registry.values["HelpFilePath"] = registered;
     EXPECT_EQ(FindHelpFile(registry, folder / "program/"), registered);
-    // Of another name, or a folder, it is not.
+    // Not with another name, and not a folder.
     registry.values["HelpFilePath"] = folder.Write("doc/Other.html", "x");
     EXPECT_NE(FindHelpFile(registry, folder / "program/"), folder / "doc/Other.html");
     registry.values["HelpFilePath"] = folder.Make("more/Help.html");
     EXPECT_NE(FindHelpFile(registry, folder / "program/"), folder / "more/Help.html");
 }
 
-TEST(HelpFile, ThatCannotBeExaminedCountsAsMissing) {
+TEST(HelpFile, CountsAsMissingIfItCannotBeExamined) {
     const test::TestFolder folder;
     test::FakeRegistry registry;
     const std::string help = folder.Write("program/Help.html", "x");
@@ -215,20 +216,20 @@ TEST(HelpFile, ThatCannotBeExaminedCountsAsMissing) {
     });
 }
 
-TEST(HelpFile, IsTheOneInTheProgramFolderWhenNoneIsRegistered) {
+TEST(HelpFile, IsInTheProgramFolderIfNoneIsRegistered) {
     const test::TestFolder folder;
     const std::string help = folder.Write("program/Help.html", "x");
     EXPECT_EQ(FindHelpFile(test::FakeRegistry(), folder / "program/"), help);
 }
 
-TEST(HelpFile, IsNoneWhenThereIsNone) {
+TEST(HelpFile, IsEmptyIfNoneExists) {
     const test::TestFolder folder;
     if (FileExists(RunningProgramFolder() + "Help.html")) {
-        GTEST_SKIP() << "there is a help file beside the test program";
+        GTEST_SKIP() << "a help file exists next to the test program";
     }
     test::FakeRegistry registry;
     EXPECT_EQ(FindHelpFile(registry, folder.Path()), "");
-    // A registered path that is wrong sends the search to the running program's folder, not to this one.
+    // With a wrong registered path, only the running program's folder is searched.
     folder.Write("Help.html", "x");
     registry.values["HelpFilePath"] = "/none/Help.html";
     EXPECT_EQ(FindHelpFile(registry, folder.Path()), "");

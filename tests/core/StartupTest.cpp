@@ -29,7 +29,7 @@ class StartUpTest : public testing::Test {
     Application& application_ = fake_.application;
 };
 
-TEST_F(StartUpTest, WithoutAnyFileBeginsWithDefaultsAndTheFirstStart) {
+TEST_F(StartUpTest, StartsWithDefaultsWithoutAnyFile) {
     application_.abortRequested = true;
     Start();
     Settings defaults;
@@ -55,19 +55,19 @@ TEST_F(StartUpTest, SetsModeAndErrorTitleFromTheArguments) {
     EXPECT_EQ(application_.errorTitle, "Error!");
 }
 
-TEST_F(StartUpTest, PutsASeparatorBehindTheInstallationPath) {
+TEST_F(StartUpTest, AppendsASeparatorToTheInstallationPath) {
     fake_.registry.values["InstallationPath"] = folder_.Path().substr(0, folder_.Path().size() - 1);
     Start();
     EXPECT_EQ(application_.programFolder, folder_.Path());
 }
 
-TEST_F(StartUpTest, CountsThisStart) {
+TEST_F(StartUpTest, CountsTheStart) {
     folder_.Write("stats.lst", "\"15/11/2026\"\r\n9\r\n2\r\n57\r\n");
     Start();
     EXPECT_EQ(application_.statistics, (Statistics{"15/11/2026", 10, 2, 57}));
 }
 
-TEST_F(StartUpTest, SaysThatStatisticsAreMalformedAndCountsAnew) {
+TEST_F(StartUpTest, ReportsMalformedStatisticsAndResetsThem) {
     struct Row {
         const char* bytes;
         const char* error;
@@ -93,7 +93,7 @@ TEST_F(StartUpTest, SaysThatStatisticsAreMalformedAndCountsAnew) {
     }
 }
 
-TEST_F(StartUpTest, FillsTheWindowFromTheDefaultSettingsFile) {
+TEST_F(StartUpTest, FillsTheFieldsFromTheDefaultSettingsFile) {
     folder_.Write("Tunedex.cfg",
                   "Directory=/music\r\nOutputFile=/list.htm\r\nWindowTitle=w\r\nPageTitle=p\r\n"
                   "PageFooter=f\r\n");
@@ -104,10 +104,10 @@ TEST_F(StartUpTest, FillsTheWindowFromTheDefaultSettingsFile) {
     EXPECT_EQ(ui_.fields.windowTitle, "w");
     EXPECT_EQ(ui_.fields.pageTitle, "p");
     EXPECT_EQ(ui_.fields.pageFooter, "f");
-    EXPECT_EQ(application_.settings.Spanning, 0) << "no defaults under a file that exists";
+    EXPECT_EQ(application_.settings.Spanning, 0) << "an existing file replaces all defaults";
 }
 
-TEST_F(StartUpTest, KeepsAListOfFoldersThatWasStored) {
+TEST_F(StartUpTest, KeepsAStoredFolderList) {
     folder_.Write("Tunedex.cfg", "Directory=%MULT%/a%||%/b\r\n");
     Start();
     EXPECT_TRUE(ui_.fields.multipleFolders);
@@ -134,7 +134,7 @@ TEST_F(StartUpTest, FindsTheHelpFile) {
     EXPECT_EQ(application_.helpFile, help);
 }
 
-TEST(StampNow, TellsVersionDateAndTimeInTheUsersFormats) {
+TEST(StampNow, HasVersionDateAndTimeInTheUsersFormats) {
     const test::TestFolder folder;
     const test::FakeApplication fake(folder.Path());
     const FileStamp stamp = StampNow(fake.application);
@@ -143,13 +143,13 @@ TEST(StampNow, TellsVersionDateAndTimeInTheUsersFormats) {
     EXPECT_EQ(stamp.time, "14:05");
 }
 
-TEST(TakeLayoutControls, LeavesNoOtherDocumentTypeThanTheTwo) {
+TEST(TakeLayoutControls, LeavesOnlyTheTwoDocumentTypes) {
     const std::vector<std::pair<const char*, const char*>> rows = {
         {"XHTML", "XHTML"}, {"HTML", "HTML"}, {"xhtml", "HTML"}, {"", "HTML"}, {"XHTML ", "HTML"}};
     for (const auto& [before, after] : rows) {
         Settings settings;
         settings.DocumentType = before;
-        settings.SizeType = 7; // no option button has that number: it stays
+        settings.SizeType = 7; // no option button has this number, so it is kept
         settings.SortOrder = 9;
         settings.Merge = -1;
         TakeLayoutControls(settings);
@@ -174,7 +174,7 @@ class CommandTest : public StartUpTest {
     bool Create() { return CreateListCommand(application_, ui_); }
 };
 
-TEST_F(CommandTest, LoadsTheEntityTableAfreshEachTime) {
+TEST_F(CommandTest, ReloadsTheEntityTableEachTime) {
     ASSERT_TRUE(Create());
     EXPECT_NE(test::ReadBytes(folder_ / "out/list.htm").find("Rock & <Roll>"), std::string::npos);
     folder_.Write("html_entities.lst", "38\t&amp;\r\n60\t&lt;\r\n");
@@ -182,14 +182,14 @@ TEST_F(CommandTest, LoadsTheEntityTableAfreshEachTime) {
     EXPECT_NE(test::ReadBytes(folder_ / "out/list.htm").find("Rock &amp; &lt;Roll>"), std::string::npos);
 }
 
-TEST_F(CommandTest, ReportsFaultyEntityLinesAndGoesOn) {
+TEST_F(CommandTest, ReportsFaultyEntityLinesAndContinues) {
     folder_.Write("html_entities.lst", "38 &amp;\r\n60\t&lt;\r\n");
     ASSERT_TRUE(Create());
     EXPECT_EQ(fake_.faults.str(), folder_ / "html_entities.lst" + ":1: line skipped: no TAB in it\n");
     EXPECT_NE(test::ReadBytes(folder_ / "out/list.htm").find("Rock & &lt;Roll>"), std::string::npos);
 }
 
-TEST_F(CommandTest, SaysThatTheEntityTableCannotBeReadAndMakesNoList) {
+TEST_F(CommandTest, ReportsAnUnreadableEntityTableAndCreatesNoList) {
     ASSERT_EQ(mkfifo((folder_ / "html_entities.lst").c_str(), 0600), 0);
     EXPECT_FALSE(Create());
     EXPECT_EQ(ui_.messages,
@@ -199,8 +199,8 @@ TEST_F(CommandTest, SaysThatTheEntityTableCannotBeReadAndMakesNoList) {
     EXPECT_EQ(ui_.shown, 0);
 }
 
-TEST_F(CommandTest, TakesTheFolderFieldUnlessAListOfFoldersIsSet) {
-    ui_.fields.outputFile = ""; // the run ends in its validation
+TEST_F(CommandTest, UsesTheFolderFieldUnlessAFolderListIsSet) {
+    ui_.fields.outputFile = ""; // the run ends at validation
     application_.settings.Directory = "/before";
     Create();
     EXPECT_EQ(application_.settings.Directory, folder_ / "music");
@@ -210,7 +210,7 @@ TEST_F(CommandTest, TakesTheFolderFieldUnlessAListOfFoldersIsSet) {
     EXPECT_EQ(application_.settings.Directory, "%MULT%/a");
 }
 
-TEST_F(CommandTest, LeavesTheStatisticsFileAloneUntilTheProgramEnds) {
+TEST_F(CommandTest, SavesTheStatisticsOnlyAtExit) {
     const char* const before = "\"15/11/2026\"\r\n9\r\n2\r\n57\r\n";
     folder_.Write("stats.lst", before);
     application_.statistics = LoadStatistics(folder_ / "stats.lst", "today");
@@ -220,7 +220,7 @@ TEST_F(CommandTest, LeavesTheStatisticsFileAloneUntilTheProgramEnds) {
     EXPECT_EQ(test::ReadBytes(folder_ / "stats.lst"), "\"15/11/2026\"\r\n10\r\n3\r\n58\r\n");
 }
 
-TEST_F(StartUpTest, ThatIsTheFirstLeavesItsFileAtTheProgramsEnd) {
+TEST_F(StartUpTest, FirstStartCreatesTheStatisticsFileAtExit) {
     Start();
     SaveStatisticsAtExit(application_);
     EXPECT_EQ(test::ReadBytes(folder_ / "stats.lst"), "\"2026-11-21\"\r\n1\r\n0\r\n0\r\n");

@@ -8,19 +8,19 @@
 namespace tunedex {
 namespace {
 
-TEST(TerminalText, ReplacesWhatSteersTheTerminalAndNothingElse) {
+TEST(TerminalText, ReplacesOnlyWhatControlsTheTerminal) {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"", ""},
         {"plain, \u00e9 \u3042 \U0001F3B5", "plain, \u00e9 \u3042 \U0001F3B5"},
         {"\x1b[2J\a\t\x7f", "?[2J???"},
         {"a\r\nb\nc", "a??b?c"},
         {std::string("a\0b", 3), "a?b"},
-        {"\u0080\u0085\u009b\u00a0", "???\u00a0"},                    // C1 controls; a no-break space is none
-        {"\x9b\xff", "?\xff"},                                        // stray bytes
-        {"\u2027\u2028\u2029", "\u2027??"},                           // line and paragraph separator
-        {"\u061b\u061c\u061d", "\u061b?\u061d"},                      // Arabic letter mark
-        {"\u200d\u200e\u200f\u2010", "\u200d??\u2010"},               // left-to-right and right-to-left mark
-        {"\u202a\u202b\u202c\u202d\u202e\u202f", "?????\u202f"},      // embeddings and overrides
+        {"\u0080\u0085\u009b\u00a0", "???\u00a0"},               // C1 controls; the no-break space is kept
+        {"\x9b\xff", "?\xff"},                                   // stray bytes
+        {"\u2027\u2028\u2029", "\u2027??"},                      // line and paragraph separator
+        {"\u061b\u061c\u061d", "\u061b?\u061d"},                 // Arabic letter mark
+        {"\u200d\u200e\u200f\u2010", "\u200d??\u2010"},          // left-to-right and right-to-left mark
+        {"\u202a\u202b\u202c\u202d\u202e\u202f", "?????\u202f"}, // embeddings and overrides
         {"\u2065\u2066\u2067\u2068\u2069\u206a", "\u2065????\u206a"}, // isolates
     };
     for (const auto& [text, shown] : rows) {

@@ -16,7 +16,7 @@ namespace {
 using test::FakeRegistry;
 using test::TestFolder;
 
-TEST(TipsPath, IsTheRegistrysThenBesideTheProgramThenInItsFolder) {
+TEST(TipsPath, IsFromTheRegistryThenNextToTheProgramThenInItsFolder) {
     const TestFolder running;
     const TestFolder program;
     FakeRegistry registry;
@@ -30,12 +30,12 @@ TEST(TipsPath, IsTheRegistrysThenBesideTheProgramThenInItsFolder) {
 struct FileCase {
     const char* name;
     const char* bytes;
-    std::vector<std::string> tips; // as Next shows them
+    std::vector<std::string> tips; // in the order of Next()
 };
 
 class TipsFile : public testing::TestWithParam<FileCase> {};
 
-TEST_P(TipsFile, ShowsItsLinesInOrderRoundAndRound) {
+TEST_P(TipsFile, CyclesThroughItsLinesInOrder) {
     const TestFolder folder;
     Tips tips;
     tips.Load(folder.Write("tips.lst", GetParam().bytes));
@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FileCase{"NoComments", "# a tip\r\n", {"# a tip"}}),
     [](const auto& info) { return info.param.name; });
 
-TEST(Tips, AMissingFileLeavesNoneAndNextChangesNothingVisible) {
+TEST(Tips, AMissingFileYieldsNoTips) {
     const TestFolder folder;
     Tips tips;
     tips.Load(folder / "missing.lst");
@@ -74,7 +74,7 @@ TEST(Tips, AMissingFileLeavesNoneAndNextChangesNothingVisible) {
     EXPECT_EQ(tips.Current(), "");
 }
 
-TEST(Tips, AFileThatCannotBeExaminedLeavesNone) {
+TEST(Tips, AFileThatCannotBeExaminedYieldsNoTips) {
     const TestFolder folder;
     for (const std::string& path : {folder / std::string(5000, 'x'), folder / std::string("a\0b", 3)}) {
         Tips tips;
@@ -101,7 +101,7 @@ TEST(Tips, LoadingAgainReplacesTheTips) {
     EXPECT_EQ(tips.Current(), "three");
 }
 
-TEST(Tips, EveryTipHasAnEqualShareOfTheRandomRange) {
+TEST(Tips, PicksEveryTipWithEqualProbability) {
     const TestFolder folder;
     Tips tips;
     tips.Load(folder.Write("tips.lst", "1\r\n2\r\n3\r\n4\r\n"));
