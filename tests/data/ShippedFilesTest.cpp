@@ -34,7 +34,7 @@ std::string OnDisk(const std::string& path) {
     return bytes.str();
 }
 
-// The lines of a file whose every line ends in CR LF.
+// The lines of a file; every line must end in CR LF.
 std::vector<std::string> Lines(std::string_view bytes) {
     EXPECT_TRUE(bytes.ends_with("\r\n"));
     std::vector<std::string> lines = Split(bytes.substr(0, bytes.size() - 2), "\r\n");
@@ -58,7 +58,7 @@ std::string Character(unsigned code) {
     return text;
 }
 
-TEST(ShippedFiles, AreTheFilesInTheFolderByteForByte) {
+TEST(ShippedFiles, EqualTheSourceFilesByteForByte) {
     std::vector<std::string> expected = {"html_entities.lst", "tips.lst"};
     if (std::filesystem::is_directory(SHIPPED_FOLDER "Themes")) {
         for (const auto& entry : std::filesystem::directory_iterator(SHIPPED_FOLDER "Themes")) {
@@ -72,7 +72,7 @@ TEST(ShippedFiles, AreTheFilesInTheFolderByteForByte) {
     for (const ShippedFile& file : ShippedFiles()) {
         paths.emplace_back(file.path);
         EXPECT_EQ(file.bytes, OnDisk(SHIPPED_FOLDER + paths.back())) << file.path;
-        EXPECT_EQ(file.bytes, OnDisk(BUILD_FOLDER + paths.back())) << "beside the program: " << file.path;
+        EXPECT_EQ(file.bytes, OnDisk(BUILD_FOLDER + paths.back())) << "next to the program: " << file.path;
     }
     EXPECT_EQ(paths, expected);
 }
@@ -84,7 +84,7 @@ TEST(ShippedEntityTable, EndsInAnEntry) {
     EXPECT_NE(last.find('\t'), std::string::npos);
 }
 
-TEST(ShippedEntityTable, HasTheAmpersandFirstAndNoCharacterTwice) {
+TEST(ShippedEntityTable, StartsWithTheAmpersandAndHasNoDuplicates) {
     const EntityTable table = ShippedTable();
     EXPECT_EQ(table.Slots().front().code, 38);
     std::set<int> codes;
@@ -93,11 +93,11 @@ TEST(ShippedEntityTable, HasTheAmpersandFirstAndNoCharacterTwice) {
             EXPECT_TRUE(codes.insert(slot.code).second) << slot.code;
         }
     }
-    // 4 of HTML's own, 96 of ISO-8859-1, 32 that only Windows-1252 has, 29 control characters.
+    // 4 HTML metacharacters, 96 of ISO-8859-1, 32 only in Windows-1252, 29 control characters.
     EXPECT_EQ(codes.size(), 4U + 96U + 32U + 29U);
 }
 
-TEST(ShippedEntityTable, LeavesNothingThatAPageMayNotHold) {
+TEST(ShippedEntityTable, EscapesEverythingThatHtmlForbids) {
     const Escaper escaper(ShippedTable());
     for (unsigned code = 1; code < 256; ++code) {
         const std::string escaped = escaper.EscapeEntities(Character(code));
@@ -136,7 +136,7 @@ TEST(ShippedEntityTable, NamesCharacters) {
     }
 }
 
-TEST(ShippedTips, AreManyAndEachFillsALine) {
+TEST(ShippedTips, AreManyAndOnePerLine) {
     const std::vector<std::string> tips = Lines(Shipped("tips.lst"));
     EXPECT_GE(tips.size(), 30U);
     std::set<std::string> different(tips.begin(), tips.end());

@@ -1,4 +1,4 @@
-// Stand-ins for the surroundings of the code under test.
+// Fakes for the interfaces that the code under test uses.
 #pragma once
 
 #include "Application.h"
@@ -17,7 +17,7 @@
 
 namespace tunedex::test {
 
-// Remembers what a run shows and aborts when told to.
+// Records what a run shows and aborts on request.
 class FakeMonitor final : public RunMonitor {
   public:
     void SetStatus(std::string_view text) override { statuses.emplace_back(text); }
@@ -38,11 +38,11 @@ class FakeMonitor final : public RunMonitor {
     std::int32_t maximum = 0;
     int asked = 0;
     bool abort = false;
-    int abortAtQuestion = 0; // the number of the question that is first answered with yes; 0 never
+    int abortAtQuestion = 0; // the AbortRequested() call, from 1, that first returns true; 0: none
     std::function<bool()> abortWhen;
 };
 
-// Remembers the messages and gives prepared answers.
+// Records messages and returns prepared answers.
 class FakeUserInterface final : public UserInterface {
   public:
     struct Message {
@@ -79,16 +79,16 @@ class FakeUserInterface final : public UserInterface {
     MainFields fields;
     FakeMonitor monitor;
     std::vector<Message> messages;
-    std::vector<int> answers; // the next first; OK when there are none left
+    std::vector<int> answers; // next first; OK when empty
     std::vector<MainField> focused;
     std::string caption;
-    std::string shownNames; // shown in place of every name in a message; names as they are when empty
+    std::string shownNames; // replaces every name in a message; empty: names unchanged
     int enabled = 0;
     int shown = 0;
     int closed = 0;
 };
 
-// 21 November 2026, 14:05:09, and no waiting.
+// Always 21 November 2026, 14:05:09; Sleep() returns at once.
 class FakeClock final : public Clock {
   public:
     std::tm LocalTime() const override {
@@ -119,7 +119,7 @@ class FakeRegistry final : public Registry {
     std::map<std::string, std::string> values;
 };
 
-// Remembers what the scan reports.
+// Records what the scan reports.
 class FakeReporter final : public ErrorReporter {
   public:
     struct Reported {
@@ -137,7 +137,7 @@ class FakeReporter final : public ErrorReporter {
     std::vector<Reported> reports;
 };
 
-// An application with fakes all round; its program folder is a test's.
+// An application with fakes for all interfaces and a test folder as its program folder.
 struct FakeApplication {
     explicit FakeApplication(const std::string& programFolder) {
         application.locale = Locale();

@@ -1,4 +1,4 @@
-// What another user may do, when the tests run as root, who may do everything.
+// Switches file access rights for tests that run as root.
 #pragma once
 
 #include <sys/fsuid.h>
@@ -6,8 +6,8 @@
 
 namespace tunedex::test {
 
-// For as long as it lives, this thread's access to files is judged like an ordinary user's. A test folder
-// must be opened to everybody for it (OpenToEverybody) before.
+// During its lifetime, the kernel checks this thread's file access as an ordinary user's. Call
+// OpenToEverybody() on the test folder first.
 class OrdinaryRights {
   public:
     OrdinaryRights() {

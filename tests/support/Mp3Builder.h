@@ -1,4 +1,4 @@
-// MP3 files made byte by byte, for tests that need a certain one.
+// Builds MP3 files byte by byte.
 #pragma once
 
 #include <cstdint>
@@ -22,22 +22,22 @@ std::string Id3v1Tag(const Id3v1Fields& fields);
 
 struct Id3v2Frame {
     std::string id;      // four characters
-    std::string content; // as it stands, encoding byte included
+    std::string content; // including the encoding byte
 };
 
-// One frame as ID3v2.3 lays it out.
+// One ID3v2.3 frame.
 std::string Frame(const Id3v2Frame& frame);
-// A tag whose declared size is that of its frames and padding.
+// A tag that declares the size of its frames and padding.
 std::string Id3v2Tag(const std::vector<Id3v2Frame>& frames, std::size_t padding = 0);
-// A tag header that declares `size`, synchsafe.
+// A tag header that declares `size` (stored synchsafe).
 std::string Id3v2Header(std::uint32_t size);
-// A text frame's content in encoding 0.
+// The content of a text frame in encoding 0, ISO-8859-1.
 std::string Latin1(std::string_view text);
 
-// A frame header and zeros up to `bytes`: MPEG-1 layer III, 128 kbit/s, 44,100 Hz, joint stereo unless told
-// otherwise.
+// A frame header followed by zeros, `bytes` in all. Default: MPEG-1 layer III, 128 kbit/s, 44,100 Hz, joint
+// stereo.
 std::string Audio(std::size_t bytes, std::string_view header = "\xFF\xFB\x90\x64");
-// The same with a "Xing" header that tells `frames`.
+// The same with a "Xing" header that declares `frames`.
 std::string XingAudio(std::size_t bytes, std::uint32_t frames, std::string_view header = "\xFF\xFB\x90\x64");
 
 } // namespace tunedex::test

@@ -11,7 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// There only where coverage is measured.
+// Defined only in coverage builds.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier): the compiler's own names
 [[gnu::weak]] int __llvm_profile_write_file();
@@ -33,8 +33,8 @@ void GiveAway(const std::string& path) {
     }
 }
 
-// A program that ends by _exit writes no coverage by itself; and a child that has become another user may not
-// write to the file of its parent. What a check allowed itself of files may be too little for this one.
+// _exit writes no coverage data, and a child with another user id cannot write to its parent's file. The
+// limits restore what a check may have lowered too far for this write.
 void WriteCoverage(const rlimit& descriptors, const rlimit& length) {
     const char* const pattern = std::getenv("LLVM_PROFILE_FILE");
     if (&__llvm_profile_write_file == nullptr || pattern == nullptr) {
@@ -76,7 +76,7 @@ void InChild(const std::function<void()>& check) {
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0)
-        << "failed in the child process: what it printed stands above";
+        << "failed in the child process; see its output above";
 }
 
 void AsOrdinaryUser(const TestFolder& folder, const std::function<void()>& check) {

@@ -1,4 +1,4 @@
-// What a folder forbids, it forbids to ordinary users: root may do everything.
+// Runs checks of file permissions, which do not apply to root.
 #pragma once
 
 #include "TestFolder.h"
@@ -7,12 +7,12 @@
 
 namespace tunedex::test {
 
-// Runs `check` as a user without special rights who owns all of `folder`: as root in a child process, else
-// right here. The check's failed expectations fail the test.
+// Runs `check` as an unprivileged user who owns all of `folder`: in a child process if the test runs as root,
+// otherwise directly. Failed expectations fail the test.
 void AsOrdinaryUser(const TestFolder& folder, const std::function<void()>& check);
 
-// Runs `check` in a child process, so that what it changes (environment, limits, signals) ends with it. Its
-// failed expectations fail the test.
+// Runs `check` in a child process, so that its changes (environment, limits, signals) end with it. Failed
+// expectations fail the test.
 void InChild(const std::function<void()>& check);
 
 } // namespace tunedex::test

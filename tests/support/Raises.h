@@ -1,11 +1,11 @@
-// The number of the run-time error that a call raises.
+// The number of the RunTimeError that a call raises.
 #pragma once
 
 #include "RunTimeError.h"
 
 namespace tunedex::test {
 
-// 0 where nothing is raised.
+// 0 if it raises none.
 template <typename Call> int RaisedBy(Call&& call) {
     try {
         call();

@@ -11,7 +11,7 @@ namespace {
 
 void ExchangeMovingFields(TrackInfo& a, TrackInfo& b) {
     std::swap(a, b);
-    // What stays with the slot goes back.
+    // Required: these members stay with the slot.
     std::swap(a.BaseFolder, b.BaseFolder);
     std::swap(a.Mode, b.Mode);
     std::swap(a.MpegType, b.MpegType);
@@ -51,7 +51,7 @@ class Cursor {
     std::string_view bytes_;
 
   public:
-    std::uint64_t position; // counted from 1
+    std::uint64_t position; // 1-based
 };
 
 std::string BitString(std::string_view bytes) {
@@ -72,7 +72,7 @@ bool Rejected(const ReferenceHeader& header) {
     return version == "01" || layer == "00" || sampleRate == "11" || (!header.vbr && bitrate == "1111");
 }
 
-// One pass of the search. Returns whether a header was accepted.
+// One pass of the search. Returns whether it accepted a header.
 bool SearchOnce(std::string_view bytes, Cursor& cursor, ReferenceHeader& header) {
     unsigned first = 0;
     while (!cursor.AtEnd() && first != 255) {
@@ -92,7 +92,7 @@ bool SearchOnce(std::string_view bytes, Cursor& cursor, ReferenceHeader& header)
     }
     ++cursor.position;
     cursor.Read();
-    cursor.position -= 4 - 1; // back on the first byte, counted from 1
+    cursor.position -= 4 - 1; // back to the first byte, 1-based
     header.offset = cursor.position - 1;
     const std::string_view buffer = bytes.substr(header.offset, 1400);
     const std::size_t xing = buffer.find("Xing");

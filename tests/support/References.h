@@ -1,5 +1,4 @@
-// The prescribed procedures of the hard parts, written out step by step and as slow as they are: what the
-// program's own, faster ways are compared with.
+// Literal, slow versions of the required algorithms, to compare with the faster ones of the program.
 #pragma once
 
 #include "ByteSource.h"
@@ -14,7 +13,7 @@
 
 namespace tunedex::test {
 
-// Sorts records 1 to N in place (slot 0 is not touched) with the prescribed gaps and exchanges.
+// Sorts records 1 to N in place with the required gaps and exchanges; slot 0 is unused.
 void ReferenceSort(std::vector<TrackInfo>& tracks, std::int16_t sortOrder);
 
 struct ReferenceHeader {
@@ -24,10 +23,10 @@ struct ReferenceHeader {
     std::string bits; // 32 characters "0" and "1"
 };
 
-// The header search, byte by byte from a position counted from 1. Nothing where the bytes end first.
+// The header search, byte by byte from a 1-based position. Empty when the bytes end first.
 std::optional<ReferenceHeader> ReferenceSearch(std::string_view bytes, std::uint64_t searchPosition);
 
-// Counts reads and fails the one that it is told to (counted from 1; 0 none).
+// Counts reads and fails the given one (1-based; 0: none).
 class FailingByteSource final : public ByteSource {
   public:
     explicit FailingByteSource(std::string bytes, int failAt = 0)

@@ -21,7 +21,7 @@ TestFolder::TestFolder() {
 
 TestFolder::~TestFolder() {
     std::error_code ignored;
-    // A test may have taken its own rights away.
+    // A test may have removed its own permissions.
     for (auto entry =
              fs::recursive_directory_iterator(path_, fs::directory_options::skip_permission_denied, ignored);
          entry != fs::recursive_directory_iterator(); entry.increment(ignored)) {

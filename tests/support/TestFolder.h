@@ -1,4 +1,4 @@
-// A folder of a test's own, gone with the test.
+// A temporary folder that is removed with the test.
 #pragma once
 
 #include <string>
@@ -13,13 +13,13 @@ class TestFolder {
     TestFolder& operator=(const TestFolder&) = delete;
     ~TestFolder();
 
-    // The folder's path, ending in a separator.
+    // With a trailing separator.
     const std::string& Path() const { return path_; }
     std::string operator/(std::string_view name) const { return path_ + std::string(name); }
 
-    // Writes a file, making the folders on the way to it. Returns its path.
+    // Writes a file and creates its missing parent folders. Returns its path.
     std::string Write(std::string_view name, std::string_view bytes) const;
-    // Makes a folder and those on the way to it. Returns its path, without a separator at its end.
+    // Creates a folder and its missing parents. Returns its path without a trailing separator.
     std::string Make(std::string_view name) const;
     bool Exists(std::string_view name) const;
 
@@ -27,10 +27,10 @@ class TestFolder {
     std::string path_;
 };
 
-// All bytes of a file; fails loudly where it cannot be read.
+// All bytes of a file. Fails the test when it cannot be read.
 std::string ReadBytes(const std::string& path);
 
-// A string literal that may hold NULs.
+// A string literal that may contain NULs.
 inline std::string Bytes(std::string_view text) {
     return std::string(text);
 }
