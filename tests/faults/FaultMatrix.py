@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Makes every file call of a small run fail, one at a time, and judges what comes of it.
+"""Makes every file system call of a small run fail, one at a time, and checks the outcome.
 
 usage: FaultMatrix.py PROGRAM INTERPOSER [--sample] [--windows]
-    --sample   some errors at every call, not every one
-    --windows  PROGRAM is the one with windows, and somebody answers its messages
+    --sample   a few errors for each call instead of all
+    --windows  PROGRAM is fault_windows_run, which answers its own messages
 """
 import collections
 import concurrent.futures
@@ -18,7 +18,7 @@ import sys
 import tempfile
 import zlib
 
-sys.dont_write_bytecode = True  # the sources are no place for it
+sys.dont_write_bytecode = True  # keep bytecode out of the source tree
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 import surroundings  # noqa: E402
 
@@ -27,7 +27,7 @@ KINDS = ["open", "opendir", "read", "write", "close", "readdir", "mkdir", "unlin
          "chmod", "xattr", "truncate", "other"]
 TIMEOUT = 60
 WINDOWS = "--windows" in sys.argv
-# What a run gives for good when nothing fails, and when something does that nobody is to notice.
+# Errors after which a run must still succeed, without any message.
 UNNOTICED = {"EINTR", "short"}
 MESSAGES = [b"error occurred", b"could not start", b"specified directory does not exist!",
             b"No input directory specified!", b"No output file specified!", b"No MP3 files were found"]
@@ -47,7 +47,7 @@ def tagged(title, artist, seconds):
 
 
 class Scenario:
-    """A folder with a collection and a program folder, made anew for every run."""
+    """A folder with a collection and a program folder, created for each run."""
 
     def __init__(self, name, output, answer=b"", old=(), settings=True, warnings=True, sort=1, link=False,
                  dangling=False):
@@ -62,7 +62,7 @@ class Scenario:
         (music / "b.mp3").write_bytes(b"\0" * 3000 + tagged(b"First", b"A Band", 1)[10:])
         (music / "more" / "c.mp3").write_bytes(tagged(b"Third", b"The C", 3))
         os.symlink("more/c.mp3", music / "d.mp3")
-        if not self.output.endswith(".m3u"):  # a playlist has no place for a track without a duration
+        if not self.output.endswith(".m3u"):  # a playlist requires a duration
             (music / "no audio.MP3").write_bytes(b"nothing")
         output_folder = root / "watched" / "out"
         if self.answer != b"y\n":
@@ -116,7 +116,7 @@ Outcome = collections.namedtuple("Outcome", "status stderr files log counts stru
 
 def run(program, interposer, scenario, kind="", n=0, error="", kill=False, stays=False):
     with tempfile.TemporaryDirectory(prefix="tunedex-fault-") as folder:
-        # One length of path for all runs: texts differ by nothing but what went wrong.
+        # Same path length in all runs, so that outputs differ only by the fault.
         root = pathlib.Path(folder)
         scenario.make(root)
         environment = surroundings.kept() | {
@@ -143,7 +143,7 @@ def run(program, interposer, scenario, kind="", n=0, error="", kill=False, stays
         if (root / "report").exists():
             report = {name: int(count) for name, count in
                       (line.split() for line in (root / "report").read_text().splitlines())}
-        # The folder's name is the run's own.
+        # The folder name differs between runs.
         clean = lambda data: data.replace(str(root).encode(), b"/run")
         files = {name: (kind, clean(data) if kind == "file" else data) for name, (kind, data) in
                  files_of(root / "watched").items() if not name.startswith("music/")}
@@ -153,7 +153,7 @@ def run(program, interposer, scenario, kind="", n=0, error="", kill=False, stays
 
 
 def rows_in(data):
-    """How many tracks a whole listing holds; None for a listing that is not whole."""
+    """The number of tracks of a complete listing; None for an incomplete one."""
     if data.startswith(b"<!DOCTYPE"):
         return data.count(b"<td align=\"right\">") // 2 if data.endswith(b"</html>\r\n") else None
     if not data.endswith(b"\r\n"):
@@ -169,12 +169,12 @@ def is_listing(name):
 
 
 def marks_unfinished_start(name, held):
-    """Whether this tells the next start to fill the data folder to its end."""
+    """Whether this is the mark that makes the next start finish filling the data folder."""
     return name == "data/tunedex/.filling" and held == ("file", b"")
 
 
 def violations(scenario, outcome, right, before, kind, error):
-    """What must not be, and is."""
+    """The rules that this outcome violates."""
     if outcome.status == "hangs":
         return ["hangs"]
     if outcome.status not in (0, 1, 2):
@@ -195,7 +195,7 @@ def violations(scenario, outcome, right, before, kind, error):
         elif is_listing(name) and held[0] == "file":
             written.add(name)
             if rows_in(held[1]) is None:
-                found.append(f"neither old nor whole: {name}")
+                found.append(f"neither old nor complete: {name}")
             rows += rows_in(held[1]) or 0
         elif held != right.files.get(name) and not marks_unfinished_start(name, held):
             found.append(f"damaged: {name}")
@@ -203,22 +203,22 @@ def violations(scenario, outcome, right, before, kind, error):
     listed = {name for name in right.files if is_listing(name) and right.files[name] != before.get(name)}
     complete = sum(rows_in(right.files[name][1]) for name in listed if right.files[name][0] == "file")
     if outcome.status == 0:
-        # A link whose file is not there is no track, and a link that is not there has no file to write to: what tells so
-        # is this very error.
+        # ENOENT is the correct answer for a dangling link, which is not a track, and for a missing output link: accept
+        # one track less.
         gone = 1 if kind in ("stat", "other") and error == "ENOENT" else 0
         if not told and (rows < complete - gone or (gone == 0 and written != listed)):
-            found.append(f"{rows} of {complete} tracks in {sorted(written)}, and nobody is told")
+            found.append(f"{rows} of {complete} tracks in {sorted(written)}, not reported")
         if not written:
-            found.append("claims a listing that it has not written")
+            found.append("reports success without a listing")
     if outcome.status != right.status and not told:
-        found.append("fails without a word")
+        found.append("fails without a message")
     if error in UNNOTICED and (outcome.status, outcome.files, outcome.log) != (right.status, right.files, right.log):
-        found.append(f"{error} is noticed")
+        found.append(f"{error} changes the outcome")
     return found
 
 
 def sample(point):
-    """Two errors of each call, others at others, besides the two that nobody may notice."""
+    """Two errors for each call, chosen by hash, and the two that must have no effect."""
     usual = [error for error in ERRORS if error not in UNNOTICED]
     start = zlib.crc32(repr(point).encode())
     if WINDOWS and start % 3:
@@ -242,7 +242,7 @@ def main():
                           if not name.startswith("music/")}
             expected = 0 if scenario.settings else 1
             if right.status != expected or right.open != 0:
-                bad.append(f"{scenario.name}: goes wrong without a fault: {right}")
+                bad.append(f"{scenario.name}: fails without a fault: {right}")
                 continue
             for kind in KINDS:
                 jobs = []
@@ -250,10 +250,10 @@ def main():
                     errors = [error for error in ERRORS if error != "short" or kind in ("read", "write")]
                     for error in errors if full else sample((scenario.name, kind, n)):
                         jobs.append((n, error, pool.submit(run, program, interposer, scenario, kind, n, error)))
-                    # From there on for good, as a disk that is full stays full; and the end of it all.
+                    # Permanent failure from this call on, like a full disk; and a kill.
                     if kind in ("open", "write"):
                         lasting = "ENOSPC" if kind == "write" else "EMFILE"
-                        jobs.append((n, lasting + " for good",
+                        jobs.append((n, lasting + " permanently",
                                      pool.submit(run, program, interposer, scenario, kind, n, lasting, False, True)))
                     if not WINDOWS:
                         jobs.append((n, "kill", pool.submit(run, program, interposer, scenario, kind, n, "", True)))
@@ -268,8 +268,8 @@ def main():
                     if outcome.status != "hangs" and outcome.struck == 0:
                         outcomes["not reached"] += 1
                         continue
-                    told = "told" if outcome.log != right.log or outcome.stderr != right.stderr else "unnoticed"
-                    outcomes[f"{outcome.status} {told}"] += 1
+                    reported = "reported" if outcome.log != right.log or outcome.stderr != right.stderr else "silent"
+                    outcomes[f"{outcome.status} {reported}"] += 1
                     bad += [f"{point}: {what}" for what in
                             violations(scenario, outcome, right, before, kind, error)]
                 if jobs:
@@ -282,10 +282,10 @@ def main():
 
 
 def after_a_kill(scenario, outcome, right, before):
-    """Every file is as it was or as it was to be; a temporary file may be left."""
+    """Every file must have its old or its new content; a temporary file may remain."""
     if outcome.status != -9:
         return [] if outcome.struck == 0 and outcome.status == right.status else [f"survives with {outcome.status}"]
-    # Only creating the file of a dangling link tells where it leads: for that moment it is there and empty.
+    # Resolving a dangling link creates its target, which is empty for a moment.
     return [f"neither old nor new: {name}" for name in set(before) | set(outcome.files)
             if ".tunedex-" not in name and outcome.files.get(name) not in (before.get(name), right.files.get(name))
             and not (scenario.dangling and name.startswith("real/") and outcome.files.get(name) == ("file", b""))

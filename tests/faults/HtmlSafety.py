@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Whatever tags, names and paths hold, a page's table has the cells it should have, and nothing in them is markup.
+"""Checks that markup in tags, names and paths never becomes markup in a table cell, and that no cell is lost.
 
 usage: HtmlSafety.py PROGRAM INTERPOSER
 """
@@ -9,7 +9,7 @@ import random
 import sys
 import tempfile
 
-sys.dont_write_bytecode = True  # the sources are no place for it
+sys.dont_write_bytecode = True  # keep bytecode out of the source tree
 import RealThings  # noqa: E402
 
 PIECES = [b"<", b">", b"&", b'"', b"'", b"</td>", b"</table>", b"<script>alert(1)</script>", b"<!--", b"-->", b"]]>",
@@ -18,7 +18,7 @@ PIECES = [b"<", b">", b"&", b'"', b"'", b"</td>", b"</table>", b"<script>alert(1
           b"+ADw-", b"\x1b$B", b"\x0e", b"\xff\xfe", b"<\x00", b"\xa0", b"a", b" ", b"%", b"\\", b"\xad"]
 COLUMNS = ["Number", "Artist", "Album", "Title", "Year", "Genre", "MPEG Type", "Mode", "Bitrate", "Frequency",
            "Duration", "File Size", "Filename", "Folder Path", "Full Path"]
-# What the table itself puts into a cell.
+# Tags that the program itself writes into a cell.
 OWN_TAGS = {"font": {"face", "size", "color"}, "b": set(), "i": set()}
 
 
@@ -53,7 +53,7 @@ def check(data, columns):
         for tag, attributes in page.tags:
             assert tag in OWN_TAGS, (tag, attributes)
             assert {attribute for attribute, _ in attributes} <= OWN_TAGS[tag], (tag, attributes)
-    # Byte by byte, should the parser have forgiven something: no cell holds a bracket or a quotation mark of its own.
+    # Check the raw bytes too, since the parser may repair errors: no cell contains a bracket or a quotation mark.
     for row in data.split(b"</tr>\r\n"):
         if b"<td" not in row or b"<th" in row or b"<table" in row:
             continue
@@ -75,7 +75,7 @@ def main():
                           ActiveColumns="|".join(COLUMNS), **{"Colour(4)": "000000", "Font(2)": "Tahoma%|%1%|%1%|%1"})
             box.run(0)
             check(box.listing.read_bytes(), len(COLUMNS) - merge)
-            print(f"{kind}, merge {merge}, font tags {fonts}: 250 tracks, nothing but cells")
+            print(f"{kind}, merge {merge}, font tags {fonts}: 250 tracks, no markup in cells")
     return 0
 
 

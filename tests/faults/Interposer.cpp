@@ -1,21 +1,20 @@
-// Stands between the program and the system's file calls and makes one of them fail. Loaded with LD_PRELOAD
-// and told what to do by the environment:
+// An LD_PRELOAD library that wraps file system calls and makes one of them fail. Environment variables:
 //
-//   TUNEDEX_FAULT_PREFIX  only calls about files below this path count
-//   TUNEDEX_FAULT_CALL    the kind of call that fails, "write" say; none: calls are only counted
-//   TUNEDEX_FAULT_N       which of them, from 1
-//   TUNEDEX_FAULT_ERROR   its errno, or "short" for a read or write of half of what was asked for
+//   TUNEDEX_FAULT_PREFIX  only calls on paths below this one are counted
+//   TUNEDEX_FAULT_CALL    the kind of call that fails, e.g. "write"; empty: count only
+//   TUNEDEX_FAULT_N       the number of the failing call, from 1
+//   TUNEDEX_FAULT_ERROR   its errno, or "short" for a read or write of half the requested length
 //   TUNEDEX_FAULT_STAYS   if set, all later calls of that kind fail too
 //   TUNEDEX_FAULT_KILL    if set, the process is killed at that call instead
-//   TUNEDEX_FAULT_RUN     a shell command that is run before that call, which does not fail then
-//   TUNEDEX_FAULT_SLOW    how many microseconds longer every opening of a folder and every read takes; with
-//                         TUNEDEX_FAULT_N only so many of each
-//   TUNEDEX_FAULT_DENY    a path that access() says may not be written, as of a program that was installed
-//   TUNEDEX_FAULT_REPORT  a file that is given, when the process ends, how often each kind of call was made,
-//                         how often a fault struck, how many files are still open, and how many slow calls of
-//                         a kind there were at the same time
+//   TUNEDEX_FAULT_RUN     a shell command to run before that call, which then does not fail
+//   TUNEDEX_FAULT_SLOW    microseconds to add to each opendir and each read; with TUNEDEX_FAULT_N only to the
+//                         first N of each
+//   TUNEDEX_FAULT_DENY    a path that access() reports as not writable, like that of an installed program
+//   TUNEDEX_FAULT_REPORT  a file that receives, at exit, the number of calls of each kind, of faults, of
+//   files
+//                         still open, and the largest number of concurrent slow calls of each kind
 //
-// Other waiting takes no time.
+// Sleeps return at once.
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -112,7 +111,7 @@ bool Concerns(int folder, const char* path) {
     return !prefix.empty() && (text.starts_with('/') ? text.starts_with(prefix) : Concerns(folder));
 }
 
-// The file descriptor that a path like /proc/self/fd/7 names; -1 for other paths.
+// The descriptor in a path like /proc/self/fd/7; -1 for other paths.
 int DescriptorIn(const char* path) {
     constexpr std::string_view kLinks = "/proc/self/fd/";
     return std::string_view(path).starts_with(kLinks) ? NumberOf(path + kLinks.size()) : -1;
@@ -135,11 +134,11 @@ void RunCommand(const char* command) {
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
     if (status != 0) {
-        abort(); // a test that did nothing must not pass
+        abort(); // otherwise a test without a fault would pass
     }
 }
 
-// Counts a call and tells whether it is to fail.
+// Counts a call and returns whether it must fail.
 bool Strikes(Kind kind) {
     const Plan& plan = ThePlan();
     const int number = ++counts.at(kind);
@@ -157,7 +156,7 @@ bool Strikes(Kind kind) {
     return true;
 }
 
-// The same for calls that cannot be short.
+// For calls that cannot be short.
 bool Fails(Kind kind) {
     if (!Strikes(kind) || ThePlan().error == kShort) {
         return false;
@@ -170,7 +169,7 @@ std::size_t Shortened(std::size_t count) {
     return std::max<std::size_t>(1, count / 2);
 }
 
-// Takes its time on a slow disk; by a system call, since sleeping is done away with below.
+// Simulates a slow disk. Uses the system call, because nanosleep() is wrapped below.
 void Wait(Kind kind) {
     const Plan& plan = ThePlan();
     if (plan.slow == 0 || (plan.n > 0 && counts.at(kind) > plan.n)) {
@@ -212,7 +211,7 @@ ssize_t Short(Kind kind, int descriptor, std::size_t& count) {
     return -1;
 }
 
-// At the end of the process: by system calls of our own, so as not to be counted.
+// Writes the report at exit, with system calls that are not counted.
 struct Reporter {
     Reporter() = default;
     Reporter(const Reporter&) = delete;
@@ -335,7 +334,7 @@ int close(int descriptor) {
     const bool concerned = Concerns(descriptor);
     Watch(descriptor, false);
     const int result = next(descriptor);
-    // Whatever it returns, the descriptor is gone.
+    // The descriptor is released whatever close() returns.
     return concerned && Fails(kClose) ? -1 : result;
 }
 

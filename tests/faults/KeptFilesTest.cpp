@@ -1,4 +1,4 @@
-// What has to hold when the system is short of something, and against what a name can do to a terminal.
+// Tests with exhausted resources, and with file names that contain terminal control characters.
 #include "Fakes.h"
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
@@ -16,7 +16,7 @@
 namespace tunedex::test {
 namespace {
 
-// As long as it lives the process gets no further descriptor.
+// During its lifetime the process cannot open further descriptors.
 class NoFreeDescriptor {
   public:
     NoFreeDescriptor() {
@@ -37,14 +37,14 @@ class NoFreeDescriptor {
 
 constexpr const char* kOldStatistics = "\"2020-01-01\"\r\n700\r\n30\r\n9000\r\n";
 
-TEST(KeptFiles, AStatisticsFileThatCouldNotBeReadIsNotReplacedAtTheEnd) {
+TEST(KeptFiles, AnUnreadableStatisticsFileIsNotReplacedAtExit) {
     const TestFolder folder;
     const std::string path = folder.Write("stats.lst", kOldStatistics);
     FakeApplication fake(folder.Path());
     FakeUserInterface ui;
     {
-        // A sanitizer takes a descriptor of its own to look at a class for the first time: those of a start
-        // that has to tell of an error.
+        // A sanitizer opens a descriptor when it first inspects a class: trigger that for the classes of a
+        // start that reports an error.
         const TestFolder other;
         other.Write("stats.lst", "malformed");
         FakeApplication first(other.Path());
@@ -63,7 +63,7 @@ TEST(KeptFiles, AStatisticsFileThatCouldNotBeReadIsNotReplacedAtTheEnd) {
     EXPECT_EQ(ReadBytes(path), kOldStatistics);
 }
 
-TEST(KeptFiles, AMalformedStatisticsFileIsReplacedAtTheEnd) {
+TEST(KeptFiles, AMalformedStatisticsFileIsReplacedAtExit) {
     const TestFolder folder;
     const std::string path = folder.Write("stats.lst", "\"2020-01-01\"\r\nmany\r\n30\r\n9000\r\n");
     FakeApplication fake(folder.Path());
@@ -74,10 +74,10 @@ TEST(KeptFiles, AMalformedStatisticsFileIsReplacedAtTheEnd) {
     EXPECT_EQ(ReadBytes(path), "\"2026-11-21\"\r\n1\r\n0\r\n0\r\n");
 }
 
-TEST(Terminal, IsNotSteeredByTheNamesInAMessage) {
+TEST(Terminal, IsNotControlledByNamesInAMessage) {
     const int master = posix_openpt(O_RDWR | O_NOCTTY);
     if (master < 0 || grantpt(master) != 0 || unlockpt(master) != 0) {
-        GTEST_SKIP() << "there is no terminal to be had";
+        GTEST_SKIP() << "no pseudo-terminal available";
     }
     const int terminal = open(ptsname(master), O_RDWR | O_NOCTTY);
     ASSERT_GE(terminal, 0);
@@ -85,7 +85,8 @@ TEST(Terminal, IsNotSteeredByTheNamesInAMessage) {
     const TestFolder folder;
     FakeApplication fake(folder.Path());
     {
-        // It opens the terminal a second time: the reading below ends only once that is closed, too.
+        // The front end opens the terminal again; read() below reports the end only after that one is closed,
+        // too.
         TerminalFrontEnd frontEnd(fake.application, noInput, terminal);
         frontEnd.ShowMessage("a\x1b[2Jb\xC2\x9B"
                              "2Jc\x9B"
@@ -94,7 +95,7 @@ TEST(Terminal, IsNotSteeredByTheNamesInAMessage) {
     }
     close(noInput);
     close(terminal);
-    // In as many pieces as the system pleases, until nothing more can come.
+    // Read until the end; the kernel may split the output.
     std::string shown;
     std::array<char, 512> piece{};
     for (ssize_t length = 1; length > 0;) {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What no double of the file system can show: the program on real disks, among files that change under its hands.
+"""Runs the program on real disks and with files that change during the run.
 
 usage: RealThings.py PROGRAM INTERPOSER SAVER CASE
 """
@@ -20,7 +20,7 @@ import tempfile
 import termios
 import time
 
-sys.dont_write_bytecode = True  # the sources are no place for it
+sys.dont_write_bytecode = True  # keep bytecode out of the source tree
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 import surroundings  # noqa: E402
 
@@ -43,8 +43,8 @@ def tagged(title, artist=b"An Artist"):
 
 
 def write_long_texts(path, byte, count, names=(b"TIT2",), start=b""):
-    """A track whose frames hold `start` and `count` times one byte. In pieces: this process's peak counts as the
-    program's, which begins as a copy of it."""
+    """Writes a track whose frames contain `start` and `count` times `byte`. Written in pieces to keep this process
+    small: fork() passes its peak memory on to the program."""
     length = len(start) + count
     size = len(names) * (10 + 1 + length)
     with open(path, "wb") as file:
@@ -61,7 +61,7 @@ class Skipped(Exception):
 
 
 class Page(html.parser.HTMLParser):
-    """The cells of a page's inner table, and every tag that stands in one."""
+    """The cells of a page's inner table, and all tags within them."""
 
     def __init__(self, text):
         super().__init__()
@@ -124,10 +124,10 @@ class Box:
             "XDG_CONFIG_HOME": str(self.root / "config"), "XDG_CONFIG_DIRS": "/nonexistent"} | more
 
     def start(self, user=None, shell="", **more):
-        # The program's one-second pause is left out.
+        # The interposer skips the program's one-second pause.
         env = self.environment(user is not None, LD_PRELOAD=surroundings.preload(PROGRAM, INTERPOSER),
                                TUNEDEX_FAULT_PREFIX=str(self.root), **more)
-        # The shell's commands come first, in the same process.
+        # Run the shell's commands first, in the same process.
         through = ["sh", "-c", shell + ' && exec "$0" "$@"'] if shell else []
         return subprocess.Popen([*through, PROGRAM, "/AUTO"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.PIPE, env=env, user=user, group=user and 65534,
@@ -142,7 +142,7 @@ class Box:
         return said
 
     def peak(self):
-        """The most bytes that a run has in memory."""
+        """The peak resident memory of a run in bytes."""
         process = self.start()
         said = process.stderr.read()
         _, status, usage = os.wait4(process.pid, 0)
@@ -169,7 +169,7 @@ def need_root():
 
 
 def as_nobody(box):
-    """The folder handed to a user without privileges. Skips where there is none, or where it could not be told apart."""
+    """Gives the folder to an unprivileged user. Skips where that user is missing or cannot run the program."""
     need_root()
     try:
         user = pwd.getpwnam("nobody").pw_uid
@@ -177,7 +177,7 @@ def as_nobody(box):
         raise Skipped("there is no user nobody") from None
     probe = subprocess.run(["test", "-x", PROGRAM, "-a", "-r", INTERPOSER], user=user, check=False)
     if probe.returncode != 0:
-        raise Skipped("nobody may not run the program where it was built")
+        raise Skipped("user nobody cannot read the build folder")
     box.root.chmod(0o755)
     for path in [box.root, *box.root.rglob("*")]:
         os.chown(path, user, 65534, follow_symlinks=False)
@@ -185,7 +185,7 @@ def as_nobody(box):
 
 
 class Mounted:
-    """A disk of so many bytes."""
+    """A tmpfs of the given size."""
 
     def __init__(self, folder, size):
         need_root()
@@ -193,7 +193,7 @@ class Mounted:
         done = subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={size}", "tmpfs", folder], capture_output=True,
                               check=False)
         if done.returncode != 0:
-            raise Skipped("may not mount a disk: " + done.stderr.decode().strip())
+            raise Skipped("cannot mount a disk: " + done.stderr.decode().strip())
 
     def __enter__(self):
         return self
@@ -203,7 +203,7 @@ class Mounted:
 
 
 class ProtectedLinks:
-    """fs.protected_symlinks, as most systems have it switched on."""
+    """Turns on fs.protected_symlinks, which is on by default on most systems."""
 
     PATH = pathlib.Path("/proc/sys/fs/protected_symlinks")
 
@@ -213,7 +213,7 @@ class ProtectedLinks:
             try:
                 self.PATH.write_text("1")
             except OSError:
-                raise Skipped("links in shared folders are not protected here, and may not be") from None
+                raise Skipped("fs.protected_symlinks is off and cannot be changed") from None
 
     def __exit__(self, *_):
         if self.before.strip() == "0":
@@ -221,9 +221,9 @@ class ProtectedLinks:
 
 
 class Cases:
-    """Each is given an empty folder."""
+    """Each case receives an empty folder."""
 
-    def test_a_full_disk_leaves_the_old_listing_and_nothing_else(self, folder):
+    def test_a_full_disk_keeps_the_old_listing_and_leaves_no_temporary_file(self, folder):
         for output in ("list.htm", "list.txt", "list.m3u"):
             box = Box(pathlib.Path(folder, output), output)
             for number in range(60):
@@ -235,7 +235,7 @@ class Cases:
                 assert box.listing.read_bytes() == OLD
                 assert [path.name for path in box.out.iterdir()] == [output]
 
-    def test_a_full_disk_leaves_old_settings_statistics_and_themes(self, folder):
+    def test_a_full_disk_keeps_old_settings_statistics_and_themes(self, folder):
         with Mounted(folder, "300k"):
             for kind, name in (("settings", "Tunedex.cfg"), ("statistics", "stats.lst"), ("theme", "theme.thm")):
                 path = pathlib.Path(folder, name)
@@ -247,7 +247,7 @@ class Cases:
                 assert [entry.name for entry in pathlib.Path(folder).iterdir()] == [name]
                 path.unlink()
 
-    def test_a_full_disk_for_the_log_is_told(self, folder):
+    def test_a_full_disk_for_the_log_is_reported(self, folder):
         box = Box(folder)
         (box.music / "no audio.mp3").write_bytes(b"")
         with Mounted(box.program, "64k"):
@@ -264,7 +264,7 @@ class Cases:
             assert b"61 - Disk full" in said, said
             assert box.listing.read_bytes() == OLD
 
-    def test_a_folder_that_loses_its_rights_in_the_walk_ends_it_and_is_told(self, folder):
+    def test_a_folder_that_loses_its_permissions_ends_the_walk_and_is_reported(self, folder):
         box = Box(folder)
         for name in ("a", "b", "c"):
             (box.music / name).mkdir()
@@ -290,7 +290,7 @@ class Cases:
                 assert whole or b"75" in box.log() or b"decoding" in box.log() or b"No MP3" in said, (titles, box.log())
         assert points > 8, points
 
-    def test_a_folder_without_rights_is_told_and_what_came_before_it_is_listed(self, folder):
+    def test_a_folder_without_permissions_is_reported_and_earlier_tracks_are_listed(self, folder):
         box = Box(folder)
         (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
         (box.music / "closed").mkdir()
@@ -301,7 +301,7 @@ class Cases:
         assert [row[1] for row in box.page().tracks()] == ["Kept"]
         assert b"scanning the directory" in box.log() and b"75" in box.log(), box.log()
 
-    def test_a_file_without_rights_is_a_track_without_tags_and_is_told(self, folder):
+    def test_a_file_without_permissions_is_listed_without_tags_and_reported(self, folder):
         box = Box(folder)
         (box.music / "a.mp3").write_bytes(tagged(b"Read"))
         (box.music / "b.mp3").write_bytes(tagged(b"Unread"))
@@ -311,7 +311,7 @@ class Cases:
         assert sorted(row[1] for row in box.page().tracks()) == ["No ID3 Tags!", "Read"]
         assert b"decoding the headers of" in box.log(), box.log()
 
-    def test_an_output_folder_without_rights_keeps_the_old_listing_or_replaces_it_whole(self, folder):
+    def test_an_output_folder_without_permissions_keeps_or_fully_replaces_the_old_listing(self, folder):
         box = Box(folder)
         (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
         user = as_nobody(box)
@@ -328,7 +328,7 @@ class Cases:
         box.run(1, user=user)
         assert box.listing.read_bytes() == OLD
 
-    def test_files_that_vanish_grow_and_shrink_at_any_moment(self, folder):
+    def test_files_may_vanish_grow_and_shrink_at_any_moment(self, folder):
         self.change_at_every_call(folder, {
             "vanish": "rm -f b.mp3",
             "grow": "cat /dev/zero | head -c 100000 >>b.mp3",
@@ -340,7 +340,7 @@ class Cases:
             "to a loop": "rm -rf b.mp3; ln -s b.mp3 b.mp3",
         })
 
-    def test_a_folder_replaced_by_a_link_at_any_moment(self, folder):
+    def test_a_folder_may_be_replaced_by_a_link_at_any_moment(self, folder):
         self.change_at_every_call(folder, {
             "to itself": "rm -rf sub; ln -s . sub",
             "to above": "rm -rf sub; ln -s .. sub",
@@ -372,7 +372,7 @@ class Cases:
                     if box.listing.read_bytes() == OLD:
                         assert b"Error" in said or b"No MP3" in said, (name, call, number, said)
                         continue
-                    # Whoever is missing has been told of, or was a link to nothing when it was looked at.
+                    # A missing track was reported, or was a dangling link when it was examined.
                     titles = {row[1] for row in box.page().tracks()}
                     assert "a.mp3" in titles or b"scanning" in box.log(), (name, call, number, titles, box.log())
         assert points > 40, points
@@ -435,7 +435,7 @@ class Cases:
             box.run(0)
             assert sorted(row[1] for row in box.page().tracks()) == sorted(f"At {d}" for d in (1, 250, depth))
             assert box.log() == b""
-            # One folder more than a path can name: what is above it is listed, and the rest is told.
+            # One level more than a path can name: what is above is listed, the rest is reported.
             for _ in range(4):
                 os.mkdir("deeper7", dir_fd=handle)
                 below = os.open("deeper7", os.O_RDONLY, dir_fd=handle)
@@ -462,7 +462,7 @@ class Cases:
     def test_100000_files_in_one_folder(self, folder):
         box = Box(folder, "list.txt")
         content = tagged(b"One of many")
-        for start in range(0, 100000, 50000):  # a file has only so many names on some disks
+        for start in range(0, 100000, 50000):  # some file systems limit the number of hard links
             first = box.music / f"{start}.mp3"
             first.write_bytes(content)
             for number in range(start + 1, start + 50000):
@@ -473,7 +473,7 @@ class Cases:
         assert len({line.split(b"\t")[2] for line in lines[1:-1]}) == 100000
         assert all(line.split(b"\t")[1] == b"One of many" for line in lines[1:-1])
 
-    def test_a_kill_at_any_moment_leaves_an_old_or_a_new_listing(self, folder):
+    def test_a_kill_at_any_moment_leaves_the_old_or_the_new_listing(self, folder):
         box = Box(folder)
         for number in range(300):
             (box.music / f"{number}.mp3").write_bytes(tagged(b"x" * 500))
@@ -494,7 +494,7 @@ class Cases:
             seen.add(data == new)
             for left in box.out.glob(".tunedex-*"):
                 left.unlink()
-        # And at each call that touches the listing.
+        # And at each call on the listing.
         for call in ("open", "write", "close", "rename"):
             for number in range(1, 12):
                 box.listing.write_bytes(OLD)
@@ -552,13 +552,13 @@ class Cases:
                     os.chown(victim, user, 65534)
                 (shared / "list.txt").unlink(missing_ok=True)
                 (shared / "list.txt").symlink_to(box.root / target)
-                os.chown(shared / "list.txt", 12345, 12345, follow_symlinks=False)  # neither ours nor the folder's
+                os.chown(shared / "list.txt", 12345, 12345, follow_symlinks=False)  # owned by a third user
                 said = box.run(1, user=user)
                 assert b"75 - Path/File access error" in said, said
                 assert b"Searching" not in said, said
                 assert victim.read_bytes() == OLD
                 assert not (box.root / "new.txt").exists()
-            # Planted after the run has looked, as it opens its file: for the link by name, and for its own last look.
+            # Planted after the check, when the file is opened by name and when it is located.
             (shared / "list.txt").unlink()
             plant = (f"ln -sf '{victim}' '{shared}/list.txt'; chown -h 12345 '{shared}/list.txt'")
             for number in range(1, 400):
@@ -570,7 +570,7 @@ class Cases:
                     break
             assert number > 3
 
-    def test_where_permissions_cannot_be_set_the_old_list_is_written_in_place_and_a_new_one_is_made(self, folder):
+    def test_without_permission_support_an_old_list_is_written_in_place_and_a_new_one_created(self, folder):
         for call in ("chmod", "xattr"):
             for refusal in (errno.EPERM, errno.EOPNOTSUPP):
                 box = Box(pathlib.Path(folder, f"{call} {refusal}"), "list.txt")
@@ -583,7 +583,7 @@ class Cases:
                 box.run(0, **faults)
                 assert box.listing.read_bytes().count(b"\r\n") == 2
                 assert stat.S_IMODE(box.listing.stat().st_mode) == 0o640
-                # Without attributes at all there is nothing to keep, and the file is replaced.
+                # Without attribute support, nothing has to be kept and the file is replaced.
                 in_place = (call, refusal) != ("xattr", errno.EOPNOTSUPP)
                 assert (box.listing.stat().st_ino == inode) == in_place, (call, refusal)
                 box.listing.unlink()
@@ -591,7 +591,7 @@ class Cases:
                 assert box.listing.read_bytes().count(b"\r\n") == 2
                 assert stat.S_IMODE(box.listing.stat().st_mode) == 0o666 & ~UMASK
 
-    def test_a_failure_while_permissions_are_copied_leaves_the_old_list(self, folder):
+    def test_a_failure_while_copying_permissions_keeps_the_old_list(self, folder):
         box = Box(folder, "list.txt")
         (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
         for call in ("chmod", "xattr"):
@@ -601,7 +601,7 @@ class Cases:
             assert b"61 - Disk full" in said, said
             assert box.listing.read_bytes() == OLD
 
-    def test_an_output_link_to_a_track_is_refused_before_anything_is_read(self, folder):
+    def test_an_output_link_to_a_track_is_refused_before_the_scan(self, folder):
         box = Box(folder)
         track = box.music / "a.MP3"
         track.write_bytes(tagged(b"Kept"))
@@ -613,7 +613,7 @@ class Cases:
             assert b"Error number 75 - Path/File access error" in said and b"Searching" not in said, said
             assert track.read_bytes() == audio
             assert not (box.program / "Tunedex.log").exists()
-        # A page of several is found when it is written.
+        # A link at a later page is detected when that page is written.
         for number in range(3):
             (box.music / f"{number}.mp3").write_bytes(tagged(b"Kept"))
         box.configure("pages.htm", Spanning=2)
@@ -622,7 +622,7 @@ class Cases:
         assert b"Error number 75 - Path/File access error" in said, said
         assert track.read_bytes() == audio
 
-    def test_a_list_that_replaces_another_is_no_less_private_while_it_is_written(self, folder):
+    def test_a_temporary_file_is_no_more_readable_than_the_list_it_replaces(self, folder):
         box = Box(folder, "list.txt")
         (box.music / "a.mp3").write_bytes(tagged(b"Kept"))
         seen = box.root / "seen"
@@ -631,18 +631,18 @@ class Cases:
             if old is not None:
                 box.listing.write_bytes(OLD)
                 box.listing.chmod(old)
-            # What the temporary file allows when its mode is first about to be changed, and when it is renamed.
+            # The mode of the temporary file before its first change and before the rename.
             for call in ("chmod", "rename"):
                 box.run(0, TUNEDEX_FAULT_CALL=call, TUNEDEX_FAULT_N="1",
                         TUNEDEX_FAULT_RUN=f"stat -c %a '{box.out}'/.tunedex-*.tmp >'{seen}'")
                 if call == "chmod" and old == 0o600:
-                    continue  # as it is
+                    continue  # already the final mode
                 mode = int(seen.read_text(), 8)
                 assert mode == (0o600 if call == "chmod" else 0o666 & ~UMASK if old is None else old), (call, old, mode)
                 if call == "chmod" and old is None:
                     box.listing.unlink()
 
-    def test_an_abort_ends_the_search_of_a_huge_file_and_the_wait_for_a_reader(self, folder):
+    def test_an_abort_ends_the_search_of_a_huge_file_and_the_wait_for_a_fifo_reader(self, folder):
         def full(reader):
             count = struct.unpack("i", fcntl.ioctl(reader, termios.FIONREAD, b"\0" * 4))[0]
             return count > 60000
@@ -655,7 +655,7 @@ class Cases:
                     with open(box.music / "x.mp3", "wb") as file:
                         file.truncate(4 << 40)
                 except OSError:
-                    raise Skipped("no files of 4 TiB here") from None
+                    raise Skipped("the file system does not support files of 4 TiB") from None
                 reached = lambda process: b"Retrieving" in process.stderr.readline()
             else:
                 for number in range(2000):
@@ -685,7 +685,7 @@ class Cases:
         assert b"Error number 57 - Device I/O error" in said, said
         assert not box.listing.exists()
 
-    def test_a_second_instance_at_the_same_time(self, folder):
+    def test_several_instances_may_write_the_same_listing(self, folder):
         box = Box(folder)
         for number in range(200):
             (box.music / f"{number}.mp3").write_bytes(tagged(b"x" * 500))
@@ -708,7 +708,7 @@ class Cases:
         assert data.endswith(b"TableBorder=1\r\n") and data.count(b"TableBorder=") == 1
         box.nothing_left()
 
-    def test_from_a_slow_disk_many_are_read_at_once_and_the_listing_is_the_same(self, folder):
+    def test_a_slow_disk_is_read_concurrently_and_the_listing_is_the_same(self, folder):
         box = Box(folder, ErrorWarnings=0)
         for artist in range(20):
             for album in range(6):
@@ -722,13 +722,13 @@ class Cases:
         box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_REPORT=str(report))
         assert box.listing.read_bytes() == expected and box.log() == log
         told = dict(line.split() for line in report.read_text().splitlines())
-        box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_N="300")  # and fast again
+        box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_N="300")  # slow at first only
         assert box.listing.read_bytes() == expected and box.log() == log
         assert int(told["left-open"]) == 0, told
         assert int(told["opendir-at-once"]) > 4, told
         assert int(told["read-at-once"]) > min(os.cpu_count(), 10), told
 
-    def test_pipes_sockets_loops_and_dangling_links_are_no_tracks(self, folder):
+    def test_pipes_devices_loops_and_dangling_links_are_not_tracks(self, folder):
         box = Box(folder)
         (box.music / "a.mp3").write_bytes(tagged(b"One"))
         os.mkfifo(box.music / "pipe.mp3")
@@ -741,11 +741,10 @@ class Cases:
         assert [row[1] for row in box.page().tracks()] == ["One"]
         assert box.log() == b""
 
-    def test_memory_follows_the_distinct_texts(self, folder):
+    def test_memory_is_proportional_to_the_distinct_texts(self, folder):
         if surroundings.sanitizer_of(PROGRAM):
-            raise Skipped("a sanitizer's own memory would be measured")
-        # What each of the files holds, how many files there are, how many links to each, and the bytes of text
-        # in UTF-8 that are not the same.
+            raise Skipped("a sanitizer's memory would be included")
+        # Content of each file, number of files, links to each, and bytes of distinct text in UTF-8.
         long = 8 * MIB
         cases = {
             "one title": (dict(byte=b"t", count=long), 1, 16, long),
@@ -771,7 +770,7 @@ class Cases:
                 assert peak <= bound, f"{name}, {output}: {peak / MIB:.1f} MiB of {bound / MIB:.1f} MiB"
             shutil.rmtree(box.root)
 
-    def test_texts_beyond_the_memory_end_the_run_with_its_message(self, folder):
+    def test_running_out_of_memory_ends_the_run_with_a_message(self, folder):
         if surroundings.sanitizer_of(PROGRAM):
             raise Skipped("a sanitizer reserves more memory than the limit")
         box = Box(folder)

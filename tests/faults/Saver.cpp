@@ -1,6 +1,6 @@
-// saver KIND FOLDER COUNT: saves a file in the folder COUNT times, one of two contents in turn, and is the
-// program as far as saving goes. KIND: settings, statistics, theme. Ends with the number of the error that
-// stopped it.
+// saver KIND FOLDER COUNT: saves a file COUNT times with the program's own code, alternating between two
+// contents. KIND: settings, statistics, theme. Exits with the number of the run-time error that stopped it,
+// or 0.
 #include "RunTimeError.h"
 #include "SettingsFuncs.h"
 #include "Statistics.h"
@@ -13,7 +13,7 @@ namespace {
 
 const tunedex::FileStamp kStamp{"1.0", "2026-11-21", "14:05"};
 
-// Long enough to need more than one write to a small disk.
+// Long enough for several writes to a small disk.
 std::string LongText(char c) {
     return std::string(200000, c);
 }

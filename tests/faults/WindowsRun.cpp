@@ -1,5 +1,5 @@
-// The program with its windows, and somebody who answers its messages: every one is printed to standard error
-// and answered with its default button, or with Yes where TUNEDEX_ANSWER says "yes" and there is one.
+// The program with windows and automatic answers: prints every message to standard error and presses its
+// default button, or Yes if it has one and TUNEDEX_ANSWER is "yes".
 #include "Application.h"
 #include "CommandLine.h"
 #include "QSettingsRegistry.h"
