@@ -1,4 +1,4 @@
-# Shared by the checks of this folder. Source it, after setting NAME to what the check is called.
+# Shared by the checks in this folder. Set NAME to the name of the check, then source this file.
 set -eu -o pipefail
 
 skip() { # reason
@@ -11,8 +11,7 @@ fail() { # what is wrong
     exit 1
 }
 
-# A tool that is not there skips a check on a developer's machine. Where CI is set it is a failure: there every check
-# has to run.
+# Skips the check when a tool is missing; with CI set, fails instead, because every check must run there.
 need() { # tools
     local tool
     for tool in "$@"; do
@@ -23,7 +22,7 @@ need() { # tools
     done
 }
 
-# Checks have a folder of their own, which goes when they end.
+# A temporary folder, removed on exit.
 work=$(mktemp -d /tmp/tunedex-packaging.XXXXXX)
 cleanup_commands=()
 cleanup() {
@@ -35,11 +34,11 @@ cleanup() {
 }
 trap cleanup EXIT
 
-# Lays the sample collection into a new folder, for everyone to read, and counts its files in $tracks.
-lay_sample() { # folder MAKE-SAMPLE TAGGER SAMPLE_FOLDER
+# Copies the sample collection to a new world-readable folder and sets $tracks to its number of tracks.
+copy_sample() { # folder MAKE-SAMPLE TAGGER SAMPLE_FOLDER
     need lame python3
     python3 -B "$2" "$4" --tagger "$3"
-    cp -r "$4" "$1" # the build folder may be closed to others
+    cp -r "$4" "$1" # other users may lack access to the build folder
     chmod -R a+rX "$1"
     tracks=$(find "$1" -type f -iname '*.mp3' ! -name '.*' | wc -l)
     [ "$tracks" -gt 50 ] || fail "the sample collection has only $tracks tracks"
