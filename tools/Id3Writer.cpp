@@ -37,7 +37,7 @@ void AppendField(std::string& tag, std::string_view text, std::size_t width, cha
     tag += bytes;
 }
 
-// `bitsPerByte` is 8 for plain numbers and 7 for those that never hold a set top bit.
+// `bitsPerByte` is 8, or 7 for synchsafe integers.
 void AppendBigEndian(std::string& bytes, std::size_t value, unsigned width, unsigned bitsPerByte) {
     const std::size_t mask = (1U << bitsPerByte) - 1;
     for (unsigned left = width; left > 0; --left) {
@@ -101,7 +101,7 @@ std::string TextFrameContent(std::string_view text, Id3TextEncoding encoding) {
     return content;
 }
 
-// Type 3 is the front cover. There is no description: its end alone is there.
+// Type 3 is the front cover. The description is empty: only its terminator.
 std::string PictureFrameContent(Id3v2Version version, std::string_view picture) {
     using namespace std::string_view_literals;
     std::string content(version == Id3v2Version::V22 ? "\0PNG\x03\0"sv : "\0image/png\0\x03\0"sv);
@@ -148,8 +148,7 @@ std::string Frames(const Id3v2Tag& tag) {
     return bytes;
 }
 
-// No byte FF may be followed by what a player could take for the rest of a frame's sync: a zero goes in
-// between.
+// Unsynchronisation: inserts a zero after each FF that would look like the start of an MPEG frame.
 std::string Unsynchronised(std::string_view bytes) {
     std::string result;
     for (std::size_t i = 0; i < bytes.size(); ++i) {

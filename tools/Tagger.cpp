@@ -1,4 +1,4 @@
-// tagger: copies bare MP3 frames into a new file and puts ID3 tags round them.
+// tagger: copies MP3 frames without tags into a new file and adds ID3 tags.
 
 #include "Id3Writer.h"
 #include "Numbers.h"
@@ -26,7 +26,7 @@ using tunedex::Id3v2Version;
 
 constexpr std::string_view kUsage =
     R"USAGE(usage: tagger FRAMES OUTPUT [OPTION...]
-Writes OUTPUT: the MP3 frames of the file FRAMES with ID3 tags round them. Texts are UTF-8.
+Writes the MP3 frames of the file FRAMES with ID3 tags to OUTPUT. Texts are UTF-8.
 
   --v1                 an ID3v1 tag at the end
   --v2 2.2|2.3|2.4     an ID3v2 tag of this version in front
@@ -34,18 +34,18 @@ Writes OUTPUT: the MP3 frames of the file FRAMES with ID3 tags round them. Texts
   --track NUMBER       for both tags
   --disc TEXT          ID3v2 only
   --comment TEXT       ID3v1 only
-  --genre TEXT         for the ID3v2 tag, as it is to stand there: "Rock", "(17)"
-  --genre-number N     for the ID3v1 tag (255: none)
+  --genre TEXT         ID3v2 only, unchanged: "Rock", "(17)"
+  --genre-number N     ID3v1 only (255: none)
   --v1-title TEXT, --v1-artist TEXT, --v1-album TEXT
-                       what the ID3v1 tag says instead
-  --v1-blanks          fill the ID3v1 fields up with blanks, not with NULs
+                       override the text in the ID3v1 tag
+  --v1-blanks          pad the ID3v1 fields with blanks instead of NULs
   --encoding windows-1252|utf-16|utf-16be|utf-8
-                       how ID3v2 texts are written (windows-1252)
-  --picture FILE       a PNG to carry in the ID3v2 tag
-  --padding BYTES      zeros behind the last ID3v2 frame (0)
-  --unsynchronised     with a zero put behind every FF that looks like a frame's sync
-  --plain-frame-sizes  ID3v2.4 frame sizes of 8 bits a byte, as some players wrote them
-  --claimed-size N     what the ID3v2 header says the tag's size is, true or not
+                       encoding of ID3v2 texts (default: windows-1252)
+  --picture FILE       a PNG for the ID3v2 tag
+  --padding BYTES      zero bytes after the last ID3v2 frame (default: 0)
+  --unsynchronised     apply unsynchronisation to the ID3v2 tag
+  --plain-frame-sizes  ID3v2.4 frame sizes that are not synchsafe
+  --claimed-size N     override the size in the ID3v2 header
 )USAGE";
 
 struct Options {
@@ -79,7 +79,7 @@ std::uint32_t Number(const std::string& text, std::uint32_t most) {
 template <typename Value> Value Choice(const std::string& text, const std::map<std::string, Value>& choices) {
     const auto found = choices.find(text);
     if (found == choices.end()) {
-        throw std::invalid_argument("\"" + text + "\" is none of the choices");
+        throw std::invalid_argument("\"" + text + "\" is not a valid value");
     }
     return found->second;
 }
@@ -97,7 +97,7 @@ const std::map<std::string, Flag>& Flags() {
     return flags;
 }
 
-// A text that both tags hold.
+// Sets a text in both tags.
 Setter Both(std::string Id3v1Tag::*field, const char* frame) {
     return [field, frame](Options& options, const std::string& text) {
         options.v1.*field = text;
@@ -171,7 +171,7 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
         }
     }
     if (options.files.size() != 2) {
-        throw std::invalid_argument("two files are needed: the frames and the output");
+        throw std::invalid_argument("expected two files: the frames and the output");
     }
     options.v1.title = options.v1Title.value_or(options.v1.title);
     options.v1.artist = options.v1Artist.value_or(options.v1.artist);

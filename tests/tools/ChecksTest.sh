@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Every check runs, also after one that failed; the last lines name each with its outcome, and so does the status. Tests by
-# hand go without the checks; where CI is set both count.
+# Every check runs even if an earlier one fails; the summary and the status show the outcome. `./test` runs the checks only
+# with CI set.
 # usage: ChecksTest.sh SOURCE_FOLDER
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -rf -- "$folder"' EXIT
 
-# A tree whose tools only write down that they were called, and fail where FAILING says so.
+# A tree with fake tools that record their calls and fail if the call matches FAILING.
 mkdir -p "$folder/tools" "$folder/bin"
 cp -- "$1/test" "$folder/"
 cp -- "$1/tools/checks" "$folder/tools/"
@@ -35,7 +35,7 @@ call() { # TOOL ARGUMENT...
     status=0
     "$folder/$1" "${@:2}" >"$folder/out" 2>&1 || status=$?
     called=$(sed 's/ --parallel [0-9]*//' "$folder/calls" | paste -sd ';')
-    summary=$(sed -n '/=== what was checked/,$p' "$folder/out" | sed '1d; s/ after .*//; s/  */ /g' | paste -sd ';')
+    summary=$(sed -n '/=== summary/,$p' "$folder/out" | sed '1d; s/ after .*//; s/  */ /g' | paste -sd ';')
 }
 prepared="packages build test bench check;locales "
 format="check-format "
@@ -52,7 +52,7 @@ check "a build fails" "1 $prepared;$format;${asan%;*};$tidy" "$status $called"
 check "a build fails: summary" "format passed;asan FAILED;tidy passed" "$summary"
 
 FAILING="build test bench" call tools/checks
-check "a package cannot be had" "1 ${prepared%;*}" "$status $called"
+check "a package is not available" "1 ${prepared%;*}" "$status $called"
 
 call tools/checks tidy
 check "one alone" "0 $prepared;$tidy" "$status $called"

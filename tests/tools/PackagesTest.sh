@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Only missing packages are installed, and where none is, nothing at all is started.
+# Only missing packages are installed; if none is missing, no command runs.
 # usage: PackagesTest.sh TOOLS/PACKAGES
 set -euo pipefail
 packages=$1
 folder=$(mktemp -d)
 trap 'rm -rf -- "$folder"' EXIT
 
-# Stand-ins for what changes the machine, and for what knows it: they go by a list and write down what they are told.
+# Fake commands: dpkg-query reads a list of installed packages, apt-get records its arguments.
 mkdir "$folder/bin"
 cat >"$folder/bin/dpkg-query" <<'END'
 #!/usr/bin/env bash

@@ -1,4 +1,4 @@
-"""The sample collection holds every kind of file it promises, plays, and is the same each time it is made.
+"""The sample collection contains every kind of file it should, can be played and is reproducible.
 
 usage: SampleCollectionTest.py MAKE-SAMPLE TAGGER FOLDER
 """
@@ -23,7 +23,7 @@ def contents(folder):
 
 
 class File:
-    """What kind a file is of, found out without the project's own readers."""
+    """The properties of a file, determined without the project's own readers."""
 
     def __init__(self, path):
         data = path.read_bytes()
@@ -91,23 +91,23 @@ class SampleCollection(unittest.TestCase):
                                  "--", *map(str, self.paths)], capture_output=True, text=True)
         self.assertEqual(played.returncode, 0, played.stdout + played.stderr)
 
-    def test_is_the_same_each_time(self):
+    def test_is_reproducible(self):
         again = OUTPUT.with_name("again")
         self.assertEqual(make(again).returncode, 0)
         self.assertEqual(contents(OUTPUT), contents(again))
 
-    def test_is_not_made_twice(self):
+    def test_is_not_rebuilt_when_up_to_date(self):
         times = {path: path.stat().st_mtime_ns for path in self.paths}
         self.assertEqual(make(OUTPUT).returncode, 0)
         self.assertEqual({path: path.stat().st_mtime_ns for path in self.paths}, times)
 
-    def test_takes_the_place_of_no_other_folder(self):
+    def test_does_not_replace_another_folder(self):
         other = OUTPUT.with_name("other")
         other.mkdir()
         (other / "mine.txt").write_text("mine")
         refused = make(other)
         self.assertNotEqual(refused.returncode, 0)
-        self.assertIn("left alone", refused.stderr)
+        self.assertIn("is not a sample collection", refused.stderr)
         self.assertEqual(contents(other), {pathlib.Path("mine.txt"): b"mine"})
 
 

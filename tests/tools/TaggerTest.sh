@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The tagger tells what is wrong, and ends with status 2 where its use was wrong and 1 where a file was.
+# The tagger prints an error and exits with 2 for wrong usage and with 1 for a file error.
 # usage: TaggerTest.sh TAGGER
 set -euo pipefail
 tagger=$1
@@ -16,10 +16,10 @@ expect() { # STATUS TEXT-IN-THE-MESSAGE ARGUMENT...
         failures=1
     fi
 }
-expect 2 "two files are needed" "$folder/frames"
+expect 2 "expected two files" "$folder/frames"
 expect 2 "unknown option --v3" "$folder/frames" "$folder/out" --v3
 expect 2 "--title needs a value" "$folder/frames" "$folder/out" --title
-expect 2 "none of the choices" "$folder/frames" "$folder/out" --v2 2.5
+expect 2 "not a valid value" "$folder/frames" "$folder/out" --v2 2.5
 expect 2 "not a number from 0 to 255" "$folder/frames" "$folder/out" --track 256
 expect 2 "does not fit" "$folder/frames" "$folder/out" --v2 2.3 --title 桜
 expect 1 "cannot read" "$folder/missing" "$folder/out"
