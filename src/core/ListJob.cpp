@@ -70,6 +70,7 @@ bool ListRun::ValidateInput() {
             ui_.FocusAndSelect(MainField::InputFolder);
             return false;
         }
+        // Required: the setting changes even if a later check refuses the run.
         settings.Directory = fields.inputFolder;
     }
     ui_.TakeControls(settings);
@@ -154,6 +155,7 @@ void ListRun::Finish(RunMonitor& monitor) {
     statistics.ListsCreated = CheckedAdd(statistics.ListsCreated, 1);
     statistics.FilesHandled = CheckedAdd(statistics.FilesHandled, totals_.FoundCount);
     ui_.CloseProgress();
+    // Required: drops changes made to these settings during the run.
     TakeMainFields(application_.settings, ui_.Fields());
 }
 
@@ -171,6 +173,7 @@ void ListRun::Work() {
     // Do not "fix".
     Scan(monitor, ScanMode::Count);
     if (totals_.FoundCount == 0) {
+        // Required: the progress window stays open behind the message. Do not "fix".
         ShowMessage(ui_, "No MP3 files were found\r\nin the " + folderWord_ + " specified.", kOkInformation,
                     "No MP3 files!");
         ui_.EnableWindows();
@@ -200,6 +203,8 @@ bool CreateList(Application& application, UserInterface& ui) {
             run.Work();
         }
     } catch (const std::exception&) {
+        // Required: the title is "Error" in automatic mode too, and the progress window stays open. Do not
+        // "fix".
         ShowMessage(ui, TrappedErrorText(CaughtError()), kOkExclamation, "Error");
     }
     return run.ListWritten();

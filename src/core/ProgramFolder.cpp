@@ -114,6 +114,7 @@ std::string FindHelpFile(const Registry& registry, const std::string& programFol
     if (FileNameOf(registered, style) == kHelpFileName && FileIsThere(registered)) {
         return registered;
     }
+    // Required: with a wrong registered path the program folder is not searched. Do not "fix".
     const std::string first = registered.empty() ? programFolder : own;
     for (const std::string& folder : {first, own, own + std::string(kInstalledData)}) {
         std::string path = folder + std::string(kHelpFileName);

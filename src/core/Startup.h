@@ -34,7 +34,7 @@ bool CreateListCommand(Application& application, UserInterface& ui);
 std::string SaveSettingsCommand(const Application& application, const std::string& path);
 inline constexpr const char* kUnsavedSettingsTitle = "Settings";
 
-// Saves the statistics when an interactive program ends.
+// Saves the statistics when an interactive program ends. Required: an unattended run does not save them.
 void SaveStatisticsAtExit(const Application& application);
 
 } // namespace tunedex

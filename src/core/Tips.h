@@ -19,8 +19,8 @@ std::string TipsPath(const Registry& registry, const std::string& runningFolder,
 
 class Tips {
   public:
-    // Loads one tip per line, including empty lines. A file that is missing or cannot be examined yields no
-    // tips. Raises the error of a failed read. Keeps the current number.
+    // Loads one tip per line. Required: an empty line is a tip too. A file that is missing or cannot be
+    // examined yields no tips. Raises the error of a failed read. Keeps the current number.
     void Load(const std::string& path);
 
     // Selects the next tip in file order; after the last, the first.

@@ -17,7 +17,7 @@ bool IsNumeric(std::string_view text);
 // The value of such a text. Raises error 13 for any other.
 double RequireNumber(std::string_view text);
 
-// Rounds to the nearest integer, halves to the even one.
+// Rounds to the nearest integer. Required: halves round to the even one.
 double RoundHalfToEven(double value);
 
 // Round half to even. Raise error 6 when the result does not fit.

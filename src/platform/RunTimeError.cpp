@@ -56,6 +56,7 @@ RunTimeError CaughtError() {
 
 RunTimeError ErrorFromErrno(int errorCode, FileTask task) {
     if (task == FileTask::TestFolder) {
+        // Required: a failed folder test is error 52 whatever errno is. Do not "fix".
         return RunTimeError(ErrorNumber::BadFileName);
     }
     switch (errorCode) {

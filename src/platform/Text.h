@@ -52,7 +52,7 @@ std::string UpperCase(std::string_view text);
 bool EndsInIgnoringCase(std::string_view text, std::string_view upperCaseEnd);
 
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
-// The pieces between separators. An empty text yields no pieces, not one empty piece.
+// The pieces between separators. Required: an empty text yields no pieces, not one empty piece.
 std::vector<std::string> Split(std::string_view text, std::string_view separator);
 std::string_view TrimBlanks(std::string_view text);
 std::string_view TrimBlanksRight(std::string_view text);

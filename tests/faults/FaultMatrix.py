@@ -199,18 +199,18 @@ def violations(scenario, outcome, right, before, kind, error):
             rows += rows_in(held[1]) or 0
         elif held != right.files.get(name) and not marks_unfinished_start(name, held):
             found.append(f"damaged: {name}")
-    told = outcome.log != right.log or any(outcome.stderr.count(text) > right.stderr.count(text) for text in MESSAGES)
+    reported = outcome.log != right.log or any(outcome.stderr.count(text) > right.stderr.count(text) for text in MESSAGES)
     listed = {name for name in right.files if is_listing(name) and right.files[name] != before.get(name)}
     complete = sum(rows_in(right.files[name][1]) for name in listed if right.files[name][0] == "file")
     if outcome.status == 0:
         # ENOENT is the correct answer for a dangling link, which is not a track, and for a missing output link: accept
         # one track less.
         gone = 1 if kind in ("stat", "other") and error == "ENOENT" else 0
-        if not told and (rows < complete - gone or (gone == 0 and written != listed)):
+        if not reported and (rows < complete - gone or (gone == 0 and written != listed)):
             found.append(f"{rows} of {complete} tracks in {sorted(written)}, not reported")
         if not written:
             found.append("reports success without a listing")
-    if outcome.status != right.status and not told:
+    if outcome.status != right.status and not reported:
         found.append("fails without a message")
     if error in UNNOTICED and (outcome.status, outcome.files, outcome.log) != (right.status, right.files, right.log):
         found.append(f"{error} changes the outcome")

@@ -721,12 +721,12 @@ class Cases:
         report = box.root / "report"
         box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_REPORT=str(report))
         assert box.listing.read_bytes() == expected and box.log() == log
-        told = dict(line.split() for line in report.read_text().splitlines())
+        counts = dict(line.split() for line in report.read_text().splitlines())
         box.run(0, TUNEDEX_FAULT_SLOW="1000", TUNEDEX_FAULT_N="300")  # slow at first only
         assert box.listing.read_bytes() == expected and box.log() == log
-        assert int(told["left-open"]) == 0, told
-        assert int(told["opendir-at-once"]) > 4, told
-        assert int(told["read-at-once"]) > min(os.cpu_count(), 10), told
+        assert int(counts["left-open"]) == 0, counts
+        assert int(counts["opendir-at-once"]) > 4, counts
+        assert int(counts["read-at-once"]) > min(os.cpu_count(), 10), counts
 
     def test_pipes_devices_loops_and_dangling_links_are_not_tracks(self, folder):
         box = Box(folder)
