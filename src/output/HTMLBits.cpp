@@ -80,7 +80,7 @@ std::string PageFiles::PathOf(std::int32_t page) const {
 
 void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style) {
     const auto link = [&](std::int32_t target, const std::string& label) {
-        // Relative to the page itself.
+        // Relative to the page: the file name without its folder.
         return "<a href=\"" + std::string(FileNameOf(files.PathOf(target), style)) + "\">" + label + "</a>";
     };
     const std::string previous = "&lt;&lt; Previous Page";
@@ -95,6 +95,7 @@ void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& fi
 
 void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count,
                       std::string_view lineBreak) {
+    // Required: the page title is not escaped; users put markup in it.
     page += Indent(2) + R"(<p align="center">)" + FontOpen(settings, kPageFont, kPageText) +
             StrengthOpen(settings, kPageFont) + settings.PageTitle + StrengthClose(settings, kPageFont) +
             FontClose(settings);
@@ -108,7 +109,7 @@ void WritePageHeading(std::string& page, const Settings& settings, std::int32_t 
 }
 
 void WriteTableHead(std::string& page, const Settings& settings, const std::vector<Column>& columns) {
-    // The border is the inner table's background, seen through its cell spacing.
+    // The border is the background of the inner table, visible through its cell spacing.
     page += Indent(2) + "<table width=\"" + std::to_string(settings.TableWidth) +
             (settings.TableWidthUnit == 1 ? "%" : "") +
             R"(" border="0" cellspacing="0" cellpadding="0" align="center">)" + "\r\n";
@@ -126,6 +127,7 @@ void WriteTableHead(std::string& page, const Settings& settings, const std::vect
                 StrengthClose(settings, kHeaderFont) + FontClose(settings) + "</th>";
     }
     if (settings.DoLinks) {
+        // Required: never bold or italic, unlike the other header cells.
         page += "<th>" + font + "Link" + FontClose(settings) + "</th>";
     }
     page += "</tr>";
@@ -134,6 +136,7 @@ void WriteTableHead(std::string& page, const Settings& settings, const std::vect
 
 void WriteTableFoot(std::string& page, const Settings& settings, std::size_t columnCount) {
     const std::size_t span = columnCount + (settings.DoLinks ? 1 : 0);
+    // Required: never bold or italic, although it has the header's font.
     page += Indent(6) + "<tr bgcolor=\"#" + settings.Colour[kHeaderBackground] + "\"><th colspan=\"" +
             std::to_string(span) + "\">" + FontOpen(settings, kHeaderFont, kHeaderText) + "Created with " +
             kProductTitle + " v" + kVersionText + " by Orvando" + FontClose(settings) + "</th></tr>\r\n";
@@ -146,14 +149,17 @@ void WriteTableFoot(std::string& page, const Settings& settings, std::size_t col
 std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style) {
     const std::string_view path = track.FullPath;
     std::string target;
+    // Required: links are neither escaped nor percent-encoded.
     switch (settings.LinkType) {
     case 0:
         target = path;
         break;
     case 1:
+        // Required: every colon is removed, not only that of a drive.
         target = "/" + ReplaceAll(path, ":", "");
         break;
     case 2: {
+        // Required: the base folder may match anywhere in the path, not only at its start.
         const std::string base = WithSeparator(track.BaseFolder, style);
         const std::size_t found = path.find(base);
         target = found == std::string_view::npos ? path : path.substr(found + base.size());
@@ -183,12 +189,13 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     const std::string rowEnd = "</tr>\r\n";
     RowFrame frame;
     std::string piece = Indent(6) + "<tr bgcolor=\"#" + settings.Colour.at(background) + "\"";
+    // Required: the class depends on FontCSS, although its rule sets colours.
     if (alternate && settings.FontCSS) {
         piece += R"( class="r2")";
     }
     piece += ">";
     for (const Column& column : listing_.columns) {
-        // A column that nobody knows is not even closed: pages with one have always looked so.
+        // Required: the cell of an unknown column is "<td</td>", its start tag unfinished. Do not "fix".
         piece += "<td";
         if (column.key != ColumnKey::Unknown) {
             piece += KindOf(column.key).rightCells ? R"( align="right">)" : ">";
@@ -238,7 +245,7 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
     case ColumnKey::FolderPath:
         escaper_.PutEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
-    default: // numbers, which hold nothing to escape
+    default: // Required: number and size are not escaped, nor is the locale's separator in the size.
         PutCellText(page, key, track, position, listing_.Cells());
         return;
     }

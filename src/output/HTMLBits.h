@@ -1,4 +1,5 @@
-// The fragments of a page between its head and its end. Each appends to the page's text; line ends are CR LF.
+// HTML fragments between the head and the end of a page. Each function appends to `page`, with CR LF line
+// ends.
 #pragma once
 
 #include "Escaper.h"
@@ -16,21 +17,20 @@ namespace tunedex {
 // n TABs.
 std::string Indent(int n);
 
-// The opening font tag for a font and a text colour, or nothing where neither fonts nor colours are done with
-// tags. Raises error 9 for an index that no font or colour has.
+// The opening font tag; empty unless FontHTML or ColourHTML is set. Raises error 9 for an index out of range.
 std::string FontOpen(const Settings& settings, std::size_t fontIndex, std::size_t colourIndex);
 std::string FontClose(const Settings& settings);
-// The tags for bold and italic inside a font tag.
+// The tags for bold and italic; empty unless FontHTML is set.
 std::string StrengthOpen(const Settings& settings, std::size_t fontIndex);
 std::string StrengthClose(const Settings& settings, std::size_t fontIndex);
 
-// The files of a listing of several pages.
+// The page files of a listing on several pages.
 struct PageFiles {
     std::string baseName;  // the path before the extension
     std::string extension; // with its full stop
     std::int32_t count = 1;
 
-    // The file of page `page`, counted from 1: base.001.htm.
+    // The path of page `page`, counted from 1: base.001.htm. The number has at least three digits.
     std::string PathOf(std::int32_t page) const;
 };
 
@@ -40,10 +40,10 @@ void WritePageHeading(std::string& page, const Settings& settings, std::int32_t 
 void WriteTableHead(std::string& page, const Settings& settings, const std::vector<Column>& columns);
 void WriteTableFoot(std::string& page, const Settings& settings, std::size_t columnCount);
 
-// Which colours a row has: always the normal ones, or normal and alternate ones in turn.
+// Plain and Normal rows use the cell colours, Alternate rows the alternate ones.
 enum class RowKind { Plain = 0, Normal = 1, Alternate = 2 };
 
-// Writes rows: what is the same in each row of a listing is made once.
+// Writes table rows. The markup around the cells is built once per listing.
 class TrackRowWriter {
   public:
     explicit TrackRowWriter(const Listing& listing);
@@ -66,10 +66,10 @@ class TrackRowWriter {
         std::size_t size_ = 0;
     };
 
-    // The markup of a row: pieces[i] stands before the text of cell i, the last one behind the last cell.
+    // The markup of a row: pieces[i] precedes the text of cell i, the last piece follows the last cell.
     struct RowFrame {
         std::vector<PaddedText> pieces;
-        PaddedText linkClose; // behind the link, where there are links: the end of the row
+        PaddedText linkClose; // from the end of the link target to the end of the row; empty without links
     };
 
     RowFrame MakeFrame(bool alternate) const;
@@ -80,7 +80,7 @@ class TrackRowWriter {
     std::array<RowFrame, 2> frames_; // normal, alternate
 };
 
-// Where a track's link leads: the prefix and the path in the form that `LinkType` asks for.
+// The link of a track: `LinkPrefix` and the path in the form of `LinkType`, not escaped.
 std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style);
 
 } // namespace tunedex

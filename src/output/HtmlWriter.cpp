@@ -18,7 +18,7 @@ std::string_view LineBreakMarkup(const Settings& settings) {
     return settings.DocumentType == "XHTML" ? "<br />" : "<br>";
 }
 
-// The next row's kind: always plain, or normal and alternate in turn.
+// Plain rows, or normal and alternate rows in turn.
 RowKind NextKind(RowKind kind, bool alternate) {
     if (!alternate) {
         return RowKind::Plain;
@@ -41,6 +41,7 @@ class HtmlPages {
         WriteEnd(end_, settings_, settings_.PageFooter, lineBreak_);
         const TrackRowWriter rows(listing_);
         for (std::int32_t number = 1; number <= files_.count; ++number) {
+            // Required: an abort after the last page counts too.
             if (!WritePage(number, rows) || listing_.monitor.AbortRequested()) {
                 return true;
             }
@@ -49,7 +50,7 @@ class HtmlPages {
     }
 
   private:
-    // Returns false when the user aborted within the page.
+    // Returns false when the user aborted.
     bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
         const bool several = files_.count > 1;
         TextFile file(
@@ -59,6 +60,7 @@ class HtmlPages {
         std::string navigation;
         std::string heading;
         page_.Put(headStart_);
+        // Required: the window title is not escaped.
         page_.Put(settings_.WindowTitle);
         if (several) {
             page_.Put(" - Page ");
@@ -106,13 +108,13 @@ class HtmlPages {
     Settings& settings_;
     std::string_view lineBreak_;
     PageFiles files_;
-    // What is the same on every page.
+    // Identical on every page.
     std::string headStart_;
     std::string headRest_;
     std::string tableHead_;
     std::string tableFoot_;
     std::string end_;
-    PageBuffer page_; // what is still to be written
+    PageBuffer page_;
     CleanedFolders cleaned_;
 };
 
@@ -144,7 +146,7 @@ void WriteHeadStart(std::string& page, const Settings& settings) {
                 "\"http://www.w3.org/TR/1999/REC-html401-19991224/loose.dtd\">\r\n"
                 "<html>\r\n";
     } else {
-        page += "\r\n\r\n";
+        page += "\r\n\r\n"; // Required: two empty lines for an unknown document type.
     }
     page += Indent(1) + "<head>\r\n";
     page += Indent(2) + "<title>";
@@ -153,6 +155,7 @@ void WriteHeadStart(std::string& page, const Settings& settings) {
 void WriteHeadRest(std::string& page, const Settings& settings) {
     const std::string end = settings.DocumentType == "XHTML" ? " />\r\n" : ">\r\n";
     page += "</title>\r\n";
+    // Required: declared as ISO-8859-1, although the bytes are Windows-1252.
     page += Indent(2) + R"(<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1")" + end;
     page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" +
             kHomePage + ")\"" + end;

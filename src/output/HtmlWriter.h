@@ -9,18 +9,18 @@
 
 namespace tunedex {
 
-// Returns true when the user aborted; pages written before stay, and so does the part of a page that was
-// written.
+// Returns true when the user aborted; finished pages and the rows written of the current one are kept.
 bool WriteHtmlListing(Listing& listing);
 
-// The beginning of a page up to its title, which is written as it stands, and from there up to its body tag.
+// The head of a page up to "<title>", and from "</title>" to the body tag.
 void WriteHeadStart(std::string& page, const Settings& settings);
 void WriteHeadRest(std::string& page, const Settings& settings);
 // The end of a page: footer, home page, closing tags.
 void WriteEnd(std::string& page, const Settings& settings, std::string_view footer,
               std::string_view lineBreak);
 
-// How the tracks are divided: all on one page, or `Spanning` to each.
+// Splits the tracks into pages of `Spanning` tracks; 0 or less puts all on one page. `OutputFile` must have
+// an extension.
 PageFiles PlanPages(const Settings& settings, std::size_t trackCount);
 
 } // namespace tunedex

@@ -10,13 +10,13 @@ namespace tunedex {
 
 namespace {
 
-// Players take a playlist to be in one encoding throughout, and a path must reach them byte for byte: once a
-// path is not ASCII, the whole file is UTF-8.
+// Players read a whole playlist in one encoding, and paths must keep their bytes, so a single path that is
+// not ASCII makes the file UTF-8.
 TextEncoding EncodingFor(const TrackTable& tracks, RunMonitor& monitor) {
     constexpr std::size_t kTracksToAQuestion = 4096;
     for (std::size_t position = 1; position <= tracks.Count(); ++position) {
         if (position % kTracksToAQuestion == 0 && monitor.AbortRequested()) {
-            break; // the first track will be the last to be written
+            break; // the writer stops after its first track
         }
         tracks.PrefetchAhead(position, true);
         if (!IsAscii(tracks.At(position).FullPath)) {
@@ -39,7 +39,6 @@ double SecondsOf(std::string_view duration) {
 bool WriteM3uListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kPlaylistOutput, path);
-    // Paths go out byte for byte in either encoding: they are all ASCII, or the file is UTF-8.
     TextFile file(path, EncodingFor(listing.tracks, listing.monitor),
                   [&] { return listing.monitor.AbortRequested(); });
     bool aborted = false;

@@ -7,8 +7,8 @@
 
 namespace tunedex {
 
-// Returns true when the user aborted; the tracks before that are then in the file. Raises error 5 for a track
-// without a duration.
+// Returns true when the user aborted; the tracks written so far are kept. Required: a track without a
+// duration raises error 5, which fails the whole playlist.
 bool WriteM3uListing(Listing& listing);
 
 // "4:05" in seconds. Raises error 5 for a text without ":".

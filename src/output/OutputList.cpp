@@ -23,6 +23,7 @@ std::string ListingPath(int outputType, std::string outputFile) {
     const auto ends = [&](std::string_view extension) { return EndsInIgnoringCase(outputFile, extension); };
     switch (outputType) {
     case kTextOutput:
+        // Required: "a.text" selects this writer, but its file is "a.text.txt".
         return ends(".TXT") ? outputFile : outputFile + ".txt";
     case kPlaylistOutput:
         return ends(".M3U") ? outputFile : outputFile + ".m3u";

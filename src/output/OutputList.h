@@ -1,4 +1,4 @@
-// The one way into the writers: a table of tracks becomes a listing on disk.
+// Entry point of the writers: writes a table of tracks to a listing file.
 #pragma once
 
 #include "CellText.h"
@@ -19,8 +19,8 @@ namespace tunedex {
 
 enum OutputType : int { kHtmlOutput = 0, kTextOutput = 1, kPlaylistOutput = 2 };
 
-// What the writers work on. The settings are the run's own copy: writers append the extension to `OutputFile`
-// and expand the three titles in it.
+// Input of the writers; every reference must outlive it. `settings` is the run's own copy: writers append the
+// extension to `OutputFile` and expand the placeholders in the three titles.
 struct Listing {
     Settings& settings;
     const TrackTable& tracks;
@@ -35,18 +35,17 @@ struct Listing {
     CellContext Cells() const { return {settings.SizeType, locale, pathStyle}; }
 };
 
-// The kind of listing that an output file's name asks for, by what follows its last full stop: HTML unless
-// that is TXT, TEXT or M3U in any case.
+// The listing type by the file's extension, in any case: text for .txt and .text, playlist for .m3u, else
+// HTML.
 OutputType OutputTypeOf(std::string_view outputFile);
 
-// The file that the writer for `outputType` makes: the output file's name, with the writer's own extension
-// appended where the name ends in none that the writer accepts. Pages of a listing on several pages have a
-// number before the extension.
+// The path that the writer for `outputType` writes: `outputFile`, with the writer's extension appended unless
+// it has one. The files of several pages have a number before the extension.
 std::string ListingPath(int outputType, std::string outputFile);
 
 // Merges the columns and runs the writer; an unknown type writes HTML. Returns true when the user aborted.
-// Raises the error of a file that cannot be written, and 5 where a writer cannot make a line: what was there
-// before is then still there.
+// Raises the error of a file that cannot be written, and error 5 for a line that cannot be built; the old
+// file is then kept.
 bool WriteListing(int outputType, Listing& listing);
 
 } // namespace tunedex

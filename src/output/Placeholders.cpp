@@ -23,8 +23,9 @@ void ExpandTitlePlaceholders(Listing& listing, std::string_view lineBreak) {
         SizeText(static_cast<std::int64_t>(totals.TotalBytes), listing.settings.SizeType, listing.locale);
     const std::string playTime = PlayTimeText(totals.TotalSeconds);
     const auto expand = [&](std::string& text, std::string_view lineBreakText) {
+        // Required: the clock is read again for each text.
         const std::tm now = listing.clock.LocalTime();
-        // One after the other, each over what the one before has made: so "%%L" ends up a line break.
+        // Required: in this order, each on the result of the previous one, so "%%L" becomes a line break.
         text = ReplaceAll(text, "%D", listing.locale.ShortDate(now));
         text = ReplaceAll(text, "%T", listing.locale.ShortTime(now));
         text = ReplaceAll(text, "%C", std::to_string(listing.tracks.Count()));

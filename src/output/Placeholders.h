@@ -1,4 +1,4 @@
-// The placeholders of window title, page title and footer.
+// The placeholders in the window title, page title and page footer.
 #pragma once
 
 #include "OutputList.h"
@@ -9,14 +9,15 @@
 
 namespace tunedex {
 
-// In the order in which menus offer them.
+// In menu order.
 inline constexpr std::array<std::string_view, 8> kTitlePlaceholders = {"%D", "%T", "%C", "%N",
                                                                        "%S", "%P", "%%", "%L"};
 
-// Replaces the placeholders in WindowTitle, PageTitle and PageFooter of the listing's settings.
+// Replaces the placeholders in the three titles of the listing's settings. `lineBreak` replaces %L in the
+// page title and footer.
 void ExpandTitlePlaceholders(Listing& listing, std::string_view lineBreak);
 
-// Whole seconds as minutes:seconds, from an hour on as hours:minutes:seconds.
+// "4:05", from one hour on "1:02:05"; rounded half to even to whole seconds.
 std::string PlayTimeText(double totalSeconds);
 
 } // namespace tunedex

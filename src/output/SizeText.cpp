@@ -18,7 +18,7 @@ std::string Grouped(std::int64_t value, const std::string& separator) {
     return text;
 }
 
-// bytes / unit with two decimals, in whole numbers so that a tie is seen as one.
+// bytes / unit with two decimals. Integer arithmetic keeps ties exact.
 std::string TwoDecimals(std::int64_t bytes, std::int64_t unit, const Locale& locale) {
     const std::int64_t whole = bytes / unit;
     const std::int64_t hundredths = ((bytes % unit) * 200 + unit) / (2 * unit);

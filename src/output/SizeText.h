@@ -1,4 +1,4 @@
-// File sizes as listings show them.
+// Formats file sizes for listings.
 #pragma once
 
 #include "Locale.h"

@@ -1,4 +1,4 @@
-// The style block in a page's head.
+// The style block in the head of a page.
 #pragma once
 
 #include "Settings.h"
@@ -8,7 +8,7 @@
 
 namespace tunedex {
 
-// Appends the block, line by line.
+// Appends the block to `page`, with CR LF line ends.
 void WriteStyleBlock(std::string& page, const Settings& settings);
 
 // The CSS name of an HTML font size "1" to "7"; "small" for anything else.

@@ -11,7 +11,7 @@ namespace tunedex {
 
 namespace {
 
-// Ends a line: its last TAB gives way. A line without a single column cannot be ended.
+// Replaces the last TAB by the line end. Required: a line without columns raises error 5.
 void EndLine(PageBuffer& text, bool anyColumn) {
     if (!anyColumn) {
         throw RunTimeError(ErrorNumber::InvalidProcedureCall);
@@ -20,8 +20,8 @@ void EndLine(PageBuffer& text, bool anyColumn) {
     text.Put("\r\n");
 }
 
-// Asks once for each column whether to stop. Before the line is put and not after each of its texts: a long
-// line is in the file in part before it ends, and an aborted one must not be.
+// Checks for an abort once per column, all before the line is put: part of a long line may be in the file
+// before its end, and an aborted line must not be.
 bool AbortedInLine(const Listing& listing) {
     return std::any_of(listing.columns.begin(), listing.columns.end(),
                        [&](const Column& /*column*/) { return listing.monitor.AbortRequested(); });
@@ -50,6 +50,7 @@ bool WriteTextListing(Listing& listing) {
     TextFile file(path, TextEncoding::Windows1252Questions, [&] { return listing.monitor.AbortRequested(); });
     PageBuffer text;
     text.SetSink(TextFile::kPieceBytes, [&file](std::string_view piece) { file.Write(piece); });
+    // Required: an unknown column has a header here but no field in the lines below.
     for (const Column& column : listing.columns) {
         text.Put(HeaderText(column));
         text.Put("\t");

@@ -1,12 +1,12 @@
-// Tab-separated text: a line of column names, then a line for each track.
+// Tab-separated text: a line of column names, then one line per track.
 #pragma once
 
 #include "OutputList.h"
 
 namespace tunedex {
 
-// Returns true when the user aborted; the lines before that are then in the file. Raises error 5 for a line
-// without a single column.
+// Returns true when the user aborted; the lines written so far are kept. Raises error 5 for a line without
+// columns.
 bool WriteTextListing(Listing& listing);
 
 } // namespace tunedex
