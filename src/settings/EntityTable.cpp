@@ -44,6 +44,7 @@ void EntityTable::Load(const std::vector<std::string>& lines, std::string_view n
             ReportFaultyLine(faults, name, number, noTab ? "no TAB in it" : error.Description());
         }
     }
+    // Required: all lines count, comments too. The empty slots remove NUL characters.
     slots_.resize(lines.size() + 1);
 }
 

@@ -21,15 +21,15 @@ class EntityTable {
     // One empty slot: nothing is replaced.
     EntityTable() { slots_.resize(1); }
 
-    // Rebuilds the table from a file of lines CODE TAB TEXT; comments begin with "#". No file: nothing is
-    // replaced. A line that is no entry is skipped, with a line on `faults`. Raises the error of a file that
-    // cannot be read.
+    // Replaces the table by a file's lines CODE TAB TEXT; comments begin with "#", and text after a second
+    // TAB is ignored. Without a file nothing is replaced. An invalid line is skipped and reported on
+    // `faults`. Raises the error of a file that cannot be read.
     void Load(const std::string& path, std::ostream& faults);
-    // The same from lines already read; `name` is what faults call the file.
+    // The same from lines already read; `name` is the file's name in reports.
     void Load(const std::vector<std::string>& lines, std::string_view name, std::ostream& faults);
 
-    // One slot more than the file has lines: entries in file order, then empty slots. Every slot but the last
-    // is applied, so an empty one removes NUL characters.
+    // One slot more than the file has lines: entries in file order, then empty slots. All but the last are
+    // applied in order, each to the result of the previous one; an empty slot removes NUL characters.
     const std::vector<Slot>& Slots() const { return slots_; }
 
   private:

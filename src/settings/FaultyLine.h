@@ -1,4 +1,4 @@
-// How a line of a settings, theme or entity file that cannot be used is reported.
+// Reports an invalid line of a settings, theme or entity file.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace tunedex {
 
-// "file:line: line skipped: reason", one line. Lines are counted from 1.
+// Writes one line, "file:line: line skipped: reason". Lines count from 1.
 inline void ReportFaultyLine(std::ostream& faults, std::string_view file, std::size_t line,
                              std::string_view reason) {
     faults << file << ':' << line << ": line skipped: " << reason << '\n';

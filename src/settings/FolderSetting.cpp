@@ -14,7 +14,7 @@ std::vector<std::string> FoldersOf(std::string_view folderValue) {
     if (!IsMultiFolder(folderValue)) {
         return {};
     }
-    // Every mark goes, not only the first.
+    // Required: every mark is removed, not only the first.
     return Split(ReplaceAll(folderValue, kMultiFolderMark, ""), kMultiFolderSeparator);
 }
 
@@ -37,6 +37,7 @@ std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle st
         if (entries[i].empty()) {
             continue;
         }
+        // Required: only the last entry's base folder is stored without the added separator. Do not "fix".
         const bool last = i + 1 == entries.size();
         std::string path = WithSeparator(entries[i], style);
         folders.push_back({last ? entries[i] : path, path});

@@ -1,4 +1,4 @@
-// The folder setting: one folder, or a multi-folder value of "%MULT%" and folders joined by "%||%".
+// The folder setting: one folder, or a multi-folder value, "%MULT%" and the folders joined by "%||%".
 #pragma once
 
 #include "Path.h"
@@ -15,20 +15,19 @@ inline bool IsMultiFolder(std::string_view folderValue) {
     return folderValue.starts_with(kMultiFolderMark);
 }
 
-// The entries of a multi-folder value as they are stored, empty ones included; none for a single folder.
+// The entries of a multi-folder value as stored, empty ones included; none for a single folder.
 std::vector<std::string> FoldersOf(std::string_view folderValue);
 
-// The multi-folder value of these folders.
+// Joins folders to a multi-folder value.
 std::string MultiFolderValue(const std::vector<std::string>& folders);
 
-// Where a walk begins.
+// The start of a walk.
 struct StartFolder {
-    std::string baseFolder; // as records hold it
+    std::string baseFolder; // as stored in the track records
     std::string path;       // ends in a separator
 };
 
-// The start folders of a folder setting: the single one, or the entries of a multi-folder value, empty ones
-// left out.
+// The single folder, or the entries of a multi-folder value without the empty ones.
 std::vector<StartFolder> StartFolders(std::string_view folderValue, PathStyle style);
 
 } // namespace tunedex

@@ -1,4 +1,4 @@
-// Everything a run can be told: one record, with the names that settings files use.
+// The settings of the program. The members have the names of their keys in settings files.
 #pragma once
 
 #include <array>
@@ -7,10 +7,8 @@
 
 namespace tunedex {
 
-// A fresh record is all empty texts, zeros and false: a settings file is read over it as it stands. The
-// defaults that users see come from SetDefaults().
 struct FontSetting {
-    std::string face; // a font-family list as CSS writes it
+    std::string face; // a CSS font-family list
     std::string size; // HTML font size "1" to "7", kept as text
     bool bold = false;
     bool italic = false;
@@ -34,6 +32,8 @@ enum ColourIndex : std::size_t {
     kColourCount
 };
 
+// Required: a new record is empty, zero and false throughout, and a settings file is read over it without
+// defaults. Only SetDefaults() stores these.
 struct Settings {
     std::string Directory; // one folder or several: see FolderSetting.h
     std::string OutputFile;
@@ -42,7 +42,7 @@ struct Settings {
     std::string PageFooter;
 
     bool Recurse = false;
-    std::int16_t Spanning = 0;  // files per HTML page; 0 puts all on one
+    std::int16_t Spanning = 0;  // files per HTML page; 0 or less puts all on one
     std::int16_t SizeType = 0;  // 0 bytes, 1 kilobytes, 2 megabytes
     std::int16_t SortOrder = 0; // 0 none, 1 ascending, 2 descending
     bool ErrorWarnings = false;
@@ -55,7 +55,7 @@ struct Settings {
     std::string LinkPrefix;
 
     std::string ActiveColumns;   // display names joined by "|", in display order
-    std::string InactiveColumns; // the rest, the same way
+    std::string InactiveColumns; // the other columns, in the same form
     std::int16_t Merge = 0;      // 0 none, 1 artist and title, 2 artist, album and title
     bool MoveTheArtists = false;
 
@@ -72,9 +72,9 @@ struct Settings {
     std::int16_t TableWidth = 0;
     std::int16_t TablePadding = 0;
     std::int16_t TableBorder = 0;
-    std::int16_t TableSpacing = 0; // read from files, never written
+    std::int16_t TableSpacing = 0; // required: read from files, never written
 
-    // Stores every default, over whatever was there.
+    // Sets every member to its default.
     void SetDefaults();
 
     bool operator==(const Settings&) const = default;

@@ -1,5 +1,5 @@
-// Settings files ("*.cfg") and the lines they share with theme files: lines of KEY=value, KEY(n)=value,
-// comments that begin with "#", and empty lines.
+// Settings files ("*.cfg") and the syntax that they share with theme files: KEY=value, KEY(n)=value, comments
+// that begin with "#", and empty lines.
 #pragma once
 
 #include "Settings.h"
@@ -15,47 +15,47 @@ class TextFile;
 
 inline constexpr std::string_view kSettingsFileName = "Tunedex.cfg";
 
-// What a written file's head says about its making.
+// Program version and time in the head of a written file.
 struct FileStamp {
-    std::string version; // the program's version text, "1.0"
-    std::string date;    // in the user's short formats
+    std::string version; // "1.0"
+    std::string date;    // in the locale's short formats
     std::string time;
 };
 
 enum class LoadOutcome {
     Loaded,
-    DefaultsApplied, // there is no default settings file
-    Missing,         // there is no such file; the settings are unchanged
+    DefaultsApplied, // the default settings file does not exist
+    Missing,         // another file does not exist; the settings are unchanged
 };
 
-// Reads a settings or theme file over `settings`; keys that it lacks keep their values. An empty path means
-// the default file in `programFolder` (which ends in a separator). A line that cannot be applied is skipped,
-// with a line on `faults` that names file, line and reason. Raises the error of a file that cannot be read.
+// Reads a settings or theme file over `settings`; members whose keys it lacks keep their values. An empty
+// path means the default file in `programFolder` (which ends in a separator). An invalid line is skipped and
+// reported on `faults`. Raises the error of a file that cannot be read.
 LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std::string& programFolder,
                          std::ostream& faults);
 
-// The same for lines already read; `name` is what faults call the file.
+// The same for lines already read; `name` is the file's name in reports.
 void ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
                    std::ostream& faults);
 
-// Applies one line. `key` is in upper case; `index` is the digit of an indexed key, 0 for a key without
-// brackets, -1 where there is no digit in them. Unknown keys are ignored. Raises error 6 for a number out of
-// range, 9 for an index out of range or missing parts.
+// Applies one setting. `key` is in upper case; `index` is the digit after its bracket: 0 for a key without a
+// bracket, -1 for no digit. Unknown keys are ignored. Raises error 5 for a table width of less than two
+// characters, 6 for a number out of range, 9 for an index out of range or a font with missing parts.
 void ParseSetting(Settings& settings, std::string_view key, std::string_view value, int index);
 
-// The path that a save to `path` writes: the default file for an empty path, else with ".cfg" unless it ends
-// so.
+// The file that SaveSettings() writes: the default file for an empty path, else `path`, with ".cfg" appended
+// unless it ends in that.
 std::string SettingsPath(const std::string& path, const std::string& programFolder);
 
-// Writes every setting whose value fits on a line. Returns the keys of those that hold CR or LF and are left
-// out. Raises the error of a file that cannot be written; the old file is then still there.
+// Writes all settings except those that hold CR or LF, and returns the keys of these. Raises the error of a
+// file that cannot be written; the old file is then kept.
 std::vector<std::string> SaveSettings(const Settings& settings, const std::string& path,
                                       const std::string& programFolder, const FileStamp& stamp);
 
-// The five comment lines that begin a settings or theme file; `kind` ends the second.
+// Writes the five comment lines at the start of a settings or theme file; `kind` ends the second.
 void WriteFileHead(TextFile& file, std::string_view kind, const FileStamp& stamp);
 
-// Values as files hold them.
+// Values in file syntax.
 std::string FlagText(bool flag);
 std::string FontText(const FontSetting& font);
 std::string TableWidthText(std::int16_t unit, std::string_view width);

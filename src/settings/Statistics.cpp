@@ -25,7 +25,7 @@ Statistics ParseStatistics(const std::vector<std::string>& lines) {
     if (quoted.empty()) {
         throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     }
-    // The quotes are dropped whatever they are, a whole character each.
+    // Required: the first and last characters are dropped, whether they are quotes or not.
     const std::size_t first = StepAt(quoted, 0).length;
     std::size_t last = 0;
     for (std::size_t i = 0; i < quoted.size(); i += StepAt(quoted, i).length) {
@@ -52,6 +52,7 @@ void SaveStatistics(const Statistics& statistics, const std::string& path) {
 }
 
 std::string StatisticsText(const Statistics& statistics) {
+    // Required: zero is singular, "0 time".
     std::string text = "Tunedex was first started on " + statistics.FirstStarted + " and has been started " +
                        std::to_string(statistics.TimesStarted) +
                        (statistics.TimesStarted < 2 ? " time" : " times") + " since.\r\n";

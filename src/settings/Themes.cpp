@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kThemeFolderName = "Themes";
 constexpr std::string_view kThemeExtension = ".thm";
-constexpr std::size_t kLongestFileName = 255; // bytes, on every common file system
+constexpr std::size_t kLongestFileName = 255; // bytes; NAME_MAX of the common file systems
 
 std::string IndexedKey(std::string_view key, std::size_t index) {
     return std::string(key) + "(" + std::to_string(index) + ")=";

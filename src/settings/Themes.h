@@ -1,5 +1,4 @@
-// Theme files ("*.thm"): a named set of fonts, colours and table measures, one file each in the folder
-// "Themes".
+// Theme files ("*.thm" in the folder "Themes"): named sets of fonts, colours and table measures.
 #pragma once
 
 #include "Settings.h"
@@ -11,21 +10,20 @@
 
 namespace tunedex {
 
-// The folder of themes below the program's folder, with its separator.
+// The theme folder in `programFolder`; both end in a separator.
 std::string ThemeFolder(const std::string& programFolder);
 std::string ThemePath(const std::string& programFolder, const std::string& name);
-// The path of the file that is listed under that name, whatever the case of its extension; ThemePath() where
-// there is none.
+// The existing file of a listed theme, its extension in any case; ThemePath() if there is none.
 std::string StoredThemePath(const std::string& programFolder, const std::string& name);
 
-// The names of the themes, in the order in which the folder returns them; none when there is no folder.
+// The names of the themes, in directory order; none without the folder.
 std::vector<std::string> ListThemes(const std::string& programFolder);
 
-// Whether a file of that name can be a theme in the folder: not a path, not empty once trimmed of blanks, no
-// NUL, and with the extension no longer than a file name may be.
+// Whether `name` can name a theme: not blank, not "." or "..", no separator, no NUL, and with the extension
+// no longer than a file name may be.
 bool IsThemeName(const std::string& name);
 
-// What a theme holds of the settings, the table's width as the text of the editor's box.
+// The settings in a theme. The table measures are texts, as typed in the editor's fields.
 struct ThemeContent {
     std::array<FontSetting, kFontCount> fonts;
     std::array<std::string, kColourCount> colours;
