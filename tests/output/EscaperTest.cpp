@@ -40,22 +40,23 @@ TEST(Escaper, ReplacesNothingWithAnEmptyTable) {
     EXPECT_EQ(Escaper(EntityTable()).EscapeEntities("Rock & Roll"), "Rock & Roll");
 }
 
-TEST(Escaper, AppliesItsEntriesInFileOrderOverEachOthersResults) {
+TEST(Escaper, AppliesEntriesInFileOrderToThePreviousResult) {
     EXPECT_EQ(EscaperOf({"38\t&amp;", "60\t&lt;"}).EscapeEntities("a<b & c"), "a&lt;b &amp; c");
     EXPECT_EQ(EscaperOf({"60\t&lt;", "38\t&amp;"}).EscapeEntities("a<b"), "a&amp;lt;b");
     EXPECT_EQ(EscaperOf({"97\tb", "98\tc", "99\ta"}).EscapeEntities("abc"), "aaa");
-    EXPECT_EQ(EscaperOf({"97\tx", "97\ty"}).EscapeEntities("a"), "x") << "the first entry leaves none";
+    EXPECT_EQ(EscaperOf({"97\tx", "97\ty"}).EscapeEntities("a"), "x")
+        << "no \"a\" is left for the second entry";
     EXPECT_EQ(EscaperOf({"97\taa", "97\tb"}).EscapeEntities("a"), "bb");
 }
 
-TEST(Escaper, AppliesEveryEntryOfAFileWithCommentsBetweenThem) {
+TEST(Escaper, AppliesEntriesBetweenComments) {
     const Escaper table = EscaperOf({"# one", "38\t&amp;", "", "# two", "60\t&lt;", "#", "62\t&gt;", ""});
     EXPECT_EQ(table.EscapeEntities("<&>"), "&lt;&amp;&gt;");
 }
 
-// An empty slot replaces NUL by nothing, and the last slot is never applied: so NUL goes exactly where the
-// file holds a line that is no entry.
-TEST(Escaper, RemovesNulCharactersOnlyWhereItHasAnEmptySlotThatIsApplied) {
+// An empty slot removes NUL and the last slot is never applied, so NUL is removed only if the file has a line
+// that is not an entry.
+TEST(Escaper, RemovesNulOnlyWithAnEmptySlotBeforeTheLast) {
     const std::string text("a\0b", 3);
     EXPECT_EQ(EscaperOf({}).EscapeEntities(text), text);
     EXPECT_EQ(EscaperOf({"38\t&amp;"}).EscapeEntities(text), text);
@@ -76,30 +77,30 @@ TEST(Escaper, ReplacesEveryCharacterOfTheCodePage) {
     EXPECT_EQ(EscaperOf(lines).EscapeEntities(text), expected);
 }
 
-TEST(Escaper, ActsOnCharactersAndLeavesStrayBytesAlone) {
+TEST(Escaper, ReplacesCharactersAndKeepsStrayBytes) {
     const Escaper table = EscaperOf({"233\t&eacute;", "195\t&Atilde;", "169\t&copy;"});
     EXPECT_EQ(table.EscapeEntities("é"), "&eacute;");
     EXPECT_EQ(table.EscapeEntities("\xE9 \xC3 あ🎵\xA9"), "\xE9 \xC3 あ🎵\xA9");
 }
 
-TEST(Escaper, AppendsToWhatIsThere) {
+TEST(Escaper, AppendsToTheText) {
     std::string result = "<b>";
     EscaperOf({"60\t&lt;"}).AppendEscaped(result, "a<");
     EXPECT_EQ(result, "<b>a&lt;");
 }
 
-TEST(Escaper, EndsInACommentOrEmptyLineWithoutHarm) {
+TEST(Escaper, AcceptsATrailingCommentOrEmptyLine) {
     EXPECT_EQ(EscaperOf({"38\t&amp;", "# end"}).EscapeEntities("&"), "&amp;");
     EXPECT_EQ(EscaperOf({"38\t&amp;", "", ""}).EscapeEntities("&"), "&amp;");
 }
 
-TEST(Escaper, RaisesOverflowOnlyWhereATextMeetsACharacterThatGrowsTooLong) {
+TEST(Escaper, RaisesOverflowOnlyForTextsWithATooLongExpansion) {
     const std::string million(1000000, 'a');
     const EntityLines tables[] = {
         EntityLines(64, "97\taa"),                                   // doubles with every line
         {"97\t" + million, "97\t" + million},                        // multiplies
         {"97\t" + std::string(Escaper::kLongestExpansion + 1, 'b')}, // one byte too long
-        {"97\t" + million, "97\t" + million, "97\t"},                // too long on the way
+        {"97\t" + million, "97\t" + million, "97\t"},                // too long before the last line
     };
     for (const EntityLines& lines : tables) {
         const Escaper table = EscaperOf(lines);
@@ -111,14 +112,14 @@ TEST(Escaper, RaisesOverflowOnlyWhereATextMeetsACharacterThatGrowsTooLong) {
     }
 }
 
-TEST(Escaper, ExpandsACharacterToAsMuchAsIsAllowed) {
+TEST(Escaper, AllowsAnExpansionOfTheMaximumLength) {
     const std::string longest(Escaper::kLongestExpansion, 'b');
     EXPECT_EQ(EscaperOf({"97\t" + longest}).EscapeEntities("ac"), longest + "c");
     EXPECT_EQ(EscaperOf(EntityLines(20, "97\taa")).EscapeEntities("a"),
               std::string(Escaper::kLongestExpansion, 'a'));
 }
 
-// The rule as it reads: each slot in turn over the whole text.
+// The plain rule: applies each slot in turn to the whole text.
 std::string SlotBySlot(const EntityTable& table, std::string text) {
     for (std::size_t slot = 0; slot + 1 < table.Slots().size(); ++slot) {
         text = ReplaceAll(text, CharacterOf(table.Slots()[slot].code), table.Slots()[slot].text);
@@ -126,7 +127,7 @@ std::string SlotBySlot(const EntityTable& table, std::string text) {
     return text;
 }
 
-TEST(Escaper, GivesWhatGoingThroughTheTextSlotBySlotGives) {
+TEST(Escaper, EqualsApplyingEachSlotToTheWholeText) {
     for (unsigned seed = 1; seed <= 300; ++seed) {
         std::mt19937 random(seed);
         const auto anyText = [&](std::size_t most) {
@@ -161,7 +162,7 @@ class ShippedEntities : public testing::Test {
     const Escaper escaper_;
 };
 
-TEST_F(ShippedEntities, BeginWithTheAmpersandAndThenWhatHtmlNeeds) {
+TEST_F(ShippedEntities, BeginWithTheAmpersandAndTheOtherMarkupCharacters) {
     const std::vector<std::pair<int, const char*>> first = {
         {38, "&amp;"}, {60, "&lt;"}, {62, "&gt;"}, {34, "&quot;"}};
     for (std::size_t i = 0; i < first.size(); ++i) {
@@ -170,7 +171,7 @@ TEST_F(ShippedEntities, BeginWithTheAmpersandAndThenWhatHtmlNeeds) {
     }
 }
 
-TEST_F(ShippedEntities, NameEveryCharacterOfIso8859AsHtml4Does) {
+TEST_F(ShippedEntities, NameTheUpperHalfOfIso88591AsHtml4Does) {
     const std::vector<std::string> names = {
         "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",
         "ordf",   "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",
@@ -188,17 +189,17 @@ TEST_F(ShippedEntities, NameEveryCharacterOfIso8859AsHtml4Does) {
     }
 }
 
-TEST_F(ShippedEntities, ReferToTheCharactersOf128To159ByTheirNumber) {
+TEST_F(ShippedEntities, ReferToCodes128To159ByNumber) {
     for (int code = 128; code < 160; ++code) {
         const char32_t character = FromWindows1252(static_cast<unsigned char>(code));
         const std::string escaped = escaper_.EscapeEntities(CharacterOf(code));
-        // A page may not hold the control characters of the five unused bytes, not even by their number.
+        // Pages may not hold the control characters of the five unused codes, not even as references.
         const std::uint32_t number = character < 0xA0 ? 0xFFFD : static_cast<std::uint32_t>(character);
         EXPECT_EQ(escaped, "&#" + std::to_string(number) + ";") << code;
     }
 }
 
-TEST_F(ShippedEntities, RemoveTheControlCharactersThatNoPageMayHold) {
+TEST_F(ShippedEntities, RemoveControlCharactersThatPagesMayNotHold) {
     for (int code = 0; code < 32; ++code) {
         const std::string character(1, static_cast<char>(code));
         const bool allowed = code == 9 || code == 10 || code == 13;
@@ -207,7 +208,7 @@ TEST_F(ShippedEntities, RemoveTheControlCharactersThatNoPageMayHold) {
     }
 }
 
-TEST_F(ShippedEntities, LeaveAllOtherAsciiAlone) {
+TEST_F(ShippedEntities, KeepAllOtherAscii) {
     for (int code = 32; code < 127; ++code) {
         const std::string character(1, static_cast<char>(code));
         if (std::string("&<>\"").find(character) == std::string::npos) {
@@ -216,7 +217,7 @@ TEST_F(ShippedEntities, LeaveAllOtherAsciiAlone) {
     }
 }
 
-TEST_F(ShippedEntities, MakeEveryTextPlainAsciiAndNameNoCharacterTwice) {
+TEST_F(ShippedEntities, MakeEveryTextAsciiAndListNoCharacterTwice) {
     std::set<int> codes;
     for (const EntityTable::Slot& slot : table_.Slots()) {
         EXPECT_TRUE(slot.code == 0 || codes.insert(slot.code).second) << slot.code;
@@ -250,12 +251,12 @@ std::string RandomText(std::mt19937& random) {
     return text;
 }
 
-TEST(Escaper, PutsIntoAPageWhatItAppendsToAText) {
+TEST(Escaper, PutsTheSameTextIntoAPageAsItAppends) {
     std::mt19937 random(7);
     for (int round = 0; round < 300; ++round) {
         std::vector<std::string> lines;
         for (std::size_t left = random() % 14; left > 0; --left) {
-            // Now and then one that is longer than the buffer is at first.
+            // Some are longer than the initial buffer.
             lines.push_back(std::to_string(random() % 256) + "\t" +
                             std::string(random() % 50 == 0 ? 9000 : random() % 5, '&'));
         }
@@ -265,7 +266,7 @@ TEST(Escaper, PutsIntoAPageWhatItAppendsToAText) {
         for (int i = 0; i < 20; ++i) {
             const std::string text = RandomText(random);
             if (test::RaisedBy([&] { escaper.EscapeEntities(text); }) != 0) {
-                continue; // the entries expand each other beyond what is allowed
+                continue; // an expansion is too long
             }
             // The padding behind a text must not affect the result.
             const std::string padded =

@@ -7,7 +7,7 @@
 namespace tunedex {
 namespace {
 
-TEST(PageBuffer, IsEmptyAtFirstAndOnceCleared) {
+TEST(PageBuffer, IsEmptyInitiallyAndAfterClear) {
     PageBuffer page;
     EXPECT_EQ(page.View(), "");
     page.Put("text");
@@ -17,7 +17,7 @@ TEST(PageBuffer, IsEmptyAtFirstAndOnceCleared) {
     EXPECT_EQ(page.View(), "next");
 }
 
-TEST(PageBuffer, HoldsPiecesOfAnyLengthSideBySide) {
+TEST(PageBuffer, ConcatenatesPiecesOfAnyLength) {
     PageBuffer page;
     std::string expected;
     for (std::size_t length = 0; length < 300; ++length) {
@@ -41,7 +41,7 @@ TEST(PageBuffer, WritesNumbersInDigits) {
     }
 }
 
-TEST(PageBuffer, TakesBackWhatWasAppendedLast) {
+TEST(PageBuffer, DropsTextFromItsEnd) {
     PageBuffer page;
     page.Put("kept");
     page.Put(" and not");
@@ -51,9 +51,9 @@ TEST(PageBuffer, TakesBackWhatWasAppendedLast) {
     EXPECT_EQ(page.View(), "kept7");
 }
 
-TEST(PageBuffer, HandsItsTextToTheSinkInBoundedPiecesOfWholeCharacters) {
+TEST(PageBuffer, PassesItsTextToTheSinkInBoundedPiecesOfWholeCharacters) {
     constexpr std::size_t kPieceBytes = 262144;
-    std::string text; // three bytes each, so that most bounds fall into one
+    std::string text; // of three-byte characters, so most piece bounds fall inside one
     while (text.size() < 4 * kPieceBytes) {
         text += "\xE2\x82\xAC";
     }
