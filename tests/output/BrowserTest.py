@@ -1,4 +1,4 @@
-"""A browser shows a listing of the sample collection as it is meant: texts, colours, pages, links.
+"""Checks texts, colours, pages and links of listings of the sample collection in a browser.
 
 usage: BrowserTest.py PROGRAM DATA-FOLDER MAKE-SAMPLE TAGGER SAMPLE-FOLDER WORK-FOLDER
 """
@@ -15,7 +15,7 @@ from webdriver import Browser, file_url
 
 PROGRAM, DATA, MAKE_SAMPLE, TAGGER, SAMPLE, WORK = sys.argv[1:7]
 
-# The rows of the table that has the header row: the outer one only frames it.
+# The rows of the inner table; the outer one only draws the border.
 ROWS = """return Array.from(document.querySelectorAll("table table tr")).map(
     row => Array.from(row.cells).map(cell => cell.innerText.replace(/\\u00a0/g, " ").trim()));"""
 COLOURS = """const row = document.querySelectorAll("table table tr")[arguments[0]];
@@ -39,11 +39,11 @@ class Listing(unittest.TestCase):
         return self.program.list([self.sample], **settings)
 
     def text_rows(self, **settings):
-        """What the text listing of the same settings says, cell by cell."""
+        """The cells of the text listing with the same settings."""
         text = self.program.list([self.sample], output="list.txt", **settings)[0].read_bytes().decode("cp1252")
         return [line.split("\t") for line in text.split("\r\n")[1:-1]]
 
-    def test_its_table_holds_every_track_over_all_pages_there_and_back(self):
+    def test_pages_hold_every_track_and_link_in_both_directions(self):
         columns = {"ActiveColumns": "Number|Artist|Album|Title|Duration", "Merge": "0"}
         expected = self.text_rows(**columns)
         pages = self.list(Spanning="20", **columns)
@@ -64,8 +64,8 @@ class Listing(unittest.TestCase):
         for number in range(count, 0, -1):
             self.assertEqual(self.browser.url(), file_url(pages[number - 1]))
             self.assertEqual(self.browser.click("<< Previous Page"), number > 1)
-        # The text listing cannot show what its code page lacks; where it can, both say the same, but for the control
-        # characters that the entity table keeps out of pages.
+        # The text listing has "?" for characters outside its code page. The other texts agree, except for control
+        # characters, which the entity table removes from pages.
         self.assertEqual(len(rows), len(expected))
         for row, text in zip(rows, expected):
             for cell, plain in zip(row, text):
@@ -73,7 +73,7 @@ class Listing(unittest.TestCase):
                 if "?" not in plain:
                     self.assertEqual(" ".join(cell.split()), " ".join(plain.split()))
 
-    def test_its_texts_have_their_accents_and_its_paths_their_japanese(self):
+    def test_texts_keep_their_accents_and_paths_their_japanese(self):
         self.browser.get(file_url(self.list(Spanning="0", ActiveColumns="Artist|Title|Full Path", Merge="0")[0]))
         rows = self.browser.run(ROWS)[1:-1]
         self.assertEqual(sorted(row[2] for row in rows), sorted(str(path) for path in self.files))
@@ -81,7 +81,7 @@ class Listing(unittest.TestCase):
         for text in WANTED_TEXTS:
             self.assertIn(text, everything)
 
-    def test_its_rows_have_the_colours_and_fonts_of_the_settings(self):
+    def test_rows_have_the_colours_and_fonts_of_the_settings(self):
         colours = {"Colour4": "102030", "Colour5": "A0B0C0", "Colour6": "405060", "Colour7": "D0E0F0",
                    "Colour2": "FEDCBA", "Colour3": "123456"}
         for css, html in (("1", "0"), ("0", "1"), ("1", "1")):
@@ -112,15 +112,15 @@ class Listing(unittest.TestCase):
         parts = urllib.parse.urlsplit(url)
         return pathlib.Path(urllib.parse.unquote(parts.path, errors="surrogateescape").replace("//", "/"))
 
-    def test_its_links_lead_to_the_files(self):
+    def test_links_lead_to_the_files(self):
         for document_type in ("HTML", "XHTML"):
             page = self.list(Spanning="0", DoLinks="1", LinkType="0", DocumentType=document_type)[0]
             links = self.links(page)
             self.assertTrue(all(link.startswith("file:///") for link in links))
             self.assert_links_lead_to_the_files(links)
 
-    def test_its_relative_links_lead_to_the_files(self):
-        # They are relative to the start folder: the page lies there.
+    def test_relative_links_lead_to_the_files(self):
+        # Relative to the start folder, so the page is copied there.
         page = self.list(Spanning="0", DoLinks="1", LinkType="2", LinkPrefix="")[0]
         beside = pathlib.Path(WORK) / "beside"
         shutil.copytree(self.sample, beside)
@@ -133,7 +133,7 @@ class Listing(unittest.TestCase):
         files = {str((folder or self.sample) / path.relative_to(self.sample)) for path in self.files}
         self.assertTrue(all(pathlib.Path(path).is_file() for path in files))
         lost = files - {str(self.target(link)) for link in links}
-        # Links are not encoded: a name with one of these in it cannot be linked to.
+        # Links are not encoded, so names with these characters cannot be linked to.
         self.assertEqual({path for path in lost if not set("#?%&\"") & set(path)}, set())
         self.assertLess(len(lost), len(links) // 4)
 

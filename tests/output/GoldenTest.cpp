@@ -1,5 +1,5 @@
-// Whole pages, compared with files that are read by people: tests/output/golden. After a change that is meant
-// to change pages, tools/regenerate-goldens writes them anew; read what it shows before committing it.
+// Compares whole pages with the files in tests/output/golden. After an intended change of pages, run
+// tools/regenerate-goldens and review its diff before the commit.
 #include "ListingFixture.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ class GoldenTest : public ListingTest {
         settings.OutputFile = folder / "list.htm";
     }
 
-    // `pages` are the files that are written; `name` is what their goldens are called instead of "list".
+    // Compares the written files `pages` with their goldens, in whose names `name` replaces "list".
     void ExpectGolden(const std::string& name, const std::vector<std::string>& pages = {"list.htm"}) {
         ASSERT_FALSE(Write(kHtmlOutput));
         for (const std::string& page : pages) {

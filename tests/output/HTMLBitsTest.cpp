@@ -8,7 +8,7 @@ namespace {
 
 using HtmlBitsTest = ListingTest;
 
-TEST_F(HtmlBitsTest, OpenAFontTagForWhatIsDoneWithTags) {
+TEST_F(HtmlBitsTest, OpenAFontTagWithTheEnabledAttributes) {
     settings.ColourHTML = settings.FontHTML = false;
     EXPECT_EQ(FontOpen(settings, 2, 4), "");
     EXPECT_EQ(FontClose(settings), "");
@@ -23,7 +23,7 @@ TEST_F(HtmlBitsTest, OpenAFontTagForWhatIsDoneWithTags) {
     EXPECT_EQ(FontClose(settings), "</font>");
 }
 
-TEST_F(HtmlBitsTest, RaiseError9ForAnIndexThatIsNone) {
+TEST_F(HtmlBitsTest, RaiseError9ForAnIndexOutOfRange) {
     for (const bool tags : {false, true}) {
         settings.FontHTML = settings.ColourHTML = tags;
         for (const auto& [font, colour] :
@@ -52,7 +52,7 @@ TEST_F(HtmlBitsTest, CloseItalicBeforeBoldAndOnlyWithFontTags) {
     EXPECT_EQ(StrengthOpen(settings, 2) + StrengthClose(settings, 2), "");
 }
 
-TEST_F(HtmlBitsTest, LinkThePagesToOneAnother) {
+TEST_F(HtmlBitsTest, LinkEachPageToItsNeighbours) {
     const PageFiles files{"C:\\lists\\base", ".html", 3};
     const auto navigation = [&](int page) {
         std::string text;
@@ -72,7 +72,7 @@ TEST_F(HtmlBitsTest, LinkThePagesToOneAnother) {
     EXPECT_EQ((PageFiles{"x", ".htm", 1}.PathOf(1000)), "x.1000.htm");
 }
 
-TEST_F(HtmlBitsTest, WriteTheTableOfTheWidthAndSpacingAsked) {
+TEST_F(HtmlBitsTest, WriteTheTableWithTheWidthAndSpacingOfTheSettings) {
     const auto head = [&] {
         std::string text;
         WriteTableHead(text, settings,
@@ -124,7 +124,7 @@ TEST_F(HtmlBitsTest, SpanTheFootOverAllColumns) {
                   rest);
 }
 
-TEST_F(HtmlBitsTest, WriteTheHeadingWithThePageNumberOnlyWhereThereAreSeveral) {
+TEST_F(HtmlBitsTest, NumberTheHeadingOnlyOnSeveralPages) {
     settings.PageTitle = "A & <b>B</b>";
     const auto heading = [&](int page, int count) {
         std::string text;
@@ -149,7 +149,7 @@ struct LinkRow {
     std::string_view target;
 };
 
-TEST_F(HtmlBitsTest, LeadALinkToTheFileInTheFormAskedFor) {
+TEST_F(HtmlBitsTest, LinkToTheFileInTheFormOfTheSettings) {
     const PathStyle windows = PathStyle::Windows();
     const PathStyle native = PathStyle::Unix();
     const LinkRow rows[] = {
@@ -193,7 +193,7 @@ class HtmlRowTest : public ListingTest {
     }
 };
 
-TEST_F(HtmlRowTest, HoldsACellForEachColumn) {
+TEST_F(HtmlRowTest, HasACellForEachColumn) {
     settings.SizeType = 1;
     EXPECT_EQ(Row(SevenTracks()[3],
                   "Number|Artist|Album|Title|Year|Genre|MPEG Type|Mode|Bitrate|Frequency|Duration|File "
@@ -215,7 +215,7 @@ TEST_F(HtmlRowTest, ShowsABlankForAnEmptyAlbumYearAndGenreOnly) {
               "bgcolor=\"#CECECE\"><td></td><td></td><td>&nbsp;</td><td>&nbsp;</td><td>&nbsp;</td><td></"
               "td><td></td><td "
               "align=\"right\"></td><td align=\"right\"></td></tr>");
-    // Empty is what was so before escaping.
+    // A text that escaping makes empty shows no blank.
     entities.Load({"65\t", "66\tB"}, "table", faults);
     track.Album = track.Artist = "A";
     EXPECT_EQ(Row(track, "Artist|Album"), "\t\t\t\t\t\t<tr bgcolor=\"#CECECE\"><td></td><td></td></tr>");
@@ -232,7 +232,7 @@ TEST_F(HtmlRowTest, MergesArtistAlbumAndTitleIntoOneCell) {
               "\t\t\t\t\t\t<tr bgcolor=\"#CECECE\"><td><b>Abba:</b> Waterloo</td></tr>");
 }
 
-TEST_F(HtmlRowTest, LeavesACellOfAnUnknownColumnBroken) {
+TEST_F(HtmlRowTest, LeavesTheStartTagOfAnUnknownColumnsCellUnfinished) {
     EXPECT_EQ(Row(SevenTracks()[0], "Number|Foo"),
               "\t\t\t\t\t\t<tr bgcolor=\"#CECECE\"><td align=\"right\">1</td><td</td></tr>");
     settings.FontHTML = true;
@@ -241,7 +241,7 @@ TEST_F(HtmlRowTest, LeavesACellOfAnUnknownColumnBroken) {
               "\t\t\t\t\t\t<tr bgcolor=\"#CECECE\"><td</i></b></font></td></tr>");
 }
 
-TEST_F(HtmlRowTest, EndsInALinkWhenAsked) {
+TEST_F(HtmlRowTest, EndsInALinkWithDoLinks) {
     settings.DoLinks = true;
     EXPECT_EQ(Row(SevenTracks()[0], "Year"),
               "\t\t\t\t\t\t<tr bgcolor=\"#CECECE\"><td>1974</td><td align=\"center\"><a "
@@ -256,7 +256,7 @@ TEST_F(HtmlRowTest, EndsInALinkWhenAsked) {
         "Waterloo.mp3\">Link</a></i></b></font></td></tr>");
 }
 
-TEST_F(HtmlRowTest, WritesCharactersThatThePageLacksAsReferences) {
+TEST_F(HtmlRowTest, WritesCharactersOutsideTheCodePageAsReferences) {
     settings.DoLinks = true;
     EXPECT_EQ(Row(SevenTracks()[5], "Artist|Title|Album"),
               "\t\t\t\t\t\t<tr bgcolor=\"#CECECE\"><td>&#26085;&#26412;</td><td>&#12354; &#8364; "
@@ -267,7 +267,7 @@ TEST_F(HtmlRowTest, WritesCharactersThatThePageLacksAsReferences) {
               "href=\"file:////music/Bj\xF6rk/J\xF3ga.mp3\">Link</a></td></tr>");
 }
 
-TEST_F(HtmlRowTest, SaysNothingOfFontsWhereTheStyleSheetDoes) {
+TEST_F(HtmlRowTest, HasNoFontTagsWhenTheStyleSheetSetsFonts) {
     settings.Font[0] = settings.Font[1] = settings.Font[2] = {"F", "1", true, true};
     Use(SevenTracks());
     settings.Merge = 0;
@@ -277,7 +277,7 @@ TEST_F(HtmlRowTest, SaysNothingOfFontsWhereTheStyleSheetDoes) {
     EXPECT_EQ(CountOf(page, "<i>"), 0U);
 }
 
-TEST_F(HtmlRowTest, ColoursOnlyWithColourTags) {
+TEST_F(HtmlRowTest, HasOnlyColoursInFontTagsWithColourHtml) {
     settings.ColourHTML = true;
     settings.Merge = 0;
     Use(SevenTracks());

@@ -12,7 +12,7 @@ namespace {
 
 using HtmlWriterTest = ListingTest;
 
-TEST_F(HtmlWriterTest, BeginsAPageAsItsDocumentTypeAsks) {
+TEST_F(HtmlWriterTest, BeginsAPageByItsDocumentType) {
     Use({});
     settings.FontCSS = settings.ColourCSS = false;
     settings.WindowTitle = "a & <b>";
@@ -62,7 +62,7 @@ TEST_F(HtmlWriterTest, EndsAPageWithTheFooterAndTheHomePage) {
         "/>\r\n\t\t</p>\r\n\t</body>\r\n</html>\r\n"));
 }
 
-TEST_F(HtmlWriterTest, HasAStyleBlockWhereTheSettingsAskForOne) {
+TEST_F(HtmlWriterTest, HasAStyleBlockWithFontCssOrColourCss) {
     Use({});
     for (const auto& [fonts, colours] :
          std::vector<std::pair<bool, bool>>{{false, false}, {true, false}, {false, true}}) {
@@ -78,7 +78,7 @@ struct PagesRow {
     std::int32_t pages;
 };
 
-TEST_F(HtmlWriterTest, DividesTheTracksAmongThePages) {
+TEST_F(HtmlWriterTest, SplitsTheTracksIntoPages) {
     for (const PagesRow& row :
          {PagesRow{0, 100, 1}, PagesRow{99, 100, 1}, PagesRow{100, 100, 1}, PagesRow{101, 100, 2},
           PagesRow{200, 100, 2}, PagesRow{250, 100, 3}, PagesRow{250, 0, 1}, PagesRow{250, -5, 1},
@@ -88,7 +88,7 @@ TEST_F(HtmlWriterTest, DividesTheTracksAmongThePages) {
     }
 }
 
-TEST_F(HtmlWriterTest, WritesOnePageUnderTheNameOfTheSettings) {
+TEST_F(HtmlWriterTest, WritesOnePageToTheOutputFile) {
     UseMany(100);
     const std::string page = Page();
     EXPECT_EQ(CountOf(page, "Previous Page"), 0U);
@@ -98,7 +98,7 @@ TEST_F(HtmlWriterTest, WritesOnePageUnderTheNameOfTheSettings) {
     EXPECT_EQ(CountOf(page, "<td align=\"right\">4:10</td>"), 100U);
 }
 
-TEST_F(HtmlWriterTest, WritesSeveralPagesUnderNumberedNames) {
+TEST_F(HtmlWriterTest, WritesSeveralPagesToNumberedFiles) {
     UseMany(250);
     settings.OutputFile = folder / "my.list.html";
     EXPECT_FALSE(Write(kHtmlOutput));
@@ -114,7 +114,7 @@ TEST_F(HtmlWriterTest, WritesSeveralPagesUnderNumberedNames) {
         EXPECT_EQ(CountOf(page, "<td align=\"right\">4:10</td>"), rows[number - 1]);
         EXPECT_EQ(CountOf(page, "<td align=\"right\">" + std::to_string((number - 1) * 100 + 1) + "</td>"),
                   1U);
-        // The rows' kinds begin anew on each page.
+        // The alternation restarts on each page.
         EXPECT_TRUE(LineWith(page, std::to_string((number - 1) * 100 + 1) + "</td>")
                         .starts_with("\t\t\t\t\t\t<tr bgcolor=\"#CECECE\">"));
     }
@@ -122,7 +122,7 @@ TEST_F(HtmlWriterTest, WritesSeveralPagesUnderNumberedNames) {
     EXPECT_EQ(CountOf(Written("my.list.002.html"), "<a href=\"my.list.003.html\">"), 2U);
 }
 
-TEST_F(HtmlWriterTest, AppendsItsExtensionWhereItIsMissing) {
+TEST_F(HtmlWriterTest, AppendsAMissingExtension) {
     const std::vector<std::pair<std::string, std::string>> names = {
         {"list", "list.htm"},         {"list.HTML", "list.HTML"},
         {"list.Htm", "list.Htm"},     {"list.html5", "list.html5.htm"},
@@ -151,7 +151,7 @@ TEST_F(HtmlWriterTest, HasHeadAndFootAndNoRowsWithoutTracks) {
     EXPECT_EQ(CountOf(page, "<td"), 1U) << "the outer table's";
 }
 
-TEST_F(HtmlWriterTest, AlternatesTheRowsWhenAsked) {
+TEST_F(HtmlWriterTest, AlternatesTheRowsWithAltRows) {
     UseMany(5);
     std::string page = Page();
     EXPECT_EQ(CountOf(page, "<tr bgcolor=\"#CECECE\">"), 3U);
@@ -159,7 +159,7 @@ TEST_F(HtmlWriterTest, AlternatesTheRowsWhenAsked) {
     EXPECT_LT(page.find("#CECECE\">"), page.find("#DEDEDE\" class"));
     settings.FontCSS = false;
     EXPECT_EQ(CountOf(Page(), "<tr bgcolor=\"#DEDEDE\">"), 2U)
-        << "the class goes with the fonts, whatever the colours do";
+        << "the class depends on FontCSS, not on ColourCSS";
     settings.AltRows = false;
     settings.FontCSS = true;
     EXPECT_EQ(CountOf(Page(), "<tr bgcolor=\"#CECECE\">"), 5U);
@@ -175,7 +175,7 @@ TEST_F(HtmlWriterTest, UsesTheAlternateTextColourInFontTags) {
     EXPECT_NE(LineWith(page, "bgcolor=\"#DEDEDE\"").find("<font color=\"#222222\">"), std::string::npos);
 }
 
-TEST_F(HtmlWriterTest, ShowsEachRowAsItIsWritten) {
+TEST_F(HtmlWriterTest, ReportsEachRowToTheMonitor) {
     UseMany(2);
     Page();
     EXPECT_EQ(monitor.statuses,
@@ -183,7 +183,7 @@ TEST_F(HtmlWriterTest, ShowsEachRowAsItIsWritten) {
     EXPECT_EQ(monitor.positions, (std::vector<std::int32_t>{1, 2}));
 }
 
-TEST_F(HtmlWriterTest, KeepsThePagesBeforeAnAbortAndTheRowsOfTheOneItIsIn) {
+TEST_F(HtmlWriterTest, KeepsThePagesAndRowsBeforeAnAbort) {
     UseMany(9);
     settings.Spanning = 3;
     monitor.abortAtQuestion = 4 + 2; // three rows and the page, then two rows
@@ -196,7 +196,7 @@ TEST_F(HtmlWriterTest, KeepsThePagesBeforeAnAbortAndTheRowsOfTheOneItIsIn) {
     EXPECT_FALSE(folder.Exists("list.003.htm"));
 }
 
-TEST_F(HtmlWriterTest, AsksBetweenPagesToo) {
+TEST_F(HtmlWriterTest, ChecksForAnAbortBetweenPages) {
     UseMany(9);
     settings.Spanning = 3;
     monitor.abortAtQuestion = 4; // after the first page's three rows
@@ -214,7 +214,7 @@ TEST_F(HtmlWriterTest, WritesTheSameBytesTwice) {
     EXPECT_EQ(Page(), first);
 }
 
-TEST_F(HtmlWriterTest, WritesALongPageWhole) {
+TEST_F(HtmlWriterTest, WritesEveryRowOfALongPage) {
     UseMany(20000);
     settings.Spanning = 0;
     const std::string page = Page();
@@ -222,7 +222,7 @@ TEST_F(HtmlWriterTest, WritesALongPageWhole) {
     EXPECT_TRUE(page.ends_with("</html>\r\n"));
 }
 
-TEST_F(HtmlWriterTest, EmptiesNothingButTheAttributeOfAnEmptyColour) {
+TEST_F(HtmlWriterTest, WritesAnEmptyColourAsAnEmptyValue) {
     Use({});
     settings.Colour.fill("");
     EXPECT_EQ(CountOf(Page(), "bgcolor=\"#\""), 4U);
@@ -252,7 +252,7 @@ TEST_F(HtmlWriterTest, LooksForStaleTemporaryFilesOnceForAllPages) {
     EXPECT_TRUE(folder.Exists(".tunedex-1-1.tmp")) << "later pages do not list the folder again";
 }
 
-TEST_F(HtmlWriterTest, LooksForStaleTemporaryFilesInEachFolderThatPagesAreLinkedTo) {
+TEST_F(HtmlWriterTest, LooksForStaleTemporaryFilesInEachFolderThatALinkedPageIsIn) {
     UseMany(9);
     settings.Spanning = 3;
     folder.Write("elsewhere/first.htm", "old");

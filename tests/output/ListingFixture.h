@@ -1,4 +1,4 @@
-// A listing to be written: settings, tracks and everything around them.
+// Fixture: a listing with settings, tracks and fake surroundings.
 #pragma once
 
 #include "Fakes.h"
@@ -14,7 +14,7 @@
 
 namespace tunedex {
 
-// Seven tracks with all that makes a cell special: accents, Japanese, markup, empty fields, no tags.
+// Seven tracks for the special cases of cells: accents, Japanese, markup, empty fields, no tags.
 inline std::vector<TrackInfo> SevenTracks() {
     return {
         {"/music/Abba/01 Waterloo.mp3", "/music/", 4000000, "Abba", "Waterloo", "Waterloo", "1974", "Pop",
@@ -35,11 +35,11 @@ inline std::vector<TrackInfo> SevenTracks() {
     };
 }
 
-// The line, without its end, that holds the first occurrence of `part`.
+// The line with the first occurrence of `part`, without its line end.
 inline std::string LineWith(const std::string& page, const std::string& part) {
     const std::size_t at = page.find(part);
     if (at == std::string::npos) {
-        return "nothing with " + part;
+        return "no line with " + part;
     }
     const std::size_t from = page.rfind('\n', at) + 1;
     return page.substr(from, page.find("\r\n", at) - from);
@@ -73,7 +73,7 @@ class ListingTest : public testing::Test {
         totals.FoundCount = totals.StoredCount = static_cast<std::int32_t>(infos.size());
         totals.TotalSeconds = 245;
     }
-    // That many like one another.
+    // `count` tracks that differ only in their titles.
     void UseMany(std::size_t count) {
         std::vector<TrackInfo> infos(count, SevenTracks().front());
         for (std::size_t i = 0; i < count; ++i) {
@@ -98,7 +98,7 @@ class ListingTest : public testing::Test {
         }
     }
     std::string Written(const std::string& name) const { return test::ReadBytes(folder / name); }
-    // Writes a page and gives its bytes.
+    // Writes a listing on one page and returns its bytes.
     std::string Page() {
         EXPECT_FALSE(Write(kHtmlOutput));
         return Written("list.htm");

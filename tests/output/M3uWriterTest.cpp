@@ -28,7 +28,7 @@ TEST_F(M3uWriterTest, WritesLengthNameAndPathOfEveryTrack) {
 }
 
 TEST_F(M3uWriterTest, WritesEveryTrackOfALongList) {
-    constexpr std::size_t kTracks = 20000; // more than goes to the system at a time
+    constexpr std::size_t kTracks = 20000; // more than two pieces
     UseMany(kTracks);
     settings.OutputFile = folder / "list.m3u";
     EXPECT_FALSE(Write(kPlaylistOutput));
@@ -41,7 +41,7 @@ TEST_F(M3uWriterTest, WritesEveryTrackOfALongList) {
     EXPECT_TRUE(Written("list.m3u") == expected);
 }
 
-TEST_F(M3uWriterTest, IsInWindows1252WhileAllPathsAreAscii) {
+TEST_F(M3uWriterTest, IsWindows1252IfAllPathsAreAscii) {
     TrackInfo track = SevenTracks()[5];
     track.FullPath = "/music/a.mp3";
     track.Artist = "Bj\xC3\xB6rk \xE3\x81\x82";
@@ -51,12 +51,12 @@ TEST_F(M3uWriterTest, IsInWindows1252WhileAllPathsAreAscii) {
     EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:1568,Bj\xF6rk ?: ? \x80 5\r\n/music/a.mp3\r\n");
 }
 
-TEST_F(M3uWriterTest, IsInUtf8AsSoonAsOnePathIsNotAscii) {
+TEST_F(M3uWriterTest, IsUtf8IfAnyPathIsNotAscii) {
     TrackInfo first = SevenTracks()[1];
     first.FullPath = "/music/a.mp3";
     TrackInfo last = SevenTracks()[5];
     TrackInfo stray = first;
-    stray.FullPath = "/music/J\xF3ga.mp3"; // an old name, in Latin-1
+    stray.FullPath = "/music/J\xF3ga.mp3"; // a name in Latin-1
     settings.OutputFile = folder / "list.m3u";
     Use({first, last});
     EXPECT_FALSE(Write(kPlaylistOutput));
@@ -89,7 +89,7 @@ TEST_F(M3uWriterTest, TakesTheLengthFromTheDurationText) {
 }
 
 TEST_F(M3uWriterTest, RaisesError5ForATrackWithoutDurationAndKeepsTheOldFile) {
-    Use(SevenTracks()); // the untagged one has none
+    Use(SevenTracks()); // the untagged track has none
     settings.OutputFile = folder.Write("list.m3u", "old");
     EXPECT_EQ(ErrorOf(kPlaylistOutput), 5);
     EXPECT_EQ(Written("list.m3u"), "old");
@@ -104,13 +104,13 @@ TEST_F(M3uWriterTest, LeavesAnEmptyArtistEmpty) {
     EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:250,: Waterloo\r\n/music/Abba/01 Waterloo.mp3\r\n");
 }
 
-TEST_F(M3uWriterTest, HoldsOnlyItsFirstLineWithoutTracks) {
+TEST_F(M3uWriterTest, WritesOnlyTheHeaderLineWithoutTracks) {
     settings.OutputFile = folder / "list.m3u";
     EXPECT_FALSE(Write(kPlaylistOutput));
     EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n");
 }
 
-TEST_F(M3uWriterTest, AppendsItsExtensionWhereItIsMissing) {
+TEST_F(M3uWriterTest, AppendsAMissingExtension) {
     for (const PlaylistName& row : {PlaylistName{"a.m3u", "a.m3u"}, PlaylistName{"a.M3U", "a.M3U"},
                                     PlaylistName{"a", "a.m3u"}, PlaylistName{"a.m3u8", "a.m3u8.m3u"}}) {
         settings.OutputFile = folder / row.name;
@@ -129,13 +129,13 @@ TEST_F(M3uWriterTest, KeepsTheTracksBeforeAnAbort) {
                                    "#EXTINF:250,Abba: Title 2\r\n/music/Abba/01 Waterloo.mp3\r\n");
 }
 
-TEST_F(M3uWriterTest, AnswersAnAbortBeforeItHasLookedAtEveryPath) {
+TEST_F(M3uWriterTest, StopsOnAnAbortBeforeItHasCheckedEveryPath) {
     UseMany(100000);
     settings.OutputFile = folder / "list.m3u";
     monitor.abortAtQuestion = 1;
     EXPECT_TRUE(Write(kPlaylistOutput));
     EXPECT_EQ(Written("list.m3u"), "#EXTM3U\r\n#EXTINF:250,Abba: Title 1\r\n/music/Abba/01 Waterloo.mp3\r\n");
-    EXPECT_EQ(monitor.asked, 2) << "once among the paths, once behind the track";
+    EXPECT_EQ(monitor.asked, 2) << "once while checking paths, once after the track";
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 namespace tunedex {
 namespace {
 
-TEST(OutputTypeOf, LooksAtWhatFollowsTheLastFullStop) {
+TEST(OutputTypeOf, DependsOnTheExtension) {
     for (const auto& [name, type] : std::vector<std::pair<std::string, int>>{{"a.htm", 0},
                                                                              {"a.html", 0},
                                                                              {"a.TXT", 1},
@@ -28,7 +28,7 @@ TEST(OutputTypeOf, LooksAtWhatFollowsTheLastFullStop) {
     }
 }
 
-TEST(ListingPath, AppendsTheWritersExtensionWhereItIsMissing) {
+TEST(ListingPath, AppendsAMissingExtension) {
     struct Row {
         int type;
         const char* outputFile;

@@ -13,7 +13,7 @@ struct PlaceholderRow {
     const char* inPage;
 };
 
-TEST_F(PlaceholdersTest, AreReplacedOneAfterTheOther) {
+TEST_F(PlaceholdersTest, AreReplacedInSequence) {
     const PlaceholderRow rows[] = {
         {"MP3 List (%D)", "MP3 List (2026-11-21)", "MP3 List (2026-11-21)"},
         {"MP3 Listing (%C files)", "MP3 Listing (250 files)", "MP3 Listing (250 files)"},
@@ -23,7 +23,7 @@ TEST_F(PlaceholdersTest, AreReplacedOneAfterTheOther) {
         {"100%% done", "100% done", "100% done"},
         {"a%Lb", "a - b", "a<br>b"},
         {"%%L", " - ", "<br>"},
-        {"%%D", "%2026-11-21", "%2026-11-21"}, // the date comes first
+        {"%%D", "%2026-11-21", "%2026-11-21"}, // %D is replaced before %%
         {"%%%", "%%", "%%"},
         {"%C%C", "250250", "250250"},
         {"", "", ""},
@@ -59,7 +59,7 @@ TEST_F(PlaceholdersTest, ShowTheSizeInTheUnitOfTheSettings) {
     EXPECT_EQ(settings.PageTitle, "9,007,199,254,740,992 b.");
 }
 
-TEST_F(PlaceholdersTest, ReadTheClockAfreshForEachText) {
+TEST_F(PlaceholdersTest, ReadTheClockForEachText) {
     class TickingClock final : public Clock {
       public:
         std::tm LocalTime() const override {

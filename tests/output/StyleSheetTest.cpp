@@ -63,7 +63,7 @@ TEST_F(StyleSheetTest, HasNoLinkRuleWithFontsOnly) {
                      "\t\t]]>", "\t\t</style>"}));
 }
 
-TEST_F(StyleSheetTest, HidesNothingInAnUnknownDocumentType) {
+TEST_F(StyleSheetTest, HasNoCommentMarksForAnUnknownDocumentType) {
     settings.DocumentType = "html";
     const std::string block = StyleBlock(settings);
     EXPECT_NE(block.find("<style type=\"text/css\">\r\n\t\t\r\n\t\t\tbody"), std::string::npos);

@@ -51,10 +51,10 @@ TEST_F(TextWriterTest, MergesArtistAlbumAndTitle) {
     EXPECT_EQ(Written("list.txt"), "Number\tArtist: Title\tAlbum\tDuration\r\n"
                                    "1\tAbba: Waterloo\tWaterloo\t4:10\r\n"
                                    "2\tNobody: Alone\t\t0:00\r\n");
-    EXPECT_EQ(settings.ActiveColumns, "Number|Artist|Album|Title|Duration") << "the setting stays";
+    EXPECT_EQ(settings.ActiveColumns, "Number|Artist|Album|Title|Duration") << "the setting is unchanged";
 }
 
-TEST_F(TextWriterTest, ShowsTheAlbumInAMergedColumnThoughItIsNotActive) {
+TEST_F(TextWriterTest, ShowsAnInactiveAlbumInAMergedColumn) {
     Use({SevenTracks()[0]});
     settings.OutputFile = folder / "list.txt";
     settings.ActiveColumns = "Title|Artist";
@@ -62,7 +62,7 @@ TEST_F(TextWriterTest, ShowsTheAlbumInAMergedColumnThoughItIsNotActive) {
     EXPECT_EQ(Written("list.txt"), "Artist (Album): Title\r\nAbba (Waterloo): Waterloo\r\n");
 }
 
-TEST_F(TextWriterTest, NamesAnUnknownColumnAndWritesNoFieldForIt) {
+TEST_F(TextWriterTest, WritesAHeaderButNoFieldForAnUnknownColumn) {
     Use({SevenTracks()[0]});
     settings.OutputFile = folder / "list.txt";
     settings.ActiveColumns = "Number|Foo|year";
@@ -75,7 +75,7 @@ struct TextName {
     const char* written;
 };
 
-TEST_F(TextWriterTest, AppendsItsExtensionWhereItIsMissing) {
+TEST_F(TextWriterTest, AppendsAMissingExtension) {
     const TextName rows[] = {{"a.txt", "a.txt"}, {"a.TXT", "a.TXT"},       {"a.tXt", "a.tXt"},
                              {"a", "a.txt"},     {"a.text", "a.text.txt"}, {"a.txt.htm", "a.txt.htm.txt"},
                              {"txt", "txt.txt"}};
@@ -83,11 +83,11 @@ TEST_F(TextWriterTest, AppendsItsExtensionWhereItIsMissing) {
         settings.OutputFile = folder / row.name;
         EXPECT_FALSE(Write(kTextOutput));
         EXPECT_TRUE(folder.Exists(row.written)) << row.name;
-        EXPECT_EQ(settings.OutputFile, folder / row.written) << "the run's setting has it too";
+        EXPECT_EQ(settings.OutputFile, folder / row.written) << "the run's setting gets it too";
     }
 }
 
-TEST_F(TextWriterTest, WritesNothingButTheHeaderWithoutTracks) {
+TEST_F(TextWriterTest, WritesOnlyTheHeaderLineWithoutTracks) {
     settings.OutputFile = folder / "list.txt";
     EXPECT_FALSE(Write(kTextOutput));
     EXPECT_EQ(Written("list.txt"), "Number\tArtist (Album): Title\tDuration\r\n");
@@ -95,7 +95,7 @@ TEST_F(TextWriterTest, WritesNothingButTheHeaderWithoutTracks) {
 }
 
 TEST_F(TextWriterTest, WritesEveryLineOfALongList) {
-    constexpr std::size_t kTracks = 20000; // more than goes to the system at a time
+    constexpr std::size_t kTracks = 20000; // more than two pieces
     UseMany(kTracks);
     settings.OutputFile = folder / "list.txt";
     settings.ActiveColumns = "Number|Title|Full Path";
@@ -157,7 +157,7 @@ TEST_F(TextWriterTest, KeepsTabsLineBreaksAndStrayBytes) {
     EXPECT_EQ(Written("list.txt"), "Title\tFilename\r\na\tb\r\nc\t\xFF\xE3\x81.mp3\r\n");
 }
 
-TEST_F(TextWriterTest, LeavesNothingOfALongLineThatIsAborted) {
+TEST_F(TextWriterTest, WritesNoPartOfAnAbortedLongLine) {
     std::vector<TrackInfo> infos = {SevenTracks()[0], SevenTracks()[0]};
     infos[1].Title.assign(4 * TextFile::kPieceBytes, 't');
     Use(infos);

@@ -1,4 +1,4 @@
-"""Two runs of the program over the same files write the same bytes, in every kind of listing.
+"""Checks that two runs over the same files write the same bytes in every kind of listing.
 
 usage: TwiceTest.py PROGRAM DATA-FOLDER MAKE-SAMPLE TAGGER SAMPLE-FOLDER WORK-FOLDER
 """
@@ -10,7 +10,7 @@ import unittest
 from listings import ALL_COLUMNS, Program, make_sample
 
 PROGRAM, DATA, MAKE_SAMPLE, TAGGER, SAMPLE, WORK = sys.argv[1:7]
-# What a listing tells of the time of day changes from run to run.
+# Titles without date and time, which change between runs.
 TIMELESS = {"WindowTitle": "%C %N %S %P", "PageFooter": "%C files"}
 
 
@@ -21,7 +21,7 @@ class TwoRuns(unittest.TestCase):
                 ("list.htm", {"Spanning": "20", "DoLinks": "1", "FontHTML": "1", "ActiveColumns": ALL_COLUMNS}),
                 ("list.html", {"Spanning": "0", "DocumentType": "XHTML", "SortOrder": "2"}),
                 ("list.txt", {"ActiveColumns": ALL_COLUMNS, "Merge": "0"}),
-                # Those without a duration cannot stand in a playlist; the sample collection has none.
+                # A track without a duration fails a playlist; the sample collection has none.
                 ("list.m3u", {})):
             with self.subTest(output=output):
                 first, second = (self.bytes_of(Program(PROGRAM, DATA, pathlib.Path(WORK)), sample, output, settings)

@@ -1,8 +1,8 @@
-"""Listings are valid HTML 4.01 Transitional and XHTML 1.0 Transitional, as far as their markup can be.
+"""Validates listings as HTML 4.01 Transitional and XHTML 1.0 Transitional.
 
 usage: ValidatorTest.py PROGRAM DATA-FOLDER MAKE-SAMPLE TAGGER SAMPLE-FOLDER WORK-FOLDER [CORPUS]
 
-The pages are judged by onsgmls and xmllint with the document types that Debian ships; nothing is fetched. With CORPUS,
+Runs onsgmls and xmllint offline with the document types that Debian ships. With CORPUS,
 a folder of MP3 files from elsewhere (the environment's TUNEDEX_CORPUS goes before), only that is listed; where the
 folder is missing the exit status is 77.
 """
@@ -59,8 +59,8 @@ class Validity(unittest.TestCase):
         cls.folders = [CORPUS] if CORPUS else [make_sample(MAKE_SAMPLE, TAGGER, SAMPLE)]
 
     def expect_valid(self, variants):
-        """Every page under each of the settings, in both document types. A run waits a second when it is done, so
-        several are made at once."""
+        """Validates every page with each of the settings, in both document types. Every run ends with a pause of one
+        second, so several run at once."""
         def judge(numbered):
             number, (document_type, settings) = numbered
             program = Program(PROGRAM, DATA, pathlib.Path(WORK) / f"{self.id()} {number}")
@@ -100,13 +100,13 @@ class PagesAreValid(Validity):
                            for theme in lines for switches in ({}, {"FontHTML": "1", "ColourHTML": "1"})])
 
     def test_with_empty_colours(self):
-        # A colour is any text to both document types: bgcolor="#" is valid, if useless.
+        # Both document types allow any text as a colour, so bgcolor="#" is valid.
         self.expect_valid([dict({f"Colour{i}": "" for i in range(10)}, ColourHTML="1")])
 
 
 class LinkedPagesAreValid(Validity):
-    """As long as no path has a character in it that means something in markup, or that ISO-8859-1 lacks and
-    Windows-1252 has: links are written as they are, while texts go through the entity table."""
+    """Links are not escaped, so they are valid only for paths without markup characters and without characters that
+    Windows-1252 has and ISO-8859-1 lacks."""
 
     @classmethod
     def setUpClass(cls):
@@ -127,7 +127,7 @@ class LinkedPagesAreValid(Validity):
 
 
 class WhatCannotBeValid(unittest.TestCase):
-    """Constructs that listings have always had and that no document type allows: exactly these complaints."""
+    """Required markup that no document type allows: the validators report exactly these errors."""
 
     maxDiff = None
 
@@ -155,10 +155,10 @@ class WhatCannotBeValid(unittest.TestCase):
             self.assertEqual(collections.Counter(complaints(page, judge)), collections.Counter(expected))
 
     def test_an_unknown_column(self):
-        # Its cell's tag is not even ended: "<td</td>". SGML takes the next "<" for the end of a tag, XML does not.
+        # The start tag of its cell is unfinished, "<td</td>". In SGML the next "<" ends a tag, in XML it does not.
         column = {"ActiveColumns": "Number|Foo", "Merge": "0"}
         self.expect("HTML", [], **column)
-        # Font tags it closes without having opened them.
+        # It closes a font tag that it has not opened.
         self.expect("HTML", ['end tag for element "FONT" which is not open'], FontHTML="1", **column)
         self.expect("XHTML", ["error parsing attribute name", "attributes construct error",
                               "Couldn't find end of Start Tag td line 26", *unravelled()], **column)
@@ -169,7 +169,7 @@ class WhatCannotBeValid(unittest.TestCase):
         self.expect("XHTML", ["Element tr content does not follow the DTD, expecting (th | td)+, got"] * 2, ActiveColumns="")
 
     def test_markup_in_the_titles(self):
-        # They are the user's own, and written as they stand: on a page markup is welcome, in a window's title it is not.
+        # Titles are not escaped. Markup is valid in the page title and footer, but not in the window title.
         for document_type in ("HTML", "XHTML"):
             self.expect(document_type, [], PageTitle="<b>A</b> &amp; B", PageFooter="<i>C</i>", WindowTitle="A &amp; B")
         self.expect("HTML", ['document type does not allow element "B" here', *unknown_entity("B")], WindowTitle="<b>A</b> &B")
@@ -190,27 +190,27 @@ class WhatCannotBeValid(unittest.TestCase):
         self.expect("XHTML", ["attributes construct error", "Couldn't find end of Start Tag a line 26",
                               *unravelled("td line 26 and a")], self.named('"A".mp3'), **links)
 
-    def test_links_to_names_with_signs_of_windows_1252(self):
-        # The page says that it is ISO-8859-1, where these codes are no characters. Browsers read them as they are meant.
+    def test_links_to_names_with_characters_of_windows_1252(self):
+        # Pages are declared as ISO-8859-1, which has no characters at these codes. Browsers read them as Windows-1252.
         self.expect("HTML", [f"non SGML character number {code}" for code in (156, 150, 128, 133)],
                     self.named("œ – 2 €….mp3"), DoLinks="1")
         self.expect("XHTML", [], self.named("œ – 2 €….mp3"), DoLinks="1")
 
     def test_an_unknown_document_type(self):
-        # Nothing says what the page is, but onsgmls takes it for HTML, whose root element begins without being told.
+        # onsgmls reads a page without a document type as HTML, where the start tag of the root element is optional.
         self.expect("Other", [])
 
 
 def unknown_entity(name):
-    """What onsgmls says of an ampersand that was meant as one."""
+    """The errors of onsgmls for an unescaped ampersand."""
     return [f'cannot generate system identifier for general entity "{name}"',
             f'general entity "{name}" not defined and no default entity',
             f'reference to entity "{name}" for which no system identifier could be generated']
 
 
 def unravelled(*first):
-    """What xmllint says of a page in whose first row, line 26, a start tag was lost: every end tag behind it meets the
-    element around its own."""
+    """The errors of xmllint after a missing start tag in the first row, line 26: every later end tag is matched with
+    the wrong element."""
     return [*(f"Opening and ending tag mismatch: {pair}" for pair in (
         *first, "tr line 26 and td", "table line 24 and tr", "td line 23 and table", "tr line 22 and td",
         "table line 21 and tr", "body line 19 and table", "html line 3 and body")), "Extra content at the end of the document"]
@@ -221,5 +221,5 @@ if __name__ == "__main__":
         print(f"skipped: there is no {CORPUS}")
         sys.exit(77)
     del sys.argv[1:]
-    # The others look at what the sample collection holds, whatever the corpus does.
+    # The other classes need the sample collection.
     unittest.main(defaultTest="PagesAreValid" if CORPUS else None)

@@ -1,4 +1,4 @@
-"""Listings made by the program itself, for the tests that look at them with other people's programs."""
+"""Runs the program for the tests that check its listings with other programs."""
 
 import os
 import pathlib
@@ -9,7 +9,7 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 import surroundings  # noqa: E402
 
-# Every setting: what a settings file leaves out is off.
+# Every setting: a key that a settings file lacks gets no default.
 DEFAULTS = {
     "WindowTitle": "MP3 List (%D)",
     "PageTitle": "MP3 Listing (%C files)",
@@ -56,7 +56,7 @@ ALL_COLUMNS = ("Number|Artist|Album|Title|Year|Genre|MPEG Type|Mode|Bitrate|Freq
 
 
 class Program:
-    """The program with a program folder of its own below `work`, and no screen."""
+    """The program, with a program folder in `work` and without a display."""
 
     def __init__(self, program, data, work):
         self.program = pathlib.Path(program)
@@ -73,7 +73,7 @@ class Program:
                                                   "XDG_CONFIG_HOME": str(self.work / "registry")}
 
     def list(self, folders, output="list.htm", **changes):
-        """Lists the folders and returns the pages, in order. A setting with an index is given as Font0, Colour9."""
+        """Lists the folders and returns the pages in order. Indexed settings are passed as Font0, Colour9."""
         pages = self.work / "pages"
         shutil.rmtree(pages, ignore_errors=True)
         folders = [str(folder) for folder in folders]
@@ -90,11 +90,11 @@ class Program:
                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=300)
         assert run.returncode == 0, run.stdout.decode(errors="replace")
         found = sorted(pages.iterdir())
-        assert found, "the program says it wrote a listing, but there is none"
+        assert found, "the exit status is 0, but there is no listing"
         return found
 
 
 def make_sample(make_sample, tagger, folder):
-    """The sample collection; made only where it is missing or out of date."""
+    """The sample collection, generated if it is missing or out of date."""
     subprocess.run([make_sample, str(folder), "--tagger", tagger], check=True, stdout=subprocess.DEVNULL)
     return pathlib.Path(folder)

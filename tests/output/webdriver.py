@@ -1,4 +1,4 @@
-"""A headless Chromium, driven over the W3C WebDriver protocol with nothing but the standard library."""
+"""Drives a headless Chromium over the W3C WebDriver protocol, with the standard library alone."""
 
 import json
 import pathlib
@@ -12,7 +12,7 @@ ELEMENT = "element-6066-11e4-a52e-4f735466cecf"
 FLAGS = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
          "--disable-background-networking", "--disable-component-update", "--disable-sync", "--disable-dev-shm-usage",
          "--disable-extensions", "--hide-scrollbars", "--force-device-scale-factor=1",
-         # No page here needs the network, and none gets it.
+         # No page needs the network.
          "--host-resolver-rules=MAP * ~NOTFOUND"]
 
 
@@ -55,7 +55,7 @@ class Browser:
         return self.call("POST", self.session + "/execute/sync", {"script": script, "args": list(arguments)})
 
     def click(self, link_text):
-        """Clicks the first link with this text; returns whether there is one."""
+        """Clicks the first link with this text, if any, and returns whether there is one."""
         found = self.call("POST", self.session + "/elements", {"using": "link text", "value": link_text})
         if found:
             self.call("POST", f"{self.session}/element/{found[0][ELEMENT]}/click", {})
