@@ -61,7 +61,7 @@ TEST(EntityTable, HasOneSlotMoreThanItsFileHasLines) {
     EXPECT_EQ(TableOf({}).Slots().size(), 1U);
 }
 
-TEST(EntityTable, TakesTheTextUpToASecondTabAndAnyNumberOfTheRange) {
+TEST(EntityTable, ReadsTheTextUpToASecondTabAndAnyCodeInRange) {
     EXPECT_EQ(EntriesOf(TableOf({"65\tx\tignored\tmore", " 66 \ty", "67\t", "255\t[255]", "68.4\t[D]"})),
               (Entries{{65, "x"}, {66, "y"}, {67, ""}, {255, "[255]"}, {68, "[D]"}}));
 }
@@ -80,7 +80,7 @@ TEST(EntityTable, IsRebuiltByEveryLoad) {
     EXPECT_EQ(EntriesOf(table), Entries());
 }
 
-TEST(EntityTable, SkipsAFaultyLineWithAReportOfFileLineAndReason) {
+TEST(EntityTable, SkipsAnInvalidLineAndReportsFileLineAndReason) {
     struct Row {
         const char* line;
         const char* reason;
@@ -106,7 +106,7 @@ TEST(EntityTable, SkipsAFaultyLineWithAReportOfFileLineAndReason) {
     }
 }
 
-TEST(EntityTable, ThatCannotBeReadRaisesItsError) {
+TEST(EntityTable, RaisesTheErrorOfAnUnreadableFile) {
     const test::TestFolder folder;
     test::AsOrdinaryUser(folder, [&] {
         const std::string path = folder.Write("html_entities.lst", "38\t&amp;");

@@ -10,12 +10,12 @@ namespace {
 
 using Folders = std::vector<std::string>;
 
-TEST(FolderSetting, JoinsFoldersBehindItsMark) {
+TEST(FolderSetting, JoinsFoldersAfterItsMark) {
     EXPECT_EQ(MultiFolderValue({"/a"}), "%MULT%/a");
     EXPECT_EQ(MultiFolderValue({"/a", "/b c", "/é"}), "%MULT%/a%||%/b c%||%/é");
 }
 
-TEST(FolderSetting, GivesBackTheFoldersThatWereJoined) {
+TEST(FolderSetting, SplitsIntoTheFoldersThatWereJoined) {
     for (const Folders& folders : {Folders{"/a"}, Folders{"/a", "/b"}, Folders{"/", "/x|y", "/%D"}}) {
         EXPECT_EQ(FoldersOf(MultiFolderValue(folders)), folders);
     }
@@ -27,7 +27,7 @@ TEST(FolderSetting, HasNoFoldersWhenItIsSingleOrEmpty) {
     }
 }
 
-TEST(FolderSetting, AMultiFolderValueIsKnownByItsFirstSixCharacters) {
+TEST(FolderSetting, IsMultiFolderByItsFirstSixCharacters) {
     EXPECT_TRUE(IsMultiFolder("%MULT%"));
     EXPECT_TRUE(IsMultiFolder("%MULT%/a%||%/b"));
     for (const char* text : {"", "%MULT", "/a%MULT%", "%mult%/a", " %MULT%"}) {
@@ -40,7 +40,7 @@ struct StartRow {
     std::vector<std::pair<std::string, std::string>> folders; // base folder, path
 };
 
-TEST(StartFolders, MakesOneOfEachEntry) {
+TEST(StartFolders, HasOneForEachEntry) {
     const StartRow rows[] = {
         {"C:\\Music", {{"C:\\Music", "C:\\Music\\"}}},
         {"C:\\Music\\", {{"C:\\Music\\", "C:\\Music\\"}}},
@@ -51,8 +51,7 @@ TEST(StartFolders, MakesOneOfEachEntry) {
         {"%MULT%", {}},
         {"%MULT%%||%", {}},
         {"%MULT%%||%C:\\A%||%%||%D:\\B%||%", {{"C:\\A\\", "C:\\A\\"}, {"D:\\B\\", "D:\\B\\"}}},
-        {"%MULT%C:\\%MULT%A%||%B",
-         {{"C:\\A\\", "C:\\A\\"}, {"B", "B\\"}}}, // every mark is removed, wherever it is
+        {"%MULT%C:\\%MULT%A%||%B", {{"C:\\A\\", "C:\\A\\"}, {"B", "B\\"}}}, // every mark is removed
         {"%mult%C:\\A%||%B", {{"%mult%C:\\A%||%B", "%mult%C:\\A%||%B\\"}}},
         {"C:\\A%||%D:\\B", {{"C:\\A%||%D:\\B", "C:\\A%||%D:\\B\\"}}},
         {" %MULT%C:\\A", {{" %MULT%C:\\A", " %MULT%C:\\A\\"}}},
@@ -66,7 +65,7 @@ TEST(StartFolders, MakesOneOfEachEntry) {
     }
 }
 
-TEST(StartFolders, TakesALoneSeparatorForTheRootFolder) {
+TEST(StartFolders, ReadsALoneSeparatorAsTheRootFolder) {
     for (const char* value : {"%MULT%/%||%/music", "%MULT%/music%||%/"}) {
         const auto folders = StartFolders(value, PathStyle::Unix());
         ASSERT_EQ(folders.size(), 2U);

@@ -5,7 +5,7 @@
 namespace tunedex {
 namespace {
 
-TEST(Settings, AFreshRecordIsAllEmptyTextsZerosAndFalse) {
+TEST(Settings, ANewRecordIsEmptyZeroAndFalse) {
     const Settings fresh;
     for (const std::string* text :
          {&fresh.Directory, &fresh.OutputFile, &fresh.WindowTitle, &fresh.PageTitle, &fresh.PageFooter,
@@ -30,7 +30,7 @@ TEST(Settings, AFreshRecordIsAllEmptyTextsZerosAndFalse) {
     }
 }
 
-// Every field is set to something that is not its default first, so that one forgotten by SetDefaults shows.
+// A record whose members differ from the defaults, to detect any that SetDefaults() leaves out.
 Settings Unlike() {
     Settings settings;
     for (std::string* text : {&settings.Directory, &settings.OutputFile, &settings.WindowTitle,
@@ -45,7 +45,7 @@ Settings Unlike() {
     return settings;
 }
 
-TEST(Settings, TheDefaultsReplaceWhateverWasThere) {
+TEST(Settings, TheDefaultsReplaceEveryMember) {
     Settings settings = Unlike();
     settings.SetDefaults();
 

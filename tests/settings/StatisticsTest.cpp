@@ -16,13 +16,13 @@ namespace {
 
 constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 
-TEST(Statistics, BeginWithTodayAndThisStartWhenThereIsNoFile) {
+TEST(Statistics, BeginWithTodayAndOneStartWithoutAFile) {
     const test::TestFolder folder;
     EXPECT_EQ(LoadStatistics(folder / "stats.lst", "2026-11-21"), (Statistics{"2026-11-21", 1, 0, 0}));
     EXPECT_FALSE(folder.Exists("stats.lst")) << "loading never writes the file";
 }
 
-TEST(Statistics, CountThisStartWhenTheyAreLoaded) {
+TEST(Statistics, CountThisStartOnLoading) {
     const test::TestFolder folder;
     const std::string path = folder.Write("stats.lst", "\"15/11/2026\"\r\n3\r\n2\r\n57\r\n");
     EXPECT_EQ(LoadStatistics(path, "today"), (Statistics{"15/11/2026", 4, 2, 57}));
@@ -37,7 +37,7 @@ TEST(Statistics, AreSavedAsFourLinesWithTheDateInQuotes) {
     EXPECT_EQ(test::ReadBytes(folder / "stats.lst"), "\"21. Nov. 2026 \x9A\"\r\n-1\r\n0\r\n2147483647\r\n");
 }
 
-TEST(Statistics, SurviveSavingAndLoadingWhateverTheDateIsWrittenLike) {
+TEST(Statistics, SurviveSavingAndLoadingWithAnyDate) {
     const test::TestFolder folder;
     for (const char* date : {"2026-11-21", "", "\"", "21.11.2026", "平成38年", "é", "Ã©", " x "}) {
         SaveStatistics({date, 8, 2, 3}, folder / "stats.lst");
@@ -45,7 +45,7 @@ TEST(Statistics, SurviveSavingAndLoadingWhateverTheDateIsWrittenLike) {
     }
 }
 
-TEST(ParseStatistics, DropsTheFirstAndLastCharacterOfTheDateWhateverTheyAre) {
+TEST(ParseStatistics, DropsTheFirstAndLastCharacterOfTheDate) {
     const std::vector<std::pair<const char*, const char*>> rows = {
         {"\"2026\"", "2026"}, {"2026", "02"}, {"\"\"", ""}, {"é2026あ", "2026"}, {"ab", ""}, {"'x\"", "x"}};
     for (const auto& [line, date] : rows) {
@@ -69,7 +69,7 @@ TEST(ParseStatistics, RequiresANumberForTheStartsAndAddsOneBeforeRounding) {
     EXPECT_EQ(test::RaisedBy([] { ParseStatistics({"\"x\"", "2147483647", "0", "0"}); }), 6);
 }
 
-TEST(ParseStatistics, TakesTheLeadingNumberOfTheOtherCounts) {
+TEST(ParseStatistics, ReadsTheLeadingNumberOfTheOtherCounts) {
     struct Row {
         const char* line;
         std::int32_t count;
@@ -90,7 +90,7 @@ TEST(ParseStatistics, RaisesInputPastEndForFewerThanFourLines) {
     EXPECT_EQ(ParseStatistics({"\"x\"", "1", "2", "3", "more"}), (Statistics{"x", 2, 2, 3}));
 }
 
-TEST(Statistics, ThatCannotBeReadOrSavedRaiseTheirError) {
+TEST(Statistics, RaiseTheErrorOfAnUnreadableOrUnwritableFile) {
     const test::TestFolder folder;
     EXPECT_EQ(test::RaisedBy([&] { SaveStatistics({}, folder / "none/stats.lst"); }), 76);
     test::AsOrdinaryUser(folder, [&] {

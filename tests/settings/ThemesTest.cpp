@@ -41,7 +41,7 @@ Settings Load(const std::string& path) {
     return settings;
 }
 
-// Contrast as the Web Content Accessibility Guidelines define it: 1 to 21.
+// Contrast by the Web Content Accessibility Guidelines, 1 to 21.
 double RelativeLuminance(const std::string& colour) {
     const auto channel = [&](std::size_t position) {
         const double value = std::stoi(colour.substr(position, 2), nullptr, 16) / 255.0;
@@ -55,7 +55,7 @@ double Contrast(const std::string& a, const std::string& b) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-TEST(Themes, TheFileOfTheDefaultsIsTheseLinesWithCrLf) {
+TEST(Themes, TheFileOfTheDefaultsHasTheseLines) {
     const TestFolder folder;
     Settings settings;
     settings.SetDefaults();
@@ -90,7 +90,7 @@ TEST(Themes, TheFileOfTheDefaultsIsTheseLinesWithCrLf) {
                                                "TableBorder=1\r\n");
 }
 
-TEST(Themes, MeasuresAreWrittenAsTheirBoxesHoldThem) {
+TEST(Themes, MeasuresAreWrittenAsTyped) {
     const TestFolder folder;
     ThemeContent content;
     content.tableWidth = "75.50";
@@ -101,7 +101,7 @@ TEST(Themes, MeasuresAreWrittenAsTheirBoxesHoldThem) {
     EXPECT_TRUE(bytes.ends_with("TableWidth=0/75.50\r\nTablePadding= 3\r\nTableBorder=abc\r\n")) << bytes;
 }
 
-TEST(Themes, AThemeReadBackGivesTheSettingsItWasMadeOfAndNoOthers) {
+TEST(Themes, ReadingAFileRestoresItsSettingsAndNoOthers) {
     const TestFolder folder;
     Settings written;
     written.SetDefaults();
@@ -112,7 +112,7 @@ TEST(Themes, AThemeReadBackGivesTheSettingsItWasMadeOfAndNoOthers) {
     WriteThemeFile(folder / "a.thm", ContentOf(written), {});
 
     Settings read;
-    read.FontHTML = true; // themes carry none of the four switches
+    read.FontHTML = true; // themes hold none of the four CSS and HTML switches
     read.ColourHTML = true;
     read.TableSpacing = 5;
     read.PageTitle = "kept";
@@ -130,7 +130,7 @@ TEST(Themes, AThemeReadBackGivesTheSettingsItWasMadeOfAndNoOthers) {
     EXPECT_EQ(faults.str(), "");
 }
 
-TEST(Themes, TheListHoldsFilesThatEndInThmInAnyCaseAndNoFolders) {
+TEST(Themes, TheListHoldsFilesEndingInThmInAnyCaseAndNoFolders) {
     const TestFolder folder;
     folder.Write("Themes/Dark.THM", "");
     folder.Write("Themes/Blue.thm", "");
@@ -141,7 +141,7 @@ TEST(Themes, TheListHoldsFilesThatEndInThmInAnyCaseAndNoFolders) {
     EXPECT_THAT(ListThemes(folder.Path()), UnorderedElementsAre("Dark", "Blue", "  Sky"));
 }
 
-TEST(Themes, AListedThemeIsFoundWhateverTheCaseOfItsExtension) {
+TEST(Themes, AListedThemeIsFoundWithItsExtensionInAnyCase) {
     const TestFolder folder;
     folder.Write("Themes/Dark.THM", "");
     folder.Write("Themes/Both.thm", "");
@@ -157,7 +157,7 @@ TEST(Themes, WithoutAFolderTheListIsEmpty) {
     EXPECT_TRUE(ListThemes(folder.Path()).empty());
 }
 
-TEST(Themes, NamesThatLeaveTheFolderOrCannotBeFileNamesAreRefused) {
+TEST(Themes, NamesThatAreNotPlainFileNamesAreInvalid) {
     for (const std::string& name :
          {std::string("a/b"), std::string("/"), std::string("../a"), std::string("."), std::string(".."),
           std::string("a\0b", 3), std::string(""), std::string("   "), std::string(252, 'x')}) {
@@ -168,7 +168,7 @@ TEST(Themes, NamesThatLeaveTheFolderOrCannotBeFileNamesAreRefused) {
     }
 }
 
-TEST(Themes, AFileThatCannotBeWrittenRaisesItsErrorAndLeavesTheOldOne) {
+TEST(Themes, AFailedWriteRaisesItsError) {
     const TestFolder folder;
     try {
         WriteThemeFile(folder / "none/a.thm", {}, {});
@@ -183,7 +183,7 @@ class ShippedThemes : public testing::Test {
     const std::vector<std::string> names = ListThemes(kShippedFolder);
 };
 
-TEST_F(ShippedThemes, AreAtLeastEightAmongThemADarkAndAHighContrastOne) {
+TEST_F(ShippedThemes, AreAtLeastEightWithADarkAndAHighContrastOne) {
     EXPECT_GE(names.size(), 8U);
     EXPECT_THAT(names, testing::IsSupersetOf({"Classic", "Midnight", "High Contrast"}));
     const Settings dark = Load(ThemePath(kShippedFolder, "Midnight"));
@@ -193,7 +193,7 @@ TEST_F(ShippedThemes, AreAtLeastEightAmongThemADarkAndAHighContrastOne) {
     }
 }
 
-TEST_F(ShippedThemes, AreExactlyWhatSavingThemWrites) {
+TEST_F(ShippedThemes, EqualTheirSavedCopies) {
     const TestFolder folder;
     for (const std::string& name : names) {
         const std::string path = ThemePath(kShippedFolder, name);
@@ -207,7 +207,7 @@ TEST_F(ShippedThemes, AreExactlyWhatSavingThemWrites) {
     }
 }
 
-TEST_F(ShippedThemes, SetEverythingThatAThemeCan) {
+TEST_F(ShippedThemes, SetEveryValueOfATheme) {
     for (const std::string& name : names) {
         const Settings theme = Load(ThemePath(kShippedFolder, name));
         for (const FontSetting& font : theme.Font) {
@@ -224,14 +224,13 @@ TEST_F(ShippedThemes, SetEverythingThatAThemeCan) {
     }
 }
 
-TEST_F(ShippedThemes, HaveAContrastOf4Point5ToOneInEveryTextAndLink) {
+TEST_F(ShippedThemes, HaveAContrastOf4Point5InEveryTextAndLink) {
     struct Pair {
         std::size_t text;
         std::size_t background;
         const char* where;
     };
-    // Without the style sheet's row class, alternate texts stand on the cells' background and the other way
-    // round.
+    // Without the row class of the style sheet, alternate text is on the cell background and vice versa.
     const std::vector<Pair> pairs = {
         {kPageText, kPageBackground, "page"},
         {kHeaderText, kHeaderBackground, "table headers"},
@@ -254,7 +253,7 @@ TEST_F(ShippedThemes, HaveAContrastOf4Point5ToOneInEveryTextAndLink) {
     }
 }
 
-TEST_F(ShippedThemes, HoldInClassicWhatTheProgramStartsWith) {
+TEST_F(ShippedThemes, IncludeTheDefaultsAsClassic) {
     Settings defaults;
     defaults.SetDefaults();
     Settings themed = defaults;
