@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Worked examples for the model itself, so that a comparison in which both sides err is less likely.
+"""Worked examples for the model, so that the model and the program are less likely to share an error.
 
 usage: ModelTest.py [TEST...]
 """
@@ -45,7 +45,7 @@ class ModelTest(unittest.TestCase):
         return self.path(name)
 
     def run_model(self, *lines, start=b""):
-        """A run over the folder `music` with these settings."""
+        """Runs the model on the folder `music` with these settings."""
         lines = [b"Directory=music", b"OutputFile=out/list.txt", b"ActiveColumns=Filename", *lines]
         self.write("prog/Tunedex.cfg", start + b"\r\n".join(lines))
         return Model(os.path.join(self.folder, "prog"), self.region, self.folder).run()
@@ -67,13 +67,13 @@ class ModelTest(unittest.TestCase):
                 result = self.run_model(b"ActiveColumns=" + active.encode(), b"Merge=2")
                 self.assertEqual(self.listing(result).split(b"\r\n")[0], header.encode("cp1252"))
 
-    def test_StrayBytesCountOneEachInTheMergeOfColumns(self):
+    def test_MergeOfColumnsCountsAStrayByteAsOneCharacter(self):
         self.write("music/a.mp3", AUDIO + id3v1())
         active = "Album|Title|\udcc4\udcd6\udcdc\udce4\udcf6\udcfc\udcdf|Artist|Year".encode("utf-8", "surrogatepass")
         result = self.run_model(b"ActiveColumns=" + active, b"Merge=2")
         self.assertEqual(self.listing(result).split(b"\r\n")[0], b"TitleArtistAlbumTitle\xf6\xfc\xdf\tYear")
 
-    def test_ThousandsSeparatorThatWindows1252LacksBecomesANoBreakSpace(self):
+    def test_ThousandsSeparatorOutsideWindows1252BecomesANoBreakSpace(self):
         for separator, text in [
             ("\u202f", "1\u00a0234\u00a0567 b."), (".", "1.234.567 b."), ("", "1234567 b."), ("’", "1’234’567 b."),
         ]:  # fmt: skip
@@ -95,7 +95,7 @@ class ModelTest(unittest.TestCase):
             with self.subTest(data):
                 self.assertEqual(own_lines(data), lines)
 
-    def test_SettingsBehindAByteOrderMarkAreRead(self):
+    def test_SettingsAfterAByteOrderMarkAreRead(self):
         self.write("music/a.mp3", AUDIO)
         result = self.run_model(start=b"\xef\xbb\xbf")
         self.assertEqual(self.listing(result), b"Filename\r\na.mp3\r\n")
@@ -107,7 +107,7 @@ class ModelTest(unittest.TestCase):
         self.write("café/b.mp3", AUDIO)
         for name, listed in [
             (b"caf\xed\xb3\xa9", b"a"),  # one stray byte
-            (b"caf\xe9", b"b"),  # no UTF-8, so Windows-1252
+            (b"caf\xe9", b"b"),  # not UTF-8, so Windows-1252
             (b"caf\xc3\xa9", b"b"),
             (b"caf\xed\xb3\x83\xed\xb2\xa9", b"b"),  # two stray bytes that form a character
         ]:
@@ -125,7 +125,7 @@ class ModelTest(unittest.TestCase):
     def test_LinesOfTheLogHoldNoLineBreaks(self):
         self.write(b"music/a\r\nb\rc\nd.mp3", b"no audio")
         result = self.run_model(b"ErrorLog=1")
-        # A CR LF is removed like those of the message; what is left becomes blanks.
+        # CR LF is removed, as in messages; a single CR or LF becomes a blank.
         line = b"An error occurred decoding the headers of: \\n\\nmusic/ab c d.mp3\r\n"
         self.assertEqual(self.listing(result, "prog/Tunedex.log"), line)
 
@@ -152,7 +152,7 @@ class ModelTest(unittest.TestCase):
         self.write("music/&.mp3", AUDIO)
         self.assertIn(b"&" * (1 << 20) + b".mp3", self.listing(self.doubled(20), "out/list.htm"))
 
-    def test_LongerExpansionIsAnErrorWhereItsCharacterIsMet(self):
+    def test_LongerExpansionIsAnErrorIfItsCharacterIsWritten(self):
         self.write("music/&.mp3", AUDIO)
         for times in (21, 40, 2000):
             with self.subTest(times):
@@ -161,7 +161,7 @@ class ModelTest(unittest.TestCase):
                 self.assertIn(("status", "Writing information..."), result.events)
                 self.assertNotIn(self.path("out/list.htm"), result.files)
 
-    def test_LongerExpansionIsNoErrorWhereItsCharacterIsNotShown(self):
+    def test_LongerExpansionIsNoErrorIfItsCharacterIsNotWritten(self):
         self.write("music/a.mp3", AUDIO + id3v1(b"&", b"&"))
         self.assertEqual(self.doubled(40).exit_status, 0)
 
@@ -172,7 +172,7 @@ class ModelTest(unittest.TestCase):
 
     # -- the output file
 
-    def test_OutputLinkToAFileOfMusicIsRefusedBeforeAnythingIsRead(self):
+    def test_OutputLinkToATrackIsRejectedBeforeAnythingIsRead(self):
         for name in ("a.mp3", "a.MP3", "a.mP3"):
             with self.subTest(name):
                 target = self.write("music/" + name, AUDIO)
@@ -181,7 +181,7 @@ class ModelTest(unittest.TestCase):
                 os.remove(self.path("out/list.txt"))
                 self.assertEqual((result.events, result.files, result.exit_status), ([ERROR_75], {}, 1))
 
-    def test_OutputLinkIsJudgedByTheLastFileItLeadsToAndByTheNameThatIsWritten(self):
+    def test_OutputLinkIsCheckedByItsFinalTargetUnderTheNameWithExtension(self):
         target = self.write("music/a.mp3", AUDIO)
         os.symlink(target, self.path("out/second"))
         os.symlink("second", self.path("out/list.htm"))
@@ -208,7 +208,7 @@ class ModelTest(unittest.TestCase):
 
     # -- the program folder
 
-    def test_ProgramFolderFollowsItsRules(self):
+    def test_ProgramFolderDependsOnRegistryLocationAndEnvironment(self):
         os.makedirs(self.path("usr/bin"))
         os.makedirs(self.path("usr/share/tunedex"))
         here = self.folder
@@ -222,7 +222,7 @@ class ModelTest(unittest.TestCase):
             with self.subTest((installation, executable)):
                 self.assertEqual(program_folder(installation, executable, environment), expected)
 
-    def test_NewDataFolderIsGivenTheShippedFilesAndAnOldOneNothing(self):
+    def test_OnlyANewDataFolderGetsTheShippedFiles(self):
         os.makedirs(self.path("share/Themes"))
         self.write("share/html_entities.lst", b"38\t&amp;")
         self.write("share/Themes/Dark.thm", b"AltRows=1")

@@ -1,13 +1,12 @@
 #!/usr/bin/env python3
-"""Runs the program and its model on random collections and settings and compares what they leave behind.
+"""Runs the program and its model on random collections and settings and compares the results.
 
-    compare.py PROGRAM                 a round of 60 cases
-    compare.py PROGRAM --seeds 5000    more of them, --first 1000 others
-    compare.py PROGRAM --seed 17       one case, kept for a look
+    compare.py PROGRAM                 60 cases, from seed 1
+    compare.py PROGRAM --seeds 5000    5000 cases; --first sets the first seed
+    compare.py PROGRAM --seed 17       one case, kept for inspection
 
-Compared are the listings and the log byte for byte, every other file and folder (which must be as before), the
-permissions of all files, the text on standard error, and the exit status. A case depends on its seed alone; only the
-order of the names in a folder is the file system's.
+Compares listings and log byte for byte, every other file and folder (which must be unchanged), the permissions of all
+files, standard error and the exit status. A case depends on its seed, and on the directory order of the file system.
 """
 
 import argparse
@@ -40,7 +39,7 @@ int clock_nanosleep(clockid_t clock, int flags, const struct timespec* wanted, s
 { (void)clock; (void)flags; (void)wanted; (void)left; return 0; }
 """
 
-# Texts of the progress display that the program is free to leave out when they would follow each other too fast.
+# Progress texts that the program may skip when they change too fast.
 FLEETING = re.compile(
     rb"(^|\[OK\] |\[No\] )(?:Retrieving MPEG/ID3 information \(\d+/\d+\)|Writing entry for file \d+/\d+)\.\.\.\n",
     re.MULTILINE,
@@ -52,7 +51,7 @@ TOO_LARGE_TO_READ = 4 << 20
 
 
 def build_no_sleep(folder):
-    """A library that takes the pause out of a run; without a compiler the pauses are sat through."""
+    """Builds a library that skips the pauses of a run; None without a compiler."""
     compiler = shutil.which("cc") or shutil.which("gcc") or shutil.which("gcc-12") or shutil.which("clang-14")
     if not compiler:
         return None
@@ -65,16 +64,16 @@ def build_no_sleep(folder):
 
 
 def permissions(path):
-    """What a file keeps when it is replaced: mode, access-control list and user attributes."""
+    """What a replacement keeps: mode, access-control list and user attributes."""
     try:
         attributes = {name: os.getxattr(path, name) for name in sorted(os.listxattr(path))}
     except OSError:
-        attributes = {}  # The file system has none.
+        attributes = {}  # The file system does not support them.
     return oct(stat.S_IMODE(os.stat(path).st_mode)), attributes
 
 
 def snapshot(folder, to_be_read=()):
-    """Everything below a folder: path -> what it is. Large files are read only where they are in `to_be_read`."""
+    """Maps each path below a folder to its kind and content. Large files are read only if they are in `to_be_read`."""
     found = {}
     pending = [os.fsencode(folder)]
     while pending:
@@ -108,7 +107,7 @@ def remove(folder):
 
 
 def printed(events):
-    """The lines of standard error for the events of the model. After REASON a line goes on with any reason."""
+    """The lines of standard error for the events of the model. REASON matches any text up to the line end."""
     out = b""
     for event in events:
         if event[0] == "status":
@@ -142,7 +141,7 @@ def same_lines(expected, actual):
 
 
 def region(settings):
-    """What the locale of these environment variables says now."""
+    """The region, at this moment, of the locale in these environment variables."""
 
     def in_force(category):
         for name in ("LC_ALL", category, "LANG"):
@@ -191,7 +190,7 @@ def model_outcome(case, before, now, folder, shipped):
 
 
 def make_data_folder(case, command, environment):
-    """An earlier run makes the data folder. Then the user deletes what it was given, and adds the files of the case."""
+    """Lets an earlier run make the data folder, then replaces the files in it by those of the case."""
     aside = os.path.join(case.root, "aside")
     os.rename(case.program_folder, aside)
     subprocess.run(command, cwd=case.root, env=environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
@@ -205,18 +204,18 @@ def make_data_folder(case, command, environment):
 
 
 def without_marks(found, folder):
-    """How the program remembers that it made its data folder is its own affair."""
+    """Leaves out the hidden files by which the program knows that it made its data folder."""
     marks = os.fsencode(folder) + b"/."
     return {path: what for path, what in found.items() if not path.startswith(marks)}
 
 
 @contextlib.contextmanager
 def locks(paths):
-    """Holds a lock of either kind on the files, as a run that is still writing them does."""
+    """Holds locks of both kinds on the files, as a run does that is still writing them."""
     handles = []
     try:
         for path in paths:
-            with contextlib.suppress(PermissionError):  # In a folder that nobody may enter.
+            with contextlib.suppress(PermissionError):  # In a folder that may not be entered.
                 handles.append(os.open(path, os.O_RDWR))
         for handle in handles:
             fcntl.flock(handle, fcntl.LOCK_EX)
@@ -228,7 +227,7 @@ def locks(paths):
 
 
 def place(program, executable):
-    """Puts the program where the case wants it."""
+    """Links or copies the program to the path of the case."""
     os.makedirs(os.path.dirname(executable), exist_ok=True)
     try:
         os.link(program, executable)
@@ -326,10 +325,10 @@ def main():
     parser.add_argument("program")
     parser.add_argument("--seeds", type=int, default=60, help="number of cases (60)")
     parser.add_argument("--first", type=int, default=1, help="the first seed (1)")
-    parser.add_argument("--seed", type=int, help="one case only, kept in the scratch folder")
-    parser.add_argument("--jobs", type=int, default=2, help="cases at a time (2)")
-    parser.add_argument("--with-pauses", action="store_true", help="let the program pause as it does for a user")
-    parser.add_argument("--scratch", help="folder for the cases; those that differ are kept in it")
+    parser.add_argument("--seed", type=int, help="run one case and keep it in the scratch folder")
+    parser.add_argument("--jobs", type=int, default=2, help="cases to run at once (2)")
+    parser.add_argument("--with-pauses", action="store_true", help="keep the pauses of the program")
+    parser.add_argument("--scratch", help="folder for the cases; cases that differ are kept")
     options = parser.parse_args()
     program = os.path.abspath(options.program)
     scratch = os.path.abspath(options.scratch) if options.scratch else tempfile.mkdtemp(prefix="tunedex-model-")
@@ -355,7 +354,7 @@ def main():
         shutil.rmtree(scratch, ignore_errors=True)
     print(f"{len(seeds)} cases, {listings} of them with a listing, {differing} with a difference")
     if len(seeds) >= 60 and listings < len(seeds) // 4:
-        print("Too few cases got as far as a listing for this to mean anything.")
+        print("Too few cases reached a listing for a meaningful result.")
         return 1
     return 1 if differing else 0
 

@@ -1,4 +1,4 @@
-"""Random collections, settings and tables for compare.py: mostly sound, often odd, sometimes broken."""
+"""Random collections, settings and tables for compare.py: mostly valid, often unusual, sometimes invalid."""
 
 import os
 import random
@@ -57,7 +57,7 @@ FACES = ["Arial", "Tahoma, Arial, sans-serif", "", "Times New Roman, serif", "é
 
 
 class Case:
-    """Writes one case into `root`: the program folder, the collection `music`, and what else the settings name."""
+    """Writes one case into `root`: the program folder, the collection `music`, and other files the settings name."""
 
     def __init__(self, seed, root):
         self.random = random.Random(seed)
@@ -68,7 +68,7 @@ class Case:
         # Most seeds avoid early failures, or few cases would reach a listing.
         self.tame = self.random.random() < 0.75
         self.breaks = self.chance(0.04)  # names with line breaks, whose errors are logged
-        self.leading_album = self.chance(0.04)  # columns that show in which unit the merge counts
+        self.leading_album = self.chance(0.04)  # columns that show whether the merge counts characters or bytes
         self.umask = self.pick([0o022] * 6 + [0o077, 0o027, 0o002])
         self._program()
         self._collection()
@@ -95,7 +95,7 @@ class Case:
             file.write(data)
 
     def marked(self, data):
-        """Now and then a byte-order mark at the start; a second one is text."""
+        """Sometimes adds a byte-order mark at the start; a second one is text."""
         if self.chance(0.08):
             return BYTE_ORDER_MARK * self.pick([1, 1, 1, 2]) + data
         return data
@@ -106,11 +106,11 @@ class Case:
     # -- where the program finds its folder
 
     def _program(self):
-        """Where the program is, and which of the rules leads to its folder."""
+        """Chooses the path of the program and the rule that determines its folder."""
         self.environment = {"HOME": self.root, "XDG_CONFIG_DIRS": os.path.join(self.root, "etc")}
-        self.executable = ""  # where the program is to be; empty for where it was built
+        self.executable = ""  # the path from which the program runs; empty for the built one
         self.installation_path = ""
-        self.in_data_folder = False  # whether the program folder is a data folder that exists already
+        self.in_data_folder = False  # whether the program folder is an existing data folder
         self.made_by_the_program = False  # whether an earlier run made it
         self.own_folders = ["prog", "conf", ".config", "etc", "app", "usr", ".local", "data"]
         self.program_folder = os.path.join(self.root, "prog")
@@ -160,7 +160,7 @@ class Case:
         self.write(os.path.join(folder, "Tunedex.conf"), text.encode())
 
     def _locale(self):
-        """The variables that choose the locale; the collection itself does not depend on them."""
+        """The locale's environment variables. The collection does not depend on them."""
         self.locale = {"LC_ALL": "C"}
         if self.chance(0.5):
             names = ["de_DE.UTF-8", "en_US.UTF-8", "fr_FR.UTF-8", "fr_FR.UTF-8", "C", "POSIX", "C.UTF-8", "xx_YY.UTF-8",
@@ -169,14 +169,14 @@ class Case:
             "LANG") if self.chance(0.5)}
 
     def _locks(self):
-        """What the user may not read or write; pointless for the superuser."""
+        """Removes permissions from files and folders. Without effect for the superuser."""
         own = tuple(os.fsencode(os.path.join(self.root, name)) for name in self.own_folders)
         for path, _, files in list(os.walk(os.fsencode(self.root), topdown=False)):
             if path.startswith(own):
                 continue
             for name in files:
                 if b"tunedex-" in name:
-                    continue  # Whether it is locked could not be found out.
+                    continue  # The model could not test its lock.
                 if self.chance(0.03) and os.path.isfile(os.path.join(path, name)):
                     if not os.path.islink(os.path.join(path, name)):
                         os.chmod(os.path.join(path, name), self.pick([0o444, 0o000]))
@@ -232,7 +232,7 @@ class Case:
             self._odd_entry(self.pick(self.folders))
 
     def _crowd(self, count):
-        """Many small files, whose tags often agree in all but case."""
+        """Many small files whose tags often differ only in case."""
         artists = [self.tag_text(30) for _ in range(5)]
         for i in range(count):
             tag = b"TAG" + self.tag_text(30)[:3].ljust(30) + self.pick(artists) + self.pick(artists) + bytes(35)
@@ -285,7 +285,7 @@ class Case:
             data += bytes([0xFF, 0xFB, 0x90, 0x64]) + bytes(self.random.randrange(300))
         self.write(path, data)
         if self.chance(0.25):
-            # Playing times need sizes; holes cost nothing.
+            # Long playing times need large files; sparse ones take no space.
             size = self.random.randrange(1, self.pick([100_000, 4_000_000, 30_000_000, 268_435_456]))
             if size > len(data):
                 with open(path, "r+b") as file:
@@ -325,14 +325,14 @@ class Case:
             return bytes([0xFF, self.pick([0xE0, 0xE1, 0xE2, 0xFB, 0xF3]), self.pick([0xEB, 0xEC, 0xEF, 0xF0, 0xE8, 0]),
                           self.random.randrange(256)])  # fmt: skip
         if self.chance(0.5):
-            # The tables, each of its rows in turn.
+            # Any row of the version, bitrate and frequency tables.
             second = self.pick([0xFB, 0xFA, 0xFD, 0xFF, 0xF3, 0xF2, 0xF5, 0xF7, 0xE3, 0xE2, 0xE5, 0xE7])
             third = self.random.randrange(15) << 4 | self.random.randrange(12)
             return bytes([0xFF, second, third, self.random.randrange(256)])
         return bytes([0xFF, 0xE0 | self.random.randrange(32), self.random.randrange(256), self.random.randrange(256)])
 
     def refused_header_before_a_cut_xing(self):
-        """A Xing header that is cut short fails for every candidate that gets as far as being read in full."""
+        """A truncated Xing header is an error for every candidate header that is read completely."""
         refused = self.pick([b"\xff\xe0\x90\x00", b"\xff\xe0\x90\x00", b"\xff\xfb\xec\x00", b"\xff\xe1\x90\x00",
             b"\xff\xfb\xeb\x00",
                              b"\xff\xe9\x90\x00", b"\xff\xdf\x90\x00"])  # fmt: skip
@@ -410,7 +410,7 @@ class Case:
             body += bytes(self.random.randrange(self.pick([10, 300])))
         size = len(body)
         if kind == 10:
-            # A tag that ends right before, at or right after the end of its last frame, with one more frame behind it.
+            # A tag that ends just before, at or just after the end of its last frame, followed by one more frame.
             body = b"TPE1\0\0\0\x05\0\0\0Abba"
             size = len(body) + self.pick([-1, 0, 1, 2])
             body += b"TIT2\0\0\0\x06\0\0\0After"
@@ -454,7 +454,7 @@ class Case:
         return text
 
     def columns_behind_an_album(self):
-        """A leading album makes the merge cut at the wrong position, and so within a name."""
+        """A leading Album makes the merge cut at the wrong position, inside a name."""
         columns = ["Artist", "Title", self.pick(UNKNOWN_COLUMNS), *self.random.choices(UNKNOWN_COLUMNS + ACTIVE, k=3)]
         self.random.shuffle(columns)
         return "|".join([self.pick(["Album", "Album", "ALBUM", "Foo", "é"]), *columns])
@@ -512,7 +512,7 @@ class Case:
         return path
 
     def _what_is_there_already(self, path):
-        """Now and then the output file, or a page of it, exists before: a file, a link or a folder."""
+        """Sometimes creates the output file, or a page of it, before the run: as a file, a link or a folder."""
         if not self.chance(0.25) or not os.path.isdir(os.path.dirname(path)) or len(os.path.basename(path)) > 240:
             return
         stem, extension = os.path.splitext(path)
@@ -539,7 +539,7 @@ class Case:
         if kind == 3:
             target = self._music_file()
         elif kind == 4:
-            # A second link in between: the last one counts.
+            # A chain of two links; the final target counts.
             between = os.path.join(root, self.pick([b"between", b"between.mp3"]))
             os.symlink(self.pick([target, self._music_file()]), between)
             target = between
@@ -547,7 +547,7 @@ class Case:
             target = os.path.join(root, self.pick([b"new.dat", b"missing/new.dat", b"music/new.mp3", os.path.basename(path), b"out"]))
         os.symlink(self.pick([target, os.path.relpath(target, os.path.dirname(path))]), path)
         if os.geteuid() == 0 and self.chance(0.2):
-            # A link of another user in a shared folder, which the kernel may refuse to follow.
+            # A link of another user in a sticky folder, which the kernel may refuse to follow.
             os.chown(path, NOBODY, NOBODY, follow_symlinks=False)
             os.chmod(os.path.dirname(path), 0o1777)
 
@@ -557,7 +557,7 @@ class Case:
         return path
 
     def _permissions(self, path):
-        """What a file is to keep when it is replaced: mode, access-control list and user attributes."""
+        """Sets what a replacement must keep: mode, access-control list and user attributes."""
         os.chmod(path, self.pick([0o644, 0o600, 0o640, 0o666, 0o755, 0o620]))
         try:
             if self.chance(0.2):
@@ -565,16 +565,16 @@ class Case:
             if self.chance(0.2):
                 os.setxattr(path, b"system.posix_acl_access", self.access_list())
         except OSError:
-            pass  # The file system has none.
+            pass  # The file system does not support them.
 
     def access_list(self):
-        """The owner writes, user 1234 and the group read."""
+        """An access-control list by which the owner writes, and user 1234 and the group read."""
         none = 0xFFFFFFFF
         entries = [(1, 6, none), (2, 4, 1234), (4, self.pick([0, 4]), none), (16, 4, none), (32, 0, none)]
         return struct.pack("<I", 2) + b"".join(struct.pack("<HHI", *entry) for entry in entries)
 
     def _abandoned_files(self):
-        """Temporary files of earlier runs, some of them too young to be removed, and names that are like theirs."""
+        """Temporary files of earlier runs, some too recent to be removed, and files with similar names."""
         for folder in (self.root, os.path.join(self.root, "out"), os.fsdecode(self.music), self.program_folder):
             if not self.chance(0.12) or not os.path.isdir(folder):
                 continue
@@ -650,7 +650,7 @@ class Case:
             "TableSpacing": lambda: self.number(["0", "1", "2"]),
         }
         if sorts_links:
-            # A sort leaves base folders where they are; only relative links show that.
+            # Sorting does not move base folders, which only relative links show.
             optional["DoLinks"] = lambda: "1"
             optional["LinkType"] = lambda: "2"
         for index in range(10):
@@ -676,10 +676,10 @@ class Case:
     def _in_some_encoding(self, line):
         text = line.decode("utf-8", "surrogateescape")
         if any(0xDC80 <= ord(character) <= 0xDCFF for character in text):
-            # As the settings writer would; left alone, the whole line is read as Windows-1252.
+            # As the program writes it; otherwise the whole line is read as Windows-1252.
             return text.encode("utf-8", "surrogatepass") if self.chance(0.75) else line
         if self.chance(0.15):
-            # Bytes that form characters again when they are read.
+            # Stray bytes that form characters when the line is read.
             return "".join(chr(byte if byte < 128 else 0xDC00 + byte) for byte in line).encode("utf-8", "surrogatepass")
         if self.chance(0.3):
             try:
@@ -739,19 +739,19 @@ class Case:
         self.write(path, self.marked(data))
 
     def repeated_entries(self):
-        """Replacements that double a character again and again: up to the limit, past it, and far past it."""
+        """Entries that double a character repeatedly: up to the limit, past it and far past it."""
         if self.chance(0.5):
-            # Characters that are frequent, and so with short expansions.
+            # Frequent characters, with short expansions.
             code, times = self.pick([38, 97, 66, 32]), self.pick([1, 5, 10])
         else:
-            # Characters that are rare, for expansions of a megabyte: 2^20 bytes are allowed.
+            # Rare characters, with expansions around the limit of 2^20 bytes.
             code, times = self.pick([1, 127, 129]), self.pick([19, 20, 21])
             if self.chance(0.6):
                 code, times = self.pick([38, 62, 97, 46, 32, 103, 101]), self.pick([21, 40, 64, 200])
         character = bytes([code])
         entries = [b"%d\t%s" % (code, character * 2)] * times
         if self.chance(0.2):
-            # The second character of a pair takes over.
+            # Two characters that each double into the other.
             entries = [b"%d\t12" % code, b"49\t22", b"50\t11"] + [b"49\t22", b"50\t11"] * (times // 2)
         if self.chance(0.2):
             entries.append(b"%d\t%s" % (code, self.pick([b"", b"x", b"&amp;"])))

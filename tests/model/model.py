@@ -2,7 +2,7 @@
 
 The model is slow and literal: it predicts the messages, the bytes of every file written, the files removed and the
 exit status. compare.py runs it and the program on the same collections and settings. Write it from the description of
-the behaviour, never from the program's sources: where the two differ, one of them is wrong.
+the behaviour, never from the program's sources, so that a difference means that one of them is wrong.
 
 The model reads the disk but never changes it. Texts are Python strings; a byte that is not UTF-8 is a lone surrogate
 ("surrogateescape").
@@ -75,7 +75,7 @@ def file_error(error):
 
 
 class FaultyLine(Exception):
-    """A line of a settings or entity file that is passed over."""
+    """An invalid line of a settings or entity file, which is skipped."""
 
 
 # ---------------------------------------------------------------------------------------------------------- text
@@ -108,7 +108,7 @@ def from_disk(data):
 
 
 def settled(text):
-    """Stray bytes that have become neighbours may form a character."""
+    """Decodes the text again, because adjacent stray bytes may form a character."""
     return from_disk(to_disk(text))
 
 
@@ -135,7 +135,7 @@ def is_stray(character):
 
 
 def encode_listing(text, missing):
-    """Windows-1252; `missing` makes the text for a character that it lacks."""
+    """Windows-1252; `missing` returns the text for a character outside it."""
     out = bytearray()
     for character in settled(text):
         if is_stray(character):
@@ -161,7 +161,7 @@ def encode_text_listing(text):
 
 
 def encode_own_line(text):
-    """A line of one of the program's own files, such as the log."""
+    """Encodes a line of one of the program's own files, such as the log."""
     text = settled(text)
     if all(character in TO_CODE_PAGE for character in text):
         data = bytes(TO_CODE_PAGE[character] for character in text)
@@ -182,7 +182,7 @@ def decode_own_line(line):
 
 
 def decode_settings_line(line):
-    """In settings files the lone surrogates U+DC80 to U+DCFF stand for stray bytes."""
+    """Settings files hold stray bytes as the lone surrogates U+DC80 to U+DCFF."""
     try:
         text = line.decode("utf-8", "surrogatepass")
     except UnicodeDecodeError:
@@ -212,7 +212,7 @@ def leading_number(text):
 
 
 def whole_number(text):
-    """The number that a text wholly is, else a type mismatch."""
+    """The number that the whole text is; anything else is a type mismatch."""
     match = WHOLLY.match(text)
     if not match:
         raise RunTimeError(13)
@@ -233,7 +233,7 @@ def two_digits(number):
 
 
 class Region:
-    """What the environment's locale says about dates, times and numbers."""
+    """Dates, times and number formats of the environment's locale."""
 
     def __init__(self, date="", time="", thousands=",", point="."):
         self.date = date
@@ -242,7 +242,7 @@ class Region:
         self.point = point
 
     def grouped(self, number):
-        # Listings are Windows-1252: a separator that it lacks (U+202F in French) becomes a no-break space.
+        # A separator outside Windows-1252, such as U+202F in French, becomes a no-break space.
         sound = all(character in TO_CODE_PAGE for character in self.thousands)
         return f"{number:,}".replace(",", self.thousands if sound else "\u00a0")
 
@@ -505,7 +505,7 @@ def read_id3v1(track, settings):
 
 
 def detect_id3v2(track):
-    """Whether there is a tag, and where the search for a frame header starts."""
+    """Returns whether there is a tag, and the position where the search for a frame header starts."""
     try:
         with Bytes(track.full_path) as file:
             if file.read(1, 3) != b"ID3":
@@ -546,7 +546,7 @@ def read_id3v2(track, search_position, settings):
 
 
 def decode_header(track, search_position):
-    """Fills the five fields; the seconds to add are returned."""
+    """Fills the five audio fields and returns the duration in seconds."""
     with Bytes(track.full_path) as file:
         position = search_position
         while True:
@@ -640,9 +640,9 @@ def program_folder(installation_path, executable, environment):
 
 
 class Model:
-    """One unattended run in `current_folder`; the first `answers` messages get one, Yes where there is a choice.
+    """One unattended run in `current_folder`. The first `answers` messages are answered, with Yes if they offer it.
 
-    `shipped` is the folder of the files that a new program folder is given; empty when it is given none.
+    `shipped` is the folder of the files that are copied to a new program folder; empty if none are.
     """
 
     def __init__(self, folder, region, current_folder, answers=0, shipped=""):
@@ -682,7 +682,7 @@ class Model:
     # -- helpers
 
     def _message(self, text, buttons, title):
-        """Whether the answer was Yes; at the end of the answers it is No."""
+        """Returns whether the answer was Yes; without an answer it is No."""
         answered = self.answers > 0
         self.answers -= 1
         self.result.events.append(("message", title, text, buttons, answered))
@@ -701,7 +701,7 @@ class Model:
         self.result.files[self._absolute(path)] = data
 
     def _own_file(self, path, decode=decode_own_line):
-        """The lines of one of the program's own files; none when there is no such file."""
+        """The lines of one of the program's own files; None if there is no such file."""
         data = self.result.files.get(self._absolute(path))
         if data is None:
             if not os.path.exists(to_disk(path)):
@@ -711,7 +711,7 @@ class Model:
         return own_lines(data, decode)
 
     def _check_writable(self, path):
-        """Raises the error that opening the file for writing raises, if any. The kernel follows links."""
+        """Raises the error of opening the file for writing, if any. The kernel follows links."""
         try:
             os.close(os.open(to_disk(path), os.O_WRONLY | os.O_NONBLOCK))
         except FileNotFoundError:
@@ -738,7 +738,7 @@ class Model:
         self._remove_abandoned_files(os.path.dirname(self._absolute(path)))
 
     def _remove_abandoned_files(self, folder):
-        """Temporary files that an earlier run left in the folder of a listing."""
+        """Removes the temporary files that an earlier run left in the folder of a listing."""
         if not os.path.isdir(folder) or not os.access(folder, os.R_OK | os.W_OK | os.X_OK):
             return
         for entry in os.scandir(folder):
@@ -763,7 +763,7 @@ class Model:
         return os.path.realpath(os.path.join(to_disk(self.current_folder), to_disk(path)))
 
     def _create_folder(self, path):
-        """Remembers what would be created; the program is still to run and must find nothing done."""
+        """Records the folder as created. The disk stays unchanged, because the program runs after the model."""
         whole = self._absolute(path)
         if len(os.path.basename(whole)) > 255:
             raise RunTimeError(52)
@@ -790,7 +790,7 @@ class Model:
     # -- the program's own files
 
     def _make_program_folder(self):
-        """A new data folder is given the shipped files, once; later nothing is copied."""
+        """Copies the shipped files to a new data folder, never to an existing one."""
         if self.shipped == "" or os.path.isdir(to_disk(self.app_folder)):
             return
         missing = self._absolute(self.app_folder)
@@ -880,8 +880,8 @@ class Model:
         return text
 
     def _expands_too_far(self, character):
-        """Whether the character's expansion exceeds the limit after any of the slots. Lengths are computed from the
-        number of each character, because an expansion that is refused may have 2^40 bytes."""
+        """Whether the character's expansion exceeds the limit after any of the slots. Counts characters instead of
+        building the text, because a rejected expansion may have 2^40 bytes."""
         counts = Counter({character: 1})
         for code, replacement in self.entities:
             replaced = counts.pop(CODE_PAGE[code], 0)
@@ -905,7 +905,7 @@ class Model:
             self._message("An error occurred " + template, OK_EXCLAMATION, ERROR_TITLE)
         if self.settings.ErrorLog:
             template = template.replace("\r\n", "")
-            # One line an error, whatever line breaks its names hold.
+            # One line per error, even if a name holds line breaks.
             template = template.replace("\r", " ").replace("\n", " ")
             self.log.append(encode_own_line("An error occurred " + template))
 
@@ -1009,7 +1009,7 @@ class Model:
                 current += "/"
             state["folder"] = current
             if self._absolute(current) in self.result.folders:
-                continue  # Created for the listing, and empty.
+                continue  # Created for the listing, so empty.
             try:
                 what = os.stat(to_disk(current))
                 if (what.st_dev, what.st_ino) in seen:
