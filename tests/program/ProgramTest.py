@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Runs the built program as its users do: whole, unattended, without a display.
+"""Runs the built program as users do: whole runs, unattended, without a display.
 
 usage: ProgramTest.py --list                 prints the names of the tests
-       ProgramTest.py PROGRAM [TEST...]      runs them; 77 when all of them were skipped
+       ProgramTest.py PROGRAM [TEST...]      runs the tests; exit status 77 if all were skipped
 """
 
 import contextlib
@@ -50,7 +50,7 @@ def locale_installed(name):
 
 class ProgramTest(unittest.TestCase):
     def setUp(self):
-        # Not below the build folder: an ordinary user must get there too.
+        # Outside the build folder, which an ordinary user may not be able to enter.
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tunedex-test-"))
         self.addCleanup(self.remove)
         self.folder.chmod(0o755)
@@ -74,7 +74,7 @@ class ProgramTest(unittest.TestCase):
         shutil.rmtree(self.folder)
 
     def register(self, folder, installation=None):
-        """Names the program's folder in a registry that is kept in that folder."""
+        """Writes a registry with the installation path into `folder`."""
         (folder / "Corvale Works").mkdir(parents=True)
         (folder / "Corvale Works/Tunedex.conf").write_text(
             f'[General]\nInstallationPath="{installation or self.installation}"\n', encoding="utf-8")
@@ -109,7 +109,7 @@ class ProgramTest(unittest.TestCase):
                               env=self.environment("user" in options, **variables), **options)
 
     def program(self):
-        """The program, where an ordinary user can start it."""
+        """A copy of the program that an ordinary user can start."""
         copy = self.folder / "bin/tunedex"
         if not copy.exists():
             copy.parent.mkdir()
@@ -126,31 +126,31 @@ class ProgramTest(unittest.TestCase):
             position = found + len(part)
 
     def rows(self, path=None):
-        """The lines of the listing below its header."""
+        """The lines of the listing without its header."""
         lines = (path or self.list).read_bytes().split(b"\r\n")
         self.assertEqual(lines.pop(), b"", "a listing ends with a line end")
         return lines[1:]
 
-    # What a run gives
+    # Results of a run
 
-    def test_writes_the_list_and_says_so_on_standard_error_alone(self):
+    def test_writes_the_list_and_reports_only_on_standard_error(self):
         self.track("b.mp3", "Zappa", "Peaches")
         self.track("sub/a.MP3", "Abba", "Ring")
         self.expect(self.run_program(), 0, *[status + b"\n" for status in STATUSES])
         self.assertEqual(self.list.read_bytes(), b"Artist\tTitle\r\nAbba\tRing\r\nZappa\tPeaches\r\n")
 
-    def test_finds_its_switch_in_any_case_and_inside_a_longer_word(self):
+    def test_finds_its_switch_in_any_case_and_inside_an_argument(self):
         self.track("a.mp3")
         for argument in ("/auto", "x/AutoY"):
             self.expect(self.run_program("some.cfg", argument), 0)
 
-    def test_says_that_there_is_no_display_and_could_not_start(self):
+    def test_fails_to_start_without_a_display(self):
         self.expect(self.run_program("some.cfg"), 2, b"display")
 
     def paths(self):
         return sorted(self.folder.rglob("*"))
 
-    def test_prints_help_and_version_and_starts_nothing(self):
+    def test_prints_help_and_version_without_starting(self):
         shutil.rmtree(self.folder / "config")
         self.program()
         before = self.paths()
@@ -164,12 +164,12 @@ class ProgramTest(unittest.TestCase):
         with open("/dev/full", "wb") as full:
             self.assertEqual(subprocess.run([self.program(), "--help"], stdout=full, check=False).returncode, 2)
 
-    def test_takes_help_for_an_option_only_where_it_is_the_single_argument(self):
+    def test_reads_help_as_an_option_only_as_the_single_argument(self):
         self.track("a.mp3")
         self.expect(self.run_program("--help", "/AUTO"), 0, *STATUSES)
         self.expect(self.run_program("--Help"), 2, b"display")
 
-    def test_names_the_display_that_leads_nowhere_and_how_to_do_without(self):
+    def test_names_the_unusable_display_and_the_command_without_one(self):
         self.track("a.mp3")
         self.write_settings()
         self.program()
@@ -189,7 +189,7 @@ class ProgramTest(unittest.TestCase):
                     self.assertEqual(result.stderr.decode(), expected)
                     self.assertEqual(self.paths(), before)
 
-    def test_gives_the_same_bytes_twice(self):
+    def test_writes_the_same_bytes_twice(self):
         for number in range(40):
             self.track(f"folder {number % 5}/{number}.mp3", f"Ärtist {number * 7 % 40}", f"Title {number % 3}")
         for name in ("list.txt", "list.m3u", "list.htm"):
@@ -226,21 +226,21 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(sorted(lines[2::2]), sorted(os.fsencode(self.music) + b"/" + name for name in names))
         self.assertTrue(lines[1].endswith("Té".encode()), "one encoding throughout: UTF-8 here")
 
-    # Settings and texts that no code page holds
+    # Settings and texts outside the code page
 
-    def test_lists_a_folder_whose_name_is_no_utf8(self):
+    def test_lists_a_folder_whose_name_is_not_utf8(self):
         folder = os.fsencode(self.music) + b"/caf\xe9"
         os.mkdir(folder)
         pathlib.Path(os.fsdecode(folder + b"/a.mp3")).write_bytes(audio() + id3v1(b"T"))
         self.settings.update(ActiveColumns="Folder Path")
-        # In a settings file a stray byte is a lone surrogate: E9 is U+DCE9.
+        # In a settings file a stray byte is written as a lone surrogate, E9 as U+DCE9.
         lines = "".join(f"{key}={value}\r\n" for key, value in self.settings.items() if key != "Directory")
         lines = lines.encode() + b"Directory=" + folder.replace(b"\xe9", b"\xed\xb3\xa9") + b"\r\n"
         (self.installation / "Tunedex.cfg").write_bytes(b"\xef\xbb\xbf" + lines)
         self.expect(self.run_program(settings=False), 0)
         self.assertEqual(self.rows(), [folder])
 
-    def test_logs_one_line_an_error(self):
+    def test_logs_one_line_per_error(self):
         path = self.music / "two\nlines\r.mp3"
         path.write_bytes(b"no frame")
         self.settings.update(ErrorWarnings=0, ErrorLog=1)
@@ -249,7 +249,7 @@ class ProgramTest(unittest.TestCase):
                          rb"An error occurred decoding the headers of: \n\n" +
                          os.fsencode(self.music) + b"/two lines .mp3\r\n")
 
-    def test_references_no_character_that_a_page_may_not_hold(self):
+    def test_writes_no_reference_to_a_character_that_pages_may_not_hold(self):
         self.track("\ufffe\uffff\ufffd.mp3")
         self.settings.update(OutputFile=self.out / "list.htm", ActiveColumns="Filename", DoLinks=1)
         self.expect(self.run_program(), 0)
@@ -274,9 +274,9 @@ class ProgramTest(unittest.TestCase):
                         b"Error number 6 - Overflow\n[OK] ")
             self.assertEqual((self.out / "list.htm").read_bytes(), b"old")
 
-    def test_reports_want_of_memory_for_the_entity_table(self):
+    def test_reports_error_7_if_the_entity_table_exceeds_memory(self):
         if surroundings.sanitizer_of(PROGRAM):
-            self.skipTest("a sanitizer needs more address space than this test leaves")
+            self.skipTest("a sanitizer needs more address space than this test allows")
         self.track("a.mp3")
         with open(self.installation / "html_entities.lst", "wb") as table:
             table.truncate(4 << 30)
@@ -286,13 +286,13 @@ class ProgramTest(unittest.TestCase):
 
     # Numbers and dates
 
-    def test_uses_the_formats_of_no_country_by_default(self):
+    def test_uses_neutral_number_formats_in_the_c_locale(self):
         self.track("a.mp3")
         self.settings.update(ActiveColumns="File Size")
         self.expect(self.run_program(LC_ALL="C"), 0)
         self.assertEqual(self.rows(), [b"8,320 b."])
 
-    def test_separates_french_thousands_by_a_no_break_space_in_every_listing(self):
+    def test_groups_french_thousands_with_a_no_break_space_in_every_listing(self):
         if not locale_installed("fr_FR.utf8"):
             self.skipTest("the locale fr_FR.UTF-8 is not installed")
         self.track("a.mp3")
@@ -322,20 +322,20 @@ class ProgramTest(unittest.TestCase):
 
     # Messages and answers
 
-    def test_answers_itself_with_no_at_the_end_of_standard_input(self):
+    def test_answers_no_at_the_end_of_standard_input(self):
         self.track("a.mp3")
         self.settings["OutputFile"] = self.out / "new/list.txt"
         self.expect(self.run_program(), 1, AUTOMATIC +
                     b"The output directory does not exist!\n\nDo you want to create it?\nYes or No? [No] \n")
         self.assertFalse((self.out / "new").exists())
 
-    def test_creates_the_output_folder_when_told_yes(self):
+    def test_creates_the_output_folder_on_yes(self):
         self.track("a.mp3")
         self.settings["OutputFile"] = self.out / "new/er/list.txt"
         self.expect(self.run_program(answers=b"y\n"), 0)
         self.assertTrue((self.out / "new/er/list.txt").exists())
 
-    def test_creates_nothing_when_told_no(self):
+    def test_creates_nothing_on_no(self):
         self.track("a.mp3")
         self.settings["OutputFile"] = self.out / "new/list.txt"
         self.expect(self.run_program(answers=b"n\ny\n"), 1)
@@ -348,7 +348,7 @@ class ProgramTest(unittest.TestCase):
                                 timeout=240, check=False, env=self.environment())
         self.expect(result, 1, b"The specified directory does not exist!\n[OK] \n")
 
-    def test_says_what_is_wrong_and_exits_with_one(self):
+    def test_reports_invalid_settings_with_exit_status_1(self):
         rows = [({"Directory": ""}, b"No input directory specified!"),
                 ({"Directory": "%MULT%"}, b"No input directories specified!"),
                 ({"Directory": self.folder / "none"}, b"The specified directory does not exist!"),
@@ -362,13 +362,13 @@ class ProgramTest(unittest.TestCase):
         self.expect(self.run_program(), 1, b"No MP3 files!\nNo MP3 files were found\nin the directory specified.\n")
         self.assertFalse(self.list.exists())
 
-    def test_reports_malformed_statistics_and_goes_on(self):
+    def test_reports_malformed_statistics_and_continues(self):
         self.track("a.mp3")
         (self.installation / "stats.lst").write_bytes(b"rubbish\r\n")
         self.expect(self.run_program(), 0, AUTOMATIC + b"An unexpected error occurred. The error was: \n\n"
                     b"Error number 62 - Input past end of file\n[OK] ")
 
-    def test_names_file_and_line_of_faulty_settings_and_entities(self):
+    def test_names_file_and_line_of_invalid_settings_and_entities(self):
         self.track("a.mp3", "A & B")
         self.settings.update(OutputFile=self.out / "list.htm")
         self.write_settings()
@@ -381,11 +381,11 @@ class ProgramTest(unittest.TestCase):
                     os.fsencode(self.installation) + b"/html_entities.lst:1: line skipped: no TAB in it\n")
         self.assertIn(b"A &amp; B", (self.out / "list.htm").read_bytes())
 
-    def test_cannot_start_with_settings_that_cannot_be_read(self):
+    def test_fails_to_start_with_unreadable_settings(self):
         os.mkfifo(self.installation / "Tunedex.cfg")
         self.expect(self.run_program(settings=False), 2, b"could not start: File not found")
 
-    def test_ends_where_the_input_never_ends_a_line(self):
+    def test_ends_with_an_input_that_never_ends_a_line(self):
         self.track("a.mp3")
         self.settings["OutputFile"] = self.out / "new/list.txt"
         with open("/dev/zero", "rb") as zeros:
@@ -400,7 +400,7 @@ class ProgramTest(unittest.TestCase):
         self.assertTrue((self.out / "new/list.txt").exists())
 
     def start(self, stdin=subprocess.PIPE, stderr=subprocess.PIPE, **options):
-        """Starts an unattended run that reports each of 200 files, and needs an answer each time."""
+        """Starts an unattended run that reports each of 200 files and needs an answer to each report."""
         for number in range(200):
             (self.music / f"{number}.mp3").write_bytes(b"no audio" * 500)
         self.list.write_bytes(b"old")
@@ -422,11 +422,11 @@ class ProgramTest(unittest.TestCase):
 
     @staticmethod
     def unread(pipe):
-        """How many bytes are in a pipe."""
+        """The number of bytes in a pipe."""
         return struct.unpack("i", fcntl.ioctl(pipe, termios.FIONREAD, bytes(4)))[0]
 
     def expect_abort(self, process):
-        """The answer comes within 0.1 s on an idle machine."""
+        """Expects the abort within 10 s; an idle machine takes 0.1 s."""
         process.send_signal(signal.SIGTERM)
         self.assertEqual(process.wait(10), 1)
         self.assertEqual(self.list.read_bytes(), b"old")
@@ -441,7 +441,7 @@ class ProgramTest(unittest.TestCase):
             self.assertNotIn(b"Operation complete!", said)
             self.assertEqual(self.list.read_bytes(), b"old")
 
-    def test_goes_on_after_a_signal_that_was_ignored_when_it_started(self):
+    def test_continues_after_a_signal_that_it_inherited_as_ignored(self):
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
             process = self.start(preexec_fn=lambda number=number: signal.signal(number, signal.SIG_IGN))
             self.wait_for_question(process.stderr.fileno())
@@ -451,7 +451,7 @@ class ProgramTest(unittest.TestCase):
             self.assertIn(b"Operation complete!", said)
             self.assertNotEqual(self.list.read_bytes(), b"old")
 
-    def test_is_aborted_while_nobody_reads_a_full_standard_error(self):
+    def test_is_aborted_while_standard_error_is_a_full_pipe(self):
         reader, writer = os.pipe()
         self.addCleanup(os.close, reader)
         fcntl.fcntl(writer, fcntl.F_SETPIPE_SZ, 2 * resource.getpagesize())
@@ -459,7 +459,7 @@ class ProgramTest(unittest.TestCase):
         with open(self.folder / "answers", "rb") as answers:
             process = self.start(answers, writer)
         os.close(writer)
-        while self.unread(reader) <= resource.getpagesize():  # both pages in use: it takes no more
+        while self.unread(reader) <= resource.getpagesize():  # full once both pages are in use
             self.assertIsNone(process.poll())
         self.expect_abort(process)
 
@@ -475,7 +475,7 @@ class ProgramTest(unittest.TestCase):
             self.assertIsNone(process.poll())
         self.expect_abort(process)
 
-    # Collections that are not what one expects
+    # Unusual collections
 
     def test_never_opens_a_fifo_named_like_a_track(self):
         self.track("a.mp3", "Abba")
@@ -514,7 +514,7 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(len(self.rows()), 1)
         self.assertTrue(self.rows()[0].startswith(b"Abba\t"), self.rows())
 
-    def test_goes_on_after_a_folder_that_may_not_be_read(self):
+    def test_continues_after_an_unreadable_folder(self):
         self.track("a.mp3", "Abba")
         closed = self.music / "closed"
         closed.mkdir()
@@ -542,23 +542,23 @@ class ProgramTest(unittest.TestCase):
             self.assertEqual(content.count(b"\t" + folder_and_name + b"\r\n"), 1, folder_and_name)
         self.assertGreaterEqual(content.count(b"\r\n"), expected + 1)
 
-    # What may not be written
+    # Files that cannot be written
 
-    def test_keeps_what_was_there_when_the_output_folder_takes_nothing(self):
+    def test_writes_nothing_to_a_read_only_output_folder(self):
         self.track("a.mp3")
         self.out.chmod(0o555)
         self.expect(self.run_program(ordinary=True), 1, b"Error\nAn unexpected error occurred. The error was: \n\n"
                     b"Error number 75 - Path/File access error\n[OK] ")
         self.assertEqual(list(self.out.iterdir()), [])
 
-    def test_replaces_a_writable_list_in_a_folder_that_takes_no_new_files(self):
+    def test_replaces_a_writable_list_in_a_read_only_folder(self):
         self.track("a.mp3", "Abba")
         self.list.write_bytes(b"old " * 1000)
         self.out.chmod(0o555)
         self.expect(self.run_program(ordinary=True), 0)
         self.assertEqual(self.rows(), [b"Abba\tTitle"])
 
-    def test_never_replaces_a_list_that_may_not_be_written(self):
+    def test_never_replaces_a_read_only_list(self):
         self.track("a.mp3")
         self.list.write_bytes(b"old")
         self.list.chmod(0o444)
@@ -597,9 +597,9 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual((self.out / "list.m3u").read_bytes(), b"old")
         self.assertEqual(list(self.out.iterdir()), [self.out / "list.m3u"])
 
-    # Where the program keeps its files
+    # The program folder
 
-    def test_runs_from_wherever_it_was_copied_with_its_own_folder(self):
+    def test_runs_from_any_folder_as_its_program_folder(self):
         self.track("a.mp3", "Abba")
         elsewhere = self.folder / "else where"
         elsewhere.mkdir()
@@ -612,7 +612,7 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual((elsewhere / "Tunedex.log").read_bytes(), b"")
         self.assertFalse((self.folder / "home/.local").exists())
 
-    def test_uses_the_users_data_folder_where_its_own_cannot_be_written(self):
+    def test_uses_the_users_data_folder_if_its_own_is_read_only(self):
         shutil.rmtree(self.folder / "config")
         self.program().parent.chmod(0o555)
         data = self.folder / "data/tunedex"
@@ -622,7 +622,7 @@ class ProgramTest(unittest.TestCase):
             self.assertEqual((data / name).read_bytes(), (SOURCE / "data" / name).read_bytes())
         self.assertEqual(sorted(path.name for path in (data / "Themes").glob("*")),
                          sorted(path.name for path in (SOURCE / "data/Themes").glob("*.thm")))
-        # Filled once, it is the user's.
+        # The folder is filled once and then left to the user.
         (data / "tips.lst").write_bytes(b"mine")
         self.track("a.mp3", "Abba")
         self.write_settings(data)
@@ -630,13 +630,13 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual((data / "tips.lst").read_bytes(), b"mine")
         self.assertEqual(self.rows(), [b"Abba\tTitle"])
 
-    def test_uses_the_data_folder_in_the_users_home_without_a_variable(self):
+    def test_uses_the_data_folder_in_home_without_xdg_data_home(self):
         shutil.rmtree(self.folder / "config")
         self.program().parent.chmod(0o555)
         self.expect(self.run_program(ordinary=True, settings=False), 1)
         self.assertTrue((self.folder / "home/.local/share/tunedex/tips.lst").exists())
 
-    def test_cannot_start_where_no_folder_can_be_made(self):
+    def test_fails_to_start_if_no_folder_can_be_created(self):
         shutil.rmtree(self.folder / "config")
         self.program().parent.chmod(0o555)
         (self.folder / "home").chmod(0o555)
@@ -648,7 +648,7 @@ class ProgramTest(unittest.TestCase):
         shutil.rmtree(self.folder / "config")
         self.register(self.folder / "etc")
         self.expect(self.run_program(), 0)
-        # The user's own registry comes first.
+        # The user's own registry takes precedence.
         (self.folder / "mine").mkdir()
         self.register(self.folder / "config", self.folder / "mine")
         self.expect(self.run_program(), 1, b"No input directory specified!")
