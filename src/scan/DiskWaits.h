@@ -1,20 +1,22 @@
-// Whether a thread has to wait for what it reads.
+// Detects whether a thread blocks on disk I/O.
 #pragma once
 
 #include <cstdint>
 
 namespace tunedex {
 
-// How often the calling thread has given up the processor by itself. Time alone would not tell a slow disk
-// from a busy processor; but who finds everything in memory has nothing to wait for.
+// Voluntary context switches of the calling thread so far. Elapsed time does not tell a slow disk from a busy
+// CPU; a thread that finds its data in the page cache does not switch voluntarily.
 std::int64_t WaitsOfThread();
 
-// Tells whether many of the folders that a thread lists come from the disk.
+// Detects that the folders a thread lists come from disk and not from the page cache. Create and use it on
+// that thread.
 class WaitDetector {
   public:
     WaitDetector() : waitsBefore_(WaitsOfThread()) {}
 
-    // One more folder has been listed. True once in a few dozen, if many of those came from the disk.
+    // Call after each listed folder. Returns true at the end of a window of folders in which the thread
+    // blocked often, false at all other calls.
     bool ManyWaits();
 
   private:

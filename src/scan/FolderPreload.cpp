@@ -27,7 +27,7 @@ void FolderPreload::Start(const std::vector<std::string>& pending) {
         while (threads_.size() < kThreads) {
             threads_.emplace_back([this] { Run(); });
         }
-    } catch (const std::exception&) { // no thread, or no memory for one: fewer will do
+    } catch (const std::exception&) { // out of threads or memory: fewer workers do
     }
 }
 
@@ -80,7 +80,7 @@ void FolderPreload::Run() {
             pending_.insert(pending_.end(), std::make_move_iterator(found.begin()),
                             std::make_move_iterator(found.end()));
         } catch (const std::bad_alloc&) {
-            return; // the walk needs the memory more
+            return; // out of memory: leave what there is to the walk
         }
         if (found.size() > 1) {
             changed_.notify_all();
@@ -88,7 +88,7 @@ void FolderPreload::Run() {
     }
 }
 
-// Threads in each other's way do more harm than good where there is nothing to load.
+// With nothing to load, the workers only contend with the walk for the directory locks and the CPU.
 void FolderPreload::Judge(bool waited) {
     constexpr int kFolders = 64;
     constexpr int kFew = 16;
@@ -99,8 +99,8 @@ void FolderPreload::Judge(bool waited) {
     }
 }
 
-// Reads the folder to its end: that loads it. Links are the walk's to follow, or there would be no end to
-// it.
+// Reading a folder to its end loads it into the page cache. Symbolic links are skipped: only the walk
+// remembers visited folders, so the workers could loop for ever.
 std::vector<std::string> FolderPreload::SubFolders(const std::string& folder) const {
     std::vector<std::string> found;
     FolderStream stream(folder);
@@ -115,7 +115,7 @@ std::vector<std::string> FolderPreload::SubFolders(const std::string& folder) co
                                 PathStyle::Native().separator);
             }
         }
-    } catch (const std::exception&) { // the walk will see for itself
+    } catch (const std::exception&) { // the walk meets the same error and reports it
     }
     return found;
 }

@@ -1,5 +1,5 @@
-// Listing folders before a walk comes to them, so that it finds them in the system's memory: on a slow disk
-// most of its time would be waiting for one folder after the other.
+// Lists folders ahead of a walk on worker threads, so that the walk finds them in the page cache. On a slow
+// disk the walk would otherwise block on one folder after the other.
 #pragma once
 
 #include <atomic>
@@ -12,8 +12,8 @@
 
 namespace tunedex {
 
-// Goes its own way through the folders, some hundred ahead of the walk and no further, and keeps nothing of
-// what it finds; what it cannot list, the walk will report.
+// The workers walk the tree on their own, a bounded number of folders ahead, and keep no names. They ignore
+// errors: the walk meets and reports them. Use from one thread.
 class FolderPreload {
   public:
     FolderPreload() = default;
@@ -21,13 +21,14 @@ class FolderPreload {
     FolderPreload& operator=(const FolderPreload&) = delete;
     ~FolderPreload() { Stop(); }
 
-    // Begins with the folders that the walk has still to list, the next one last; each path ends in a
-    // separator. Without a thread to be had it does nothing.
+    // Starts the workers on the folders that the walk has yet to list, the next one last; each path ends in a
+    // separator. Does nothing if no thread can be started.
     void Start(const std::vector<std::string>& pending);
     bool Running() const { return !threads_.empty(); }
-    // The walk has listed one more folder. Ends the preloading when it has hardly a folder to load any more.
+    // Call after each folder that the walk has listed. Stops the workers once few of their folders block on
+    // disk.
     void Advance();
-    // Closes every folder. Returns whether it was running.
+    // Joins the workers, which close their folders. Returns whether any were running.
     bool Stop();
 
   private:
@@ -38,10 +39,10 @@ class FolderPreload {
     std::vector<std::thread> threads_;
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::vector<std::string> pending_; // the next folder is the last
-    std::size_t ahead_ = 0;            // folders listed here and not by the walk, or nearly so
-    int judged_ = 0;                   // folders of which is known
-    int loaded_ = 0;                   // whether they came from the disk
+    std::vector<std::string> pending_; // the next folder last
+    std::size_t ahead_ = 0;            // folders listed here but not yet by the walk (approximate)
+    int judged_ = 0;                   // folders sampled in this window
+    int loaded_ = 0;                   // of those, how many blocked on disk
     bool pays_ = true;
     std::atomic<bool> stopping_ = false;
 };

@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kWalkErrorTemplate = R"(scanning the directory: \n\n%D\n\n%N: %S)";
 constexpr std::string_view kDecodeErrorTemplate = R"(decoding the headers of: \n\n%F)";
 
-// A file whose record cannot be kept; it ends the walk.
+// A file whose size cannot be read; it ends the walk.
 struct FileFailure {
     RunTimeError error;
     std::string folder;
@@ -46,7 +46,8 @@ class CollectingVisitor final : public WalkVisitor {
               [this] { return monitor_.AbortRequested(); }) {}
 
     void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) override {
-        // Files that came after the count: the table has no room for them.
+        // Deliberate: files that appear after the counting pass are skipped. The table is sized for
+        // FoundCount records.
         if (submitted_ < totals_.FoundCount) {
             ++submitted_;
             aborted_ = !queue_.Submit(folder, name) || aborted_;
@@ -58,7 +59,7 @@ class CollectingVisitor final : public WalkVisitor {
         aborted_ = !queue_.Drain() || aborted_;
         return held;
     }
-    // Stores what is still in flight. Returns false when the user aborted, during the last of it too.
+    // Stores the tracks in flight. Returns false if the user aborts, even at the last of them.
     bool Finish() { return queue_.Drain(); }
 
   private:
@@ -90,7 +91,7 @@ class CollectingVisitor final : public WalkVisitor {
     ErrorReporter& reporter_;
     std::int32_t submitted_ = 0;
     bool aborted_ = false;
-    TrackQueue queue_; // last: its readers stop before what they use is gone
+    TrackQueue queue_; // last member: its readers must end before the members they use
 };
 
 bool WalkAll(const std::vector<StartFolder>& starts, bool recurse, FolderWalk& walk, WalkVisitor& visitor) {
@@ -123,13 +124,14 @@ bool FolderScanner::CountTracks(const std::vector<StartFolder>& starts, bool rec
 
 bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool recurse) {
     totals_.StoredCount = 0;
-    FolderWalk walk(FolderWalk::Preload::Never); // the count has loaded the folders
+    FolderWalk walk(FolderWalk::Preload::Never); // the counting pass has loaded the folders
     ReadOptions options = options_;
     options.longTexts = &table_.LongTexts();
     CollectingVisitor visitor(totals_, table_, monitor_, reporter_, std::move(options), readers_);
     bool aborted = false;
     std::optional<FileFailure> failure;
-    // The files listed before an error are read before it is reported, and one of them may fail first.
+    // Files submitted before a walk error are stored before it is reported; if one of them fails, its error
+    // is reported instead.
     for (const auto& step : {std::function<bool()>([&] { return WalkAll(starts, recurse, walk, visitor); }),
                              std::function<bool()>([&] { return visitor.Finish(); })}) {
         try {
@@ -147,7 +149,7 @@ bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool r
 }
 
 void FolderScanner::ReportWalkError(const std::string& folder, const RunTimeError& error) {
-    // Required: only here, and only in the message, the folder loses its separator.
+    // Required: only this message shows the folder without its separator. Do not 'fix'.
     reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
 }
 

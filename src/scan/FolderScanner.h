@@ -1,4 +1,4 @@
-// The two passes over the folders: counting the MP3 files, then collecting a record of each.
+// The two passes over the folder setting: count the MP3 files, then collect one record per file.
 #pragma once
 
 #include "FolderSetting.h"
@@ -15,7 +15,7 @@
 
 namespace tunedex {
 
-// Where errors go that do not end the run.
+// Receives errors that do not end the run.
 class ErrorReporter {
   public:
     ErrorReporter() = default;
@@ -23,9 +23,9 @@ class ErrorReporter {
     ErrorReporter& operator=(const ErrorReporter&) = delete;
     virtual ~ErrorReporter() = default;
 
-    // `errorTemplate` holds the placeholders %D (folder), %F (file), %N and %S (the error), and "\n" as two
-    // characters; an empty folder or file leaves its placeholder. May raise the error of a log that cannot be
-    // written.
+    // `errorTemplate` contains the placeholders %D (folder), %F (file), %N and %S (error number and text),
+    // and "\n" as two characters; the placeholder of an empty folder or file is not replaced. May raise the
+    // error of a log that cannot be written.
     virtual void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
                         const RunTimeError& error) = 0;
 };
@@ -34,15 +34,15 @@ enum class ScanMode { Count, Collect };
 
 class FolderScanner {
   public:
-    // `readers`: see TrackQueue.
+    // `readers`: number of reader threads, as for TrackQueue.
     FolderScanner(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
                   ReadOptions options, unsigned readers = 0)
         : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
           options_(std::move(options)), readers_(readers) {}
 
-    // Walks a folder setting: one folder, or a multi-folder value. Collecting stores no more records than the
-    // counting pass found files. An error in the walk is reported and ends it; the records so far stay.
-    // Returns true when the user aborted.
+    // Scans a folder setting: one folder, or a multi-folder value. Collecting stores at most FoundCount
+    // records. An error in the walk is reported and ends the walk; records stored before it are kept. Returns
+    // true if the user aborted.
     bool ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse);
 
   private:

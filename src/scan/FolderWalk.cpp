@@ -26,7 +26,8 @@ std::atomic<int>& OpenFolderCount() {
 
 enum class EntryKind { File, Folder, Neither };
 
-// What a name stands for, links followed. The directory itself usually tells; only then is no call needed.
+// The type of an entry, symbolic links followed. Most file systems store it in the directory, which saves a
+// stat() per file.
 EntryKind KindOf(int folder, const dirent& entry) {
     switch (entry.d_type) {
     case DT_REG:
@@ -41,11 +42,12 @@ EntryKind KindOf(int folder, const dirent& entry) {
     }
     const std::optional<mode_t> mode = ModeBehindLinks(folder, entry.d_name);
     if (!mode) {
-        return EntryKind::Neither; // a link to nothing
+        return EntryKind::Neither; // a dangling link
     }
     return S_ISDIR(*mode) ? EntryKind::Folder : S_ISREG(*mode) ? EntryKind::File : EntryKind::Neither;
 }
 
+// Without a free descriptor: closes folders that others hold open, then tries once more.
 std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
                                         WalkVisitor& visitor, FolderPreload& preload) {
     try {
@@ -98,7 +100,7 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
         }
         if (preload.Running()) {
             preload.Advance();
-            detector = WaitDetector(); // waiting for those threads, for their end above all, tells nothing
+            detector = WaitDetector(); // switches while waiting for the workers are not disk waits
         } else if (preload_ == Preload::WhenWaiting && detector.ManyWaits()) {
             preload.Start(pending_);
         }
@@ -114,15 +116,18 @@ bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse
         }
         const std::string_view name(entry->d_name);
         if (name.starts_with('.')) {
-            continue; // hidden, or the folder itself, or the one above
+            continue; // hidden, ".", or ".."
         }
         const bool matches = EndsInIgnoringCase(name, ".MP3");
         const bool mayBeFolder = recurse && entry->d_type != DT_REG;
         if (matches || mayBeFolder) {
             const EntryKind kind = KindOf(folder->Descriptor(), *entry);
             if (recurse && kind == EntryKind::Folder) {
+                // Required: a stack, so siblings come out in reverse listing order. Do not 'fix'.
                 pending_.push_back(folder->Path() + std::string(name) + PathStyle::Native().separator);
             } else if (matches && kind != EntryKind::Neither) {
+                // Required: without recursion a folder named *.mp3 counts as a file; collecting it then
+                // fails. Do not 'fix'.
                 visitor.OnFile(folder, entry->d_name);
             }
         }

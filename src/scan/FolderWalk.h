@@ -1,4 +1,4 @@
-// The walk through a start folder and, if wished, everything below it.
+// Walks a start folder and, optionally, the folders below it.
 #pragma once
 
 #include "FolderSetting.h"
@@ -11,10 +11,11 @@
 
 namespace tunedex {
 
-// A folder being walked, held open for as long as files in it are still to be read.
+// A folder in the walk. It stays open until the last of its files has been read, because files are opened
+// relative to its descriptor. The destructor may run on any thread.
 class OpenFolder {
   public:
-    // Raises error 76 for a folder that is not there, 75 for one that may not be listed, 67 without a free
+    // Raises error 76 if the folder does not exist, 75 if it may not be listed, 67 without a free file
     // descriptor.
     OpenFolder(std::string path, std::string_view baseFolder);
     OpenFolder(const OpenFolder&) = delete;
@@ -26,7 +27,7 @@ class OpenFolder {
     int Descriptor() const { return stream_.Descriptor(); }
     FolderStream& Stream() { return stream_; }
 
-    // How many are open at the moment.
+    // Folders open in this process.
     static int OpenCount();
 
   private:
@@ -42,27 +43,27 @@ class WalkVisitor {
     WalkVisitor& operator=(const WalkVisitor&) = delete;
     virtual ~WalkVisitor() = default;
 
-    // A name that matches "*.MP3". It is valid during the call.
+    // Called for each name that matches "*.MP3"; `name` is valid during the call.
     virtual void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) = 0;
-    // After every name. Returns whether to go on.
+    // Called after each name, matching or not. Returns false to stop the walk.
     virtual bool AfterEntry() = 0;
-    // There is no free descriptor for the next folder: closes what can be closed. Returns whether anything
-    // was.
+    // Called when no file descriptor is free for the next folder: close what can be closed. Returns whether
+    // anything was.
     virtual bool ReleaseFolders() = 0;
 };
 
 class FolderWalk {
   public:
-    // Whether other threads list folders ahead of the walk: never, once it has waited for the disk, or at
-    // once.
+    // When worker threads list folders ahead of the walk: never, once the walk has blocked on disk, or from
+    // the start.
     enum class Preload { Never, WhenWaiting, AtOnce };
 
     explicit FolderWalk(Preload preload = Preload::Never) : preload_(preload) {}
 
-    // Visits the MP3 files of the folder, then with `recurse` its sub-folders, each with its own before the
-    // next, siblings in the reverse of the order in which they were listed. Names stand in the order of the
-    // directory. A folder is walked once, by whatever links it is reached. Returns false when the visitor
-    // stopped it. Raises the error of a folder that cannot be listed; CurrentFolder() is that folder then.
+    // Visits the MP3 files of the folder in directory order, then with `recurse` its sub-folders, depth
+    // first. Siblings are visited in the reverse of the order in which they were listed. A folder is walked
+    // once, whatever links lead to it. Returns false if the visitor stopped the walk. Raises the error of a
+    // folder that cannot be listed; CurrentFolder() is then that folder.
     bool Run(const StartFolder& start, bool recurse, WalkVisitor& visitor);
 
     // The folder being walked.
@@ -72,7 +73,7 @@ class FolderWalk {
     bool WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor);
 
     const Preload preload_;
-    std::vector<std::string> pending_; // the next folder is the last
+    std::vector<std::string> pending_; // the next folder last
     std::string currentFolder_;
 };
 

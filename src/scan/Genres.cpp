@@ -6,6 +6,7 @@ namespace tunedex {
 
 namespace {
 
+// Required: the spellings are this program's own ("Trip Hop", "Avantegarde", "Ballard"). Do not 'fix'.
 constexpr std::array<std::string_view, 148> kGenres = {
     "Blues",
     "Classic Rock",

@@ -1,4 +1,4 @@
-// The ID3v1 genre list with its common extension to 148 names, in this program's own spellings.
+// The ID3v1 genre list with its common extension to 148 names.
 #pragma once
 
 #include <string_view>

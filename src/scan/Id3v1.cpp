@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::size_t kTagBytes = 128;
 
-// ID3v1 pads its fields with NULs or blanks. Blanks go first: those that stand before NULs are part of the
-// text.
+// Required: trailing blanks are trimmed before NULs are removed, so blanks in front of NUL padding stay. Do
+// not 'fix'.
 void SetFieldText(std::string& text, std::string_view field) {
     SetTagText(text, TrimBlanksRight(field));
 }
@@ -55,8 +55,7 @@ bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track) {
     if (!tag.starts_with("TAG")) {
         return false;
     }
-    // Offsets and widths: marker 0/3, title 3/30, artist 33/30, album 63/30, year 93/4, comment 97/30, genre
-    // 127/1.
+    // Offset/width: marker 0/3, title 3/30, artist 33/30, album 63/30, year 93/4, comment 97/30, genre 127/1.
     SetFieldText(track.Title, tag.substr(3, 30));
     SetFieldText(track.Artist, tag.substr(33, 30));
     SetFieldText(track.Album, tag.substr(63, 30));

@@ -15,27 +15,28 @@ namespace {
 
 constexpr std::uint64_t kHeaderBytes = 10; // of the tag, and of each frame
 
-// Four bytes of seven bits each, except that the last counts whole: writers exist that put eight bits there.
+// Synchsafe (ID3v2.3 section 3.1): seven bits per byte. Required: the last byte counts with all eight bits,
+// for writers that set its top bit. Do not 'fix'.
 std::uint32_t TagSize(std::span<const std::uint8_t, 4> bytes) {
     return ((bytes[0] & 0x7FU) << 21U) + ((bytes[1] & 0x7FU) << 14U) + ((bytes[2] & 0x7FU) << 7U) + bytes[3];
 }
 
-// A big-endian number of which the highest bit is not used.
+// ID3v2.3 section 3.3: big-endian, not synchsafe. The top bit is ignored.
 std::uint32_t FrameSize(std::span<const std::uint8_t, 4> bytes) {
     return ((bytes[0] & 0x7FU) << 24U) | (static_cast<std::uint32_t>(bytes[1]) << 16U) |
            (static_cast<std::uint32_t>(bytes[2]) << 8U) | bytes[3];
 }
 
-// What frames are read into.
+// Where frames are read to.
 struct TagTarget {
     TrackInfo& track;
     bool moveTheArtists;
-    LongTextPool* longTexts; // none: long texts go into the track's own fields
+    LongTextPool* longTexts; // null: long texts are set as the track's own fields
 };
 
 using TextField = std::string TrackInfo::*;
 
-// The field a frame fills; none for frames that are skipped.
+// The field that a frame sets; null for frames that are skipped.
 TextField FieldOf(std::string_view frameId) {
     if (frameId == "TIT2") {
         return &TrackInfo::Title;
@@ -52,8 +53,8 @@ TextField FieldOf(std::string_view frameId) {
     return frameId == "TCON" ? &TrackInfo::Genre : nullptr;
 }
 
-// Reads and decodes a content piece by piece, so that only its text is ever held whole, and its NULs never: a
-// frame may claim, and a sparse file hold, a gigabyte of them.
+// Reads and decodes a frame in pieces, so that memory is bounded by its text without NULs: a frame may
+// declare, and a sparse file contain, a gigabyte of them.
 LongText ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t size,
                          LongTextPool::Turn& turn) {
     constexpr std::uint32_t kPiece = 65536;
@@ -78,7 +79,7 @@ void MoveLeadingTheOf(LongText& artist) {
     }
 }
 
-// What a field shows when its frame is there but empty.
+// The default for a frame that is present but empty.
 const char* TextForEmpty(TextField field) {
     if (field == &TrackInfo::Title) {
         return kUnknownTitle;
@@ -86,7 +87,6 @@ const char* TextForEmpty(TextField field) {
     return field == &TrackInfo::Artist ? kUnknownArtist : "";
 }
 
-// Sets a field to the bytes of a frame's content.
 void SetField(TextField field, std::string_view bytes, const TagTarget& target) {
     target.track.Unset(field);
     std::string& text = target.track.*field;
@@ -99,7 +99,7 @@ void SetField(TextField field, std::string_view bytes, const TagTarget& target) 
     }
 }
 
-// The same for a content that is read piece by piece. The turn ends when the text is shared.
+// Sets a field from a frame read in pieces. The turn lasts until the text is shared.
 void ReadLongField(ByteSource& file, std::uint64_t offset, std::uint32_t size, TextField field,
                    const TagTarget& target) {
     LongTextPool::Turn turn(target.longTexts);
@@ -119,10 +119,10 @@ void ReadLongField(ByteSource& file, std::uint64_t offset, std::uint32_t size, T
     }
 }
 
-// Sets `field` to the content of a frame; leaves it as it is when the content cannot be read.
+// Sets `field` from a frame; leaves it unchanged if the frame cannot be read.
 void ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size, TextField field,
                  const TagTarget& target) {
-    std::array<char, 512> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): read into
+    std::array<char, 512> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the read
     if (size > bytes.size()) {
         ReadLongField(file, offset, size, field, target);
         return;
@@ -131,10 +131,10 @@ void ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size, Tex
     SetField(field, {bytes.data(), size}, target);
 }
 
-// One frame at `offset`. Returns the offset of the next, or nothing where padding or the file's end stops the
-// walk.
+// Reads the frame at `offset`. Returns the offset of the next frame, or nothing at padding or the end of the
+// file.
 std::optional<std::uint64_t> ReadFrame(ByteSource& file, std::uint64_t offset, const TagTarget& target) {
-    // Offsets and widths: ID 0/4, size 4/4, flags 8/2, content from 10 on.
+    // Offset/width (ID3v2.3 section 3.3): ID 0/4, size 4/4, flags 8/2, content from 10.
     std::array<std::uint8_t, 8> header{};
     if (file.Read(offset, header) < header.size()) {
         return std::nullopt;
@@ -157,7 +157,7 @@ std::optional<std::uint64_t> ReadFrame(ByteSource& file, std::uint64_t offset, c
 } // namespace
 
 Id3v2Location DetectId3v2(ByteSource& file) {
-    // Offsets and widths: "ID3" 0/3, version 3/1, revision 4/1, flags 5/1, size 6/4.
+    // Offset/width (ID3v2.3 section 3.1): "ID3" 0/3, version 3/1, revision 4/1, flags 5/1, size 6/4.
     std::array<std::uint8_t, kHeaderBytes> header{};
     try {
         file.ReadExactly(0, header);
@@ -175,13 +175,13 @@ void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArti
                LongTextPool* longTexts) {
     const TagTarget target{track, moveTheArtists, longTexts};
     try {
-        // A tag of size 0 still gets one look.
+        // Required: a tag of size 0 still reads one frame. Do not 'fix'.
         std::optional<std::uint64_t> offset = kHeaderBytes;
         do {
             offset = ReadFrame(file, *offset, target);
         } while (offset && *offset + 1 < location.searchPosition);
     } catch (const RunTimeError&) {
-        return; // the fields taken so far stay
+        return; // fields set so far are kept
     }
 }
 

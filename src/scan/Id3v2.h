@@ -1,5 +1,4 @@
-// The ID3v2 tag at the start of a file: found by its header, read frame by frame as version 2.3 lays frames
-// out.
+// Reads the ID3v2 tag at the start of a file, as version 2.3 lays frames out.
 #pragma once
 
 #include "ByteSource.h"
@@ -11,18 +10,18 @@ namespace tunedex {
 
 struct Id3v2Location {
     bool present = false;
-    // Where the search for an audio frame begins, counted from 1: 1 without a tag, else 10 + the tag's
-    // declared size.
+    // Where the search for an audio frame starts, counted from 1: 1 without a tag, else 10 + the tag's
+    // declared size. Required: that is the tag's last byte, not the byte after it. Do not 'fix'.
     std::uint64_t searchPosition = 1;
 };
 
-// A file that cannot be read has no tag. Version, revision and flags of the tag are not looked at.
+// Looks for the tag header; version, revision and flags are ignored. A file that cannot be read has no tag.
 Id3v2Location DetectId3v2(ByteSource& file);
 
-// Takes title, artist, album, year and genre from the tag's frames, over what the track holds; what has no
-// frame stays. Text encodings are not decoded: every byte is a Windows-1252 character, NULs are dropped. A
-// frame that cannot be read ends the reading silently. With `longTexts` a text of kLongTextBytes or more is
-// shared there and goes into the track's LongFields.
+// Sets title, artist, album, year and genre from the tag's frames; fields without a frame are unchanged.
+// Required: text encodings are not decoded; each byte is a Windows-1252 character and NULs are dropped. Do
+// not 'fix'. A frame that cannot be read ends the reading without an error. With `longTexts`, texts of
+// kLongTextBytes or more are shared there and set as the track's LongFields.
 void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track,
                LongTextPool* longTexts = nullptr);
 

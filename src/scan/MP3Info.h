@@ -1,4 +1,5 @@
-// One file to one record: tags, then audio header. Pure: nothing is shown, counted or remembered here.
+// Reads one file into one record: tags, then audio header. Has no side effects on the run; safe on any
+// thread.
 #pragma once
 
 #include "ByteSource.h"
@@ -13,28 +14,28 @@ namespace tunedex {
 struct ReadOptions {
     bool moveTheArtists = false;
     ReadAhead readAhead = ReadAhead::AsUsual;
-    StopTest stop = {}; // asked while a file takes many reads; it must be safe on the reading thread
-    // Where long texts of tags are shared; none: each track holds its own.
+    StopTest stop = {}; // polled during files that take many reads, on the reading thread
+    // Shares long tag texts; null: each track has its own copies.
     LongTextPool* longTexts = nullptr;
 };
 
 struct TrackReading {
     TrackInfo track;
     std::int64_t seconds = 0;                // whole seconds of playing time
-    std::optional<RunTimeError> decodeError; // why the audio header gave nothing; the track is kept
-    bool stopped = false;                    // the stop test ended the reading: the rest is not to be used
+    std::optional<RunTimeError> decodeError; // why no audio header was decoded; the track is kept
+    bool stopped = false;                    // the stop test ended the reading; discard the rest
 };
 
-// The longest file size a record holds, in bytes.
+// The largest file size a record holds, in bytes; longer files are recorded with it.
 inline constexpr std::int32_t kLongestFileSize = 2147483647;
 
-// Reads an open file. The reading comes with its track's FullPath set (it is the artist of a file without
-// tags); everything else in it is set anew, in the memory that the texts of an earlier track took.
+// Reads an open file. `reading.track.FullPath` is an input (it is the artist of a file without tags); all
+// other members are reset. Reuses the memory of their texts.
 void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& reading);
 
-// Opens the file `name` in the open folder `folder` and does the same. A file that can be measured but not
-// opened is a track without tags and with a decode error. Raises the error of a file whose size cannot be
-// read: error 53 for what is not there or is a folder.
+// Opens the file `name` relative to the directory descriptor `folder` and reads it. A file that exists but
+// cannot be opened is a track without tags and with a decode error. Raises error 53 if it does not exist or
+// is not a regular file, and the error of a failed stat().
 void ReadTrackFile(int folder, const char* name, const ReadOptions& options, TrackReading& reading);
 
 } // namespace tunedex

@@ -14,19 +14,20 @@ namespace tunedex {
 
 namespace {
 
-// How far behind a header "Xing" is looked for, the header's own first byte counted.
+// "Xing" is searched in this many bytes from the first byte of a header.
 constexpr std::size_t kXingReach = 1400;
 constexpr std::string_view kXing = "Xing";
-constexpr std::size_t kXingCountAt = 8; // from the first byte of "Xing": behind its name and its flags
+constexpr std::size_t kXingCountAt = 8; // from the first byte of "Xing": after name and flags
 constexpr std::size_t kXingCountBytes = 8;
 
-// The bytes of a file from some offset on, as much of them as the search needs at a time: a first look is
-// small, since nearly every file has its header where it is expected, and later ones are large.
+// A sliding window over the file. The first read is small, since nearly every file has its header where the
+// search starts; later reads are large.
 class SearchWindow {
   public:
     explicit SearchWindow(ByteSource& file) : file_(file), size_(file.Size()) {}
 
-    // The bytes from `offset` on: at least `wanted`, fewer only at the file's end.
+    // The bytes from `offset` on: at least `wanted`, fewer only at the end of the file. Valid until the next
+    // call.
     std::span<const std::uint8_t> From(std::uint64_t offset, std::size_t wanted) {
         const std::uint64_t left = offset < size_ ? size_ - offset : 0;
         const std::size_t needed = std::min<std::uint64_t>(wanted, left);
@@ -54,25 +55,25 @@ class SearchWindow {
         start_ = offset;
         bytes_ = buffer.first(got);
         if (got < buffer.size()) {
-            size_ = offset + got; // the file has shrunk since it was opened
+            size_ = offset + got; // the file was truncated after it was opened
         }
     }
 
     ByteSource& file_;
     std::uint64_t size_;
     std::uint64_t start_ = 0;
-    std::span<const std::uint8_t> bytes_; // those from start_ on, in one of the two buffers
+    std::span<const std::uint8_t> bytes_; // from start_ on; points into one of the two buffers
     std::array<std::uint8_t, kFirstLook> first_;
     std::vector<std::uint8_t> later_;
     bool looked_ = false;
 };
 
-// Finds "Xing" behind each candidate while looking at every byte once, however many candidates there are.
+// Finds "Xing" after each candidate in time linear in the file's size, however many candidates there are.
 class XingSearch {
   public:
     explicit XingSearch(SearchWindow& window) : window_(window) {}
 
-    // The offset of "Xing" if it lies wholly within reach of the candidate.
+    // The offset of "Xing" if all of it is within kXingReach of the candidate.
     std::optional<std::uint64_t> Behind(std::uint64_t candidate) {
         if (!found_ || *found_ < candidate) {
             Search(std::max(candidate, searchedTo_), candidate + kXingReach);
@@ -97,17 +98,17 @@ class XingSearch {
             found_ = from + hit;
             searchedTo_ = *found_ + 1;
         } else if (text.size() >= kXing.size()) {
-            searchedTo_ = from + text.size() - (kXing.size() - 1); // its beginning may be in sight already
+            searchedTo_ = from + text.size() - (kXing.size() - 1); // the tail may hold the start of "Xing"
         }
     }
 
     SearchWindow& window_;
     std::optional<std::uint64_t> found_;
-    std::uint64_t searchedTo_ = 0; // "Xing" does not begin between the last hit and here
+    std::uint64_t searchedTo_ = 0; // no "Xing" starts between the last hit and here
 };
 
-// AAAAAAAA AAABBCCD EEEEFFGH IIJJKLMM: sync, version B, layer C, bitrate E, frequency F, mode I. The sync is
-// not checked here, and the second byte's upper bits only as far as "at least E1" does.
+// AAAAAAAA AAABBCCD EEEEFFGH IIJJKLMM: sync A, version B, layer C, bitrate E, frequency F, mode I. Returns
+// false for reserved values. The caller checks the sync bits.
 bool DecodeBits(std::span<const std::uint8_t> bytes, MpegHeader& header) {
     constexpr std::array<std::array<std::int32_t, 3>, 3> kFrequencies = {
         {{44100, 48000, 32000}, {22050, 24000, 16000}, {11025, 12000, 8000}}};
@@ -130,7 +131,7 @@ std::uint32_t BigEndian32(std::span<const std::uint8_t> bytes) {
            (static_cast<std::uint32_t>(bytes[2]) << 8U) | bytes[3];
 }
 
-// Indexed by the bitrate field's four bits; 128 where a table names none.
+// Indexed by the bitrate field; 128 for an index that a table does not list.
 using BitrateTable = std::array<std::int16_t, 16>;
 constexpr std::int16_t kOtherwise = 128;
 constexpr BitrateTable kVersion1LayerIII = {kOtherwise, 32,  40,  48,  56,  64,  80,  96,
@@ -139,8 +140,8 @@ constexpr BitrateTable kLayerII = {kOtherwise, 32,  48,  56,  64,  80,  96,  112
                                    128,        160, 192, 224, 256, 320, 384, kOtherwise};
 constexpr BitrateTable kLayerI = {kOtherwise, 32,  64,  96,  128, 160, 192, 224,
                                   256,        288, 320, 352, 384, 416, 448, kOtherwise};
-// The next two are this program's own and not the published ones. Lists made over many years show these
-// values, and a list made today has to agree with them.
+// Required: the next two are this program's own values, not the published MPEG-2 table; listings must stay
+// comparable with earlier ones. Do not 'fix'.
 constexpr BitrateTable kVersion2LayerIII = {kOtherwise, 8,   kOtherwise, 24,  16,  64,  80,  56,
                                             64,         128, 160,        112, 128, 256, 320, kOtherwise};
 constexpr BitrateTable kVersion25 = {kOtherwise, 8,   16,  24,  32,  64,  80,  56,
@@ -150,7 +151,7 @@ std::int32_t XingBitrate(std::int32_t fileSize, const MpegHeader& header) {
     if (header.frameCount == 0) {
         throw RunTimeError(ErrorNumber::DivisionByZero);
     }
-    // The same constant for every version and layer.
+    // Required: the same constant for every version and layer. Do not 'fix'.
     return ToInt32(static_cast<double>(fileSize) * header.frequency /
                    (static_cast<double>(header.frameCount) * 144000.0));
 }
@@ -179,7 +180,7 @@ std::int32_t TableBitrate(MpegVersion version, MpegLayer layer, unsigned bitrate
 
 MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
     constexpr std::uint8_t kSync = 0xFF;
-    constexpr std::uint8_t kLeastSecond = 0xE1; // so E0 itself is refused
+    constexpr std::uint8_t kLeastSecond = 0xE1; // required: E0 is refused, do not 'fix'
     constexpr std::uint8_t kLeastBadThird = 0xEC;
     SearchWindow window(file);
     XingSearch xing(window);
@@ -197,7 +198,7 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
         }
         header.offset =
             offset + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
-        offset = header.offset + 1; // where the search goes on if this is none
+        offset = header.offset + 1; // where the search resumes if this is rejected
         bytes = window.From(header.offset, 4);
         if (bytes.size() >= 2 && bytes[1] < kLeastSecond) {
             continue;
@@ -209,6 +210,8 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
             throw RunTimeError(ErrorNumber::InputPastEnd);
         }
         const std::array<std::uint8_t, 4> bits = {bytes[0], bytes[1], bytes[2], bytes[3]};
+        // Required: the frame count is read before the candidate is checked, so a rejected one can end the
+        // search. Do not 'fix'.
         const auto found = xing.Behind(header.offset);
         header.vbr = found.has_value();
         if (found) {
@@ -219,7 +222,7 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
             header.frameCount = BigEndian32(bytes);
         }
         if (DecodeBits(bits, header)) {
-            return header; // a bitrate index of 1111 never comes here: such a third byte is EC or more
+            return header; // index 1111 cannot occur here: such a third byte is at least EC
         }
     }
 }
@@ -234,7 +237,7 @@ std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, Tr
     if (bitrate == 0) {
         throw RunTimeError(ErrorNumber::DivisionByZero);
     }
-    // bits / (kbit/s) is milliseconds; both divisions cut what no listing shows.
+    // bits / (kbit/s) = milliseconds. Both divisions truncate.
     const std::int64_t seconds = static_cast<std::int64_t>(track.FileSize) * 8 / bitrate / 1000;
 
     constexpr std::array<std::string_view, 4> kModes = {"Stereo", "Joint Stereo", "Dual Channel", "Mono"};

@@ -1,4 +1,4 @@
-// The first MPEG audio frame header of a file, and what follows from it.
+// Finds and decodes the first MPEG audio frame header of a file.
 #pragma once
 
 #include "ByteSource.h"
@@ -13,26 +13,27 @@ enum class MpegVersion { V1, V2, V25 };
 enum class MpegLayer { I, II, III };
 
 struct MpegHeader {
-    std::uint64_t offset = 0; // 0-based, of the header's first byte
+    std::uint64_t offset = 0; // of the header's first byte, 0-based
     MpegVersion version = MpegVersion::V1;
     MpegLayer layer = MpegLayer::III;
-    std::uint8_t bitrateIndex = 0; // the four bits of the field
+    std::uint8_t bitrateIndex = 0; // 0 to 15
     std::int32_t frequency = 0;    // Hz
-    std::uint8_t mode = 0;         // the two bits of the field
+    std::uint8_t mode = 0;         // 0 to 3
     bool vbr = false;              // a "Xing" header was found
-    std::uint32_t frameCount = 0;  // as the "Xing" header tells it
+    std::uint32_t frameCount = 0;  // from the "Xing" header
 };
 
-// The first acceptable header at or after `searchPosition` (counted from 1). Raises error 62 when the file
-// ends before there is one, or within the eight bytes behind "Xing".
+// The first acceptable header at or after `searchPosition` (counted from 1). Raises error 62 if the file ends
+// before one is found, or within the eight bytes after the "Xing" flags.
 MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition);
 
-// kbit/s by the program's own tables, for a header without "Xing"; 128 for an index that no table names.
+// kbit/s for a file without a "Xing" header; 128 for an index that the table does not list. Required: the
+// tables for MPEG-2 Layer III and MPEG-2.5 are not the published ones. Do not 'fix'.
 std::int32_t TableBitrate(MpegVersion version, MpegLayer layer, unsigned bitrateIndex);
 
-// Fills bitrate, frequency, mode, MPEG type and duration and returns the playing time in whole seconds.
-// `track.FileSize` must be set. Raises error 62 (no header), 11 (a bitrate or frame count of 0), 6
-// (268,435,456 bytes or more) or the error of a failed read; the track is then as it was.
+// Sets bitrate, frequency, mode, MPEG type and duration and returns the playing time in whole seconds.
+// Requires `track.FileSize`. Raises error 62 (no header), 11 (bitrate or frame count 0), 6 (file of
+// 268,435,456 bytes or more) or the error of a failed read; the track is then unchanged.
 std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo& track);
 
 } // namespace tunedex

@@ -1,36 +1,35 @@
-// How many threads read files at the same time: one for each processor, more of them while they wait for the
-// disk.
+// Decides how many threads read files at the same time: one per processor, more while they block on disk.
 #pragma once
 
 namespace tunedex {
 
-// Knows nothing of threads or clocks: it is told how each batch went. Not synchronised.
+// A pure function of the batches reported to it: no threads, no clock. Not synchronised.
 class ReaderPolicy {
   public:
     static constexpr unsigned kMostReaders = 32;
-    // After this many batches from memory, one after the other, there is one reader too many.
+    // Consecutive batches from the page cache after which one reader fewer is wanted.
     static constexpr unsigned kFastBatches = 16;
 
-    // `fixedReaders` 0 begins with one reader for each of `processors`, of which 0 means unknown; any other
-    // number stays as it is.
+    // `fixedReaders` other than 0 is kept as it is. With 0 the policy starts with one reader per processor;
+    // `processors` 0 means unknown.
     ReaderPolicy(unsigned fixedReaders, unsigned processors);
 
-    // How many may read at the same time.
+    // Readers that may read at the same time.
     unsigned Wanted() const { return wanted_; }
-    // Whether readers have to wait for the disk.
+    // Whether readers block on disk.
     bool SlowDisk() const { return slowDisk_; }
 
-    // After a batch from the page cache: one reader fewer after many of them.
+    // Call after a batch that came from the page cache: one reader fewer after kFastBatches of them.
     void AfterFastBatch();
-    // After a batch that had to be waited for: one reader more, up to kMostReaders, if `moreToRead`. Returns
-    // whether another reader should begin, woken or started.
+    // Call after a batch that blocked on disk: one reader more, up to kMostReaders, if `moreToRead`. Returns
+    // whether to wake or start one.
     bool AfterSlowBatch(bool moreToRead);
 
   private:
     bool fixed_;
     unsigned fewest_;
     unsigned wanted_;
-    unsigned fastBatches_ = 0; // since the last slow one
+    unsigned fastBatches_ = 0; // since the last slow batch
     bool slowDisk_ = false;
 };
 

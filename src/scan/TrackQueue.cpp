@@ -10,16 +10,15 @@ namespace tunedex {
 namespace {
 
 constexpr std::size_t kMostBatches = 128;
-// Each keeps a descriptor; the usual limit for a process is 1024.
+// Each holds a file descriptor; the usual limit per process is 1024.
 constexpr int kMostOpenFolders = 64;
 constexpr std::chrono::milliseconds kStopTestInterval{20};
-// Files that take this long each, one in four of which makes its reader give up the processor, come from a
-// slow disk. By the clock alone a busy processor looks the same, and more readers would make it busier.
+// A batch is slow if its files take this long each and one in four makes its reader switch voluntarily. By
+// time alone, a busy CPU looks like a slow disk, and more readers would make it busier.
 constexpr std::chrono::microseconds kSlowFile{100};
 constexpr std::int64_t kFilesToAWait = 4;
 
-// Folders must never take the last descriptors: the files in them could not be opened then, however long one
-// waits for the readers.
+// Open folders must leave descriptors for the files in them, or a reader could wait for ever.
 int MostOpenFolders() {
     rlimit limit{};
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur / 4 >= kMostOpenFolders) {
@@ -124,7 +123,7 @@ bool TrackQueue::Publish() {
     batches_.push_back(std::move(filling_));
     Batch& batch = *batches_.back();
     if (!haveReaders_) {
-        ReadBatch(batch, options_.stop); // the system has no thread left for us: it will do without
+        ReadBatch(batch, options_.stop); // no thread could be started: read here
         batch.done = true;
     } else {
         bool wake = false;
@@ -156,7 +155,7 @@ bool TrackQueue::Drain() {
     return state_ != State::Stopped;
 }
 
-// Hands the first batch over; returns whether it did. Without `wait` only if it has been read.
+// Delivers the first batch and returns true; without `wait` only if it has been read.
 bool TrackQueue::ReceiveFront(bool wait) {
     {
         const std::lock_guard lock(mutex_);
@@ -199,7 +198,8 @@ void TrackQueue::Receive(Batch& batch) {
         }
         for (QueuedTrack& track : batch.Tracks()) {
             if (LackedDescriptor(track)) {
-                // With the readers' files closed there may be one: a single reader would not have lacked it.
+                // Read it again once the readers' files are closed: a single reader would not have run out of
+                // descriptors.
                 if (!std::all_of(batches_.begin(), batches_.end(),
                                  [this](const auto& other) { return WaitFor(*other); })) {
                     state_ = State::Stopped;
@@ -212,7 +212,7 @@ void TrackQueue::Receive(Batch& batch) {
                 return;
             }
             receiver_(track);
-            // A single reader's caller asks after every file; here the caller is ahead by many.
+            // The caller polls after each file it submits; with several readers it is many files ahead.
             if (fixedReaders_ != 1 && stopTest_()) {
                 state_ = State::Stopped;
                 return;
@@ -231,12 +231,12 @@ void TrackQueue::StartFirstReaders() {
     haveReaders_ = !readers_.empty();
 }
 
-// Called under the mutex. Returns false when the system gives us no thread.
+// Requires mutex_. Returns false if no thread can be started.
 bool TrackQueue::StartReader() {
     try {
         readers_.emplace_back([this] { ReadLoop(); });
         return true;
-    } catch (const std::exception&) { // no thread, or no memory for one
+    } catch (const std::exception&) { // out of threads or memory
         return false;
     }
 }
@@ -274,7 +274,7 @@ void TrackQueue::ReadBatch(Batch& batch, const StopTest& stop) const {
     try {
         for (QueuedTrack& track : batch.Tracks()) {
             if (stopping_) {
-                return; // nobody takes these any more
+                return; // the rest of the batch is not delivered
             }
             reader_(track, options);
         }
@@ -283,7 +283,7 @@ void TrackQueue::ReadBatch(Batch& batch, const StopTest& stop) const {
     }
 }
 
-// Called under the mutex.
+// Requires mutex_.
 void TrackQueue::Adapt(bool slow) {
     bool begin = false;
     if (slow) {

@@ -1,5 +1,4 @@
-// Reading many files at once without anyone noticing: files go in one after the other and come out as
-// readings in the same order, whoever read them and whenever.
+// Reads many files in parallel and delivers the readings in the order of submission.
 #pragma once
 
 #include "FolderWalk.h"
@@ -22,51 +21,51 @@
 
 namespace tunedex {
 
-// One file on its way through the queue.
+// One file in the queue.
 struct QueuedTrack {
     std::shared_ptr<OpenFolder> folder;
-    TrackReading reading;                // its track's FullPath is the folder's path and the file's name
-    std::optional<RunTimeError> failure; // the file's size could not be read: there is no track
+    TrackReading reading;                // its track's FullPath is set by Submit
+    std::optional<RunTimeError> failure; // the file's size cannot be read: there is no track
 };
 
-// Reads the track's file.
 void ReadQueuedTrack(QueuedTrack& track, const ReadOptions& options);
 
-// What a queue runs on; tests replace it.
+// The environment of a queue; tests replace it.
 struct QueueMachine {
     // 0: unknown.
     unsigned processors = std::thread::hardware_concurrency();
-    // Reads one file into the track, which comes with its folder and its FullPath. Several threads call it.
+    // Reads one file into a track whose folder and FullPath are set. Called on several threads.
     std::function<void(QueuedTrack&, const ReadOptions&)> reader = ReadQueuedTrack;
 };
 
 class TrackQueue {
   public:
-    // Takes what has been read, on the thread that uses the queue. What it throws leaves the queue's
-    // functions, and the queue takes and gives nothing more.
+    // Receives the readings, on the thread that uses the queue. An exception from it passes through the
+    // queue's functions; the queue then accepts and delivers nothing more.
     using Receiver = std::function<void(QueuedTrack&)>;
-    // Asked now and then while the queue waits or reads a long file on the caller's thread; true ends that,
-    // and the queue takes and gives nothing more. Readers end a long file when the queue is destroyed.
+    // Polled while the queue waits or reads a long file on the caller's thread. Once it returns true the
+    // queue accepts and delivers nothing more. Destroying the queue ends long files too.
     using StopTest = tunedex::StopTest;
 
-    // `readers` is how many threads read: 1 reads on the caller's own thread, 0 leaves it to ReaderPolicy.
+    // `readers`: number of reader threads; 1 reads on the caller's thread, 0 leaves the number to
+    // ReaderPolicy.
     TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest,
                QueueMachine machine = {});
     TrackQueue(const TrackQueue&) = delete;
     TrackQueue& operator=(const TrackQueue&) = delete;
-    // Waits for the readers; what has not been received is dropped.
+    // Joins the readers; readings that were not delivered are dropped.
     ~TrackQueue();
 
-    // Queues a file; may hand earlier readings to the receiver, and waits while too many files are in flight.
-    // Returns false when the stop test ended a wait.
+    // Submits a file. May deliver earlier readings, and blocks while too many files are in flight. Returns
+    // false if the stop test ended a wait.
     bool Submit(const std::shared_ptr<OpenFolder>& folder, const char* name);
-    // Hands all that is in flight to the receiver. Returns false when the stop test ended a wait.
+    // Delivers all readings in flight. Returns false if the stop test ended a wait.
     bool Drain();
-    // Whether anything is in flight.
+    // Whether no file is in flight.
     bool Empty() const { return batches_.empty() && filling_ == nullptr; }
 
   private:
-    // Files change hands in batches, so that handing them over costs next to nothing.
+    // Files are passed to readers in batches, so that locking costs little per file.
     static constexpr std::size_t kBatchFiles = 16;
 
     struct Batch {
@@ -74,7 +73,7 @@ class TrackQueue {
 
         std::array<QueuedTrack, kBatchFiles> tracks;
         std::size_t count = 0;
-        std::exception_ptr fault; // what no reading of a file should throw: out of memory
+        std::exception_ptr fault; // an exception that is not a RunTimeError: out of memory
         bool done = false;
     };
 
@@ -98,19 +97,18 @@ class TrackQueue {
     const Receiver receiver_;
     const StopTest stopTest_;
     const std::function<void(QueuedTrack&, const ReadOptions&)> reader_;
-    // Stopped: the stop test said so. Failed: the receiver threw. In both the queue takes and gives nothing
-    // more.
+    // Stopped: by the stop test. Failed: the receiver threw. Both are final.
     enum class State { Running, Stopped, Failed };
     State state_ = State::Running;
 
-    // The caller's side.
+    // Used by the caller's thread only.
     std::unique_ptr<Batch> filling_;
     std::deque<std::unique_ptr<Batch>> batches_; // published, in order
-    std::vector<std::unique_ptr<Batch>> spare_;  // received; the next files take over their texts' memory
+    std::vector<std::unique_ptr<Batch>> spare_;  // delivered; reused with the memory of their texts
 
-    bool haveReaders_ = false; // readers_ itself grows under the readers' hands
+    bool haveReaders_ = false; // readers_ itself is changed by readers
 
-    // Shared with the readers, under the mutex.
+    // Guarded by mutex_.
     std::mutex mutex_;
     std::condition_variable work_;
     std::condition_variable finished_;
@@ -118,8 +116,8 @@ class TrackQueue {
     std::vector<std::thread> readers_;
     unsigned idle_ = 0;
     ReaderPolicy policy_;
-    std::atomic<bool> slowDisk_ = false; // the policy's, read between batches without the mutex
-    std::atomic<bool> stopping_ = false; // read between files too, so that nobody waits for a batch to end
+    std::atomic<bool> slowDisk_ = false; // copy of the policy's, read without the mutex
+    std::atomic<bool> stopping_ = false; // polled between files, so that a batch ends early
     bool callerWaits_ = false;
 };
 
