@@ -37,11 +37,11 @@ ColumnKey ColumnKeyOf(std::string_view name) {
     const auto* const found = std::find_if(kColumns.begin(), kColumns.end() - 1, [&](const ColumnKind& kind) {
         return UpperCase(kind.name) == key;
     });
-    return found->key; // the last is the unknown one
+    return found->key; // the last row is Unknown
 }
 
 std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
-    // Positions and lengths count characters.
+    // Positions and lengths count characters, a stray byte as one.
     const std::u32string active = Characters(activeColumns);
     const std::u32string upper = Characters(UpperCase(activeColumns));
     const std::size_t artist = upper.find(U"ARTIST");
@@ -49,10 +49,10 @@ std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
     if (merge <= 0 || artist == std::u32string::npos || title == std::u32string::npos) {
         return activeColumns;
     }
-    // Deliberate: positions are those from before the removals, so the list is cut wrongly where Album comes
-    // first. Lists have always been written so.
+    // Required: positions are measured before names are removed, so the list is cut in the wrong place when
+    // Album comes first. Do not 'fix'.
     const std::size_t start = std::min(artist, title);
-    const std::size_t bar = upper.find(U'|', start); // none: the whole list is its own end
+    const std::size_t bar = upper.find(U'|', start); // npos: keep the whole list as the tail
     std::u32string list = Remove(active, artist < title ? U"Title" : U"Artist");
     if (merge == 2) {
         list = Remove(list, U"Album");

@@ -1,5 +1,5 @@
-// The columns that listings are made of. Each is one row of one table: what the settings call it, how it is
-// aligned, and the stored text that it shows.
+// The columns of a listing. One table holds each column's name in the settings, alignment, and the stored
+// text that it shows.
 #pragma once
 
 #include "TrackTable.h"
@@ -29,22 +29,22 @@ enum class ColumnKey {
     Filename,
     FolderPath,
     FullPath,
-    ArtistTitle,      // made by merging columns
-    ArtistAlbumTitle, // made by merging columns
-    Unknown,          // a name that is no column's, from a hand-edited file: it has a header and no cells
+    ArtistTitle,      // a merged column
+    ArtistAlbumTitle, // a merged column
+    Unknown,          // a name that no column has, from a hand-edited file: a header without cells
 };
 
 struct ColumnKind {
     ColumnKey key;
-    std::string_view name;           // as settings hold it
-    bool leftHeader = false;         // the header is aligned left, not centred
-    bool rightCells = false;         // cells are aligned right
-    bool blankForEmpty = false;      // an empty text shows as "&nbsp;" in pages, so that its cell is painted
-    SharedText TrackRow::*text = {}; // the stored text it shows; none where the writers make the text
-    std::string_view header = {};    // its header in listings; none where that is the name in the settings
+    std::string_view name;      // in the settings
+    bool leftHeader = false;    // header left-aligned; default centred
+    bool rightCells = false;    // cells right-aligned; default left
+    bool blankForEmpty = false; // an empty text becomes "&nbsp;" in pages: browsers do not draw empty cells
+    SharedText TrackRow::*text = {}; // the text it shows; null where the writers make it
+    std::string_view header = {};    // its header in listings; empty: the name in the settings
 };
 
-// In the order of the keys; the columns that users can choose come first, in the order in which they are
+// In the order of the keys. The columns that users can choose come first, in the order in which they are
 // offered.
 inline constexpr std::array kColumns = {
     ColumnKind{.key = ColumnKey::Number, .name = "Number", .rightCells = true},
@@ -88,27 +88,25 @@ static_assert(
     }(),
     "the table has a row for each key, in the order of the keys");
 
-// The row of a key.
 constexpr const ColumnKind& KindOf(ColumnKey key) {
     return kColumns[static_cast<std::size_t>(key)];
 }
 
 struct Column {
-    std::string name; // as the settings spell it, or the merge's
+    std::string name; // as spelt in the settings, or the name of the merged column
     ColumnKey key = ColumnKey::Unknown;
 };
 
-// The column of that name, compared without regard to case.
+// The key of a name, compared without regard to case; Unknown for any other.
 ColumnKey ColumnKeyOf(std::string_view name);
 
-// The column list of a listing: `activeColumns` with artist and title (`merge` 1) or artist, album and title
-// (2) made one column where both artist and title are active. Positions count characters, a stray byte as
-// one. Raises error 5 where album comes so far before the others that nothing is left behind them.
+// The columns of a listing: `activeColumns`, with artist and title (`merge` 1) or artist, album and title
+// (`merge` 2) merged into one column if artist and title are both active. Raises error 5 if, once merged
+// columns are removed, nothing is left after the merged one.
 std::string MergeColumns(const std::string& activeColumns, std::int16_t merge);
 
 std::vector<Column> SplitColumns(const std::string& columnList);
 
-// A column's header.
 std::string HeaderText(const Column& column);
 
 } // namespace tunedex

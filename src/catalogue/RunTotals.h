@@ -1,4 +1,4 @@
-// What a run knows of its collection as a whole.
+// Counts and sums of one run.
 #pragma once
 
 #include <cstdint>
@@ -6,11 +6,11 @@
 namespace tunedex {
 
 struct RunTotals {
-    std::int32_t FoundCount = 0;    // files of the counting pass
-    std::int32_t StoredCount = 0;   // records of the collecting pass
-    std::int32_t UntaggedCount = 0; // of those, without a tag
+    std::int32_t FoundCount = 0;    // MP3 files found by the counting pass
+    std::int32_t StoredCount = 0;   // records stored by the collecting pass
+    std::int32_t UntaggedCount = 0; // of those, records without a tag
     double TotalBytes = 0;
-    double TotalSeconds = 0; // the sum of each file's whole seconds
+    double TotalSeconds = 0; // sum of whole seconds per file
 };
 
 } // namespace tunedex

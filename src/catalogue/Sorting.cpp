@@ -16,8 +16,7 @@ namespace {
 
 struct SortAborted {};
 
-// Asks whether to stop, at the first step and then once in a few thousand: often enough to answer at once,
-// seldom enough to cost nothing.
+// Polls for an abort at the first step and then every few thousand: responsive, at no measurable cost.
 class AbortPoll {
   public:
     explicit AbortPoll(RunMonitor& monitor) : monitor_(monitor) {}
@@ -27,7 +26,7 @@ class AbortPoll {
             Ask();
         }
     }
-    // For a step that works on a long text.
+    // For a step over a long text, which takes as long as many short ones.
     void Ask() {
         if (monitor_.AbortRequested()) {
             throw SortAborted();
@@ -47,7 +46,7 @@ std::uint64_t PrefixOf(std::string_view text) {
     return prefix;
 }
 
-// A step that compares `text` with another.
+// Accounts for comparing `text` once.
 void StepOver(std::string_view text, AbortPoll& poll) {
     if (text.size() < kLongTextBytes) {
         poll.Step();
@@ -56,7 +55,7 @@ void StepOver(std::string_view text, AbortPoll& poll) {
     }
 }
 
-// The upper case of a text, stored in `keys`.
+// The upper-cased text, stored in `keys`.
 SharedText KeyFor(std::string_view text, TextStore& keys, AbortPoll& poll) {
     if (text.size() < kLongTextBytes) {
         return keys.Add(UpperCase(text));
@@ -73,7 +72,7 @@ SharedText KeyFor(std::string_view text, TextStore& keys, AbortPoll& poll) {
     return keys.Keep(std::make_shared<const LongText>(std::move(key)));
 }
 
-// Ranks of a field that many rows share: every stored text is upper-cased and compared once.
+// Ranks of a field whose texts many rows share: each stored text is upper-cased and compared once.
 class SharedRanks {
   public:
     SharedRanks(const std::vector<TrackRow>& rows, SharedText TrackRow::*field, AbortPoll& poll) {
@@ -102,7 +101,7 @@ class SharedRanks {
     std::unordered_map<const void*, std::uint32_t> ranks_;
 };
 
-// Upper-cased titles, a long one once however many rows have it.
+// Upper-cased titles. A long title that several rows share is stored once.
 class TitleKeys {
   public:
     std::string_view Of(SharedText title, AbortPoll& poll) {
@@ -169,7 +168,7 @@ struct RankedRow {
     std::uint32_t row;
 };
 
-// The prescribed exchanges, on small numbers in place of records.
+// The exchanges of the Shell sort, on 8-byte ranks in place of records.
 void ExchangeInOrder(std::vector<RankedRow>& rows, AbortPoll& poll) {
     const std::size_t count = rows.size();
     for (std::size_t gap = count / 2 + 1; gap > 0; gap /= 2) {
@@ -203,7 +202,7 @@ bool SortTracks(TrackTable& table, std::int16_t sortOrder, RunMonitor& monitor) 
     } catch (const SortAborted&) {
         return true;
     }
-    // Every row now knows whose fields it gets; following the circles moves each record once.
+    // order[i].row is the row whose record belongs in row i; following the cycles moves each record once.
     for (std::uint32_t start = 0; start < order.size(); ++start) {
         std::uint32_t row = start;
         while (order[row].row != start) {

@@ -1,4 +1,4 @@
-// What is known of one MP3 file. Every text is as listings show it.
+// The record of one MP3 file. Every text is as listings show it.
 #pragma once
 
 #include "LongText.h"
@@ -15,7 +15,7 @@ enum TagKind : std::int16_t { kNoTag = 0, kId3v1Tag = 1, kId3v2Tag = 2 };
 
 struct TrackInfo;
 
-// A long text of a track's tag, in the place of the text that `field` would hold.
+// A long tag text, in place of the text in the member `field`.
 struct LongField {
     std::string TrackInfo::*field;
     LongTextHandle text;
@@ -24,10 +24,9 @@ struct LongField {
 };
 
 struct TrackInfo {
-    std::string
-        FullPath; // the folder walked, ending in a separator, and the name as the directory returned it
-    std::string BaseFolder;    // the start folder it was found under, as the folder setting holds it
-    std::int32_t FileSize = 0; // bytes; 2,147,483,647 stands for anything longer
+    std::string FullPath;      // folder with a trailing separator + name as the directory returned it
+    std::string BaseFolder;    // its start folder, as in the folder setting
+    std::int32_t FileSize = 0; // bytes, clamped to 2,147,483,647
     std::string Artist;
     std::string Title;
     std::string Album;
@@ -36,17 +35,17 @@ struct TrackInfo {
     std::string Bitrate;   // kbit/s, decimal digits
     std::string Frequency; // Hz, decimal digits
     std::string Mode;
-    std::string MpegType; // "1.0 III"
+    std::string MpegType; // version and layer: "1.0 III"
     std::string Duration; // minutes:seconds
     std::int16_t TagType = kNoTag;
-    // The long texts among Artist, Title, Album, Year and Genre, when they were read into a pool; the members
-    // themselves are empty then.
+    // The long texts among Artist, Title, Album, Year and Genre, if read into a pool; those members are then
+    // empty.
     std::vector<LongField> LongFields = {};
 
     bool operator==(const TrackInfo&) const = default;
 
-    // Empties everything but FullPath. The texts keep their memory for the next track, unless it is a lot:
-    // thousands of records are in flight.
+    // Clears every member except FullPath. Texts keep up to 512 bytes of memory for the next track: thousands
+    // of records are in flight.
     void Clear() {
         for (std::string* text : {&BaseFolder, &Artist, &Title, &Album, &Year, &Genre, &Bitrate, &Frequency,
                                   &Mode, &MpegType, &Duration}) {
@@ -61,7 +60,7 @@ struct TrackInfo {
         LongFields.clear();
     }
 
-    // Sets one of the five fields, or the long text in its place.
+    // Set one of the five texts to a long text; clear one.
     void Set(std::string TrackInfo::*field, LongTextHandle text) {
         Unset(field);
         LongFields.push_back({field, std::move(text)});
