@@ -14,7 +14,7 @@
 namespace tunedex {
 namespace {
 
-TEST(ColumnKeyOf, KnowsEveryColumnInAnyCase) {
+TEST(ColumnKeyOf, FindsEveryColumnInAnyCase) {
     const std::vector<std::pair<std::string_view, ColumnKey>> rows = {
         {"Number", ColumnKey::Number},
         {"Artist", ColumnKey::Artist},
@@ -54,7 +54,7 @@ struct MergeRow {
     std::string_view merged;
 };
 
-TEST(MergeColumns, PutsOneColumnInThePlaceOfTheFirst) {
+TEST(MergeColumns, PutsTheMergedColumnWhereTheFirstOneWas) {
     const MergeRow rows[] = {
         {"Number|Artist|Album|Title|Duration", 0, "Number|Artist|Album|Title|Duration"},
         {"Number|Artist|Album|Title|Duration", -1, "Number|Artist|Album|Title|Duration"},
@@ -76,7 +76,7 @@ TEST(MergeColumns, PutsOneColumnInThePlaceOfTheFirst) {
     }
 }
 
-TEST(MergeColumns, LeavesTheListWhereArtistOrTitleIsMissing) {
+TEST(MergeColumns, ReturnsTheListUnchangedWithoutArtistOrTitle) {
     for (const char* columns :
          {"", "Number", "Number|Artist|Album", "Title|Album", "|", "|Artist|", "Album"}) {
         for (const std::int16_t merge : {1, 2, 3}) {
@@ -85,29 +85,29 @@ TEST(MergeColumns, LeavesTheListWhereArtistOrTitleIsMissing) {
     }
 }
 
-TEST(MergeColumns, CutsByThePositionsFromBeforeTheRemovals) {
+TEST(MergeColumns, CutsAtThePositionsMeasuredBeforeTheRemovals) {
     const MergeRow rows[] = {
-        // With the album first, its removal moves the rest under the measured positions.
+        // With Album first, its removal shifts the rest against the measured positions.
         {"Album|Artist|Title|Year", 2, "ArtisArtistAlbumTitle"},
         {"Album|Number|Artist|Title|Duration", 2, "Number|ArtisArtistAlbumTitletion"},
-        // Any other positive value has no name for the merged column.
+        // Any other positive value has an empty name for the merged column.
         {"Number|Artist|Title|Year", 3, "Number||Year"},
         {"Artist|Title", 3, ""},
-        // Names are found in any case, and removed as they are written only.
+        // Names are found in any case but removed only in the exact spelling.
         {"artist|title|Year", 1, "ArtistTitle|title|Year"},
         {"ARTIST|Title", 1, "ArtistTitle"},
         {"title|Artist|Year", 1, "ArtistTitle|Year"},
-        // Empty entries shrink with the removals, too.
+        // The removals also shorten runs of empty entries.
         {"|Artist||Title|Year", 1, "ArtistTitle||Year"},
         {"Artist|Title|", 1, "ArtistTitle"},
         {"|Artist|Title", 1, "ArtistTitle"},
         {"||Artist|Title", 1, "AArtistTitle"},
         {"Artist|Title||", 1, "ArtistTitle|"},
-        // Characters are counted, not bytes; a stray byte is one.
+        // Positions count characters, not bytes; a stray byte is one.
         {"Album|Title|ÄÖÜäöüß|Artist|Year", 2, "TitleArtistAlbumTitleöüß|Year"},
         {"ÄÖ|Artist|Title|Year", 1, "ÄÖ|ArtistTitle|Year"},
         {"\xE9\xE9|Artist|Title|あ", 1, "\xE9\xE9|ArtistTitle|あ"},
-        // A name that holds both.
+        // A name that contains both.
         {"ArtistTitle", 1, "ArtistTitleArtist"},
         {"Subtitle|Artist", 1, "SubArtistTitle"},
     };
@@ -116,7 +116,7 @@ TEST(MergeColumns, CutsByThePositionsFromBeforeTheRemovals) {
     }
 }
 
-// The steps as they are prescribed, with positions counted from 1 and texts cut with Left and Right.
+// The required steps, with positions counted from 1 and texts cut from the left and the right.
 std::string ReferenceMerge(const std::string& columns, std::int16_t merge) {
     std::string list = columns;
     const auto upper = [](std::string text) {
@@ -171,7 +171,7 @@ std::string Attempt(std::string (*merge)(const std::string&, std::int16_t), cons
     }
 }
 
-TEST(MergeColumns, AgreesWithThePrescribedStepsOnEveryOrderOfSixColumns) {
+TEST(MergeColumns, AgreesWithTheReferenceOnEveryOrderOfSixColumns) {
     std::vector<std::string> names = {"", "Album", "Artist", "Number", "Title", "artist"};
     int errors = 0;
     do {
@@ -190,13 +190,13 @@ TEST(MergeColumns, AgreesWithThePrescribedStepsOnEveryOrderOfSixColumns) {
     EXPECT_GT(errors, 0);
 }
 
-TEST(MergeColumns, RaisesError5WhereNothingIsLeftBehindTheMergedColumn) {
-    // The album is gone, and with it more than stood behind the artist.
+TEST(MergeColumns, RaisesError5IfNothingIsLeftAfterTheMergedColumn) {
+    // The removal of Album takes away more than what followed Artist.
     EXPECT_EQ(Attempt(MergeColumns, "Album|Album|Artist|Title", 2), "error 5");
     EXPECT_EQ(MergeColumns("Album|Album|Artist|Title", 1), "Album|Album|ArtistTitle");
 }
 
-TEST(SplitColumns, KeepsUnknownNamesAndMakesNoneOfNothing) {
+TEST(SplitColumns, KeepsUnknownNamesAndReturnsNoneForAnEmptyList) {
     EXPECT_TRUE(SplitColumns("").empty());
     const auto columns = SplitColumns("Number|Foo|ARTIST||x");
     ASSERT_EQ(columns.size(), 5U);
@@ -207,7 +207,7 @@ TEST(SplitColumns, KeepsUnknownNamesAndMakesNoneOfNothing) {
     EXPECT_EQ(columns[3].name, "");
 }
 
-TEST(HeaderText, NamesTheMergedColumnsAndLeavesTheOthersAsTheyAreWritten) {
+TEST(HeaderText, NamesTheMergedColumnsAndKeepsTheSpellingOfOthers) {
     EXPECT_EQ(HeaderText({"ArtistTitle", ColumnKey::ArtistTitle}), "Artist: Title");
     EXPECT_EQ(HeaderText({"ARTISTALBUMTITLE", ColumnKey::ArtistAlbumTitle}), "Artist (Album): Title");
     EXPECT_EQ(HeaderText({"nUMBER", ColumnKey::Number}), "nUMBER");

@@ -17,7 +17,7 @@ LongText TextOf(std::string_view text) {
     return made;
 }
 
-TEST(LongText, HoldsWhatIsAppendedHoweverMuch) {
+TEST(LongText, HoldsAppendedTextsOfAnySize) {
     LongText text;
     EXPECT_TRUE(text.View().empty());
     std::string expected;
@@ -35,7 +35,7 @@ TEST(LongText, HoldsWhatIsAppendedHoweverMuch) {
     EXPECT_TRUE(moved.Shared().View() == std::string_view(expected).substr(101));
 }
 
-TEST(LongText, IsEmptyOnceAllIsRemoved) {
+TEST(LongText, IsEmptyAfterRemovingEverything) {
     LongText text = TextOf("The ");
     text.RemovePrefix(4);
     EXPECT_TRUE(text.View().empty());
@@ -43,7 +43,7 @@ TEST(LongText, IsEmptyOnceAllIsRemoved) {
     EXPECT_EQ(text.View(), ", The");
 }
 
-TEST(LongTextPool, GivesEqualTextsOneCopyForAsLongAsOneIsHeld) {
+TEST(LongTextPool, SharesOneCopyOfEqualTextsWhileAHandleExists) {
     LongTextPool pool;
     const std::string text(5000, 't');
     LongTextHandle first = pool.Share(text);
@@ -61,9 +61,9 @@ TEST(LongTextPool, LetsOneReaderAtATimeExceedTheLimit) {
     std::atomic<int> most = 0;
     const auto read = [&] {
         LongTextPool::Turn turn(&pool);
-        turn.Reach(LongTextPool::kAloneBytes); // waits for nobody
+        turn.Reach(LongTextPool::kAloneBytes); // within the limit: does not wait
         turn.Reach(LongTextPool::kAloneBytes + 1);
-        turn.Reach(2 * LongTextPool::kAloneBytes); // nor does the one whose turn it is
+        turn.Reach(2 * LongTextPool::kAloneBytes); // nor does the reader that already has the turn
         most = std::max<int>(most, ++exceeding);
         std::this_thread::yield();
         --exceeding;

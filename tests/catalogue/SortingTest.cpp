@@ -46,7 +46,7 @@ std::vector<TrackInfo> Sorted(const std::vector<TrackInfo>& tracks, std::int16_t
     return ContentOf(table);
 }
 
-// What the prescribed exchanges make of the tracks.
+// The tracks after the reference exchanges.
 std::vector<TrackInfo> SortedByReference(std::vector<TrackInfo> tracks, std::int16_t sortOrder) {
     tracks.insert(tracks.begin(), TrackInfo());
     test::ReferenceSort(tracks, sortOrder);
@@ -54,7 +54,8 @@ std::vector<TrackInfo> SortedByReference(std::vector<TrackInfo> tracks, std::int
     return tracks;
 }
 
-// Every field of its own, so that one which goes astray shows; keys from a few, so that there are many ties.
+// Fields are unique per track, so that a misplaced one shows; keys come from a short list, so that ties are
+// frequent.
 std::vector<TrackInfo> RandomTracks(std::mt19937& random, std::size_t count, unsigned variety) {
     constexpr std::string_view kTexts[] = {
         "",          "a",         "A",        "aA",           "Abba",     "ABBA",
@@ -81,7 +82,7 @@ std::vector<TrackInfo> RandomTracks(std::mt19937& random, std::size_t count, uns
                         "d" + n,
                         static_cast<std::int16_t>(i % 3)};
         if (random() % 10 == 0) {
-            track.Artist = track.FullPath; // as a file without tags has it
+            track.Artist = track.FullPath; // as in a file without tags
             track.TagType = kNoTag;
         }
         tracks.push_back(track);
@@ -89,7 +90,7 @@ std::vector<TrackInfo> RandomTracks(std::mt19937& random, std::size_t count, uns
     return tracks;
 }
 
-TEST(SortTracks, AgreesWithThePrescribedExchangesToTheLastRecord) {
+TEST(SortTracks, AgreesWithTheReferenceExchangesForEveryRecord) {
     std::mt19937 random(1);
     for (int round = 0; round < 1000; ++round) {
         const std::size_t count = random() % (round % 20 == 0 ? 400 : 40);
@@ -99,7 +100,7 @@ TEST(SortTracks, AgreesWithThePrescribedExchangesToTheLastRecord) {
     }
 }
 
-TEST(SortTracks, AgreesWithThemForEverySmallCountAndLongRuns) {
+TEST(SortTracks, AgreesWithTheReferenceForEverySmallCountAndForLongRuns) {
     std::mt19937 random(2);
     for (std::size_t count = 0; count < 34; ++count) {
         for (const std::int16_t order : {1, 2}) {
@@ -133,7 +134,7 @@ std::string ArtistsOf(const std::vector<TrackInfo>& tracks) {
     return artists;
 }
 
-TEST(SortTracks, LooksAtAlbumAndThenTitleWhereTheArtistsAreTheSameButForCase) {
+TEST(SortTracks, ComparesAlbumThenTitleIfArtistsDifferInCaseOnly) {
     const auto sorted = Sorted({Track("abba", "b"), Track("ABBA", "a"), Track("Abba", "c")}, 1);
     EXPECT_EQ(ArtistsOf(sorted), "ABBA|abba|Abba|");
     const auto titles = Sorted({Track("x", "A", "two"), Track("X", "a", "One"), Track("x", "", "zero")}, 1);
@@ -142,7 +143,7 @@ TEST(SortTracks, LooksAtAlbumAndThenTitleWhereTheArtistsAreTheSameButForCase) {
     EXPECT_EQ(titles[2].Title, "two");
 }
 
-TEST(SortTracks, NeverExchangesTracksThatDifferInCaseAlone) {
+TEST(SortTracks, NeverExchangesTracksThatDifferInCaseOnly) {
     for (const std::int16_t order : {1, 2}) {
         const std::vector<TrackInfo> pair = {Track("b", "C", "d"), Track("B", "c", "D")};
         EXPECT_TRUE(Sorted(pair, order) == pair);
@@ -152,7 +153,7 @@ TEST(SortTracks, NeverExchangesTracksThatDifferInCaseAlone) {
 }
 
 TEST(SortTracks, ComparesLongTextsToTheirLastCharacterWithoutRegardToCase) {
-    // The seams between the pieces that a long text is upper-cased in fall into a letter of two bytes.
+    // The boundaries of the pieces in which a long text is upper-cased fall inside a two-byte letter.
     std::string letters;
     while (letters.size() < 200000) {
         letters += "\xC3\xA4";
@@ -167,7 +168,7 @@ TEST(SortTracks, ComparesLongTextsToTheirLastCharacterWithoutRegardToCase) {
     }
 }
 
-TEST(SortTracks, PutsTheLastFirstWhenDescending) {
+TEST(SortTracks, ReversesTheOrderWhenDescending) {
     EXPECT_EQ(ArtistsOf(Sorted({Track("ABBA"), Track("Zz Top")}, 2)), "Zz Top|ABBA|");
     EXPECT_EQ(ArtistsOf(Sorted({Track("ABBA"), Track("Zz Top")}, 1)), "ABBA|Zz Top|");
 }
@@ -177,14 +178,14 @@ TEST(SortTracks, ComparesKeysAsTheyAreStored) {
                                 Track("Cure, The"), Track("The The")},
                                1)),
               "/music/a.mp3|Beatles, The|Cure, The|The The|Unknown Artist|");
-    // By code: blanks and digits before letters, accents behind them.
+    // By code point: blanks and digits before letters, accented letters after them.
     EXPECT_EQ(ArtistsOf(Sorted({Track("\xC3\xA9"), Track("z"), Track("A b"), Track("Ab"), Track("_"),
                                 Track("10"), Track("9")},
                                1)),
               "10|9|A b|Ab|z|_|\xC3\xA9|");
 }
 
-TEST(SortTracks, LeavesBaseFolderModeTypeAndTagKindWithTheirRow) {
+TEST(SortTracks, KeepsBaseFolderModeTypeAndTagKindWithTheirRow) {
     TrackInfo first{"/p/1", "/b/1", 1, "Z", "t1", "al1", "y1", "g1", "k1", "f1", "Mono", "1.0 III", "d1", 1};
     TrackInfo second{"/p/2", "/b/2", 2,    "A",      "t2",     "al2", "y2",
                      "g2",   "k2",   "f2", "Stereo", "2.0 II", "d2",  2};
@@ -195,7 +196,7 @@ TEST(SortTracks, LeavesBaseFolderModeTypeAndTagKindWithTheirRow) {
                                         "2.0 II", "d1", 2}));
 }
 
-TEST(SortTracks, StopsWhenAskedAndLeavesTheTableAsItWas) {
+TEST(SortTracks, LeavesTheTableUnchangedWhenAborted) {
     std::mt19937 random(4);
     for (const std::size_t count : {2U, 10U, 3000U, 30000U}) {
         const auto tracks = RandomTracks(random, count, 18);
@@ -207,7 +208,7 @@ TEST(SortTracks, StopsWhenAskedAndLeavesTheTableAsItWas) {
     }
 }
 
-TEST(SortTracks, AsksAgainAndAgain) {
+TEST(SortTracks, PollsForAnAbortRepeatedly) {
     std::mt19937 random(5);
     TrackTable table = TableOf(RandomTracks(random, 30000, 18));
     FakeMonitor monitor;

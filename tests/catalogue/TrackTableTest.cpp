@@ -13,7 +13,7 @@ std::string LettersOf(std::size_t length, char last = 'z') {
     return text;
 }
 
-TEST(TrackTable, HoldsTextsOfEveryLengthAsTheyAre) {
+TEST(TrackTable, StoresTextsOfEveryLengthUnchanged) {
     TrackTable table(20);
     std::vector<TrackInfo> tracks;
     for (const std::size_t length : {std::size_t{1}, kLongTextBytes - 1, kLongTextBytes, kLongTextBytes + 1,
@@ -31,7 +31,7 @@ TEST(TrackTable, HoldsTextsOfEveryLengthAsTheyAre) {
     }
 }
 
-TEST(TrackTable, HoldsALongTextOnceWhateverFieldsShowIt) {
+TEST(TrackTable, StoresALongTextOnceWhicheverFieldsShowIt) {
     TrackTable table(2);
     TrackInfo track;
     track.Artist = track.Title = track.Album = track.Year = track.Genre = LettersOf(4096);
@@ -47,7 +47,7 @@ TEST(TrackTable, HoldsALongTextOnceWhateverFieldsShowIt) {
     EXPECT_EQ(table.At(2).Title.View(), LettersOf(4096, 'y'));
 }
 
-TEST(TrackTable, TakesOverTheLongTextsThatReadersShare) {
+TEST(TrackTable, ReusesTheLongTextsThatReadersShared) {
     TrackTable table(1);
     const TrackInfo fresh;
     TrackInfo track;
@@ -62,7 +62,7 @@ TEST(TrackTable, TakesOverTheLongTextsThatReadersShare) {
     EXPECT_EQ(track, fresh);
 }
 
-TEST(TrackTable, MovesWithItsLongTexts) {
+TEST(TrackTable, KeepsLongTextsWhenMoved) {
     TrackTable table(1);
     TrackInfo track;
     track.Title = LettersOf(5000);

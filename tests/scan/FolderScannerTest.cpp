@@ -27,7 +27,7 @@ using test::TestFolder;
 constexpr const char* kWalkError = R"(scanning the directory: \n\n%D\n\n%N: %S)";
 constexpr const char* kDecodeError = R"(decoding the headers of: \n\n%F)";
 
-// Both passes as a run makes them.
+// Runs both passes as a job does.
 struct Scan {
     explicit Scan(unsigned readerCount = 1, ReadOptions readOptions = {})
         : readers(readerCount), options(std::move(readOptions)) {}
@@ -64,7 +64,7 @@ std::string Tagged(const std::string& title, std::size_t bytes = 16000) {
     return Audio(bytes - 128) + Id3v1Tag({title, "artist", "album", "1999", "", 17});
 }
 
-TEST(ScanFolders, FillsARecordAndTheTotals) {
+TEST(ScanFolders, StoresRecordsAndTotals) {
     const TestFolder folder;
     folder.Write("a.mp3", Tagged("one", 16000));
     folder.Write("b.mp3", Audio(32000));
@@ -89,7 +89,7 @@ TEST(ScanFolders, FillsARecordAndTheTotals) {
                            "", "128", "44100", "Joint Stereo", "1.0 III", "0:02", 0}));
 }
 
-TEST(ScanFolders, CountsInTheFirstPassAndReadsInTheSecond) {
+TEST(ScanFolders, CountsInTheFirstPassAndCollectsInTheSecond) {
     const TestFolder folder;
     folder.Write("a.mp3", Tagged("one"));
     Scan scan;
@@ -104,7 +104,7 @@ TEST(ScanFolders, CountsInTheFirstPassAndReadsInTheSecond) {
     EXPECT_EQ(scan.totals.FoundCount, 1);
 }
 
-TEST(ScanFolders, MovesTheArtistsWhenAsked) {
+TEST(ScanFolders, MovesTheArtistsWhenEnabled) {
     const TestFolder folder;
     folder.Write("a.mp3", Audio(500) + Id3v1Tag({"t", "The Who", "", "", "", 0}));
     Scan moving(1, {true});
@@ -115,7 +115,7 @@ TEST(ScanFolders, MovesTheArtistsWhenAsked) {
     EXPECT_EQ(leaving.Tracks().at(0).Artist, "The Who");
 }
 
-TEST(ScanFolders, ShowsEachFileAsItIsRead) {
+TEST(ScanFolders, ReportsProgressForEachFile) {
     const TestFolder folder;
     folder.Write("a.mp3", Tagged("one"));
     folder.Write("b.mp3", Tagged("two"));
@@ -126,7 +126,7 @@ TEST(ScanFolders, ShowsEachFileAsItIsRead) {
     EXPECT_EQ(scan.monitor.positions, (std::vector<std::int32_t>{1, 2}));
 }
 
-TEST(ScanFolders, HoldsTheStartFolderAsTheSettingHasIt) {
+TEST(ScanFolders, RecordsTheStartFolderAsInTheSetting) {
     const TestFolder folder;
     folder.Write("a/sub/x.mp3", Tagged("x"));
     folder.Write("b/y.mp3", Tagged("y"));
@@ -149,7 +149,7 @@ TEST(ScanFolders, HoldsTheStartFolderAsTheSettingHasIt) {
               (Texts{folder / "b/", folder / "a"}));
 }
 
-TEST(ScanFolders, CountsOnThroughAllFoldersOfAList) {
+TEST(ScanFolders, CountsAcrossAllFoldersOfAList) {
     const TestFolder folder;
     folder.Write("a/1.mp3", Tagged("x"));
     folder.Write("b/2.mp3", Tagged("y"));
@@ -162,7 +162,7 @@ TEST(ScanFolders, CountsOnThroughAllFoldersOfAList) {
     EXPECT_EQ(scan.Tracks()[1].FullPath, folder / "b/2.mp3");
 }
 
-TEST(ScanFolders, ReportsAFileThatCannotBeDecodedAndGoesOn) {
+TEST(ScanFolders, ReportsAFileThatCannotBeDecodedAndContinues) {
     const TestFolder folder;
     folder.Write("bad.mp3", std::string(300, 'a') + Id3v1Tag({"kept", "a", "", "", "", 0}));
     folder.Write("good.mp3", Tagged("good"));
@@ -175,7 +175,7 @@ TEST(ScanFolders, ReportsAFileThatCannotBeDecodedAndGoesOn) {
     EXPECT_EQ(scan.totals.TotalBytes, 428 + 16000);
 }
 
-TEST(ScanFolders, EndsAtAFolderNamedLikeAFileAndKeepsTheRecordsBefore) {
+TEST(ScanFolders, StopsAtAFolderNamedLikeAFileAndKeepsEarlierRecords) {
     const TestFolder folder;
     folder.Write("first/1.mp3", Tagged("x"));
     folder.Make("second/Live.mp3");
@@ -187,7 +187,7 @@ TEST(ScanFolders, EndsAtAFolderNamedLikeAFileAndKeepsTheRecordsBefore) {
                               false));
         EXPECT_EQ(scan.totals.FoundCount, 3);
         EXPECT_EQ(scan.totals.StoredCount, 1);
-        EXPECT_EQ(scan.table.Count(), 1U) << "no empty rows, and none for the folder";
+        EXPECT_EQ(scan.table.Count(), 1U) << "no empty row, and no row for the folder";
         EXPECT_EQ(scan.reporter.reports,
                   (std::vector<FakeReporter::Reported>{{kWalkError, "", folder / "second", 53}}));
     }
@@ -213,7 +213,7 @@ TEST(ScanFolders, ReportsAFolderThatCannotBeListedInEachPass) {
     }
 }
 
-TEST(ScanFolders, ListsAFileThatMayNotBeReadWithoutTags) {
+TEST(ScanFolders, ListsAnUnreadableFileWithoutTags) {
     const TestFolder folder;
     fs::permissions(folder.Path(), fs::perms::all);
     folder.Write("a.mp3", Tagged("secret"));
@@ -229,9 +229,9 @@ TEST(ScanFolders, ListsAFileThatMayNotBeReadWithoutTags) {
               (std::vector<FakeReporter::Reported>{{kDecodeError, folder / "a.mp3", "", 75}}));
 }
 
-TEST(ScanFolders, NamesTheRootFolderWithItsSeparator) {
+TEST(ScanFolders, ReportsFoldersWithoutTheirSeparator) {
     Scan scan;
-    scan.monitor.abortAtQuestion = 1; // the walk itself must not go far
+    scan.monitor.abortAtQuestion = 1; // keeps the walk of / short
     EXPECT_TRUE(scan.Count("/", false));
     EXPECT_TRUE(scan.reporter.reports.empty());
     Scan missing;
@@ -240,7 +240,7 @@ TEST(ScanFolders, NamesTheRootFolderWithItsSeparator) {
               (std::vector<FakeReporter::Reported>{{kWalkError, "", "/no such folder", 76}}));
 }
 
-TEST(ScanFolders, StoresNoMoreFilesThanWereCounted) {
+TEST(ScanFolders, StoresAtMostAsManyFilesAsWereCounted) {
     const TestFolder folder;
     folder.Write("a.mp3", Tagged("a"));
     folder.Write("b.mp3", Tagged("b"));
@@ -251,11 +251,11 @@ TEST(ScanFolders, StoresNoMoreFilesThanWereCounted) {
         EXPECT_FALSE(scan.Collect(folder.Path()));
         EXPECT_EQ(scan.totals.StoredCount, 1);
         EXPECT_EQ(scan.table.Count(), 1U);
-        EXPECT_TRUE(scan.reporter.reports.empty()) << "the pass ends normally";
+        EXPECT_TRUE(scan.reporter.reports.empty()) << "the pass ends without an error";
     }
 }
 
-TEST(ScanFolders, KeepsNoEmptyRowsForFilesThatHaveGone) {
+TEST(ScanFolders, KeepsNoEmptyRowsForFilesRemovedAfterTheCount) {
     const TestFolder folder;
     folder.Write("a.mp3", Tagged("a"));
     Scan scan;
@@ -266,7 +266,7 @@ TEST(ScanFolders, KeepsNoEmptyRowsForFilesThatHaveGone) {
     EXPECT_EQ(scan.totals.StoredCount, 1);
 }
 
-TEST(ScanFolders, TellsWhenTheUserAborts) {
+TEST(ScanFolders, ReturnsTrueWhenTheUserAborts) {
     const TestFolder folder;
     for (int i = 0; i < 40; ++i) {
         folder.Write(std::to_string(i) + ".mp3", Tagged("x"));
@@ -275,7 +275,7 @@ TEST(ScanFolders, TellsWhenTheUserAborts) {
         Scan counting(readers);
         counting.monitor.abortAtQuestion = 5;
         EXPECT_TRUE(counting.Count(folder.Path()));
-        EXPECT_EQ(counting.totals.FoundCount, 5) << "it is asked after each entry";
+        EXPECT_EQ(counting.totals.FoundCount, 5) << "polled after each entry";
         Scan collecting(readers);
         collecting.Count(folder.Path());
         collecting.monitor.asked = 0;
@@ -285,13 +285,13 @@ TEST(ScanFolders, TellsWhenTheUserAborts) {
         EXPECT_TRUE(collecting.reporter.reports.empty());
         EXPECT_EQ(static_cast<std::size_t>(collecting.totals.StoredCount), collecting.table.Count());
         if (readers == 1) {
-            EXPECT_GE(collecting.table.Count(), 2U) << "what was read before stays";
+            EXPECT_GE(collecting.table.Count(), 2U) << "records stored before the abort are kept";
         }
     }
 }
 
-// A tree with everything in it: tags of both kinds and none, files that cannot be decoded, folders enough to
-// fill several batches.
+// A tree with tags of both kinds and none, files that cannot be decoded, and enough folders to fill several
+// batches.
 void MakeTree(const TestFolder& folder) {
     int number = 0;
     for (int album = 0; album < 40; ++album) {
@@ -330,7 +330,7 @@ void ExpectSame(const Scan& scan, const Scan& expected) {
     EXPECT_EQ(scan.monitor.positions, expected.monitor.positions);
 }
 
-TEST(ScanFolders, GivesTheSameWithAnyNumberOfReaders) {
+TEST(ScanFolders, GivesTheSameResultWithAnyNumberOfReaders) {
     const TestFolder folder;
     MakeTree(folder);
     Scan alone(1);
@@ -345,10 +345,10 @@ TEST(ScanFolders, GivesTheSameWithAnyNumberOfReaders) {
     }
 }
 
-TEST(ScanFolders, EndsAtTheSameFileWithAnyNumberOfReaders) {
+TEST(ScanFolders, StopsAtTheSameFileWithAnyNumberOfReaders) {
     const TestFolder folder;
     MakeTree(folder);
-    // A folder in a file's place ends the walk in the middle; where, the directory decides.
+    // A folder named like a file ends the walk in the middle; the position depends on the directory order.
     folder.Make("album 20/x.mp3");
     std::string list = "%MULT%";
     for (int album = 0; album < 40; ++album) {
@@ -368,7 +368,7 @@ TEST(ScanFolders, EndsAtTheSameFileWithAnyNumberOfReaders) {
     }
 }
 
-TEST(ScanFolders, MakesDoWithFewDescriptors) {
+TEST(ScanFolders, WorksWithFewDescriptors) {
     const TestFolder folder;
     MakeTree(folder);
     Scan alone(1);

@@ -60,7 +60,7 @@ std::vector<std::string> SortedNames(std::vector<std::string> files) {
     return files;
 }
 
-// The prescribed order, by a recursion of its own over the names as the directory returns them.
+// The required order, by recursion over the names in directory order.
 void ExpectedWalk(const std::string& folder, std::vector<std::string>& files) {
     std::vector<std::string> folders;
     DIR* const stream = opendir(folder.c_str());
@@ -111,7 +111,7 @@ TEST(FolderWalk, StaysInTheFolderWithoutRecursion) {
     EXPECT_EQ(Without(Walk(folder.Path(), false), folder.Path()), std::vector<std::string>{"b.mp3"});
 }
 
-TEST(FolderWalk, KnowsAnMp3FileByTheEndOfItsNameInAnyCase) {
+TEST(FolderWalk, MatchesMp3FilesByExtensionInAnyCase) {
     const TestFolder folder;
     for (const char* name : {"song.Mp3", "SONG.MP3", "song.mp3", "a.b.mP3", "song.mp3.bak", "song.mp2",
                              "song.mp33", "songmp3", "mp3", "song.mp3 ", "x.m3u"}) {
@@ -121,7 +121,7 @@ TEST(FolderWalk, KnowsAnMp3FileByTheEndOfItsNameInAnyCase) {
               (std::vector<std::string>{"SONG.MP3", "a.b.mP3", "song.Mp3", "song.mp3"}));
 }
 
-TEST(FolderWalk, NeverListsHiddenAndSystemEntries) {
+TEST(FolderWalk, SkipsHiddenAndSpecialFiles) {
     const TestFolder folder;
     folder.Write(".hidden.mp3", "");
     folder.Write(".mp3", "");
@@ -150,7 +150,7 @@ TEST(FolderWalk, FollowsLinksToFilesAndFolders) {
               std::vector<std::string>{"link.mp3"});
 }
 
-TEST(FolderWalk, WalksAFolderOnceHoweverManyLinksLeadToIt) {
+TEST(FolderWalk, WalksAFolderReachedByLinksOnce) {
     const TestFolder folder;
     folder.Write("a/x.mp3", "");
     folder.Write("top.mp3", "");
@@ -184,7 +184,7 @@ TEST(FolderWalk, DescendsIntoAFolderNamedLikeAFileOnlyWithRecursion) {
     EXPECT_EQ(Without(Walk(folder.Path(), false), folder.Path()), std::vector<std::string>{"Live.mp3"});
 }
 
-TEST(FolderWalk, StopsAfterTheEntryAtWhichTheVisitorSaysSo) {
+TEST(FolderWalk, StopsAfterTheEntryWhereTheVisitorReturnsFalse) {
     const TestFolder folder;
     for (const char* name : {"1.mp3", "2.txt", "3.mp3", "4.mp3", "sub/5.mp3", "sub/6.mp3"}) {
         folder.Write(name, "");
@@ -200,7 +200,7 @@ TEST(FolderWalk, StopsAfterTheEntryAtWhichTheVisitorSaysSo) {
     recorder.stopAt = 8;
     FolderWalk walk;
     EXPECT_TRUE(walk.Run(StartFolders(folder.Path(), PathStyle::Unix()).front(), true, recorder));
-    EXPECT_EQ(recorder.entries, 7) << "every name counts, whatever it stands for";
+    EXPECT_EQ(recorder.entries, 7) << "every entry counts, whatever its type";
 }
 
 int WalkError(const std::string& folder, std::string& where) {
@@ -231,7 +231,7 @@ TEST(FolderWalk, RaisesTheErrorOfAFolderThatCannotBeListed) {
     EXPECT_EQ(where, folder / "ok/closed/");
 }
 
-// A few hundred folders, with links that lead back and some that lead nowhere.
+// A few hundred folders, with symbolic links to parents and dangling ones.
 void MakeManyFolders(const TestFolder& folder) {
     for (const char* first : {"a", "b", "c", "d", "e", "f", "g"}) {
         const std::string artist = folder / first;
@@ -246,7 +246,7 @@ void MakeManyFolders(const TestFolder& folder) {
     }
 }
 
-TEST(FolderWalk, FindsTheSameInTheSameOrderWhenFoldersAreListedAhead) {
+TEST(FolderWalk, VisitsTheSameFilesInTheSameOrderWithPreloading) {
     const TestFolder folder;
     MakeManyFolders(folder);
     const std::vector<std::string> files = Walk(folder.Path(), true);
@@ -257,11 +257,10 @@ TEST(FolderWalk, FindsTheSameInTheSameOrderWhenFoldersAreListedAhead) {
     }
 }
 
-TEST(FolderWalk, DoesNotLackADescriptorBecauseFoldersAreListedAhead) {
+TEST(FolderWalk, DoesNotRunOutOfDescriptorsBecauseOfPreloading) {
     const TestFolder folder;
     MakeManyFolders(folder);
-    // A sanitizer takes a descriptor of its own to look at a class for the first time: those of threads and
-    // of errors.
+    // Warm-up: a sanitizer opens a descriptor when it first sees the types of threads and exceptions.
     const std::vector<std::string> files = Walk(folder.Path(), true, FolderWalk::Preload::AtOnce);
     std::string where;
     ASSERT_EQ(WalkError(folder / "gone", where), 76);
@@ -286,7 +285,7 @@ TEST(FolderWalk, DoesNotLackADescriptorBecauseFoldersAreListedAhead) {
     EXPECT_EQ(found.size(), 20 * files.size());
 }
 
-TEST(FolderWalk, StopsAtOnceWhileFoldersAreListedAhead) {
+TEST(FolderWalk, StopsAtOnceWhilePreloading) {
     const TestFolder folder;
     MakeManyFolders(folder);
     Recorder recorder;

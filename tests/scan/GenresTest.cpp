@@ -7,7 +7,6 @@
 namespace tunedex {
 namespace {
 
-// Ten to a line, so that a number is found by its line.
 constexpr std::string_view kNames[] = {
     "Blues",
     "Classic Rock",
@@ -159,7 +158,7 @@ constexpr std::string_view kNames[] = {
     "Synthpop",
 };
 
-TEST(GenreName, NamesTheFirst148NumbersAndNoOther) {
+TEST(GenreName, HasNamesForTheFirst148NumbersOnly) {
     ASSERT_EQ(std::size(kNames), 148U);
     for (unsigned number = 0; number < 256; ++number) {
         EXPECT_EQ(GenreName(number), number < 148 ? kNames[number] : "") << number;

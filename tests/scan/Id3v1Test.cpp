@@ -36,8 +36,8 @@ TrackInfo ReadFields(const Id3v1Fields& fields, bool moveTheArtists = false) {
     return result.track;
 }
 
-TEST(ReadId3v1, TakesEachFieldFromItsPlaceInTheLast128Bytes) {
-    // Every byte of a field has its own letter, so that a field of a wrong width or place shows.
+TEST(ReadId3v1, ReadsEachFieldAtItsOffsetInTheLast128Bytes) {
+    // Each byte of a field differs from the others, so that a wrong offset or width shows.
     const std::string title = "abcdefghijklmnopqrstuvwxyz1234";
     const std::string artist = "ABCDEFGHIJKLMNOPQRSTUVWXYZ5678";
     const std::string album = "zyxwvutsrqponmlkjihgfedcba4321";
@@ -50,7 +50,7 @@ TEST(ReadId3v1, TakesEachFieldFromItsPlaceInTheLast128Bytes) {
     EXPECT_EQ(track.Genre, "Rock");
 }
 
-TEST(ReadId3v1, NamesAllGenreBytes) {
+TEST(ReadId3v1, MapsEveryGenreByteToItsName) {
     for (unsigned number = 0; number < 256; ++number) {
         const TrackInfo track = ReadFields({"t", "a", "b", "", "", static_cast<std::uint8_t>(number)});
         EXPECT_EQ(track.Genre, GenreName(number)) << number;
@@ -62,16 +62,16 @@ struct TrimRow {
     std::string_view text;
 };
 
-TEST(ReadId3v1, TrimsBlanksAtTheEndBeforeItRemovesNuls) {
+TEST(ReadId3v1, TrimsTrailingBlanksBeforeItRemovesNuls) {
     const TrimRow rows[] = {
         {"Abc", "Abc"},
         {"Abc"s + std::string(27, ' '), "Abc"},
-        {"Abc  \0\0"s, "Abc  "}, // the blanks stood before the padding
+        {"Abc  \0\0"s, "Abc  "}, // the blanks precede the padding
         {"Abc\0\0  "s + std::string(23, ' '), "Abc"},
         {"  Abc", "  Abc"},
         {"A\0b\0c"s, "Abc"},
         {"\0\0Abc"s, "Abc"},
-        {"Abc\tdef\t", "Abc\tdef\t"}, // a TAB is no blank
+        {"Abc\tdef\t", "Abc\tdef\t"}, // a TAB is not a blank
         {"\xA0x\xA0", "\xC2\xA0x\xC2\xA0"},
     };
     for (const TrimRow& row : rows) {
@@ -84,7 +84,7 @@ TEST(ReadId3v1, TrimsBlanksAtTheEndBeforeItRemovesNuls) {
     EXPECT_EQ(ReadFields({"", "", "", "19 \0"s, "", 0}).Year, "19 ");
 }
 
-TEST(ReadId3v1, HasNamesForAnUnknownArtistAndTitleAndNoneForTheRest) {
+TEST(ReadId3v1, HasDefaultsForAnEmptyArtistAndTitleOnly) {
     for (const std::string& empty : {""s, std::string(30, ' '), std::string(30, '\0')}) {
         const TrackInfo track = ReadFields({empty, empty, empty, empty.substr(0, 4), "", 255});
         EXPECT_EQ(track.Title, "Unknown Title");
@@ -93,12 +93,12 @@ TEST(ReadId3v1, HasNamesForAnUnknownArtistAndTitleAndNoneForTheRest) {
         EXPECT_EQ(track.Year, "");
         EXPECT_EQ(track.Genre, "");
     }
-    // Blanks before NULs are a text.
+    // Blanks in front of NULs are text.
     EXPECT_EQ(ReadFields({" \0"s, " \0"s, "", "", "", 0}).Artist, " ");
     EXPECT_EQ(ReadFields({" \0"s, " \0"s, "", "", "", 0}).Title, " ");
 }
 
-TEST(ReadId3v1, ReadsATagOfNulsAsUnknownBlues) {
+TEST(ReadId3v1, ReadsATagOfNulsAsDefaultsWithGenreBlues) {
     const TrackInfo track = ReadFields({"", "", "", "", "", 0});
     EXPECT_EQ(track.Artist, "Unknown Artist");
     EXPECT_EQ(track.Title, "Unknown Title");
@@ -113,14 +113,14 @@ struct ArtistRow {
     std::string_view left;
 };
 
-TEST(ReadId3v1, MovesALeadingTheOnlyWhenAsked) {
+TEST(ReadId3v1, MovesALeadingTheOnlyWhenEnabled) {
     const ArtistRow rows[] = {
         {"The Beatles", "Beatles, The", "The Beatles"},
         {"THE WHO", "WHO, The", "THE WHO"},
         {"the the", "the, The", "the the"},
         {"Theatre", "Theatre", "Theatre"},
         {"The", "The", "The"},
-        {"The" + std::string(27, ' '), "The", "The"}, // trimmed before it is looked at
+        {"The" + std::string(27, ' '), "The", "The"}, // trimmed first
 
         {"The \0"s, ", The", "The "}, // the blank before the NUL stays
         {"T\0he Cure"s, "Cure, The", "The Cure"},
@@ -138,7 +138,7 @@ TEST(ReadId3v1, MovesALeadingTheOnlyWhenAsked) {
     }
 }
 
-TEST(ReadId3v1, ReadsBytesAsWindows1252) {
+TEST(ReadId3v1, DecodesBytesAsWindows1252) {
     const TrackInfo track =
         ReadFields({"\x80uro \x9F \x81\x8D\x8F\x90\x9D", "Bj\xF6rk", "\xFF\xA0\xE9", "", "", 0});
     EXPECT_EQ(track.Title, "\xE2\x82\xACuro \xC5\xB8 \xC2\x81\xC2\x8D\xC2\x8F\xC2\x90\xC2\x9D");
@@ -146,7 +146,7 @@ TEST(ReadId3v1, ReadsBytesAsWindows1252) {
     EXPECT_EQ(track.Album, "\xC3\xBF\xC2\xA0\xC3\xA9");
 }
 
-TEST(ReadId3v1, LeavesTheTrackAsItIsWhereThereIsNoTag) {
+TEST(ReadId3v1, LeavesTheTrackUnchangedWithoutATag) {
     const std::string tag = Id3v1Tag({"t", "a", "b", "1999", "c", 1});
     const std::string cases[] = {"",
                                  "TAG",
@@ -163,10 +163,10 @@ TEST(ReadId3v1, LeavesTheTrackAsItIsWhereThereIsNoTag) {
         EXPECT_FALSE(ReadId3v1(file, true, track)) << bytes.size();
         EXPECT_EQ(track, before);
     }
-    EXPECT_TRUE(ReadV1Tag(tag).found) << "a file may be nothing but its tag";
+    EXPECT_TRUE(ReadV1Tag(tag).found) << "a file may consist of its tag alone";
 }
 
-TEST(ReadId3v1, TakesAFailedReadForNoTag) {
+TEST(ReadId3v1, TreatsAFailedReadAsNoTag) {
     FailingByteSource file(Id3v1Tag({"t", "a", "b", "", "", 1}), 1);
     TrackInfo track;
     EXPECT_FALSE(ReadId3v1(file, false, track));

@@ -24,7 +24,7 @@ Id3v2Location Detect(const std::string& bytes) {
     return DetectId3v2(file);
 }
 
-// The fields before are those of an ID3v1 tag.
+// The fields as an ID3v1 tag has set them.
 TrackInfo Before() {
     TrackInfo track;
     track.Artist = "old artist";
@@ -49,7 +49,7 @@ struct SizeRow {
     std::uint64_t searchPosition;
 };
 
-TEST(DetectId3v2, CountsSevenBitsOfThreeBytesAndAllOfTheLast) {
+TEST(DetectId3v2, ReadsSevenBitsOfThreeBytesAndEightOfTheLast) {
     const SizeRow rows[] = {
         {"\x00\x00\x02\x01"s, 267},
         {"\x00\x00\x00\xFF"s, 265},
@@ -71,7 +71,7 @@ TEST(DetectId3v2, CountsSevenBitsOfThreeBytesAndAllOfTheLast) {
     }
 }
 
-TEST(DetectId3v2, FindsNoTagWhereThereIsNoneOrItCannotBeRead) {
+TEST(DetectId3v2, FindsNoTagInAFileWithoutOneOrAfterAFailedRead) {
     const std::string header = Id3v2Header(0);
     for (const std::string& bytes :
          {""s, "ID"s, "ID3"s, header.substr(0, 9), "id3" + header.substr(3), " " + header,
@@ -85,7 +85,7 @@ TEST(DetectId3v2, FindsNoTagWhereThereIsNoneOrItCannotBeRead) {
     EXPECT_FALSE(DetectId3v2(failing).present);
 }
 
-TEST(ReadId3v2, TakesTheFiveFramesAndSkipsTheOthers) {
+TEST(ReadId3v2, ReadsTheFiveFramesAndSkipsTheOthers) {
     const TrackInfo track = ReadV2Tag(Id3v2Tag({{"TXXX", Latin1("skipped")},
                                                 {"TIT2", Latin1("Song")},
                                                 {"TIT1", Latin1("skipped")},
@@ -103,11 +103,11 @@ TEST(ReadId3v2, TakesTheFiveFramesAndSkipsTheOthers) {
     EXPECT_EQ(track.Genre, "Genre");
 }
 
-TEST(ReadId3v2, LetsTheLastOfTwoEqualFramesWin) {
+TEST(ReadId3v2, KeepsTheLastOfSeveralEqualFrames) {
     EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TIT2", Latin1("one")}, {"TIT2", Latin1("two")}})).Title, "two");
 }
 
-TEST(ReadId3v2, LeavesFieldsWithoutAFrameAsTheyWere) {
+TEST(ReadId3v2, LeavesFieldsWithoutAFrameUnchanged) {
     TrackInfo expected = Before();
     expected.Album = "Album";
     EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TALB", Latin1("Album")}})), expected);
@@ -146,8 +146,8 @@ TEST(ReadId3v2, DropsEveryNulAndDecodesNoEncoding) {
     }
 }
 
-// Contents are read whole or piece by piece; no seam between the pieces may show.
-TEST(ReadId3v2, TakesAFrameOfAnyLengthWithoutItsNuls) {
+// Frames are read whole or in pieces; no boundary between pieces may show.
+TEST(ReadId3v2, ReadsAFrameOfAnyLengthWithoutItsNuls) {
     for (const std::size_t length : {511U, 512U, 513U, 65535U, 65536U, 65537U, 200000U}) {
         std::string content;
         std::string text;
@@ -161,7 +161,7 @@ TEST(ReadId3v2, TakesAFrameOfAnyLengthWithoutItsNuls) {
         const TrackInfo track = ReadV2Tag(bytes);
         EXPECT_TRUE(track.Title == text) << length;
         EXPECT_EQ(track.Album, "next") << length;
-        // The last of its reads fails: the field stays as it was.
+        // If the last of its reads fails, the field is unchanged.
         FailingByteSource file(bytes, length > 131072 ? 5 : length > 65536 ? 3 : 2);
         TrackInfo failed = Before();
         ReadId3v2(file, {true, bytes.size()}, false, failed);
@@ -190,10 +190,10 @@ TEST(ReadId3v2, SharesLongTextsInThePool) {
     EXPECT_EQ(track.LongFields[2].field, &TrackInfo::Album);
     EXPECT_EQ(track.LongFields[2].text, track.LongFields[0].text);
     EXPECT_EQ(track.Title + track.Artist + track.Album + track.Genre, "");
-    EXPECT_EQ(track.Year, text.substr(1)) << "the later, shorter text takes the place of the long one";
+    EXPECT_EQ(track.Year, text.substr(1)) << "a later, shorter text replaces the long one";
 }
 
-TEST(ReadId3v2, NamesAnEmptyArtistAndTitleAndEmptiesTheRest) {
+TEST(ReadId3v2, UsesDefaultsForAnEmptyArtistAndTitleAndEmptiesTheRest) {
     for (const std::string& empty : {""s, "\0"s, "\0\0\0"s}) {
         const TrackInfo track = ReadV2Tag(
             Id3v2Tag({{"TIT2", empty}, {"TPE1", empty}, {"TALB", empty}, {"TYER", empty}, {"TCON", empty}}));
@@ -206,7 +206,7 @@ TEST(ReadId3v2, NamesAnEmptyArtistAndTitleAndEmptiesTheRest) {
     EXPECT_EQ(ReadV2Tag(Id3v2Tag({{"TIT2", "\0 "s}})).Title, " ") << "blanks are not trimmed here";
 }
 
-TEST(ReadId3v2, MovesALeadingTheOnlyWhenAsked) {
+TEST(ReadId3v2, MovesALeadingTheOnlyWhenEnabled) {
     const std::string tag = Id3v2Tag({{"TPE1", Latin1("the Who")}, {"TIT2", Latin1("The Seeker")}});
     EXPECT_EQ(ReadV2Tag(tag, true).Artist, "Who, The");
     EXPECT_EQ(ReadV2Tag(tag, true).Title, "The Seeker");
@@ -225,20 +225,20 @@ TEST(ReadId3v2, StopsAtPadding) {
     }
 }
 
-TEST(ReadId3v2, GoesOnWhileThePositionIsBelowTheTagsEnd) {
+TEST(ReadId3v2, ContinuesWhileThePositionIsBelowTheSearchPosition) {
     const std::string first = Frame({"TALB", Latin1("Album")});
     const std::string second = Frame({"TIT2", Latin1("Song")});
     const auto end = static_cast<std::uint32_t>(first.size());
-    // The tag's end as the search takes it is its last byte: a tag one byte longer than its first frame ends
-    // there.
+    // The search position is the tag's last byte, so a tag one byte longer than its first frame ends there.
     EXPECT_EQ(ReadV2Tag(Id3v2Header(end) + first + second).Title, "old title");
     EXPECT_EQ(ReadV2Tag(Id3v2Header(end + 1) + first + second).Title, "old title");
     EXPECT_EQ(ReadV2Tag(Id3v2Header(end + 2) + first + second).Title, "Song");
-    EXPECT_EQ(ReadV2Tag(Id3v2Header(0) + first + second).Album, "Album") << "an empty tag gets one look";
+    EXPECT_EQ(ReadV2Tag(Id3v2Header(0) + first + second).Album, "Album")
+        << "an empty tag still reads one frame";
     EXPECT_EQ(ReadV2Tag(Id3v2Header(0) + first + second).Title, "old title");
 }
 
-TEST(ReadId3v2, EndsSilentlyAtAFrameThatIsLongerThanTheFile) {
+TEST(ReadId3v2, EndsSilentlyAtAFrameLongerThanTheFile) {
     const std::string album = Frame({"TALB", Latin1("Album")});
     const std::string title = Frame({"TIT2", Latin1("Song")});
     for (std::size_t cut = 1; cut <= title.size(); ++cut) {
@@ -247,13 +247,13 @@ TEST(ReadId3v2, EndsSilentlyAtAFrameThatIsLongerThanTheFile) {
         EXPECT_EQ(track.Album, "Album");
         EXPECT_EQ(track.Title, "old title") << cut;
     }
-    // A skipped frame that claims too much ends the walk as well.
+    // A skipped frame with too large a size also ends the walk.
     const TrackInfo track = ReadV2Tag(Id3v2Header(500) + album + "PRIV\x00\x00\x10\x00\x00\x00"s + title);
     EXPECT_EQ(track.Album, "Album");
     EXPECT_EQ(track.Title, "old title");
 }
 
-TEST(ReadId3v2, ReadsFrameSizesAsPlainNumbersWithoutTheirHighestBit) {
+TEST(ReadId3v2, ReadsFrameSizesAsBigEndianNumbersWithoutTheTopBit) {
     const std::string text(300, 'x');
     const std::string tag =
         Id3v2Header(1000) + "TIT2\x00\x00\x01\x2C\x00\x00"s + text + Frame({"TALB", Latin1("A")});
@@ -265,8 +265,8 @@ TEST(ReadId3v2, ReadsFrameSizesAsPlainNumbersWithoutTheirHighestBit) {
     EXPECT_EQ(ReadV2Tag(high).Album, "A");
 }
 
-TEST(ReadId3v2, MissesTheFramesBehindAByteThatUnsynchronisationInserted) {
-    // Stored, a zero follows each FF; the picture's size does not count it.
+TEST(ReadId3v2, MissesTheFramesAfterAnUnsynchronisedOne) {
+    // Unsynchronised, each FF is followed by a zero that the picture's size does not count.
     const std::string picture = "APIC\x00\x00\x00\x04\x00\x00"s + "\xFF\x00\xE0\xFF\x00\xFB"s;
     const TrackInfo track = ReadV2Tag(Id3v2Header(500) + Frame({"TALB", Latin1("Album")}) + picture +
                                       Frame({"TIT2", Latin1("Song")}));
@@ -274,19 +274,19 @@ TEST(ReadId3v2, MissesTheFramesBehindAByteThatUnsynchronisationInserted) {
     EXPECT_EQ(track.Title, "old title");
 }
 
-TEST(ReadId3v2, ReadsAFrameThatReachesBehindTheTag) {
+TEST(ReadId3v2, ReadsAFrameThatExtendsBeyondTheTag) {
     EXPECT_EQ(ReadV2Tag(Id3v2Header(12) + Frame({"TIT2", Latin1("longer than declared")})).Title,
               "longer than declared");
 }
 
-TEST(ReadId3v2, FindsNothingInAVersionTwoTag) {
+TEST(ReadId3v2, ReadsNoFieldFromAnId3v22Tag) {
     const std::string frames = "TT2\x00\x00\x05\x00Song"s + "TP1\x00\x00\x07\x00Artist"s;
     EXPECT_EQ(
         ReadV2Tag("ID3\x02\x00\x00"s + std::string(3, '\0') + static_cast<char>(frames.size()) + frames),
         Before());
 }
 
-TEST(ReadId3v2, KeepsTheFieldsTakenBeforeAReadFailed) {
+TEST(ReadId3v2, KeepsTheFieldsReadBeforeAFailedRead) {
     const std::string tag = Id3v2Tag({{"TALB", Latin1("Album")}, {"TIT2", Latin1("Song")}});
     FailingByteSource whole(tag);
     const Id3v2Location location = DetectId3v2(whole);

@@ -44,7 +44,7 @@ std::string V1() {
     return Id3v1Tag({"old title", "The Old Artist", "old album", "1990", "", 17});
 }
 
-TEST(ReadTrackInfo, NamesAFileWithoutTagsByItsPath) {
+TEST(ReadTrackInfo, UsesThePathAsTheArtistOfAFileWithoutTags) {
     const TrackReading reading = Read(Audio(16000));
     EXPECT_EQ(reading.track.FullPath, kPath);
     EXPECT_EQ(reading.track.Artist, kPath);
@@ -59,7 +59,7 @@ TEST(ReadTrackInfo, NamesAFileWithoutTagsByItsPath) {
     EXPECT_FALSE(reading.decodeError);
 }
 
-TEST(ReadTrackInfo, LeavesNothingOfTheTrackBefore) {
+TEST(ReadTrackInfo, ResetsAReusedTrack) {
     const std::string full = Id3v2Tag({{"TCON", Latin1("Own genre")}}, 30) + XingAudio(1700, 3) + V1();
     for (const std::string& bytes : {std::string("no audio"), Audio(16000), V1(), Id3v2Tag({}, 30)}) {
         FailingByteSource earlier(full);
@@ -79,13 +79,13 @@ TEST(ReadTrackInfo, LeavesNothingOfTheTrackBefore) {
     EXPECT_FALSE(broken.decodeError);
 }
 
-TEST(ReadTrackInfo, TellsWhichTagItTook) {
+TEST(ReadTrackInfo, RecordsTheKindOfTag) {
     EXPECT_EQ(Read(Audio(500) + V1()).track.TagType, 1);
     EXPECT_EQ(Read(Id3v2Tag({}, 10) + Audio(500)).track.TagType, 2);
     EXPECT_EQ(Read(Id3v2Tag({}, 10) + Audio(500) + V1()).track.TagType, 2);
 }
 
-TEST(ReadTrackInfo, LaysTheFramesOfAnId3v2TagOverTheId3v1Tag) {
+TEST(ReadTrackInfo, OverwritesId3v1FieldsWithId3v2Frames) {
     const TrackInfo track =
         Read(Id3v2Tag({{"TIT2", Latin1("new title")}, {"TCON", Latin1("(13)")}}) + Audio(500) + V1(), true)
             .track;
@@ -96,11 +96,11 @@ TEST(ReadTrackInfo, LaysTheFramesOfAnId3v2TagOverTheId3v1Tag) {
     EXPECT_EQ(track.Year, "1990");
 }
 
-TEST(ReadTrackInfo, LetsAnEmptyArtistFrameHideTheId3v1Artist) {
+TEST(ReadTrackInfo, ReplacesTheId3v1ArtistByTheDefaultForAnEmptyFrame) {
     EXPECT_EQ(Read(Id3v2Tag({{"TPE1", "\0"s}}) + Audio(500) + V1()).track.Artist, "Unknown Artist");
 }
 
-TEST(ReadTrackInfo, LeavesATitleEmptyThatHasNoFrame) {
+TEST(ReadTrackInfo, LeavesATitleWithoutAFrameEmpty) {
     const TrackInfo track = Read(Id3v2Tag({{"TALB", Latin1("Album")}}) + Audio(500)).track;
     EXPECT_EQ(track.Title, "");
     EXPECT_EQ(track.Artist, "");
@@ -108,19 +108,19 @@ TEST(ReadTrackInfo, LeavesATitleEmptyThatHasNoFrame) {
     EXPECT_EQ(track.TagType, 2);
 }
 
-TEST(ReadTrackInfo, SearchesTheHeaderFromTheTagsLastByteOn) {
-    // What looks like a header within the tag is none.
+TEST(ReadTrackInfo, SearchesTheHeaderFromTheLastByteOfTheTag) {
+    // A header inside the tag is not used.
     const std::string fake = "\xFF\xF3\x90\x64";
     const std::string body = std::string(10, '\0') + fake + std::string(10, '\0');
     const TrackInfo track = Read(Id3v2Header(24) + body + Audio(500)).track;
     EXPECT_EQ(track.MpegType, "1.0 III");
-    // The tag's last byte is looked at: where it is FF, a header may begin with it.
+    // The search starts at the tag's last byte: if it is FF, a header may start with it.
     const std::string odd =
         Id3v2Header(20) + std::string(19, '\0') + "\xFF" + "\xF3\x90\x64" + std::string(100, '\0');
     EXPECT_EQ(Read(odd).track.MpegType, "2.0 III");
 }
 
-TEST(ReadTrackInfo, CountsAPictureIntoTheDurationOfAConstantBitrate) {
+TEST(ReadTrackInfo, CountsAPictureTowardsTheDurationAtAConstantBitrate) {
     const std::string picture = Id3v2Tag({{"APIC", std::string(160000, 'p')}});
     EXPECT_EQ(Read(Audio(160000)).track.Duration, "0:10");
     EXPECT_EQ(Read(picture + Audio(160000)).track.Duration, "0:20");
@@ -141,8 +141,8 @@ TEST(ReadTrackInfo, KeepsTheTagsOfAFileWithoutAudio) {
     EXPECT_EQ(reading.seconds, 0);
 }
 
-// What a file of these bytes gives, put together from what is whole in it: the frames that end within it, the
-// ID3v1 tag if the file ends in one, and the audio as the byte-by-byte search sees it.
+// The record expected from these bytes: the frames that end within them, the ID3v1 tag if they end in one,
+// and the audio header that the byte-by-byte search finds.
 struct Piece {
     std::size_t end;
     std::string TrackInfo::*field;
@@ -190,7 +190,7 @@ void ExpectCutFile(const std::string& bytes, std::uint64_t tagEnd, const std::ve
     EXPECT_EQ(reading.decodeError.has_value(), !header || noBitrate);
 }
 
-TEST(ReadTrackInfo, TakesWhatIsWholeOfAFileCutAtAnyByte) {
+TEST(ReadTrackInfo, ReadsTheCompletePartsOfAFileTruncatedAtAnyByte) {
     const std::string title = test::Frame({"TIT2", Latin1("new title")});
     const std::string album = test::Frame({"TALB", Latin1("new album")});
     const std::string tag = Id3v2Tag({{"TIT2", Latin1("new title")}, {"TALB", Latin1("new album")}}, 30);
@@ -206,7 +206,7 @@ TEST(ReadTrackInfo, TakesWhatIsWholeOfAFileCutAtAnyByte) {
         {tag + Audio(1500) + V1(), frames, tag.size(), true},
         {tag + XingAudio(1700, 3), frames, tag.size(), false},
         {Audio(417) + Audio(417) + V1(), {}, 1, true},
-        {"leading rubbish \xFF\xE0 \xFF\xFF" + XingAudio(1600, 2), {}, 1, false},
+        {"leading garbage \xFF\xE0 \xFF\xFF" + XingAudio(1600, 2), {}, 1, false},
     };
     for (const File& file : files) {
         for (std::size_t length = 0; length <= file.bytes.size(); ++length) {
@@ -220,7 +220,7 @@ TEST(ReadTrackInfo, TakesWhatIsWholeOfAFileCutAtAnyByte) {
     }
 }
 
-TEST(ReadTrackInfo, MakesATrackHoweverManyReadsFail) {
+TEST(ReadTrackInfo, ReturnsATrackWhicheverReadFails) {
     const std::string bytes = Id3v2Tag({{"TIT2", Latin1("new title")}, {"TALB", Latin1("new album")}}, 30) +
                               std::string(3000, 'a') + XingAudio(1700, 3) + V1();
     FailingByteSource whole(bytes);
@@ -248,7 +248,7 @@ TEST(ReadTrackInfo, MakesATrackHoweverManyReadsFail) {
     }
     EXPECT_TRUE(lostTitle);
     EXPECT_TRUE(lostAudio);
-    EXPECT_EQ(harmless, 1) << "only the look at the padding may fail without a loss";
+    EXPECT_EQ(harmless, 1) << "only the read of the padding may fail without a loss";
 }
 
 class ReadTrackFileTest : public testing::Test {
@@ -294,7 +294,7 @@ TEST_F(ReadTrackFileTest, ReportsAnEmptyFileAndKeepsIt) {
     EXPECT_EQ(reading.decodeError->Number(), 62);
 }
 
-TEST_F(ReadTrackFileTest, KeepsTheTagsOfAFileTooLongToDecode) {
+TEST_F(ReadTrackFileTest, KeepsTheTagsOfAFileTooLargeToDecode) {
     folder_.Write("a.mp3", Audio(1000));
     std::filesystem::resize_file(folder_ / "a.mp3", 300000000 - 128);
     FILE* const file = fopen((folder_ / "a.mp3").c_str(), "ab");
@@ -308,7 +308,7 @@ TEST_F(ReadTrackFileTest, KeepsTheTagsOfAFileTooLongToDecode) {
     EXPECT_EQ(reading.decodeError->Number(), 6);
 }
 
-TEST_F(ReadTrackFileTest, HoldsTwoGigabytesAtMost) {
+TEST_F(ReadTrackFileTest, ClampsTheFileSizeToTwoGigabytes) {
     folder_.Write("a.mp3", Audio(1000));
     std::filesystem::resize_file(folder_ / "a.mp3", 5000000000);
     const TrackReading reading = ReadFile("a.mp3");
@@ -316,17 +316,17 @@ TEST_F(ReadTrackFileTest, HoldsTwoGigabytesAtMost) {
     EXPECT_EQ(reading.decodeError->Number(), 6);
 }
 
-TEST_F(ReadTrackFileTest, FindsNoHeaderBehindATagThatIsAllThereIs) {
+TEST_F(ReadTrackFileTest, FindsNoHeaderInAFileThatIsAllTag) {
     folder_.Write("a.mp3", Id3v2Header(0x7FFFFF));
     std::filesystem::resize_file(folder_ / "a.mp3", 20000000);
     EXPECT_EQ(ReadFile("a.mp3").decodeError->Number(), 62);
 }
 
-TEST_F(ReadTrackFileTest, RefusesWhatIsNoFile) {
+TEST_F(ReadTrackFileTest, RaisesFileNotFoundForAnythingButARegularFile) {
     folder_.Make("folder.mp3");
     ASSERT_EQ(mkfifo((folder_ / "fifo.mp3").c_str(), 0600), 0);
     EXPECT_EQ(FailureOf("folder.mp3"), 53);
-    EXPECT_EQ(FailureOf("fifo.mp3"), 53) << "and it must not wait for a writer";
+    EXPECT_EQ(FailureOf("fifo.mp3"), 53) << "opening a FIFO must not block";
     EXPECT_EQ(FailureOf("gone.mp3"), 53);
 }
 

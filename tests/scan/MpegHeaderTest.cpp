@@ -40,7 +40,7 @@ struct Decoded {
     int error = 0;
 };
 
-// Decodes `bytes` as the beginning of a file that is `fileSize` long.
+// Decodes `bytes` as the start of a file of `fileSize` bytes.
 Decoded Decode(const std::string& bytes, std::int32_t fileSize) {
     FailingByteSource file(bytes);
     Decoded decoded;
@@ -70,7 +70,7 @@ struct BitrateRow {
     int version25;
 };
 
-// What index 15 would give cannot be asked of a file: such a header is skipped.
+// Index 15 cannot be tested with a file: such a header is skipped.
 constexpr BitrateRow kBitrates[] = {
     {0, 128, 128, 128, 128, 128},  {1, 32, 32, 32, 8, 8},         {2, 40, 48, 64, 128, 16},
     {3, 48, 56, 96, 24, 24},       {4, 56, 64, 128, 16, 32},      {5, 64, 80, 160, 64, 64},
@@ -79,7 +79,7 @@ constexpr BitrateRow kBitrates[] = {
     {12, 224, 256, 384, 128, 128}, {13, 256, 320, 416, 256, 256}, {14, 320, 384, 448, 320, 320},
 };
 
-TEST(DecodeMpegHeader, TakesBitratesFromItsOwnTables) {
+TEST(DecodeMpegHeader, UsesItsOwnBitrateTables) {
     constexpr unsigned kV1 = 3;
     constexpr unsigned kV2 = 2;
     constexpr unsigned kV25 = 0;
@@ -105,7 +105,7 @@ TEST(DecodeMpegHeader, TakesBitratesFromItsOwnTables) {
     }
 }
 
-TEST(TableBitrate, Gives128ForIndex15) {
+TEST(TableBitrate, Returns128ForIndex15) {
     for (const MpegVersion version : {MpegVersion::V1, MpegVersion::V2, MpegVersion::V25}) {
         for (const MpegLayer layer : {MpegLayer::I, MpegLayer::II, MpegLayer::III}) {
             EXPECT_EQ(TableBitrate(version, layer, 15), 128);
@@ -113,7 +113,7 @@ TEST(TableBitrate, Gives128ForIndex15) {
     }
 }
 
-TEST(DecodeMpegHeader, NamesVersionLayerFrequencyAndMode) {
+TEST(DecodeMpegHeader, DecodesVersionLayerFrequencyAndMode) {
     constexpr std::string_view kVersions[] = {"2.5", "", "2.0", "1.0"};
     constexpr std::string_view kLayers[] = {"", "III", "II", "I"};
     constexpr int kFrequencies[4][3] = {
@@ -134,7 +134,7 @@ TEST(DecodeMpegHeader, NamesVersionLayerFrequencyAndMode) {
     }
 }
 
-TEST(DecodeMpegHeader, LooksAtNoOtherBits) {
+TEST(DecodeMpegHeader, IgnoresAllOtherBits) {
     const TrackInfo expected = Decode(kHeader, 4000000).track;
     // Protection; padding and private; mode extension, copyright, original and emphasis.
     for (const std::string& header : {"\xFF\xFA\x90\x64"s, "\xFF\xFB\x93\x64"s, "\xFF\xFB\x90\x7F"s}) {
@@ -142,7 +142,7 @@ TEST(DecodeMpegHeader, LooksAtNoOtherBits) {
     }
 }
 
-TEST(DecodeMpegHeader, ReckonsTheDurationFromSizeAndBitrate) {
+TEST(DecodeMpegHeader, ComputesTheDurationFromSizeAndBitrate) {
     const Decoded decoded = Decode(kHeader, 4000000);
     EXPECT_EQ(decoded.track.Bitrate, "128");
     EXPECT_EQ(decoded.track.Frequency, "44100");
@@ -158,7 +158,7 @@ struct DurationRow {
     std::int64_t seconds;
 };
 
-TEST(DecodeMpegHeader, CutsSecondsAndNeverLimitsMinutes) {
+TEST(DecodeMpegHeader, TruncatesSecondsAndDoesNotLimitMinutes) {
     const DurationRow rows[] = {
         {4, "0:00", 0},
         {15999, "0:00", 0},
@@ -194,20 +194,20 @@ struct XingRow {
     std::string_view duration;
 };
 
-TEST(DecodeMpegHeader, ReckonsTheBitrateOfAXingFileFromItsFrames) {
+TEST(DecodeMpegHeader, ComputesTheBitrateOfAXingFileFromItsFrameCount) {
     const XingRow rows[] = {
         {kHeader, 3000000, 1000, "919", "0:26"},
         // The same constant for every version and layer.
         {"\xFF\xF3\x90\x64", 3000000, 1000, "459", "0:52"}, // 459.375, 22,050 Hz
         {"\xFF\xE3\x90\x64", 3000000, 1000, "230", "1:44"}, // 229.6875, 11,025 Hz
         {"\xFF\xFD\x90\x64", 3000000, 1000, "919", "0:26"},
-        // 48,000 Hz: size / (3 x frames); halves go to the even neighbour.
+        // 48,000 Hz: size / (3 x frames); halves are rounded to even.
         {"\xFF\xFB\x94\x64", 30003, 4, "2500", "0:00"},
         {"\xFF\xFB\x94\x64", 15, 2, "2", "0:00"},
         {"\xFF\xFB\x94\x64", 21, 2, "4", "0:00"},
-        // Four whole bytes, the highest bit too.
+        // All 32 bits of the frame count.
         {"\xFF\xFB\x94\x64", 200000000, 0x01020304, "4", "6666:40"},
-        // The bitrate in the header plays no part, and may be one that no table names.
+        // The bitrate index of the header is ignored and may be one that no table lists.
         {"\xFF\xFB\x04\x64", 30003, 4, "2500", "0:00"},
     };
     for (const XingRow& row : rows) {
@@ -219,12 +219,12 @@ TEST(DecodeMpegHeader, ReckonsTheBitrateOfAXingFileFromItsFrames) {
     EXPECT_EQ(Find(XingAudio(2000, 0xFEDCBA98)).frameCount, 0xFEDCBA98U);
 }
 
-TEST(DecodeMpegHeader, RaisesDivisionByZeroForNoFramesAndForABitrateOfNothing) {
+TEST(DecodeMpegHeader, RaisesDivisionByZeroForAFrameCountOrBitrateOfZero) {
     EXPECT_EQ(Decode(XingAudio(2000, 0), 3000000).error, 11);
     EXPECT_EQ(Decode(XingAudio(2000, 1000000), 2000).error, 11);
-    EXPECT_EQ(Decode(XingAudio(2000, 1, "\xFF\xFB\x94\x64"), 1).error, 11) << "a third is nothing";
-    EXPECT_EQ(Decode(XingAudio(2000, 2, "\xFF\xFB\x94\x64"), 3).error, 11) << "a half is even: nothing";
-    EXPECT_EQ(Decode(XingAudio(2000, 1000000), 2000).track.Frequency, "") << "no field is set then";
+    EXPECT_EQ(Decode(XingAudio(2000, 1, "\xFF\xFB\x94\x64"), 1).error, 11) << "1/3 rounds to 0";
+    EXPECT_EQ(Decode(XingAudio(2000, 2, "\xFF\xFB\x94\x64"), 3).error, 11) << "1/2 rounds to 0";
+    EXPECT_EQ(Decode(XingAudio(2000, 1000000), 2000).track.Frequency, "") << "no field is set";
 }
 
 struct SearchRow {
@@ -233,11 +233,11 @@ struct SearchRow {
     std::uint64_t offset;
 };
 
-TEST(FindMpegHeader, RefusesWhatIsNoHeader) {
+TEST(FindMpegHeader, RejectsInvalidHeaders) {
     const std::string good = "\xFF\xFB\x90\x64";
     const SearchRow rows[] = {
-        {"at once", good, 0},
-        {"behind other bytes", "abc" + good, 3},
+        {"at the start", good, 0},
+        {"after other bytes", "abc" + good, 3},
         {"second byte E0", "\xFF\xE0\x90\x64" + good, 4},
         {"second byte 00", "\xFF"s + '\0' + good, 2},
         {"second byte E1 is layer 00", "\xFF\xE1\x90\x64" + good, 4},
@@ -248,17 +248,17 @@ TEST(FindMpegHeader, RefusesWhatIsNoHeader) {
         {"third byte F0", "\xFF\xFB\xF0\x64" + good, 4},
         {"third byte EB", "\xFF\xFB\xEB\x64" + good, 0},
         {"sample rate 11", "\xFF\xFB\x9C\x64" + good, 4},
-        {"FF of a refused header's third byte", "\xFF\xFF\xFB\x90\x64", 1},
+        {"FF in second place of a rejected header", "\xFF\xFF\xFB\x90\x64", 1},
         {"FF as second, third and fourth byte", "\xFF\xFF\xFF\xFF\xFB\x90\x64", 3},
-        {"a header inside a refused one", "\xFF\xF9\xFF\xFB\x90\x64", 2},
-        {"second byte is looked at again", "\xFF\xE0\xFF\xFB\x90\x64", 2},
+        {"a header inside a rejected one", "\xFF\xF9\xFF\xFB\x90\x64", 2},
+        {"search resumes at the second byte", "\xFF\xE0\xFF\xFB\x90\x64", 2},
     };
     for (const SearchRow& row : rows) {
         EXPECT_EQ(Find(row.bytes).offset, row.offset) << row.what;
     }
 }
 
-TEST(FindMpegHeader, BeginsAtTheSearchPosition) {
+TEST(FindMpegHeader, StartsAtTheSearchPosition) {
     const std::string bytes = kHeader + "abc" + kHeader;
     EXPECT_EQ(Find(bytes, 1).offset, 0U);
     EXPECT_EQ(Find(bytes, 2).offset, 7U);
@@ -268,7 +268,7 @@ TEST(FindMpegHeader, BeginsAtTheSearchPosition) {
     EXPECT_EQ(ErrorOf(bytes, 268435328 + 265), 62);
 }
 
-TEST(FindMpegHeader, RaisesPastEndWhereTheFileEndsFirst) {
+TEST(FindMpegHeader, RaisesPastEndIfTheFileEndsBeforeAHeader) {
     for (const std::string& bytes :
          {""s, "a"s, "\xFF"s, "\xFF\xFB"s, "\xFF\xFB\x90"s, "\xFF\xE0"s, "\xFF\xFB\xEC"s,
           std::string(5000, 'a'), std::string(200000, '\xFF'), "\xFF\xF9\x90\x64"s}) {
@@ -276,16 +276,16 @@ TEST(FindMpegHeader, RaisesPastEndWhereTheFileEndsFirst) {
     }
 }
 
-TEST(FindMpegHeader, FindsAHeaderFarBehindTheTag) {
+TEST(FindMpegHeader, FindsAHeaderFarAfterTheTag) {
     for (const std::size_t before :
          {2044U, 2045U, 2046U, 2047U, 2048U, 65535U, 67580U, 67583U, 67584U, 500000U}) {
         EXPECT_EQ(Find(std::string(before, 'a') + kHeader).offset, before);
-        // Candidates all the way: each is refused.
+        // Every byte before it is a candidate that is rejected.
         EXPECT_EQ(Find(std::string(before, '\xFF') + kHeader).offset, before);
     }
 }
 
-// A header with "Xing" `distance` bytes behind its first byte, and `after` bytes behind the name.
+// A header with "Xing" `distance` bytes after its first byte, and `after` bytes following "Xing".
 std::string WithXingAt(std::size_t distance, std::size_t after) {
     std::string bytes = kHeader;
     bytes.resize(distance, 'a');
@@ -293,33 +293,33 @@ std::string WithXingAt(std::size_t distance, std::size_t after) {
            std::string(after > 12 ? after - 12 : 0, 'a');
 }
 
-TEST(FindMpegHeader, SeesXingWithin1400Bytes) {
+TEST(FindMpegHeader, FindsXingWithin1400Bytes) {
     EXPECT_TRUE(Find(WithXingAt(4, 12)).vbr);
-    EXPECT_TRUE(Find(WithXingAt(1396, 12)).vbr) << "its last letter is the last byte looked at";
+    EXPECT_TRUE(Find(WithXingAt(1396, 12)).vbr) << "its last letter is the last byte searched";
     EXPECT_FALSE(Find(WithXingAt(1397, 12)).vbr);
     EXPECT_EQ(Find(WithXingAt(1396, 12)).frameCount, 256U);
     EXPECT_FALSE(Find(kHeader + "xing" + std::string(20, 'a')).vbr);
     EXPECT_FALSE(Find(kHeader + std::string(500, 'a') + "LAME" + std::string(900, 'a')).vbr);
 }
 
-TEST(FindMpegHeader, RaisesPastEndWhereTheBytesBehindXingAreMissing) {
-    EXPECT_EQ(ErrorOf(WithXingAt(36, 12)), 0) << "all of them are there";
+TEST(FindMpegHeader, RaisesPastEndIfTheBytesAfterXingAreMissing) {
+    EXPECT_EQ(ErrorOf(WithXingAt(36, 12)), 0) << "none is missing";
     for (std::size_t after = 0; after < 12; ++after) {
         EXPECT_EQ(ErrorOf(WithXingAt(36, after)), 62) << after;
     }
-    // They are read before the candidate's bits are judged: a refused one ends the search just so.
+    // They are read before the candidate is checked: a rejected one ends the search too.
     EXPECT_EQ(ErrorOf("\xFF\xF9\x90\x64" + kHeader + "Xing" + "1234567"), 62);
 }
 
-TEST(FindMpegHeader, LooksForNoXingBehindASecondByteE0OrAThirdByteEC) {
-    // For a candidate, the bytes missing behind this "Xing" would end the search.
+TEST(FindMpegHeader, DoesNotSearchXingAfterASecondByteE0OrAThirdByteEC) {
+    // If this were a candidate, the bytes missing after "Xing" would end the search.
     for (const char* refused : {"\xFF\xE0\x90\x64", "\xFF\xFB\xEC\x64"}) {
         EXPECT_EQ(Find(refused + "Xing"s + kHeader).offset, 8U);
     }
     EXPECT_EQ(ErrorOf("\xFF\xE1\x90\x64" + "Xing"s + kHeader), 62);
 }
 
-TEST(FindMpegHeader, SeesAXingThatARefusedCandidateSawHalfOf) {
+TEST(FindMpegHeader, FindsXingThatTheWindowOfARejectedCandidateCut) {
     for (std::size_t distance = 1385; distance < 1415; ++distance) {
         std::string bytes = "\xFF\xF9\x90\x64"
                             "aaaa" +
@@ -332,8 +332,8 @@ TEST(FindMpegHeader, SeesAXingThatARefusedCandidateSawHalfOf) {
     }
 }
 
-TEST(FindMpegHeader, TakesTheFirstXingBehindTheAcceptedHeader) {
-    // The refused candidate sees the first one, the accepted header only the second.
+TEST(FindMpegHeader, UsesTheFirstXingAfterTheAcceptedHeader) {
+    // The rejected candidate matches the first "Xing", the accepted header only the second.
     const std::string count1 = "Xing\0\0\0\x01\0\0\0\x01\0\0\0\0"s;
     const std::string count2 = "Xing\0\0\0\x01\0\0\0\x02\0\0\0\0"s;
     const std::string bytes = "\xFF\xF9\x90\x64" + count1 + kHeader + count2 + count1;
@@ -341,7 +341,7 @@ TEST(FindMpegHeader, TakesTheFirstXingBehindTheAcceptedHeader) {
     EXPECT_EQ(header.offset, 20U);
     EXPECT_TRUE(header.vbr);
     EXPECT_EQ(header.frameCount, 2U);
-    // One seen by a refused candidate and out of reach of none behind it.
+    // A "Xing" that precedes the accepted header is not used.
     const MpegHeader none = Find("\xFF\xF9\x90\x64" + count1 + kHeader + std::string(2000, 'a'));
     EXPECT_FALSE(none.vbr);
 }
@@ -371,7 +371,7 @@ void ExpectLikeReference(const std::string& bytes, std::uint64_t position) {
     ASSERT_EQ(header.mode, bits(25, 2));
 }
 
-// Mostly bytes of which headers are made, hardly ever a good one.
+// Mostly bytes that occur in headers, rarely a valid header.
 std::string RandomBytes(std::mt19937& random, std::size_t length, unsigned plainShare) {
     constexpr std::string_view kLikely("\xFF\xFF\xFF\xE0\xE1\xE3\xF9\xFB\xEB\xF2\x9C\xEC\xFC\x0C\x90", 15);
     std::string bytes;
@@ -390,7 +390,7 @@ std::string RandomBytes(std::mt19937& random, std::size_t length, unsigned plain
     return bytes;
 }
 
-TEST(FindMpegHeader, AgreesWithASearchByteByByte) {
+TEST(FindMpegHeader, AgreesWithAByteByByteSearch) {
     std::mt19937 random(20261121);
     int found = 0;
     int vbr = 0;
@@ -403,16 +403,16 @@ TEST(FindMpegHeader, AgreesWithASearchByteByByte) {
         vbr += expected && expected->vbr ? 1 : 0;
         ASSERT_NO_FATAL_FAILURE(ExpectLikeReference(bytes, position)) << "round " << round;
     }
-    EXPECT_GT(found, 100) << "the input is no good: nothing to compare";
+    EXPECT_GT(found, 100) << "too few headers in the random input";
     EXPECT_GT(vbr, 20);
     EXPECT_LT(found, 3900);
 }
 
-TEST(FindMpegHeader, AgreesWithItAcrossTheEndsOfItsWindow) {
+TEST(FindMpegHeader, AgreesWithAByteByByteSearchAcrossWindowBoundaries) {
     std::mt19937 random(7);
     for (const std::size_t edge : {2048U, 65536U + 2048U, 65536U}) {
         for (std::size_t before = edge - 24; before < edge + 4; ++before) {
-            // Refused candidates and "Xing" just before the edge, a header somewhere around it.
+            // Rejected candidates and "Xing" just before the boundary, a header around it.
             std::string bytes(before - 20, 'a');
             bytes += RandomBytes(random, 20, 300) + kHeader + RandomBytes(random, 1390, 990) + "Xing" +
                      std::string(random() % 30, 'b');
@@ -434,7 +434,7 @@ TEST(DecodeMpegHeader, RaisesTheErrorOfAFailedRead) {
         const TrackInfo before = other;
         try {
             DecodeMpegHeader(file, 1, other);
-            ADD_FAILURE() << "read " << failAt << " failed and nobody noticed";
+            ADD_FAILURE() << "read " << failAt << " failed without an error";
         } catch (const RunTimeError& error) {
             EXPECT_EQ(error.Number(), 57);
         }

@@ -7,7 +7,7 @@ namespace {
 
 constexpr unsigned kMost = ReaderPolicy::kMostReaders;
 
-TEST(ReaderPolicy, BeginsWithOneReaderForEachProcessorUpToTheLimit) {
+TEST(ReaderPolicy, StartsWithOneReaderPerProcessorUpToTheLimit) {
     struct Row {
         unsigned fixedReaders;
         unsigned processors;
@@ -21,7 +21,7 @@ TEST(ReaderPolicy, BeginsWithOneReaderForEachProcessorUpToTheLimit) {
     }
 }
 
-TEST(ReaderPolicy, WantsOneReaderMoreAfterEachSlowBatchUpToTheLimit) {
+TEST(ReaderPolicy, AddsAReaderAfterEachSlowBatchUpToTheLimit) {
     ReaderPolicy policy(0, 2);
     EXPECT_FALSE(policy.SlowDisk());
     for (unsigned wanted = 3; wanted <= kMost; ++wanted) {
@@ -33,14 +33,14 @@ TEST(ReaderPolicy, WantsOneReaderMoreAfterEachSlowBatchUpToTheLimit) {
     EXPECT_EQ(policy.Wanted(), kMost);
 }
 
-TEST(ReaderPolicy, WantsNoMoreReadersWhenNothingIsLeftToRead) {
+TEST(ReaderPolicy, AddsNoReaderWhenNothingIsLeftToRead) {
     ReaderPolicy policy(0, 2);
     EXPECT_FALSE(policy.AfterSlowBatch(false));
     EXPECT_EQ(policy.Wanted(), 2U);
     EXPECT_TRUE(policy.SlowDisk());
 }
 
-TEST(ReaderPolicy, ReturnsToTheFirstNumberAndAFastDiskAfterFastBatches) {
+TEST(ReaderPolicy, ReturnsToTheInitialStateAfterFastBatches) {
     for (const unsigned processors : {1U, 2U, 31U, 32U, 33U, 64U, 1024U}) {
         ReaderPolicy policy(0, processors);
         const unsigned first = policy.Wanted();
@@ -55,7 +55,7 @@ TEST(ReaderPolicy, ReturnsToTheFirstNumberAndAFastDiskAfterFastBatches) {
     }
 }
 
-TEST(ReaderPolicy, CountsFastBatchesAnewAfterASlowOne) {
+TEST(ReaderPolicy, RestartsTheCountOfFastBatchesAfterASlowOne) {
     ReaderPolicy policy(0, 2);
     policy.AfterSlowBatch(true);
     for (unsigned i = 0; i + 1 < ReaderPolicy::kFastBatches; ++i) {

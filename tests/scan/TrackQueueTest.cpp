@@ -45,7 +45,7 @@ class TrackQueueFiles {
 class TrackQueueTest : public TrackQueueFiles, public testing::TestWithParam<unsigned> {};
 class TrackQueueMachineTest : public TrackQueueFiles, public testing::Test {};
 
-TEST_P(TrackQueueTest, HandsReadingsOutInTheOrderInWhichFilesWentIn) {
+TEST_P(TrackQueueTest, DeliversReadingsInTheOrderOfSubmission) {
     std::vector<std::string> received;
     std::vector<std::int32_t> sizes;
     TrackQueue queue(
@@ -71,7 +71,7 @@ TEST_P(TrackQueueTest, HandsReadingsOutInTheOrderInWhichFilesWentIn) {
     }
 }
 
-TEST_P(TrackQueueTest, TellsOfAFileThatIsGone) {
+TEST_P(TrackQueueTest, ReportsAMissingFile) {
     int failures = 0;
     TrackQueue queue(
         GetParam(), {}, [&](QueuedTrack& track) { failures += track.failure ? track.failure->Number() : 0; },
@@ -82,7 +82,7 @@ TEST_P(TrackQueueTest, TellsOfAFileThatIsGone) {
     EXPECT_EQ(failures, 53);
 }
 
-TEST_P(TrackQueueTest, GivesNothingMoreOnceTheReceiverHasThrown) {
+TEST_P(TrackQueueTest, DeliversNothingAfterTheReceiverThrows) {
     int received = 0;
     TrackQueue queue(
         GetParam(), {},
@@ -107,8 +107,8 @@ TEST_P(TrackQueueTest, GivesNothingMoreOnceTheReceiverHasThrown) {
     EXPECT_EQ(received, 20);
 }
 
-// A single reader's caller asks by himself.
-TEST_P(TrackQueueTest, GivesNothingMoreOnceTheStopTestSaysSo) {
+// With one reader the caller polls the stop test itself.
+TEST_P(TrackQueueTest, DeliversNothingAfterTheStopTestReturnsTrue) {
     int received = 0;
     TrackQueue queue(
         GetParam(), {}, [&](QueuedTrack& /*track*/) { ++received; },
@@ -124,7 +124,7 @@ TEST_P(TrackQueueTest, GivesNothingMoreOnceTheStopTestSaysSo) {
     EXPECT_EQ(received, GetParam() == 1 ? 3000 : 20);
 }
 
-TEST_P(TrackQueueTest, ReadsByItselfWhereTheSystemHasNoThreadLeft) {
+TEST_P(TrackQueueTest, ReadsOnTheCallersThreadWhenNoThreadCanBeStarted) {
     test::AsOrdinaryUser(files_, [&] {
         test::InChild([&] {
             const rlimit none{};
@@ -148,7 +148,7 @@ TEST_P(TrackQueueTest, ReadsByItselfWhereTheSystemHasNoThreadLeft) {
     });
 }
 
-TEST_P(TrackQueueTest, MayBeThrownAwayWithFilesInFlight) {
+TEST_P(TrackQueueTest, CanBeDestroyedWithFilesInFlight) {
     int received = 0;
     {
         TrackQueue queue(
@@ -160,9 +160,9 @@ TEST_P(TrackQueueTest, MayBeThrownAwayWithFilesInFlight) {
     EXPECT_LE(received, 100);
 }
 
-// The first batch lacks descriptors and waits for the second, whose reader is held until the queue has
+// The first batch runs out of descriptors and waits for the second, whose reader is held until the queue has
 // stopped.
-TEST_F(TrackQueueMachineTest, AnswersAStopWhileItWaitsForADescriptor) {
+TEST_F(TrackQueueMachineTest, StopsWhileWaitingForADescriptor) {
     constexpr int kBatchFiles = 16;
     std::promise<void> begunPromise;
     std::promise<void> stoppedPromise;
@@ -191,7 +191,7 @@ TEST_F(TrackQueueMachineTest, AnswersAStopWhileItWaitsForADescriptor) {
     stoppedPromise.set_value();
 }
 
-TEST_F(TrackQueueMachineTest, StartsNoMoreReadersThanTheLimitOnAMachineOfManyProcessors) {
+TEST_F(TrackQueueMachineTest, StartsNoMoreReadersThanTheLimitOnManyProcessors) {
     std::mutex mutex;
     std::condition_variable all;
     std::set<std::thread::id> readers;
@@ -202,7 +202,7 @@ TEST_F(TrackQueueMachineTest, StartsNoMoreReadersThanTheLimitOnAMachineOfManyPro
              std::unique_lock lock(mutex);
              readers.insert(std::this_thread::get_id());
              all.notify_all();
-             // Each reader holds its first file until the others have theirs.
+             // Each reader holds its first file until all the others have one.
              EXPECT_TRUE(all.wait_for(lock, std::chrono::seconds(60), allThere));
          }});
     for (int round = 0; round < 20; ++round) {
@@ -218,8 +218,8 @@ INSTANTIATE_TEST_SUITE_P(Readers, TrackQueueTest, testing::Values(1U, 2U, 8U, 32
     return info.param == 0 ? std::string("automatic") : std::to_string(info.param);
 });
 
-// A hole in a file costs no disk space, and searching one of this size takes minutes.
-TEST_P(TrackQueueTest, EndsAFileInTheMiddleOnceTheStopTestSaysSo) {
+// A hole takes no disk space, and searching one of this size takes minutes.
+TEST_P(TrackQueueTest, StopsInTheMiddleOfAFile) {
     using Clock = std::chrono::steady_clock;
     files_.Write("hole.mp3", "");
     std::error_code error;
