@@ -17,7 +17,7 @@ std::vector<CollectionFile> Make(const CollectionOptions& options) {
     return files;
 }
 
-// The file as it is read: zeros where nothing was written.
+// The file as a reader sees it: zeros between the parts.
 std::string BytesAt(const CollectionFile& file, std::uint64_t offset, std::size_t length) {
     std::string bytes(length, '\0');
     for (const FilePart& part : file.parts) {
@@ -46,7 +46,7 @@ bool HasId3v1(const CollectionFile& file) {
     return BytesAt(file, file.size - 128, 3) == "TAG";
 }
 
-TEST(Collections, AreTheSameForTheSameSeedAndDifferForAnother) {
+TEST(Collections, DependOnTheSeedOnly) {
     const std::vector<CollectionFile> one = Make({200, 1});
     const std::vector<CollectionFile> again = Make({200, 1});
     const std::vector<CollectionFile> other = Make({200, 2});
@@ -65,7 +65,7 @@ TEST(Collections, AreTheSameForTheSameSeedAndDifferForAnother) {
     EXPECT_TRUE(different);
 }
 
-TEST(Collections, BeginWithTheFilesOfASmallerOne) {
+TEST(Collections, StartWithTheFilesOfASmallerCollection) {
     const std::vector<CollectionFile> small = Make({50, 7});
     const std::vector<CollectionFile> large = Make({100, 7});
     for (std::size_t i = 0; i < small.size(); ++i) {
@@ -74,7 +74,7 @@ TEST(Collections, BeginWithTheFilesOfASmallerOne) {
     }
 }
 
-TEST(Collections, HoldFilesOfRealisticShape) {
+TEST(Collections, ContainFilesOfRealisticShape) {
     std::set<std::string> paths;
     for (const CollectionFile& file : Make({2000, 3})) {
         EXPECT_TRUE(paths.insert(file.folder + "/" + file.name).second) << file.folder << "/" << file.name;
@@ -90,7 +90,7 @@ TEST(Collections, HoldFilesOfRealisticShape) {
     }
 }
 
-TEST(Collections, KeepTheSharesTheyWereAskedFor) {
+TEST(Collections, KeepTheRequestedShares) {
     struct Row {
         CollectionOptions options;
         double untagged, vbr, longTag;

@@ -1,4 +1,4 @@
-// The whole program against plain steps, on collections made at random.
+// Compares the whole program with the reference on random collections.
 #include "Fakes.h"
 #include "PlainListing.h"
 #include "RandomCorpus.h"
@@ -40,7 +40,7 @@ std::vector<std::string> PathsNamedIn(const std::string& log) {
     return paths;
 }
 
-// Lists the corpus as the program does it.
+// Lists the corpus with the program.
 bool ListFast(const TestFolder& folder, const RandomCorpus& corpus, unsigned readers, std::string& log) {
     FakeApplication fake(folder.Path());
     FakeUserInterface ui;
@@ -56,7 +56,7 @@ bool ListFast(const TestFolder& folder, const RandomCorpus& corpus, unsigned rea
     return written;
 }
 
-// A failed test names its corpus; another run may begin there.
+// A failure names its corpus; a later run can start there.
 std::uint32_t FirstSeed() {
     const char* first = std::getenv("TUNEDEX_FIRST_CORPUS");
     return first == nullptr ? 1 : static_cast<std::uint32_t>(std::strtoul(first, nullptr, 10));
@@ -102,12 +102,12 @@ void Compare(std::uint32_t seed, int& listed) {
     ++listed;
 }
 
-TEST(RandomCorpora, AreListedByteForByteAsByPlainSteps) {
+TEST(RandomCorpora, AreListedByteForByteAsByTheReference) {
     int listed = 0;
     for (std::uint32_t seed = FirstSeed(); seed <= kCorpora && !testing::Test::HasFailure(); ++seed) {
         Compare(seed, listed);
     }
-    // Most can be listed: the rest hold no files, or are playlists with a track that has no duration.
+    // The rest have no files, or are playlists with a track that has no duration.
     EXPECT_GT(listed, static_cast<int>(kCorpora - FirstSeed()) * 3 / 4);
 }
 

@@ -1,4 +1,4 @@
-// Numbers in texts against the C library's reading of them.
+// Compares the parsing of numbers with strtod().
 #include "Numbers.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ void Compare(const std::string& text) {
     EXPECT_EQ(IsNumeric(text), end == text.c_str() + text.size() && !text.empty()) << text;
 }
 
-TEST(Numbers, AreReadAsTheCLibraryReadsThem) {
+TEST(Numbers, AreParsedAsByTheCLibrary) {
     constexpr std::string_view kCharacters = "0011223459.e+-E";
     std::mt19937 random(5);
     for (int i = 0; i < 200000; ++i) {
@@ -36,12 +36,12 @@ TEST(Numbers, AreReadAsTheCLibraryReadsThem) {
     }
 }
 
-// Numbers with so many zeros in a row, in front of the point and behind it.
+// Numbers with the given run of zeros before and after the decimal point.
 std::vector<std::string> NumbersWith(const std::string& zeros) {
     return {"0." + zeros + "1", "1" + zeros, "-00" + zeros + "1." + zeros + "1", "0" + zeros};
 }
 
-TEST(Numbers, OfHundredsOfDigitsAreNeitherLostNorMistakenForLargeOnes) {
+TEST(Numbers, OfHundredsOfDigitsAreParsedWithoutOverflowOrLoss) {
     for (const std::size_t zeros : {100U, 300U, 330U, 500U}) {
         for (const char* exponent :
              {"", "e5", "e-5", "e400", "e-400", "e-99999999999999999999", "e99999999999999999999"}) {

@@ -23,7 +23,7 @@ RandomCorpus::RandomCorpus(const TestFolder& folder, std::uint32_t seed) : folde
 }
 
 unsigned RandomCorpus::Below(unsigned limit) {
-    // Not a distribution of the library's: those differ from one to the next.
+    // Not a standard distribution: those differ between libraries.
     return static_cast<unsigned>(random_() % limit);
 }
 
@@ -58,7 +58,7 @@ std::string RandomCorpus::Id3v2() {
     }
     std::string tag = Id3v2Tag(frames, Below(20));
     if (OneIn(6)) {
-        tag[6 + Below(4)] = static_cast<char>(Below(256)); // a size that is not so
+        tag[6 + Below(4)] = static_cast<char>(Below(256)); // a wrong size
     }
     if (OneIn(8)) {
         tag[Below(static_cast<unsigned>(tag.size()))] = static_cast<char>(Below(256));
@@ -137,7 +137,7 @@ void RandomCorpus::MakeSettings() {
     }
     settings_.OutputFile =
         folder_ / ("list" + Pick({".htm", ".html", ".HTM", ".txt", ".TXT", ".m3u", "", ".xml", ".text"}));
-    // With recursion off a folder that is called so ends the walk.
+    // Without recursion a folder named *.mp3 ends the walk.
     settings_.Recurse = true;
     settings_.Spanning = static_cast<std::int16_t>(OneIn(2) ? 0 : 1 + Below(9));
     settings_.SizeType = static_cast<std::int16_t>(Below(4));
@@ -146,7 +146,8 @@ void RandomCorpus::MakeSettings() {
     settings_.DocumentType = Pick({"HTML", "XHTML"});
     settings_.DoLinks = OneIn(2);
     settings_.LinkType = static_cast<std::int16_t>(Below(4));
-    settings_.Merge = static_cast<std::int16_t>(Below(3)); // any other merges columns into none
+    settings_.Merge =
+        static_cast<std::int16_t>(Below(3)); // any other value merges into a column without a name
     settings_.ActiveColumns =
         Pick({"Number|Artist|Album|Title|Duration", "Title|Artist", "Artist|Title|Album|Year|Genre|Mode",
               "Number|Foo|Full Path|Filename|Folder Path", "File Size|MPEG Type|Bitrate|Frequency|Title",
@@ -161,7 +162,7 @@ void RandomCorpus::MakeSettings() {
 
 void RandomCorpus::MakeEntities() {
     if (OneIn(5)) {
-        return; // a file that is not there
+        return; // no entity file
     }
     entityLines_ = {"# characters", "38\t&amp;", "60\t&lt;", "", "62\t&gt;", "34\t&quot;"};
     if (OneIn(3)) {
@@ -169,7 +170,7 @@ void RandomCorpus::MakeEntities() {
         entityLines_.push_back(std::to_string(Below(256)) + "\t[&]");
     }
     if (OneIn(4)) {
-        std::swap(entityLines_[1], entityLines_[2]); // an order that escapes what has been escaped
+        std::swap(entityLines_[1], entityLines_[2]); // an order that escapes escapes
     }
 }
 

@@ -1,4 +1,4 @@
-// A small collection of MP3 files made at random, good ones and broken ones, with settings to list it by.
+// A small random collection of valid and damaged MP3 files, with random settings to list it.
 #pragma once
 
 #include "Settings.h"
@@ -13,7 +13,7 @@ namespace tunedex::test {
 
 class RandomCorpus {
   public:
-    // The same seed makes the same collection, wherever the folder is.
+    // The same seed gives the same collection in any folder.
     RandomCorpus(const TestFolder& folder, std::uint32_t seed);
 
     const Settings& ListSettings() const { return settings_; }

@@ -8,7 +8,7 @@ namespace tunedex::plain {
 
 namespace {
 
-// A character, or a byte that belongs to none and that no slot may touch.
+// A character, or a stray byte, which no slot may change.
 struct Piece {
     std::string bytes;
     bool stray;

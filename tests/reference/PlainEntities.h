@@ -1,4 +1,4 @@
-// The entity table, loaded line by line and applied slot by slot.
+// Reference: the entity table, loaded line by line and applied slot by slot.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +15,8 @@ struct EntitySlot {
 
 std::vector<EntitySlot> LoadEntities(const std::vector<std::string>& lines);
 
-// Every slot but the last, in order, each over the result of the one before. Gives up with an empty result
-// when the text grows beyond `longest` bytes on the way, and says so.
+// Applies every slot but the last, in order, each to the result of the previous one. Sets `tooLong` and
+// returns an empty text if the text exceeds `longest` bytes on the way.
 struct Escaped {
     std::string text;
     bool tooLong = false;

@@ -18,8 +18,7 @@
 #include <sys/stat.h>
 #include <utility>
 
-// Short and obvious comes before fast here.
-// NOLINTBEGIN(performance-inefficient-string-concatenation,performance-inefficient-vector-operation)
+// Brevity and clarity come before speed here.
 namespace tunedex::plain {
 
 namespace {
@@ -38,7 +37,7 @@ std::vector<std::pair<std::string, std::string>> StartsOf(std::string value) {
         return {{value, value.ends_with('/') ? value : value + "/"}};
     }
     value = ReplaceAll(value, "%MULT%", "");
-    // An entry that is empty now is none; a separator that is put behind it below must not make it one.
+    // Entries that are empty here are skipped, even if a separator is appended to them below.
     const std::vector<std::string> entries = Split(value, "%||%");
     value = ReplaceAll(value, "/%||%", "%||%");
     value = ReplaceAll(value, "%||%", "/%||%");
@@ -106,7 +105,7 @@ class Walk {
     Collected& collected_;
 };
 
-// The positions of names in the list count from 1, and 0 is nowhere.
+// Positions count from 1; 0 means not found.
 std::size_t Find(const std::string& text, const std::string& wanted, std::size_t from = 1) {
     const std::size_t found = text.find(wanted, from - 1);
     return found == std::string::npos ? 0 : found + 1;
@@ -167,7 +166,7 @@ std::string FolderPath(const std::string& path) {
     return path.substr(0, path.rfind('/'));
 }
 
-// What a track shows under a column that is no merged one, unescaped; nothing for an unknown one.
+// The unescaped text of a column other than the merged ones; nothing for an unknown column.
 std::optional<std::string> CellText(const std::string& key, const TrackInfo& track, std::size_t number,
                                     const Settings& settings, const Surroundings& surroundings) {
     const std::map<std::string, std::string> texts = {

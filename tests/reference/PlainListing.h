@@ -1,5 +1,5 @@
-// A whole listing by plain steps: folders walked with a list of pending paths, every file read at once, the
-// table sorted in place, every cell escaped for itself and every character encoded for itself.
+// Reference: a whole listing in plain steps. Folders are walked with a list of pending paths, each file is
+// read at once, the table is sorted in place, each cell is escaped and each character encoded on its own.
 #pragma once
 
 #include "Clock.h"
@@ -15,7 +15,7 @@
 
 namespace tunedex::plain {
 
-// What a listing is made of besides the folders.
+// What a listing depends on besides the folders.
 struct Surroundings {
     const Locale& locale;
     const Clock& clock;
@@ -28,13 +28,13 @@ struct Collected {
     int untagged = 0;
     double totalBytes = 0;
     double totalSeconds = 0;
-    std::vector<std::string> undecoded; // paths of the files whose headers gave nothing
+    std::vector<std::string> undecoded; // paths of files without a decodable audio header
 };
 
-// Folders that can be walked, and files that can be read, only.
+// Requires that all folders can be listed and all files read.
 Collected Collect(const Settings& settings);
 
-// The files of the listing by their paths, byte for byte. `settings` are a run's own copy.
+// The files of the listing: path and content. `settings` is the run's copy.
 std::map<std::string, std::string> List(Settings settings, const Collected& collected,
                                         const Surroundings& surroundings);
 

@@ -17,7 +17,7 @@ struct Failure {
     int number;
 };
 
-// Positions count from 1, as in "get #file, position".
+// Positions count from 1.
 unsigned ByteAt(const std::string& bytes, std::size_t position) {
     if (position > bytes.size()) {
         throw Failure{kInputPastEnd};
@@ -178,7 +178,7 @@ void WalkFrames(const std::string& bytes, std::size_t searchPosition, bool moveT
             size = size * 256 + ByteAt(bytes, position + i);
         }
         if (size > 0) {
-            ByteAt(bytes, position + 10 + size - 1); // all of it must be there
+            ByteAt(bytes, position + 10 + size - 1); // raises if the frame extends beyond the file
         }
         const std::string text = DecodeWindows1252(Without(TextAt(bytes, position + 10, size), '\0'));
         if (id == "TIT2") {
@@ -245,7 +245,7 @@ void ReadId3v2(const std::string& bytes, bool moveTheArtists, TrackInfo& track) 
     try {
         WalkFrames(bytes, Id3v2SearchPosition(bytes), moveTheArtists, track);
     } catch (const Failure&) {
-        return; // what was taken stays
+        return; // fields read so far are kept
     }
 }
 

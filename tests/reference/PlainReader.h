@@ -1,4 +1,4 @@
-// One file's bytes to one record, step by step and byte by byte.
+// Reference: one file's bytes to one record, byte by byte.
 #pragma once
 
 #include "TrackInfo.h"
@@ -11,13 +11,13 @@ namespace tunedex::plain {
 struct Reading {
     TrackInfo track;
     std::int64_t seconds = 0;
-    int error = 0; // the number of the error that the audio header ended in
+    int error = 0; // number of the error from decoding the audio header; 0: none
 };
 
 struct Header {
-    int error = 0; // 0, or the number of the error that ended the search; then nothing else is set
+    int error = 0; // number of the error that ended the search; 0: none, and the rest is set
     std::size_t offset = 0;
-    std::string bits; // of the header, one character each
+    std::string bits; // the 32 bits of the header as "0" and "1"
     bool vbr = false;
     std::uint32_t frames = 0;
 };
@@ -26,7 +26,7 @@ struct Header {
 Header FindHeader(const std::string& bytes, std::size_t position);
 
 bool ReadId3v1(const std::string& bytes, bool moveTheArtists, TrackInfo& track);
-// 1 where there is no tag.
+// 1 without a tag.
 std::size_t Id3v2SearchPosition(const std::string& bytes);
 void ReadId3v2(const std::string& bytes, bool moveTheArtists, TrackInfo& track);
 

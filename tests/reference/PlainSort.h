@@ -1,4 +1,4 @@
-// The prescribed exchanges, made on the records themselves.
+// Reference: the Shell sort, on the records themselves.
 #pragma once
 
 #include "TrackInfo.h"
@@ -8,7 +8,7 @@
 
 namespace tunedex::plain {
 
-// `tracks` holds the records 1 to N in the places 0 to N - 1.
+// `tracks` holds the records 1 to N at the indices 0 to N - 1.
 void SortTracks(std::vector<TrackInfo>& tracks, std::int16_t sortOrder);
 
 } // namespace tunedex::plain
