@@ -34,11 +34,11 @@ constexpr std::array<GenreChoice, 8> kGenres = {{{"Blues", 0},
                                                  {"Folk", 80}}};
 
 constexpr std::uint64_t kMegabyte = 1'000'000;
-// MPEG-1 Layer III, 44,100 Hz, joint stereo, at 128 kbit/s without and with padding.
+// MPEG-1 Layer III, 44,100 Hz, joint stereo, 128 kbit/s, without padding.
 constexpr std::string_view kFrameHeader = "\xFF\xFB\x90\x64";
 constexpr std::size_t kFrameSize = 417;
 constexpr std::size_t kFirstFrames = 3;
-constexpr std::size_t kXingOffset = 36; // behind the side information of a stereo frame
+constexpr std::size_t kXingOffset = 36; // after the side information of a stereo frame
 
 std::string BigEndian(std::uint64_t value) {
     std::string bytes;
@@ -52,7 +52,7 @@ std::string BigEndian(std::uint64_t value) {
 
 Collection::Collection(const CollectionOptions& options) : options_(options), state_(options.seed) {}
 
-// SplitMix64: small, and the same everywhere, which the standard library's distributions are not.
+// SplitMix64: short, and portable, unlike the distributions of the standard library.
 std::uint64_t Collection::Random() {
     state_ += 0x9E3779B97F4A7C15ULL;
     std::uint64_t value = state_;
@@ -83,7 +83,7 @@ void Collection::StartAlbum() {
         ++artists_;
         albumsLeft_ = static_cast<unsigned>(Between(1, 5));
         artist_ = (Percent(25) ? "The " : "") + Words(1, 2);
-        // Folders need names of their own; many artists share one.
+        // Folder names must be unique; artist names are not.
         artistFolder_ = artist_ + " " + std::to_string(artists_);
     }
     --albumsLeft_;
@@ -95,7 +95,7 @@ void Collection::StartAlbum() {
     track_ = 0;
 }
 
-// Returns the tag's size.
+// Returns the size of the tag in bytes.
 std::size_t Collection::AddTagInFront(CollectionFile& file, const std::string& title) {
     Id3v2Tag tag;
     tag.frames = {{"TIT2", title}, {"TPE1", artist_}, {"TALB", album_},
@@ -118,7 +118,7 @@ void Collection::AddFrames(CollectionFile& file, std::size_t offset) {
         std::string frame(kFrameHeader);
         frame.resize(kFrameSize, '\0');
         if (vbr && i == 0) {
-            // A bitrate between 128 and 256 kbit/s follows from the number of frames.
+            // The number of frames makes the bitrate 128 to 256 kbit/s.
             const std::uint64_t sizes = Between(kFrameSize, 2 * kFrameSize);
             frame.replace(kXingOffset, 16,
                           "Xing" + BigEndian(3) + BigEndian((file.size - offset) / sizes) +
@@ -126,7 +126,7 @@ void Collection::AddFrames(CollectionFile& file, std::size_t offset) {
         }
         frames += frame;
     }
-    // What a header sits in may as well be one piece with the tag before it.
+    // Adjacent parts are merged: one write instead of two.
     if (!file.parts.empty() && file.parts.back().bytes.size() == offset) {
         file.parts.back().bytes += frames;
     } else {
@@ -149,8 +149,7 @@ CollectionFile Collection::Next() {
     file.size = Between(3 * kMegabyte, 8 * kMegabyte);
 
     const bool tagged = !Percent(options_.untaggedPercent);
-    const std::uint64_t kind =
-        Random() % 10; // of ten tagged files two have the new tag alone, one the old one alone
+    const std::uint64_t kind = Random() % 10; // 0: ID3v1 only; 1 and 2: ID3v2 only; others: both
     std::size_t audio = 0;
     if (tagged && kind != 0) {
         audio = AddTagInFront(file, title);

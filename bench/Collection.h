@@ -1,5 +1,4 @@
-// A made-up music collection of any size: what each file is called, how large it is and which bytes of it are
-// not zero.
+// Generates a music collection of any size: name, size and non-zero bytes of each file.
 #pragma once
 
 #include <cstddef>
@@ -14,10 +13,10 @@ struct CollectionOptions {
     std::uint64_t seed = 1;
     unsigned untaggedPercent = 3; // files with neither tag
     unsigned vbrPercent = 30;     // files with a Xing header
-    unsigned coverPercent = 35; // of the files with an ID3v2 tag: those with a picture of 20 to 400 KB in it
+    unsigned coverPercent = 35;   // files with a picture of 20 to 400 KB, of those with an ID3v2 tag
 };
 
-// Bytes at a place in a file.
+// Bytes at an offset of a file.
 struct FilePart {
     std::uint64_t offset = 0;
     std::string bytes;
@@ -27,21 +26,21 @@ struct CollectionFile {
     std::string folder; // relative: "Artist/Album"
     std::string name;
     std::uint64_t size = 0;      // 3 to 8 MB
-    std::vector<FilePart> parts; // by offset; what lies between them is a hole
+    std::vector<FilePart> parts; // by offset, with holes between them
 };
 
-// Files album by album. The same options give the same files on every machine.
+// Generates files album by album. The same options give the same files on every machine.
 class Collection {
   public:
     explicit Collection(const CollectionOptions& options);
 
     bool AtEnd() const { return made_ == options_.files; }
-    // The next file; only before the end.
+    // The next file. Requires !AtEnd().
     CollectionFile Next();
 
   private:
     std::uint64_t Random();
-    // From `least` to `most`, both possible.
+    // A number in [least, most].
     std::uint64_t Between(std::uint64_t least, std::uint64_t most);
     bool Percent(unsigned share);
     std::string Words(std::size_t least, std::size_t most);
@@ -53,8 +52,8 @@ class Collection {
     std::uint64_t state_;
     std::uint32_t made_ = 0;
     std::uint32_t artists_ = 0;
-    unsigned albumsLeft_ = 0; // of the artist
-    unsigned tracksLeft_ = 0; // of the album
+    unsigned albumsLeft_ = 0; // for the current artist
+    unsigned tracksLeft_ = 0; // on the current album
     unsigned track_ = 0;
     std::string artist_;
     std::string album_;

@@ -1,5 +1,5 @@
-// limit_reader: what no lister of MP3 files can beat. It walks a folder, opens every *.mp3, reads 4 KiB of
-// its head, 2 KiB behind a tag that is longer than that, and its last 128 bytes, and makes nothing of them.
+// limit_reader: the lower bound for any lister of MP3 files. It walks a folder, opens every *.mp3, reads 4
+// KiB at its start, 2 KiB after a tag longer than that, and its last 128 bytes, and discards them.
 
 #include <array>
 #include <atomic>
@@ -28,7 +28,7 @@ constexpr std::size_t kHeadSize = 4096;
 constexpr std::size_t kFrameSize = 2048;
 constexpr std::size_t kTailSize = 128;
 constexpr std::size_t kBatchSize = 16;
-// Every batch may hold a folder of its own open; a process may have 1,024 files open by default.
+// Each batch may keep a folder open; the default limit is 1,024 descriptors per process.
 constexpr std::size_t kMostBatches = 256;
 
 struct Totals {
@@ -52,11 +52,11 @@ class Folder {
 };
 
 struct Batch {
-    std::shared_ptr<Folder> folder; // open until its last file has been read
+    std::shared_ptr<Folder> folder; // open until its last file is read
     std::vector<std::string> names;
 };
 
-// The position behind the tag that the head begins with; 0 where there is none.
+// The position after the ID3v2 tag at the start of `head`; 0 without a tag.
 off_t TagEnd(const std::array<unsigned char, kHeadSize>& head, ssize_t length) {
     if (length < 10 || std::memcmp(head.data(), "ID3", 3) != 0) {
         return 0;
@@ -92,7 +92,7 @@ void ReadBatch(const Batch& batch, Totals& totals) {
     }
 }
 
-// With one thread the walker reads what it finds; with more it hands batches to readers.
+// With one thread the walker reads the files itself; with more it passes batches to readers.
 class Readers {
   public:
     Readers(unsigned threads, Totals& totals) : totals_(totals) {
@@ -147,7 +147,7 @@ class Readers {
     std::condition_variable room_;
     std::deque<Batch> batches_;
     bool finished_ = false;
-    std::vector<std::thread> threads_; // last, so that the rest is there before they run
+    std::vector<std::thread> threads_; // last member: the threads use the others
 };
 
 bool IsMp3(const char* name) {
@@ -155,7 +155,7 @@ bool IsMp3(const char* name) {
     return length >= 4 && strcasecmp(name + length - 4, ".mp3") == 0;
 }
 
-// Lists one folder: files to the readers, sub-folders to the pending ones.
+// Lists one folder: passes files to the readers and adds sub-folders to `pending`.
 void WalkFolder(const std::string& path, std::vector<std::string>& pending, Readers& readers,
                 Totals& totals) {
     DIR* const stream = opendir(path.c_str());

@@ -1,4 +1,5 @@
-// make_collection: fills a folder with sparse MP3 files of realistic size, the same ones for the same seed.
+// make_collection: fills a folder with sparse MP3 files of realistic size. The same seed gives the same
+// files.
 
 #include "Collection.h"
 #include "Numbers.h"
@@ -18,13 +19,13 @@
 namespace {
 
 constexpr std::string_view kUsage = R"USAGE(usage: make_collection FOLDER [OPTION...]
-Fills FOLDER, which must not exist, with folders of sparse MP3 files of 3 to 8 MB.
+Creates FOLDER, which must not exist, with folders of sparse MP3 files of 3 to 8 MB.
 
-  --count N       number of files (20000)
-  --seed N        another collection for every seed (1)
-  --untagged P    percentage of files without any tag (3)
+  --count N       number of files (default 20000)
+  --seed N        seed of the random generator (1)
+  --untagged P    percentage of files without a tag (3)
   --vbr P         percentage of files with a Xing header (30)
-  --covers P      percentage of files with a large picture, of those with an ID3v2 tag (35)
+  --covers P      percentage of files with an ID3v2 tag that contain a large picture (35)
 )USAGE";
 
 struct Options {
@@ -58,7 +59,7 @@ void Take(Options& options, const std::string& name, const std::string& value) {
 
 Options ParseOptions(const std::vector<std::string>& arguments) {
     if (arguments.size() % 2 == 0 || arguments[0].rfind("--", 0) == 0) {
-        throw std::invalid_argument("a folder is needed, then options, each with a value");
+        throw std::invalid_argument("expected a folder, then options, each with a value");
     }
     Options options;
     options.folder = arguments[0];
@@ -89,7 +90,7 @@ void WriteFile(const std::string& path, const tunedex::CollectionFile& file) {
 
 void Make(const Options& options) {
     if (!std::filesystem::create_directories(options.folder)) {
-        throw std::runtime_error(options.folder + " is there already");
+        throw std::runtime_error(options.folder + " already exists");
     }
     tunedex::Collection collection(options.collection);
     std::string folder;

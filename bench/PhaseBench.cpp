@@ -1,13 +1,11 @@
-// phase_bench: single phases of a run over made-up tracks, each beside the least that any program must do for
-// it.
+// phase_bench: times single phases of a run on generated tracks, each with a lower bound.
 //
-// usage: phase_bench sort N        SortTracks beside std::sort over the same upper-cased keys
-//        phase_bench html|text|m3u N FOLDER   a writer beside writing the same bytes through one buffer of 64
-//        KiB phase_bench pages N FOLDER           pages of 100 rows beside one page, and beside plain files
-//        with the same bytes phase_bench abort COLLECTION FOLDER  from the request to stop to the return, in
-//        every phase
+// usage: phase_bench sort N                    SortTracks; std::sort on the same upper-cased keys
+//        phase_bench html|text|m3u N FOLDER    a writer; writing the same bytes through one 64 KiB buffer
+//        phase_bench pages N FOLDER            pages of 100 rows; one page; plain files with the same bytes
+//        phase_bench abort COLLECTION FOLDER   from the abort request to the return, in each phase
 //
-// Prints lines of NAME SECONDS; the ratios are the caller's, who runs this several times.
+// Prints lines of NAME SECONDS; the caller runs it several times and computes the ratios.
 
 #include "Application.h"
 #include "FolderScanner.h"
@@ -54,7 +52,7 @@ class QuietMonitor : public tunedex::RunMonitor {
     bool AbortRequested() override { return false; }
 };
 
-// Asks to stop a while after the phase began, and remembers when.
+// Requests an abort a given time after the phase has started.
 class StoppingMonitor final : public QuietMonitor {
   public:
     explicit StoppingMonitor(std::chrono::milliseconds after) : stopAt_(Time::now() + after) {}
@@ -73,7 +71,7 @@ class NoReports final : public tunedex::ErrorReporter {
                 const tunedex::RunTimeError& /*error*/) override {}
 };
 
-// As a walk finds them: the tracks of an album one after the other, albums and titles in no order.
+// In the order of a walk: the tracks of an album together, albums and titles in random order.
 tunedex::TrackTable MakeTracks(std::size_t count) {
     std::mt19937 random(1);
     const auto word = [&random](std::size_t length) {
@@ -128,7 +126,7 @@ void Sort(std::size_t count) {
     Print("SortTracks", SecondsOf([&] { tunedex::SortTracks(table, tunedex::kAscending, monitor); }));
 }
 
-// The surroundings of a writer.
+// What a writer needs.
 struct Bench {
     explicit Bench(tunedex::TrackTable tracks) : table(std::move(tracks)) {
         settings.SetDefaults();

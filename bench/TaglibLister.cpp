@@ -1,5 +1,5 @@
-// taglib_lister: the smallest lister that TagLib allows, to measure beside. It walks a folder and prints
-// artist, album and title of every MP3 file.
+// taglib_lister: a minimal lister that uses TagLib, for comparison. It walks a folder and prints artist,
+// album and title of every MP3 file.
 //
 // usage: taglib_lister FOLDER
 
@@ -18,8 +18,8 @@ int main(int argc, char** argv) {
         if (entry.path().extension() != ".mp3") {
             continue;
         }
-        // Without the audio: it would look for the last frame, and the collection's files are zeros behind
-        // the first.
+        // Without audio properties: TagLib would look for the last frame, and the files of the collection are
+        // zeros after the first frames.
         const TagLib::MPEG::File file(entry.path().c_str(), false);
         if (const TagLib::Tag* const tag = file.tag(); tag != nullptr) {
             std::cout << tag->artist().to8Bit(true) << '\t' << tag->album().to8Bit(true) << '\t'

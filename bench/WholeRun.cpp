@@ -1,8 +1,8 @@
-// whole_run: one unattended run with the program's own code, from folders to the finished listing, without
-// the second's pause at its end (the clock's Sleep does nothing) and with a chosen number of readers.
+// whole_run: one unattended run with the program's own code, from folders to the finished listing. Its clock
+// does not sleep, which leaves out the pause of one second at the end of a run.
 //
-// usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N]
-// Prints the files listed and the seconds of each phase.
+// usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--entities FILE]
+// Prints the time of each phase, then files listed, total time and peak memory.
 
 #include "Application.h"
 #include "ListJob.h"
@@ -35,7 +35,7 @@ double Seconds(std::chrono::steady_clock::duration duration) {
     return std::chrono::duration<double>(duration).count();
 }
 
-// The terminal front end with a look at the clock at the beginning of each phase.
+// Prints the time between changes of the status text, which mark the phases.
 class TimedFrontEnd final : public tunedex::RunMonitor {
   public:
     explicit TimedFrontEnd(tunedex::RunMonitor& inner) : inner_(inner) {}

@@ -1,4 +1,4 @@
-// The least that a program with a Qt Widgets window can be.
+// The lower bound: a program with an empty Qt Widgets window.
 #include "FirstPaint.h"
 
 #include <QApplication>

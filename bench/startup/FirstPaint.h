@@ -1,4 +1,4 @@
-// Ends the program at the first painted frame of a window and tells when that was.
+// Prints the time of the first painted frame of a window and ends the program.
 #pragma once
 
 #include <QEvent>
@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-// The monotonic clock in nanoseconds, the same in every process.
+// The monotonic clock in nanoseconds, comparable between processes.
 inline long long NowInNanoseconds() {
     return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
@@ -22,8 +22,7 @@ class FirstPaint final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Paint && !painted_) {
             painted_ = true;
-            // After the event the window's children are painted too, and the frame is on its way to the
-            // screen.
+            // Deferred until the children of the window are painted too and the frame is sent to the screen.
             QTimer::singleShot(0, [] {
                 std::printf("%lld\n", NowInNanoseconds());
                 std::fflush(stdout);

@@ -1,4 +1,4 @@
-// The program's own start up to its main window, by the same steps.
+// Starts the program up to its main window, in the same steps as main.cpp.
 #include "FirstPaint.h"
 
 #include "Application.h"

@@ -1,4 +1,4 @@
-// Starts both programs in turn and compares how long each takes to its first painted window.
+// Starts both programs alternately and compares the times to their first painted window.
 //
 // usage: startup_bench EMPTY-PROGRAM TUNEDEX-PROGRAM [ROUNDS]
 
@@ -44,7 +44,7 @@ int Run(const std::vector<std::string>& arguments) {
     for (int round = -2; round < rounds; ++round) {
         const double first = MillisecondsToFirstPaint(arguments[0]);
         const double second = MillisecondsToFirstPaint(arguments[1]);
-        if (round >= 0) { // the first two only warm the caches
+        if (round >= 0) { // the first two rounds warm the caches
             empty.push_back(first);
             full.push_back(second);
         }

@@ -1,9 +1,9 @@
-// window_run: the same run behind the terminal and behind the windows in turn, and runs that are aborted on
-// the way.
+// window_run: times the same run with the terminal and with the windows alternately, then runs that are
+// aborted.
 //
 // usage: window_run FOLDER OUTPUT ENTITY-FILE [ROUNDS]
-// Prints the medians of both, from the beginning of the search to the end of the run without the second's
-// pause, their ratio, and how long after the Abort button was pressed runs came back.
+// Prints the medians of both, from the start of the search to the end of the run without the pause of one
+// second, their ratio, and the time from pressing Abort to the end of the run.
 
 #include "Application.h"
 #include "Dialogs.h"
@@ -45,7 +45,7 @@ class NoRegistry final : public tunedex::Registry {
     void Write(std::string_view /*name*/, std::string_view /*text*/) override {}
 };
 
-// A front end that notes when the progress window was there and when the run was over.
+// Records when the progress window was opened and when the run ended.
 class Timed final : public tunedex::UserInterface {
   public:
     explicit Timed(tunedex::UserInterface& inner) : inner_(inner) {}
@@ -91,14 +91,15 @@ double RunOnce(tunedex::Application& application, tunedex::UserInterface& front)
     return Milliseconds(timed.ended - timed.begun);
 }
 
-// Presses Abort from outside after that time; how long the run went on.
+// Presses Abort on another thread after the given time. Returns the milliseconds from then to the end of the
+// run; -1 if the run ended first.
 double AbortOnce(tunedex::Application& application, tunedex::WindowsFrontEnd& front,
                  std::chrono::milliseconds after) {
     SteadyClock::time_point pressed;
     std::thread user([&] {
         std::this_thread::sleep_for(after);
         pressed = SteadyClock::now();
-        // As input does: the press waits in the event queue until the run looks.
+        // Queued like input: the press waits in the event queue until the run polls for it.
         QMetaObject::invokeMethod(
             &front.MainWindow(),
             [&] {
@@ -143,7 +144,7 @@ int main(int argc, char** argv) {
     for (int round = -1; round < rounds; ++round) {
         const double first = RunOnce(application, terminal);
         const double second = RunOnce(application, windows);
-        if (round >= 0) { // the first only warms the caches
+        if (round >= 0) { // the first round warms the caches
             plain.push_back(first);
             shown.push_back(second);
         }
