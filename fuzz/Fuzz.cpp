@@ -1,4 +1,4 @@
-// One target under libFuzzer; the build says which.
+// Runs one target under libFuzzer; the build defines which.
 #include "Fuzzing.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

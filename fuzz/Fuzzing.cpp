@@ -18,7 +18,7 @@ class OwnFolder {
     OwnFolder() {
         std::string pattern = (fs::temp_directory_path() / "tunedex-fuzz-XXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr) {
-            throw std::runtime_error("no folder for fuzzing: " + pattern);
+            throw std::runtime_error("cannot create a temporary folder: " + pattern);
         }
         path_ = pattern + "/";
     }

@@ -1,5 +1,5 @@
-// What every fuzz target is made of: a function of bytes that ends the program when something is not as it
-// should be. Fuzz.cpp runs one of them under libFuzzer, Replay.cpp all of them over kept files.
+// Shared by the fuzz targets. A target is a function of bytes that aborts if a property does not hold.
+// Fuzz.cpp runs one of them under libFuzzer, Replay.cpp any of them on kept inputs.
 #pragma once
 
 #include <cstddef>
@@ -17,12 +17,12 @@ struct Target {
     void (*run)(Bytes bytes);
 };
 
-// All targets; what one of them expects of its bytes is told in its file.
+// All targets. Each target's file describes its input.
 std::span<const Target> Targets();
-// The target of that name; ends the program where there is none.
+// The target of that name; aborts if there is none.
 const Target& FindTarget(std::string_view name);
 
-// Ends the program with a message unless `holds`.
+// Aborts with a message unless `holds`.
 void Require(bool holds, const char* what);
 void RequireEqual(std::string_view value, std::string_view expected, const char* what);
 
@@ -34,14 +34,14 @@ inline Bytes BytesOf(std::string_view text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-// Takes a target's input apart. What is no longer there is 0, or empty.
+// Consumes a target's input from the front. Reads past the end give 0 or an empty text.
 class Input {
   public:
     explicit Input(Bytes bytes) : rest_(bytes) {}
 
     bool Empty() const { return rest_.empty(); }
     std::uint8_t Byte();
-    // The bytes up to `end`, or up to the end of all.
+    // The bytes before the next `end`, which is consumed, or all that are left.
     std::string Until(std::uint8_t end);
     std::string Rest();
 
@@ -49,7 +49,7 @@ class Input {
     Bytes rest_;
 };
 
-// A folder of the process's own below the temporary folder, empty at each call and gone with the process.
+// A temporary folder of this process, emptied at each call and removed at exit.
 const std::string& EmptyFolder();
 
 } // namespace tunedex::fuzz

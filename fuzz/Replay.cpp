@@ -1,4 +1,4 @@
-// Runs a target over kept files, without a fuzzer: replay TARGET FILE-OR-FOLDER...
+// Runs a target on kept inputs, without a fuzzer: replay TARGET FILE-OR-FOLDER...
 #include "Fuzzing.h"
 
 #include <algorithm>
@@ -38,12 +38,12 @@ int main(int argc, char** argv) {
     std::size_t count = 0;
     for (int i = 2; i < argc; ++i) {
         if (!fs::exists(argv[i])) {
-            continue; // a target that has never crashed keeps no crashes
+            continue; // a target that has never failed has no folder of crashes
         }
         for (const fs::path& path : FilesBelow(argv[i])) {
             std::ifstream file(path, std::ios::binary);
             const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-            // Said first: a crash says nothing of its own.
+            // Printed first: a crash prints nothing.
             std::printf("%s: %s\n", argv[1], path.c_str());
             std::fflush(stdout);
             target.run(tunedex::fuzz::BytesOf(bytes));
@@ -51,6 +51,6 @@ int main(int argc, char** argv) {
         }
     }
     target.run({});
-    std::printf("%s: %zu files and the empty one, nothing found\n", argv[1], count);
+    std::printf("%s: %zu files and the empty input, nothing found\n", argv[1], count);
     return count > 0 ? 0 : 1;
 }

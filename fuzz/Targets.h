@@ -1,4 +1,4 @@
-// The targets, one file each in targets/.
+// The fuzz targets, one per file in targets/.
 #pragma once
 
 #include "Fuzzing.h"

@@ -1,4 +1,4 @@
-// The bytes are arguments, each up to a NUL.
+// Input: arguments, each terminated by a NUL.
 #include "CommandLine.h"
 #include "Targets.h"
 
@@ -23,7 +23,7 @@ void RunCommandLine(Bytes bytes) {
         }
         expected = piece == "/AUTO";
     }
-    Require(IsAutomatic(arguments) == expected, "the switch is found anywhere, in any case");
+    Require(IsAutomatic(arguments) == expected, "the switch is found at any position and in any case");
 }
 
 } // namespace tunedex::fuzz

@@ -1,4 +1,4 @@
-// The bytes are a text up to the first NUL, then an entity file.
+// Input: a text up to the first NUL, then an entity file.
 #include "EntityTable.h"
 #include "Escaper.h"
 
@@ -14,7 +14,7 @@ namespace tunedex::fuzz {
 
 namespace {
 
-// A table may make a text longer and longer; what is checked stays short of where that takes time.
+// A table can expand a text exponentially; longer results are not checked.
 constexpr std::size_t kLongest = 4096;
 
 bool StaysShort(const std::vector<plain::EntitySlot>& slots) {
@@ -48,11 +48,11 @@ void RunEntities(Bytes bytes) {
     }
     const Escaper escaper(table);
     const plain::Escaped expected = plain::Escape(slots, text, std::string().max_size());
-    RequireEqual(escaper.EscapeEntities(text), expected.text, "a text with all slots applied");
+    RequireEqual(escaper.EscapeEntities(text), expected.text, "an escaped text");
     std::string appended = "before";
     escaper.AppendEscaped(appended, text);
-    RequireEqual(appended, "before" + expected.text, "a text escaped behind another");
-    // What stands behind a padded text can be anything.
+    RequireEqual(appended, "before" + expected.text, "an escaped text appended to another");
+    // The bytes after a padded text can be anything.
     const std::string padded = text + std::string(PageBuffer::kStep, lines.empty() ? '&' : 'a');
     PageBuffer page;
     page.Put("before");

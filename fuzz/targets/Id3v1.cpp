@@ -1,4 +1,4 @@
-// The bytes are a file, its first one aside: an odd one moves a leading "The".
+// Input: one byte, odd to move a leading "The"; then a file.
 #include "Id3v1.h"
 
 #include "PlainReader.h"
@@ -13,15 +13,15 @@ void RunId3v1(Bytes bytes) {
     const bool moveTheArtists = (input.Byte() & 1U) != 0;
     const std::string file = input.Rest();
     TrackInfo track;
-    track.Artist = "as it was";
+    track.Artist = "before";
     TrackInfo expected = track;
     MemoryByteSource source(BytesOf(file));
     const bool found = ReadId3v1(source, moveTheArtists, track);
-    Require(found == plain::ReadId3v1(file, moveTheArtists, expected), "a tag is found where there is one");
+    Require(found == plain::ReadId3v1(file, moveTheArtists, expected), "the tag is detected");
     RequireEqualTracks(track, expected, "the fields of an ID3v1 tag");
     for (const std::string& text : {track.Artist, track.Title, track.Album, track.Year, track.Genre}) {
-        Require(IsValidUtf8(text), "a tag's bytes become characters");
-        Require(text.find('\0') == std::string::npos, "no NUL is left in a tag's text");
+        Require(IsValidUtf8(text), "texts are valid UTF-8");
+        Require(text.find('\0') == std::string::npos, "texts contain no NUL");
     }
 }
 

@@ -1,5 +1,5 @@
-// The bytes are a file, its first three aside: where the search begins, and how many bytes of nothing stand
-// before the rest, so that headers come to lie across the search's windows.
+// Input: one byte for the search position, two for the number of zeros (in units of 2) before the file, then
+// the file. The zeros move headers across the boundaries of the search window.
 #include "MpegHeader.h"
 
 #include "PlainReader.h"
@@ -13,7 +13,7 @@ namespace tunedex::fuzz {
 
 namespace {
 
-// A file that gives fewer bytes than it promised, as one does that shrinks while it is read.
+// A file with fewer bytes than its size says, as if truncated while it is read.
 class ShrinkingSource final : public ByteSource {
   public:
     ShrinkingSource(Bytes bytes, std::uint64_t promised) : memory_(bytes), promised_(promised) {}
@@ -31,13 +31,13 @@ void Check(ByteSource& source, const std::string& file, std::uint64_t position) 
     const plain::Header expected = plain::FindHeader(file, position);
     try {
         const MpegHeader header = FindMpegHeader(source, position);
-        Require(expected.error == 0, "a header is found where there is one");
-        Require(header.offset == expected.offset, "the first header is taken");
-        Require(header.vbr == expected.vbr, "\"Xing\" is seen where it is");
-        Require(!header.vbr || header.frameCount == expected.frames, "the frame count is read");
+        Require(expected.error == 0, "a header is found only if there is one");
+        Require(header.offset == expected.offset, "the first header is used");
+        Require(header.vbr == expected.vbr, "\"Xing\" is detected");
+        Require(!header.vbr || header.frameCount == expected.frames, "the frame count");
         Require(header.offset + 4 <= file.size(), "a header lies within the file");
     } catch (const RunTimeError& error) {
-        Require(error.Number() == expected.error, "the search ends as it should");
+        Require(error.Number() == expected.error, "the error that ends the search");
     }
 }
 
@@ -46,7 +46,8 @@ void Check(ByteSource& source, const std::string& file, std::uint64_t position) 
 void RunMpegHeader(Bytes bytes) {
     Input input(bytes);
     const std::uint64_t position = 1U + input.Byte();
-    const std::size_t high = input.Byte(); // on a line of its own: in one expression either could come first
+    const std::size_t high =
+        input.Byte(); // a statement of its own: the order within one expression is unspecified
     const std::size_t before = (high * 256U + input.Byte()) * 2U;
     std::string file(before, '\0');
     file += input.Rest();

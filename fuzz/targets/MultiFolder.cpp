@@ -1,4 +1,4 @@
-// The bytes are a folder setting.
+// Input: a folder setting.
 #include "FolderSetting.h"
 
 #include "Targets.h"
@@ -14,20 +14,20 @@ void CheckStarts(const std::string& value, PathStyle style) {
     const std::string separator(1, style.separator);
     const std::vector<StartFolder> starts = StartFolders(value, style);
     for (const StartFolder& start : starts) {
-        Require(start.path.ends_with(separator), "a walk begins at a folder with its separator");
+        Require(start.path.ends_with(separator), "a start folder ends in a separator");
         Require(start.path == start.baseFolder || start.path == start.baseFolder + separator,
-                "a record's base folder is where its walk began");
+                "a base folder is its start folder");
     }
     if (!IsMultiFolder(value)) {
-        Require(starts.size() == 1 && starts[0].baseFolder == value, "a single folder stands for itself");
+        Require(starts.size() == 1 && starts[0].baseFolder == value, "a single folder is not changed");
         return;
     }
-    // The steps on the whole list, empty entries left out.
+    // The same steps on the list as one text, without the empty entries.
     std::string list = ReplaceAll(value, "%MULT%", "");
     std::vector<std::string> entries = Split(list, "%||%");
     if (std::any_of(entries.begin(), entries.end(),
                     [&](const std::string& entry) { return entry.ends_with("%||" + separator); })) {
-        return; // on the whole list, dropping its separator makes such a folder's end pass for the list's
+        return; // in one text, the end of such a folder looks like a list separator
     }
     list = ReplaceAll(ReplaceAll(list, separator + "%||%", "%||%"), "%||%", separator + "%||%");
     std::vector<std::string> normalised = Split(list, "%||%");
@@ -37,9 +37,9 @@ void CheckStarts(const std::string& value, PathStyle style) {
             expected.push_back(normalised[i]);
         }
     }
-    Require(starts.size() == expected.size(), "every entry is a start folder, the empty ones aside");
+    Require(starts.size() == expected.size(), "every non-empty entry is a start folder");
     for (std::size_t i = 0; i < starts.size(); ++i) {
-        RequireEqual(starts[i].baseFolder, expected[i], "a start folder as it is normalised");
+        RequireEqual(starts[i].baseFolder, expected[i], "a normalised start folder");
     }
 }
 
@@ -55,9 +55,9 @@ void RunMultiFolder(Bytes bytes) {
     Require(IsMultiFolder(value) || rows.empty(), "only a list has rows");
     if (!rows.empty()) {
         const std::string again = MultiFolderValue(rows);
-        // Removing the mark can make one: "%MU%MULT%LT%".
+        // Removing the mark can create another: "%MU%MULT%LT%".
         const bool marked = ReplaceAll(value, "%MULT%", "").find("%MULT%") != std::string::npos;
-        Require(marked || FoldersOf(again) == rows, "a list survives being shown and stored");
+        Require(marked || FoldersOf(again) == rows, "a list is unchanged by a round trip");
     }
 }
 

@@ -1,5 +1,5 @@
-// The bytes are files, each up to the bytes FE FE; a file that begins with 00 stands in a folder of its own,
-// one that begins with 01 may not be opened, one that begins with 02 is a link to nothing.
+// Input: one byte for the number of files missing from the count, then files separated by FE FE. The first
+// byte of a file chooses: 00 a sub-folder, 01 a file that may not be opened, 02 a dangling link.
 #include "FolderScanner.h"
 #include "Targets.h"
 #include "Tracks.h"
@@ -37,9 +37,9 @@ Outcome Scan(const std::string& folder, unsigned readers, std::int32_t missing) 
     SilentMonitor monitor;
     Reports reports;
     FolderScanner scanner(outcome.totals, table, monitor, reports, {true}, readers);
-    Require(!scanner.ScanFolders(ScanMode::Count, folder, true), "nobody aborts");
-    outcome.totals.FoundCount -= missing; // files that came after the count
-    Require(!scanner.ScanFolders(ScanMode::Collect, folder, true), "nobody aborts");
+    Require(!scanner.ScanFolders(ScanMode::Count, folder, true), "no abort without a request");
+    outcome.totals.FoundCount -= missing; // simulates files that appear after the count
+    Require(!scanner.ScanFolders(ScanMode::Collect, folder, true), "no abort without a request");
     for (std::size_t position = 1; position <= table.Count(); ++position) {
         outcome.tracks.push_back(table.Copy(position));
     }
@@ -81,7 +81,8 @@ void RunParallelRead(Bytes bytes) {
     const Outcome one = Scan(folder, 1, missing);
     for (const unsigned readers : {2U, 5U}) {
         const Outcome many = Scan(folder, readers, missing);
-        Require(many.tracks.size() == one.tracks.size(), "as many records, however many read");
+        Require(many.tracks.size() == one.tracks.size(),
+                "the number of records does not depend on the number of readers");
         for (std::size_t i = 0; i < one.tracks.size(); ++i) {
             RequireEqualTracks(many.tracks[i], one.tracks[i], "the same record in the same place");
         }

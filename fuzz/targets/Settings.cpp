@@ -1,4 +1,4 @@
-// The bytes are a settings file.
+// Input: a settings file.
 #include "SettingsFuncs.h"
 #include "SettingsText.h"
 #include "Targets.h"
@@ -11,15 +11,15 @@ namespace tunedex::fuzz {
 
 void RunSettings(Bytes bytes) {
     const Settings read = ReadSettingsText(TextOf(bytes));
-    // What was read is written and read again as it is; only the table's spacing is never written.
+    // Round trip. TableSpacing is never written.
     const std::string& folder = EmptyFolder();
     SaveSettings(read, "", folder, {"1.0", "2026-11-21", "14:05"});
     Settings again;
     std::ostringstream faults;
-    Require(LoadSettings(again, "", folder, faults) == LoadOutcome::Loaded, "a saved file is there");
+    Require(LoadSettings(again, "", folder, faults) == LoadOutcome::Loaded, "a saved file is found");
     RequireEqual(faults.str(), "", "a saved file has no faulty line");
     again.TableSpacing = read.TableSpacing;
-    Require(again == read, "settings survive saving and loading");
+    Require(again == read, "settings are unchanged by a round trip");
 }
 
 } // namespace tunedex::fuzz

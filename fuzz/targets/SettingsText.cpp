@@ -14,9 +14,9 @@ namespace tunedex::fuzz {
 
 namespace {
 
-// A line taken apart as plainly as can be. Returns whether it could be applied.
+// A simple parser of one line. Returns whether the setting was applied.
 bool ApplyPlainly(Settings& settings, const std::string& line) {
-    const std::size_t e = line.find('=') + 1; // from 1, 0 when there is none
+    const std::size_t e = line.find('=') + 1; // 1-based; 0: none
     const std::size_t p = line.find('(') + 1;
     if (e == 0) {
         return false;
@@ -46,16 +46,16 @@ Settings ReadSettingsText(const std::string& bytes) {
     Settings expected;
     std::ptrdiff_t faulty = 0;
     for (const std::string& line : lines) {
-        Require(line.find_first_of("\r\n") == std::string::npos, "a line holds no line end");
+        Require(line.find_first_of("\r\n") == std::string::npos, "a line contains no line end");
         RequireEqual(DecodeFileLine(EncodeFileLine(line, StrayBytes::Escaped), StrayBytes::Escaped), line,
-                     "a line written and read again");
+                     "a line is unchanged by a round trip");
         if (!line.empty() && line.front() != '#' && !ApplyPlainly(expected, line)) {
             ++faulty;
         }
     }
-    Require(settings == expected, "lines are applied one after the other");
+    Require(settings == expected, "lines are applied in order");
     const std::string said = faults.str();
-    Require(std::count(said.begin(), said.end(), '\n') == faulty, "every faulty line is told, and no other");
+    Require(std::count(said.begin(), said.end(), '\n') == faulty, "exactly the faulty lines are reported");
     return settings;
 }
 

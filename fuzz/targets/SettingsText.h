@@ -1,4 +1,4 @@
-// Settings read from a text, in two ways that have to agree.
+// Parses settings from a text in two ways that must agree.
 #pragma once
 
 #include "Settings.h"
@@ -7,7 +7,7 @@
 
 namespace tunedex::fuzz {
 
-// Reads over a fresh record and checks what is said of faulty lines.
+// Applies the text to default-constructed settings and checks the reports of faulty lines.
 Settings ReadSettingsText(const std::string& bytes);
 
 } // namespace tunedex::fuzz

@@ -1,4 +1,4 @@
-// The bytes are the order, then records: artist, album and title, each up to a NUL or one byte of its own.
+// Input: one byte for the sort order, then records: artist, album and title, each terminated by a NUL.
 #include "Sorting.h"
 
 #include "PlainSort.h"
@@ -20,7 +20,7 @@ void RunSorting(Bytes bytes) {
         track.Artist = input.Until(0);
         track.Album = input.Until(0);
         track.Title = input.Until(0);
-        // What tells every record from every other, in fields that move and in fields that stay.
+        // Makes each record unique, in fields that move and in fields that stay.
         const std::string number = std::to_string(expected.size());
         track.FullPath = "/" + number + ".mp3";
         track.BaseFolder = "/" + number + "/";
@@ -29,7 +29,7 @@ void RunSorting(Bytes bytes) {
         track.Mode = track.MpegType = number;
         track.TagType = static_cast<std::int16_t>(expected.size() % 3);
         if (expected.size() % 7 == 3) {
-            track.Artist = track.FullPath; // as of a file without tags
+            track.Artist = track.FullPath; // as in a file without tags
         }
         expected.push_back(track);
     }
@@ -38,10 +38,10 @@ void RunSorting(Bytes bytes) {
         table.Append(track);
     }
     SilentMonitor monitor;
-    Require(!SortTracks(table, sortOrder, monitor), "nobody aborts");
+    Require(!SortTracks(table, sortOrder, monitor), "no abort without a request");
     plain::SortTracks(expected, sortOrder);
     for (std::size_t i = 0; i < expected.size(); ++i) {
-        RequireEqualTracks(table.Copy(i + 1), expected[i], "a record's place in the order");
+        RequireEqualTracks(table.Copy(i + 1), expected[i], "the sorted records");
     }
 }
 

@@ -1,4 +1,4 @@
-// The bytes are a statistics file.
+// Input: a statistics file.
 #include "Statistics.h"
 
 #include "RunTimeError.h"
@@ -15,10 +15,11 @@ void RunStatistics(Bytes bytes) {
     try {
         read = ParseStatistics(SplitTextLines(TextOf(bytes)));
     } catch (const RunTimeError& error) {
-        Require(std::set<int>{5, 6, 13, 62}.contains(error.Number()), "a malformed file has its own errors");
+        Require(std::set<int>{5, 6, 13, 62}.contains(error.Number()),
+                "a malformed file raises one of four errors");
         return;
     }
-    Require(IsValidUtf8(read.FirstStarted), "the date is a text");
+    Require(IsValidUtf8(read.FirstStarted), "the date is valid UTF-8");
     Require(StatisticsText(read).find(read.FirstStarted) != std::string::npos,
             "the about box shows the date");
     const std::string path = EmptyFolder() + "stats.lst";
@@ -26,7 +27,7 @@ void RunStatistics(Bytes bytes) {
     try {
         const Statistics again = LoadStatistics(path, "today");
         read.TimesStarted += 1;
-        Require(again == read, "statistics survive saving and loading, a start counted");
+        Require(again == read, "a round trip adds one start and changes nothing else");
     } catch (const RunTimeError& error) {
         Require(error.Number() == 6 && read.TimesStarted == 2147483647, "only a full counter overflows");
     }

@@ -1,4 +1,4 @@
-// The bytes are a theme file.
+// Input: a theme file.
 #include "Themes.h"
 
 #include "SettingsText.h"
@@ -21,7 +21,7 @@ void RunTheme(Bytes bytes) {
     content.tableBorder = std::to_string(read.TableBorder);
     const std::string path = EmptyFolder() + "theme.thm";
     WriteThemeFile(path, content, {"1.0", "2026-11-21", "14:05"});
-    // What a theme does not hold is not touched by it.
+    // Loading a theme leaves all other settings unchanged.
     Settings again = read;
     again.Font = {};
     again.Colour = {};
@@ -30,7 +30,7 @@ void RunTheme(Bytes bytes) {
     std::ostringstream faults;
     ApplySettings(again, ReadTextLines(path, StrayBytes::Escaped), path, faults);
     RequireEqual(faults.str(), "", "a saved theme has no faulty line");
-    Require(again == read, "a theme survives saving and loading");
+    Require(again == read, "a theme is unchanged by a round trip");
 }
 
 } // namespace tunedex::fuzz

@@ -1,4 +1,4 @@
-// The bytes are a file of lines, as the tips are.
+// Input: a file of tips, one per line.
 #include "Tips.h"
 
 #include "Targets.h"
@@ -14,40 +14,41 @@ namespace tunedex::fuzz {
 
 void RunTips(Bytes bytes) {
     const std::string file = TextOf(bytes);
-    // Line ends made all the same first, then split.
+    // Converts all line ends to LF, then splits.
     std::vector<std::string> expected = Split(ReplaceAll(ReplaceAll(file, "\r\n", "\n"), "\r", "\n"), "\n");
     if (file.ends_with('\n') || file.ends_with('\r')) {
         expected.pop_back();
     }
     const std::vector<std::string> lines = SplitTextLines(file);
-    Require(lines.size() == expected.size(), "a file has the lines it has");
+    Require(lines.size() == expected.size(), "the number of lines");
     for (std::size_t i = 0; i < lines.size(); ++i) {
         RequireEqual(lines[i], IsValidUtf8(expected[i]) ? expected[i] : DecodeWindows1252(expected[i]),
                      "a line");
-        RequireEqual(DecodeFileLine(EncodeFileLine(lines[i])), lines[i], "a line written and read again");
+        RequireEqual(DecodeFileLine(EncodeFileLine(lines[i])), lines[i],
+                     "a line is unchanged by a round trip");
     }
-    // The whole file written and read again.
+    // Round trip of the whole file.
     const std::string path = EmptyFolder() + "tips.lst";
     TextFile written(path, TextEncoding::FileLine);
     for (const std::string& line : lines) {
         written.WriteLine(line);
     }
     written.Close();
-    Require(ReadTextLines(path) == lines, "lines survive writing and reading");
+    Require(ReadTextLines(path) == lines, "a file is unchanged by a round trip");
 
     Tips tips;
     tips.Load(path);
-    RequireEqual(tips.Current(), "", "no tip is chosen at first");
+    RequireEqual(tips.Current(), "", "no tip is selected initially");
     for (std::size_t i = 0; i <= lines.size(); ++i) {
         tips.Next();
         RequireEqual(tips.Current(), lines.empty() ? "" : lines[i % lines.size()],
-                     "tips come in the file's order");
+                     "tips follow the order of the file");
     }
     for (const double random : {0.0, 0.5, 0.9999999999999999}) {
         tips.PickRandom(random);
         Require(lines.empty() ||
                     (tips.Number() >= 1 && static_cast<std::size_t>(tips.Number()) <= lines.size()),
-                "a tip by chance is one of the file's");
+                "a random tip is one of the file");
     }
 }
 

@@ -1,4 +1,4 @@
-// Records compared, and the made-up surroundings that a listing needs.
+// Comparison of records, and fakes of what a listing needs.
 #pragma once
 
 #include "Clock.h"
@@ -9,10 +9,10 @@
 
 namespace tunedex::fuzz {
 
-// Ends the program when the records differ in any field.
+// Aborts if the records differ in any field.
 void RequireEqualTracks(const TrackInfo& track, const TrackInfo& expected, const char* what);
 
-// A clock that stands still, and a monitor that nobody watches.
+// A fixed clock, and a monitor that ignores everything.
 class StoppedClock final : public Clock {
   public:
     std::tm LocalTime() const override;

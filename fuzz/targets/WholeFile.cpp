@@ -1,5 +1,4 @@
-// The bytes are two bytes of choices and a file. It is read as a file on disk is, and listed by all three
-// writers.
+// Input: one byte of options, then a file. The file is read and listed by all three writers.
 #include "MP3Info.h"
 #include "OutputList.h"
 #include "PlainReader.h"
@@ -35,7 +34,7 @@ std::size_t Occurrences(const std::string& text, const std::string& wanted) {
 }
 
 TrackInfo Read(const std::string& file, unsigned choices) {
-    // A name that wants escaping, and whose bytes are not all characters.
+    // A name with markup and a stray byte.
     const std::string path = "/music/<a href=\"x\"> & \xE9\xE3\x81\x82.mp3";
     MemoryByteSource source(BytesOf(file));
     const bool moveTheArtists = (choices & 1U) != 0;
@@ -46,7 +45,7 @@ TrackInfo Read(const std::string& file, unsigned choices) {
     RequireEqualTracks(reading.track, expected.track, "the record of a file");
     Require(reading.seconds == expected.seconds, "the playing time of a file");
     Require((reading.decodeError ? reading.decodeError->Number() : 0) == expected.error,
-            "why the audio header gave nothing");
+            "the decode error of a file");
     TrackInfo track = reading.track;
     track.BaseFolder = "/music/";
     return track;
@@ -57,11 +56,11 @@ void CheckPage(const std::string& page) {
     const std::size_t rows = page.find("<tr bgcolor", page.find("</tr>", page.find("<table width=\"100%\"")));
     Require(body == std::string::npos || rows != std::string::npos, "the page has its row");
     const std::string row = page.substr(rows, page.find("</tr>\r\n", rows) - rows);
-    // Fifteen cells: whatever the tags hold, nothing in the row opens or closes one more.
+    // Fifteen cells: no tag text may open or close another.
     Require(Occurrences(row, "<td") == 15 && Occurrences(row, "</td>") == 15,
-            "a row has one cell for each column");
-    Require(Occurrences(row, "<") == 31, "nothing but the cells is markup in a row");
-    Require(page.ends_with("</html>\r\n"), "the page is whole");
+            "a row has one cell per column");
+    Require(Occurrences(row, "<") == 31, "a row contains no markup but its cells");
+    Require(page.ends_with("</html>\r\n"), "the page is complete");
 }
 
 void CheckListings(const TrackInfo& track, unsigned choices) {
@@ -74,7 +73,7 @@ void CheckListings(const TrackInfo& track, unsigned choices) {
                              "File Size|Filename|Folder Path|Full Path";
     TrackTable table(1);
     table.Append(track);
-    RequireEqualTracks(table.Copy(1), track, "a record that went through the table");
+    RequireEqualTracks(table.Copy(1), track, "a record stored in the table");
     RunTotals totals;
     EntityTable entities;
     std::ostringstream faults;
@@ -91,11 +90,11 @@ void CheckListings(const TrackInfo& track, unsigned choices) {
                                                 : "m3u");
         Listing listing{run, table, totals, entities, locale, clock, monitor};
         try {
-            Require(!WriteListing(type, listing), "nobody aborts");
+            Require(!WriteListing(type, listing), "no abort without a request");
         } catch (const RunTimeError& error) {
             Require(type == kPlaylistOutput && track.Duration.empty() && error.Number() == 5,
-                    "only a track without a duration has no place, and only in a playlist");
-            Require(!std::filesystem::exists(run.OutputFile), "a listing that failed is not there");
+                    "only a playlist fails, and only for a track without a duration");
+            Require(!std::filesystem::exists(run.OutputFile), "a failed listing leaves no file");
             continue;
         }
         const std::string written = ReadAll(run.OutputFile);
@@ -103,10 +102,10 @@ void CheckListings(const TrackInfo& track, unsigned choices) {
             CheckPage(written);
         } else if (type == kPlaylistOutput) {
             Require(written.find("\r\n" + track.FullPath + "\r\n") != std::string::npos,
-                    "a playlist holds the path byte for byte");
+                    "a playlist contains the path byte for byte");
         } else {
             Require(std::count(written.begin(), written.end(), '\t') >= 28,
-                    "a text listing holds every field");
+                    "a text listing contains every field");
         }
     }
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
