@@ -1,4 +1,4 @@
-// The platform's dialogs in which the layout editor's user chooses something; tests answer in their place.
+// The text, colour and font dialogs of the layout editor, replaceable in tests.
 #pragma once
 
 #include <QColor>
@@ -12,14 +12,14 @@ class QWidget;
 
 namespace tunedex {
 
-// Each returns nothing when the user cancels. The first argument is the window that asks.
+// Each returns no value when the user cancels. The first argument is the parent window.
 struct Choosers {
     std::function<std::optional<QString>(QWidget*, const QString& title, const QString& prompt)> text;
     std::function<std::optional<QColor>(QWidget*, const QColor& initial)> colour;
     std::function<std::optional<QFont>(QWidget*, const QFont& initial)> font;
 };
 
-// Qt's own dialogs.
+// The dialogs of Qt.
 Choosers QtChoosers();
 
 } // namespace tunedex

@@ -1,4 +1,4 @@
-// A button that shows a colour and lets the user choose another.
+// A button that displays a colour.
 #pragma once
 
 #include <QColor>
@@ -14,7 +14,7 @@ class ColourButton : public QPushButton {
   public:
     explicit ColourButton(QWidget* parent = nullptr);
 
-    // Without a colour the button shows a crossed-out field.
+    // No value: a crossed-out field.
     void ShowColour(std::optional<QColor> colour);
     const std::optional<QColor>& Shown() const { return colour_; }
 

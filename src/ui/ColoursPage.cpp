@@ -32,13 +32,12 @@ const ColourTexts& TextsOf(std::size_t index) {
         {u"Alternate cell text"_s, u"The colour of the alternate table cells"_s},
         {u"Alternate cell background"_s, u"The background colour of the alternate cells"_s},
         {u"Links"_s, u"The colour of generated links"_s},
-        {u"Table border"_s, u"The colour the main table's border"_s},
+        {u"Table border"_s, u"The colour the main table's border"_s}, // Required wording. Do not "fix".
     }};
     return texts.at(index);
 }
 
-// Hexadecimal digits are kept in upper case, as settings hold them; what stood in the settings already is
-// left alone.
+// Only for typed text: a lower-case colour loaded from the settings is stored again as it was.
 void UpperCaseTyping(QLineEdit& box) {
     const QString text = box.text();
     if (ColourFromText(text) && text != text.toUpper()) {

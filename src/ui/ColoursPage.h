@@ -1,4 +1,4 @@
-// The layout editor's page of colours.
+// The Colours page of the layout editor.
 #pragma once
 
 #include "Choosers.h"
@@ -20,11 +20,11 @@ class ColoursPage : public QFrame {
     Q_OBJECT
 
   public:
-    // `choosers` must live as long as the page.
+    // `choosers` must outlive the page.
     explicit ColoursPage(const Choosers& choosers, QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);
-    // Colour, AltRows, ColourCSS and ColourHTML.
+    // Stores Colour, AltRows, ColourCSS and ColourHTML.
     void StoreControls(Settings& settings) const;
 
   signals:
@@ -37,7 +37,7 @@ class ColoursPage : public QFrame {
     };
 
     void BuildField(std::size_t index);
-    // One row of the grid: a label and the text colour, and the background where there is one.
+    // Adds a grid row: label, colour `text` and, if `background`, the colour after it.
     void AddRow(QGridLayout& grid, int row, const QString& label, std::size_t text, bool background);
     void SelectColour(std::size_t index);
 

@@ -12,8 +12,7 @@ namespace {
 
 constexpr std::string_view kColumnSeparator = "|";
 
-// What a drag carries. Only this process can make one, so a column of another program's window is never
-// taken.
+// A drag from another process arrives as a plain QMimeData, so the cast in DraggedColumn() rejects it.
 class ColumnMimeData : public QMimeData {
     Q_OBJECT
 
@@ -93,7 +92,7 @@ void ColumnList::startDrag(Qt::DropActions) {
 
 std::unique_ptr<QMimeData> ColumnList::DragData(int row) {
     auto data = std::make_unique<ColumnMimeData>(this, row);
-    // The model's own format makes the view draw where the column would be dropped.
+    // The view draws its drop indicator only for the model's own format.
     const std::unique_ptr<QMimeData> items(model()->mimeData({model()->index(row, 0)}));
     for (const QString& format : items->formats()) {
         data->setData(format, items->data(format));

@@ -1,4 +1,4 @@
-// A list of column names in display order, from which columns can be dragged to a place in a list of the same
+// A list of column names in display order. Columns can be dragged within the list and between lists of one
 // window.
 #pragma once
 
@@ -16,23 +16,23 @@ class ColumnList : public QListWidget {
   public:
     explicit ColumnList(QWidget* parent = nullptr);
 
-    // The column names joined by "|". The empty text stands for the empty list.
+    // The column names, separated by "|". An empty text is an empty list.
     void SetColumns(std::string_view joined);
     std::string Columns() const;
 
     bool HoldsColumn(std::string_view name) const;
 
-    // -1 when no column is selected. (A list that got the focus has a current row, but that row need not be
-    // selected.)
+    // -1 when no column is selected. Differs from currentRow(), which is set as soon as the list gets the
+    // focus.
     int SelectedRow() const;
     void SelectRow(int row);
 
-    // What a drag of that row carries; other windows and programs take nothing of it.
+    // The MIME data of a drag of that row. Only lists in the same window accept it.
     std::unique_ptr<QMimeData> DragData(int row);
 
   signals:
-    // A column of `source` was dropped here, in front of the item that is at `row` now; the end is `row` =
-    // count(). Nothing has moved yet.
+    // A column of `source` was dropped before the item at `row`, or at the end if `row` is count(). The
+    // receiver moves the item; the list has not.
     void ColumnDropped(tunedex::ColumnList* source, int sourceRow, int row);
 
   protected:
@@ -45,8 +45,8 @@ class ColumnList : public QListWidget {
     int DropRow(const QDropEvent& event) const;
 };
 
-// Moves one column within a list or from one list to another and selects it there. `targetRow` is counted
-// before the move, as ColumnDropped counts it.
+// Moves a column within a list or between lists and selects it. `targetRow` is the row before the move, as in
+// ColumnDropped.
 void MoveColumn(ColumnList& source, int sourceRow, ColumnList& target, int targetRow);
 
 } // namespace tunedex

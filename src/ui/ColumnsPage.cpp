@@ -195,7 +195,7 @@ void ColumnsPage::Reorder(int row) {
         return;
     }
     {
-        // The commands are enabled by where the column arrives, not by what is selected on the way.
+        // Otherwise EnableCommands() would run while the list lacks the column.
         const QSignalBlocker quiet(list);
         MoveColumn(list, selected, list, row > selected ? row + 1 : row);
     }

@@ -1,5 +1,5 @@
-// The layout editor's page of columns: which are shown, in which order, and how artist, album and title are
-// merged.
+// The Columns page of the layout editor: visible columns, their order, and merging of artist, album and
+// title.
 #pragma once
 
 #include "Settings.h"
@@ -21,7 +21,7 @@ class ColumnsPage : public QFrame {
     explicit ColumnsPage(QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);
-    // ActiveColumns, InactiveColumns, Merge and MoveTheArtists.
+    // Stores ActiveColumns, InactiveColumns, Merge and MoveTheArtists.
     void StoreControls(Settings& settings) const;
     bool MovesTheArtists() const;
 
@@ -34,7 +34,7 @@ class ColumnsPage : public QFrame {
     QLayout* BuildMerges();
     void SetTabOrder();
 
-    // Moves the selected column to the end of the other list and selects its neighbour.
+    // Moves the selected column to the end of `target` and selects its neighbour in `source`.
     void MoveSelected(ColumnList& source, ColumnList& target);
     static void MoveAll(ColumnList& source, ColumnList& target);
     void Reorder(int row);

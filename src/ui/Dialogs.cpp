@@ -78,10 +78,10 @@ void OfferFilters(QFileDialog& dialog, const QList<FileFilter>& filters, const Q
     dialog.setDefaultSuffix(ExtensionOf(filters[chosen]));
 }
 
-// What the user picks from the list of kinds is what he gets: the name's extension goes along with it.
+// Changes the file name's extension when the user selects another filter.
 void FollowFilter(QFileDialog& dialog, const QList<FileFilter>& filters) {
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, filters](const QString& name) {
-        // Qt's own dialog tells the description that it shows, a desktop's the whole filter.
+        // Qt's dialog emits the description only, a native dialog the whole filter.
         const auto index = std::distance(
             filters.begin(), std::find_if(filters.begin(), filters.end(), [&](const FileFilter& filter) {
                 return name == filter.description || name == QtNameFilter(filter);
@@ -132,7 +132,7 @@ std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& 
     auto* label = new QLabel(prompt);
     label->setWordWrap(true);
 
-    // Qt's own dialog and not the desktop's: only this one can stand below a prompt.
+    // Not the native dialog: only a widget can be laid out below the prompt.
     auto* chooser = new QFileDialog(&window);
     chooser->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
     chooser->setFileMode(QFileDialog::Directory);
@@ -160,7 +160,7 @@ std::optional<std::string> Dialogs::ChooseFile(QWidget* owner, const FileQuestio
 
     dialog.setAcceptMode(question.forSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.forSaving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails); // the descriptions name the patterns already
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the descriptions contain the patterns
     OfferFilters(dialog, filters, start.fileName());
     const bool startIsFolder = question.start.empty() || start.isDir();
     dialog.setDirectory(ExistingStart(startIsFolder ? question.start : FromQt(start.path())));

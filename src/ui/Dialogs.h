@@ -1,5 +1,4 @@
-// The boxes that ask the user something and wait: messages, folders, files. Behind one class, so that tests
-// can answer.
+// The modal dialogs: message box, folder chooser, file chooser. Virtual, so that tests can answer them.
 #pragma once
 
 #include <QString>
@@ -13,8 +12,8 @@ namespace tunedex {
 
 struct FileQuestion {
     QString title;
-    QString filters;   // a filter list: "Text File (*.txt)|*.txt|All Files (*.*)|*.*"
-    std::string start; // the file or folder to begin with; may be empty
+    QString filters;   // see FileFilters.h: "Text File (*.txt)|*.txt|All Files (*.*)|*.*"
+    std::string start; // initial file or folder; may be empty
     bool forSaving = false;
 };
 
@@ -27,14 +26,14 @@ class Dialogs {
 
     // `buttons` is one of MessageButtons, the result one of MessageAnswer.
     virtual int ShowMessage(QWidget* owner, const QString& text, int buttons, const QString& title);
-    // No value when the user cancels. Paths are native, as bytes.
+    // Return no value when the user cancels. Paths are native bytes, not necessarily UTF-8.
     virtual std::optional<std::string> ChooseFolder(QWidget* owner, const QString& title,
                                                     const QString& prompt, const std::string& start);
     virtual std::optional<std::string> ChooseFile(QWidget* owner, const FileQuestion& question);
 };
 
-// The text with places at which a very long word (a path) may be broken, so that a message box stays on the
-// screen.
+// Inserts zero-width spaces into words of more than 60 characters (paths), so that a message box can wrap
+// them and stays narrower than the screen.
 QString WithBreaksInLongWords(const QString& text);
 
 } // namespace tunedex

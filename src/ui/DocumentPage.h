@@ -1,4 +1,4 @@
-// The layout editor's page of the document type and the themes.
+// The Document and themes page of the layout editor.
 #pragma once
 
 #include "Settings.h"
@@ -17,7 +17,7 @@ class DocumentPage : public QFrame {
     Q_OBJECT
 
   public:
-    // Owns the panel.
+    // Takes ownership of `themes`.
     explicit DocumentPage(ThemePanel* themes, QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);

@@ -23,7 +23,7 @@ QList<FileFilter> ParseFilterList(const QString& list) {
 }
 
 QString QtNameFilter(const FileFilter& filter) {
-    // "*" also finds the names without a full stop, which "*.*" is meant to include.
+    // For Qt "*.*" requires a full stop in the name; it is meant as "any file".
     const QString patterns = filter.patterns.join(u' ').replace(u"*.*"_s, u"*"_s);
     return filter.description + u" ("_s + patterns + u')';
 }

@@ -1,4 +1,4 @@
-// Filter lists of file dialogs: pairs of description and patterns, all separated by "|"; a bar at the end is
+// Filter lists of file dialogs: pairs of description and patterns, separated by "|". A trailing "|" is
 // allowed.
 #pragma once
 
@@ -15,18 +15,17 @@ struct FileFilter {
     bool operator==(const FileFilter&) const = default;
 };
 
-// A description without patterns at the end of the list is dropped.
+// A last description that has no patterns is dropped.
 QList<FileFilter> ParseFilterList(const QString& list);
 
-// The form that Qt's file dialog takes: the description, then the patterns in brackets of their own.
+// The filter in QFileDialog's form: description (pattern pattern ...).
 QString QtNameFilter(const FileFilter& filter);
 
-// The extension that a file of this filter gets, without its full stop: "htm"; empty for "*.*".
+// The extension of the first pattern without its full stop ("htm"); empty for "*.*".
 QString ExtensionOf(const FileFilter& filter);
 
-// The file name after the user has gone over to another filter: an extension that belongs to one of the
-// filters is replaced by the first of the chosen one; a name with a foreign extension, or with none, stays as
-// it is.
+// The file name after a change of filter: an extension that belongs to any filter in `all` is replaced by the
+// first one of `chosen`. A name with another extension, or none, is returned unchanged.
 QString NameForFilter(const QString& name, const FileFilter& chosen, const QList<FileFilter>& all);
 
 } // namespace tunedex

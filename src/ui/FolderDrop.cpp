@@ -18,11 +18,11 @@ bool IsFolder(const std::string& path) {
     try {
         return !path.empty() && FolderExists(path);
     } catch (const RunTimeError&) {
-        return false; // what cannot be examined is no folder to drop
+        return false; // cannot be examined
     }
 }
 
-// From the address's bytes: a QString would have lost those that are no UTF-8.
+// Decodes the URL's bytes directly: QUrl::toLocalFile() loses bytes that are not UTF-8.
 std::string NativePath(const QUrl& url) {
     return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
@@ -62,7 +62,7 @@ bool FolderDrop::eventFilter(QObject* watched, QEvent* event) {
     const std::vector<std::string> folders = FoldersIn(*drag->mimeData());
     drag->setAccepted(!folders.empty());
     if (!folders.empty()) {
-        drag->setDropAction(Qt::CopyAction); // the folder itself must stay where it is
+        drag->setDropAction(Qt::CopyAction); // a move would let the file manager delete the folder
         if (event->type() == QEvent::Drop) {
             receiver_(folders);
         }

@@ -1,4 +1,4 @@
-// Takes folders that are dropped onto a widget from a file manager.
+// Accepts folders dropped onto a widget from a file manager.
 #pragma once
 
 #include <QObject>
@@ -12,7 +12,8 @@ class QWidget;
 
 namespace tunedex {
 
-// The existing folders among what is dragged, in its order; native paths. Names that are no UTF-8 are kept.
+// The existing folders among the dragged URLs, in order, as native paths. Names that are not UTF-8 keep their
+// bytes.
 std::vector<std::string> FoldersIn(const QMimeData& data);
 
 class FolderDrop final : public QObject {
@@ -21,7 +22,7 @@ class FolderDrop final : public QObject {
   public:
     using Receiver = std::function<void(const std::vector<std::string>& folders)>;
 
-    // Lives as long as the target; the receiver is called with at least one folder.
+    // Owned by `target`. `receiver` is called with at least one folder.
     FolderDrop(QWidget& target, Receiver receiver);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

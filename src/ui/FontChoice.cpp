@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-// The sizes that browsers give to the HTML font sizes 1 to 7, in points.
+// Points that browsers use for the HTML font sizes 1 to 7.
 constexpr std::array<double, 7> kPoints = {7.5, 10, 12, 13.5, 18, 24, 36};
 constexpr double kUsualPoints = kPoints[2];
 
@@ -30,8 +30,8 @@ QString WithoutQuotes(QString face) {
     return face.remove(u'"').remove(u'\'');
 }
 
-// A family's name needs quotes in CSS unless it is words. Single ones, as the list stands inside an attribute
-// as well.
+// CSS requires quotes unless the family name consists of identifiers. Single quotes, since the list is also
+// written into a double-quoted attribute.
 QString FaceOf(const QString& family) {
     static const QRegularExpression words(u"^[A-Za-z_][A-Za-z0-9_-]*( [A-Za-z_][A-Za-z0-9_-]*)*$"_s);
     return words.match(family).hasMatch() ? family : u'\'' + WithoutQuotes(family) + u'\'';
@@ -73,8 +73,7 @@ ListingFont WithChosenFont(const ListingFont& font, const QFont& chosen) {
     const QString family = chosen.family();
     QStringList faces{FaceOf(family)};
     QStringList others = Faces(font.faces);
-    // The face that was first was the choice before this one; generic families and the rest are its
-    // stand-ins.
+    // The first face is the previous choice; the others are its fallbacks and stay.
     if (others.size() > 1) {
         others.removeFirst();
     }

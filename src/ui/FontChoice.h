@@ -1,5 +1,4 @@
-// Between a font of the listing, a list of faces and a size from 1 to 7, and a font as the font chooser knows
-// it.
+// Converts between a font of the listing (a list of faces and a size from 1 to 7) and a QFont.
 #pragma once
 
 #include <QFont>
@@ -8,17 +7,16 @@
 namespace tunedex {
 
 struct ListingFont {
-    QString faces; // as CSS writes them: "Tahoma, Arial, sans-serif"
+    QString faces; // a CSS font-family value: "Tahoma, Arial, sans-serif"
     QString size;  // "1" to "7"
     bool bold = false;
     bool italic = false;
 };
 
-// What the chooser shows first.
+// The font that the chooser starts with.
 QFont FontOf(const ListingFont& font);
 
-// The listing's font after the user chose `chosen` in place of `font`: the family leads the list, the other
-// faces stay behind it for readers who lack it, and the size is the nearest of the seven.
+// `font` with the chosen family first, the other faces as fallbacks, and the nearest of the seven sizes.
 ListingFont WithChosenFont(const ListingFont& font, const QFont& chosen);
 
 } // namespace tunedex

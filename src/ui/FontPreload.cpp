@@ -6,7 +6,7 @@
 namespace tunedex {
 namespace {
 
-// The library that Qt is going to load anyway. It keeps what it has read for everybody in the process.
+// Qt loads the same library later; its font configuration is shared within the process.
 void ReadFontList() {
     if (void* const library = dlopen("libfontconfig.so.1", RTLD_LAZY | RTLD_LOCAL); library != nullptr) {
         if (void* const function = dlsym(library, "FcInit"); function != nullptr) {
@@ -21,7 +21,7 @@ FontPreload::FontPreload() {
     try {
         reader_ = std::thread(ReadFontList);
     } catch (const std::system_error&) {
-        // No thread to be had: Qt reads the list when it needs it.
+        // No thread available: Qt loads the list when it needs it.
     }
 }
 

@@ -1,5 +1,5 @@
-// Reads the system's list of fonts on a thread of its own while the program reaches for the screen. The first
-// text in a window waits for that list, and it takes half as long as all of the rest of opening the window.
+// Loads the system's font list on a worker thread while Qt connects to the display. The first text of a
+// window needs that list; loading it takes about half as long as everything else in opening the window.
 #pragma once
 
 #include <thread>
@@ -8,11 +8,11 @@ namespace tunedex {
 
 class FontPreload {
   public:
-    // Begins, where fonts come from fontconfig; elsewhere does nothing.
+    // Starts loading. Does nothing where fontconfig is missing.
     FontPreload();
     FontPreload(const FontPreload&) = delete;
     FontPreload& operator=(const FontPreload&) = delete;
-    // Waits for the end.
+    // Waits until the list is loaded.
     ~FontPreload();
 
   private:

@@ -26,8 +26,8 @@ QString FontTitle(std::size_t index) {
     return titles.at(index);
 }
 
-// Any size a settings file may hold can be shown and stored again; those beyond 1 to 7 are listed while they
-// are in use.
+// A settings file may hold a size other than 1 to 7; it is added to the list while it is in use, so that it
+// is stored unchanged.
 void ShowSize(QComboBox& sizes, const QString& size) {
     while (sizes.count() > kSizes) {
         sizes.removeItem(kSizes);

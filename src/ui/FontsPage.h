@@ -1,4 +1,4 @@
-// The layout editor's page of fonts: page, table headers and table cells.
+// The Fonts page of the layout editor: fonts of the page, the table headers and the table cells.
 #pragma once
 
 #include "Choosers.h"
@@ -20,11 +20,11 @@ class FontsPage : public QFrame {
     Q_OBJECT
 
   public:
-    // `choosers` must live as long as the page.
+    // `choosers` must outlive the page.
     explicit FontsPage(const Choosers& choosers, QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);
-    // Font, FontCSS and FontHTML.
+    // Stores Font, FontCSS and FontHTML.
     void StoreControls(Settings& settings) const;
 
   signals:

@@ -1,4 +1,4 @@
-// Colours as settings hold them: six hexadecimal digits, red first, without "#".
+// Colours in the settings' form: six hexadecimal digits, RRGGBB, without "#".
 #pragma once
 
 #include <QColor>
@@ -8,8 +8,8 @@
 
 namespace tunedex {
 
-// The text read as a hexadecimal number ("FF" is blue); nothing for any other text and for numbers beyond
-// FFFFFF.
+// Parses a hexadecimal number of any length: "FF" is 0000FF, blue. No value for any other text and for
+// numbers above FFFFFF.
 std::optional<QColor> ColourFromText(const QString& text);
 
 // Six upper-case digits.

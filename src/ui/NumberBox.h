@@ -1,4 +1,4 @@
-// A text box for a whole number of the settings.
+// A text box for a 16-bit number setting.
 #pragma once
 
 #include <QLineEdit>
@@ -7,8 +7,7 @@
 
 namespace tunedex {
 
-// Takes any text: what is no number is selected as a whole as soon as it is typed, so that the next key
-// replaces it.
+// Accepts any text, but selects all of it as soon as it is not numeric, so that the next key replaces it.
 class NumberBox : public QLineEdit {
     Q_OBJECT
 
@@ -17,12 +16,11 @@ class NumberBox : public QLineEdit {
 
     void SetNumber(std::int16_t number);
 
-    // Whether the text is numeric, blanks around it aside; it may still be too large for a setting.
+    // Whether the text is a number, ignoring blanks around it. It may still be out of the 16-bit range.
     bool IsNumeric() const;
-    // Whether it is numeric and fits a setting.
+    // Whether the text is a number within the 16-bit range.
     bool HoldsSetting() const;
-    // The number, rounded half to even. Raises error 13 for a text that is not numeric, 6 for one that does
-    // not fit.
+    // The number, rounded half to even. Raises error 13 if the text is not numeric, 6 if it is out of range.
     std::int16_t Number() const;
 };
 

@@ -7,7 +7,7 @@ namespace tunedex {
 OptionGroup::OptionGroup(QObject* parent) : QButtonGroup(parent) {}
 
 void OptionGroup::Select(std::int16_t number) {
-    // An exclusive group would not let go of its last selected button.
+    // Qt does not uncheck the selected button of an exclusive group.
     setExclusive(false);
     for (QAbstractButton* option : buttons()) {
         option->setChecked(id(option) == number);
@@ -16,7 +16,7 @@ void OptionGroup::Select(std::int16_t number) {
     LetTabStopAt(checkedButton() != nullptr ? checkedButton() : buttons().value(0));
 }
 
-// Qt does the same, but not before one of the buttons has had the focus.
+// Qt does the same, but only once a button has had the focus.
 void OptionGroup::LetTabStopAt(const QAbstractButton* stop) {
     for (QAbstractButton* option : buttons()) {
         option->setFocusPolicy(option == stop ? Qt::StrongFocus : Qt::ClickFocus);

@@ -1,4 +1,4 @@
-// A set of option buttons of which at most one is selected; a setting holds its number.
+// A group of option buttons for a setting that holds the number of the selected one.
 #pragma once
 
 #include <QButtonGroup>
@@ -13,9 +13,9 @@ class OptionGroup : public QButtonGroup {
   public:
     explicit OptionGroup(QObject* parent);
 
-    // Selects the button of that number, or none when there is no such button.
+    // Selects the button with that number; no button if there is none.
     void Select(std::int16_t number);
-    // Stores the selected button's number. Without a selected button the setting stays as it is.
+    // Stores the selected button's number. Leaves the setting unchanged if no button is selected.
     void Store(std::int16_t& setting) const;
 
   private:

@@ -1,5 +1,5 @@
-// The controls that the options dialog and the layout editor's pages are made of, named for code and for
-// assistive technology.
+// Factories for the controls of the options dialog and the layout editor, with object names and accessible
+// names.
 #pragma once
 
 #include <QString>
@@ -10,19 +10,19 @@ class QRadioButton;
 
 namespace tunedex {
 
-// A text with a mnemonic ("&Size...") as it is spoken.
+// A caption ("&Size...") without mnemonic and ellipsis, as a screen reader speaks it.
 QString SpokenText(const QString& textWithMnemonic);
 
-// The control's text is its accessible name.
+// The accessible name is the spoken form of the caption.
 QCheckBox* MakeCheckBox(const QString& objectName, const QString& textWithMnemonic,
                         const QString& description);
 QRadioButton* MakeOption(const QString& objectName, const QString& textWithMnemonic,
                          const QString& description);
-// A button that Enter presses only when it is the window's default.
+// Not an auto-default button: Enter presses it only if it is the window's default.
 QPushButton* MakeButton(const QString& objectName, const QString& textWithMnemonic,
                         const QString& description);
 
-// The name of one control of an array: "txtColour(3)".
+// The object name of an element of a control array: "txtColour(3)".
 QString ArrayName(const QString& objectName, int index);
 
 } // namespace tunedex

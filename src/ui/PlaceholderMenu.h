@@ -1,4 +1,4 @@
-// What the Placeholders menu says of each placeholder.
+// The descriptions in the Placeholders menu.
 #pragma once
 
 #include "Placeholders.h"

@@ -39,13 +39,13 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     setObjectName(u"PreviewPane"_s);
     NameControl(*browser_, u"txtPreview"_s, u"Preview of the listing"_s,
                 u"A few made-up tracks as they would be listed with what the editor shows now"_s);
-    // Nothing to follow, so Tab goes past the links in it.
+    // Without keyboard access to links, Tab skips them.
     browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     browser_->setTabChangesFocus(true);
     browser_->setOpenLinks(false);
     browser_->setToolTip({});
     browser_->setMinimumSize(180, 120);
-    // As browsers do: a column is never narrower than its longest word.
+    // As in browsers, a column is at least as wide as its longest word.
     browser_->setWordWrapMode(QTextOption::WordWrap);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -57,7 +57,7 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     delay_.setSingleShot(true);
     connect(&delay_, &QTimer::timeout, this, &PreviewPane::ShowNow);
     try {
-        std::ostringstream faults; // the run itself reports them
+        std::ostringstream faults; // dropped; the run reports them
         entities_.Load(application_.programFolder + std::string(kEntityFileName), faults);
     } catch (const RunTimeError&) {
         entities_ = EntityTable();
@@ -105,7 +105,7 @@ void PreviewPane::ShowPage(const QString& page) {
     browser_->setPalette(colours);
     const int across = browser_->horizontalScrollBar()->value();
     const int down = browser_->verticalScrollBar()->value();
-    // Rich text knows no link colour in the body tag.
+    // Qt's rich text ignores the link colour of the body tag.
     const QString links = richText.link ? u"a {color: %1;}"_s.arg(richText.link->name()) : QString();
     browser_->document()->setDefaultStyleSheet(richText.styleSheet + links);
     browser_->setHtml(richText.html);

@@ -1,4 +1,4 @@
-// Shows what a listing would look like now.
+// The layout editor's preview: a sample listing written with the current settings.
 #pragma once
 
 #include "Application.h"
@@ -19,11 +19,11 @@ class PreviewPane : public QWidget {
     Q_OBJECT
 
   public:
-    // `settings` tells what the page is written with; it is asked each time the page is made.
+    // Calls `settings` for every update of the page.
     PreviewPane(const Application& application, std::function<Settings()> settings,
                 QWidget* parent = nullptr);
 
-    // The page is made anew as soon as no more changes come, and only while it can be seen.
+    // Updates the page 120 ms after the last call. Does nothing while the pane is hidden.
     void ShowSoon();
     void ShowNow();
 

@@ -12,9 +12,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// About 30 times a second: smooth to the eye, and half the cost of the screen's own pace. Where a turn is
-// slow (a display across a network) the pause grows with it, so that the window costs a run at most a
-// twentieth of its time, but Abort is answered in good time.
+// Paint and process events about 30 times a second, half the cost of a screen's 60. If that is slow (a remote
+// display) the pause grows to 19 times its duration, which limits the window to 5 % of the run's time, but to
+// at most 100 ms, the limit for reacting to Abort.
 constexpr auto kPause = 33ms;
 constexpr auto kLongestPause = 100ms;
 constexpr int kShare = 19;

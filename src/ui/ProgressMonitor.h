@@ -1,4 +1,4 @@
-// What a run reports, on its way to the progress window: stored at once, painted now and then.
+// Passes a run's progress to the progress window: stores every report, paints at most 30 times a second.
 #pragma once
 
 #include "Application.h"
@@ -16,7 +16,7 @@ class ProgressMonitor final : public RunMonitor {
   public:
     explicit ProgressMonitor(Application& application) : application_(application) {}
 
-    // From here on texts and numbers are shown in that window, beginning with empty ones; null for none.
+    // Resets all values and shows later ones in `window`; null for no window.
     void SetWindow(frmProgress* window);
 
     void SetStatus(std::string_view text) override;
@@ -26,7 +26,7 @@ class ProgressMonitor final : public RunMonitor {
     void SetPosition(std::int32_t position) override;
     bool AbortRequested() override;
 
-    // The text that is shown, or would be.
+    // The current status text, painted or not.
     std::string StatusText() const;
 
   private:

@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-// The size names of a browser's style sheets in its usual pixels. Qt's rich text knows not all of the names.
+// The CSS size keywords in a browser's default pixels. Qt's rich text does not support all of them.
 struct NamedSize {
     QString name;
     QString pixels;
 };
 
-// Takes the style element out of the page and returns what is in it.
+// Removes the style element from the page and returns its content.
 QString TakeStyleElement(QString& page) {
     static const QRegularExpression element(u"<style[^>]*>(.*?)</style>"_s,
                                             QRegularExpression::DotMatchesEverythingOption);
@@ -29,9 +29,8 @@ QString TakeStyleElement(QString& page) {
     return match.captured(1);
 }
 
-// The rules that a browser takes from a style element. One without properties is written as "tr }", which
-// makes the selector of the next rule unreadable, so that browsers skip that one, too; Qt's reader would skip
-// all that follow.
+// The rules that browsers apply. The writer writes a rule without properties as "tr }", without its "{". That
+// spoils the selector of the next rule, which browsers skip; Qt's parser would skip all later rules.
 QString ReadableRules(QString text) {
     if (text.contains(u"<![CDATA["_s)) {
         return {};
@@ -62,7 +61,7 @@ QString WithSizesInPixels(QString rules) {
     return rules;
 }
 
-// Half-typed colours: Qt would complain of each on standard error.
+// Qt prints a warning on standard error for each invalid colour, such as one that is being typed.
 void RemoveUnreadableColours(QString& page) {
     static const QRegularExpression colour(u" (?:bgcolor|color)=\"#(?![0-9A-Fa-f]{6}\")[^\"]*\""_s);
     page.remove(colour);
@@ -73,7 +72,7 @@ std::optional<QColor> FirstColour(const QString& text, const QRegularExpression&
     return match.hasMatch() ? ColourFromText(match.captured(1)) : std::nullopt;
 }
 
-// The colour of the rule where there is one, else of the tag.
+// The colour set by the rule, else by the body tag.
 std::optional<QColor> PageColour(const QString& rules, const QString& rule, const QString& page,
                                  const QString& attribute) {
     const QRegularExpression inRule(u"(?:^|\\s)"_s + rule + u": #([0-9A-Fa-f]{6});"_s);

@@ -1,4 +1,4 @@
-// A listing's page, prepared for Qt's rich text, which knows HTML but not all that a browser does with it.
+// Converts a page of a listing to Qt's rich text, which supports a subset of HTML and CSS.
 #pragma once
 
 #include <QColor>
@@ -9,12 +9,12 @@
 namespace tunedex {
 
 struct RichTextPage {
-    QString styleSheet; // the page's own rules as far as browsers read them, sizes in pixels
-    QString html;       // the page without them
-    // Whether the page has a style sheet of which browsers read nothing: they take a page in a ".htm" file
-    // for HTML, where an XML section swallows the rules in it.
+    QString styleSheet; // the rules that browsers apply, with font sizes in pixels
+    QString html;       // the page without its style element
+    // Whether browsers ignore the page's style sheet: they parse a ".htm" file as HTML, where a CDATA section
+    // in the style element makes its rules unreadable.
     bool styleSheetIgnored = false;
-    // What the body tag and the rules for body and links say of the whole page; rules outdo the tag.
+    // Colours of the page: from the rules for body and links, else from the body tag.
     std::optional<QColor> text;
     std::optional<QColor> background;
     std::optional<QColor> link;

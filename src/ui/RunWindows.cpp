@@ -24,13 +24,13 @@ namespace tunedex {
 namespace {
 
 constexpr int kCannotStart = 2;
-constexpr int kIconDelay = 100; // milliseconds; by then the window has been painted
+constexpr int kIconDelay = 100; // milliseconds; usually the window has been painted by then
 
 // Qt calls abort() when it cannot open the display, after advice to reinstall the program. Intercepts its
 // fatal message and exits with the start-up failure status.
 void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type != QtFatalMsg) {
-        return; // the messages that lead up to it
+        return; // warnings before the fatal message
     }
     std::fputs(UnusableDisplayText(DisplayVariables()).c_str(), stderr);
     std::_Exit(kCannotStart);
@@ -56,10 +56,10 @@ bool SaveStatisticsOrSay(const Application& application, UserInterface& ui) {
 
 int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
     frmMain& window = frontEnd.MainWindow();
-    // Not when the last window closes: a message box can be that.
+    // Not QApplication's quitOnLastWindowClosed: the last window may be a message box.
     QObject::connect(&window, &frmMain::Closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     window.show();
-    // Its sizes take a while to unpack; the window need not wait for them.
+    // Decoding the icon's seven sizes would delay the first paint.
     QTimer::singleShot(kIconDelay, &window, &InstallProgramIcon);
     if (TipsOnStartup(application.registry)) {
         auto* tip = new frmTip(application, frontEnd, &window);
@@ -74,7 +74,7 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
 
 int RunWindows(int argc, char** argv, Application& application, bool automatic) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0),
-                                             argv + argc); // before Qt takes its own out
+                                             argv + argc); // before Qt removes its own options
     const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setDesktopFileName(u"tunedex"_s);

@@ -12,7 +12,7 @@
 namespace tunedex {
 namespace {
 
-// Nobody watches a page of eight tracks being written.
+// A page of a few tracks needs no progress.
 class SilentMonitor final : public RunMonitor {
   public:
     void SetStatus(std::string_view) override {}
@@ -33,7 +33,7 @@ struct Sample {
     std::int32_t fileSize;
 };
 
-// Made up. One track lacks its album and year, as many do.
+// Fictitious. One track has no album and year, to show empty cells.
 constexpr std::array kSamples = {
     Sample{"Amber Lantern", "Harbour Lights", "First Ferry Home", "1998", "Folk", "192", 221, 5306412},
     Sample{"Amber Lantern", "Harbour Lights", "Salt & Rope", "1998", "Folk", "192", 187, 4489021},

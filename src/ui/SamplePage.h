@@ -1,4 +1,4 @@
-// A page of a few sample tracks, made by the listing's own writer: what the layout editor previews.
+// The page that the layout editor previews: a few sample tracks, written by the HTML writer.
 #pragma once
 
 #include "Application.h"
@@ -8,8 +8,8 @@
 
 namespace tunedex {
 
-// Writes the page to a file in `folder`, which must exist and end in a separator, and returns its text
-// (UTF-8). All tracks are on one page, whatever `settings` says. Raises what the writers raise.
+// Writes the page to a file in `folder`, which must exist and end in a separator, and returns its text in
+// UTF-8. All tracks are on one page; `settings.Spanning` is ignored. Raises the errors of the writers.
 std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
                             const std::string& folder);
 

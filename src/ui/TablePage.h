@@ -1,4 +1,4 @@
-// The layout editor's page of the table's measures.
+// The Table page of the layout editor: width, border and padding.
 #pragma once
 
 #include "Settings.h"
@@ -21,17 +21,17 @@ class TablePage : public QFrame {
     explicit TablePage(QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);
-    // TableWidth and its unit, TablePadding and TableBorder. A box that FirstFault() complains of leaves its
-    // setting as it is.
+    // Stores TableWidth and its unit, TablePadding and TableBorder. Leaves a setting unchanged if its box
+    // does not hold a number in range.
     void StoreControls(Settings& settings) const;
-    // The same as the texts that a theme file holds.
+    // Stores the same values as texts, unconverted, for a theme file.
     void StoreTexts(ThemeContent& content) const;
 
     struct Fault {
         NumberBox* box;
         std::string_view message;
     };
-    // The first box whose text is not numeric; when all are, the first whose number does not fit its setting.
+    // The first box whose text is not numeric; if there is none, the first whose number is out of range.
     std::optional<Fault> FirstFault() const;
 
   signals:

@@ -73,7 +73,7 @@ void ThemePanel::ListThemes() {
     std::vector<std::string> names;
     Attempt([&] { names = tunedex::ListThemes(application_.programFolder); });
     {
-        // The commands follow the new list; disabled for the empty one in between, they would lose the focus.
+        // Otherwise EnableCommands() would run for the empty list and take the focus from a command.
         const QSignalBlocker quiet(*lvwThemes_);
         lvwThemes_->clear();
         for (const std::string& name : names) {
@@ -131,6 +131,7 @@ void ThemePanel::SaveTheme() {
         ui_.ShowMessage(*window(), kBadName, kOkExclamation, kErrorTitle);
         return;
     }
+    // Required: the status also says "saved" after No to overwriting. Do not "fix".
     const bool saved = Attempt([&] { WriteThemeFile(StoredThemePath(application_.programFolder, name)); });
     if (saved) {
         lblThemeStatus_->setText(u"Theme saved successfully."_s);

@@ -1,4 +1,4 @@
-// The themes of the layout editor: the list of them, and loading, saving and deleting one.
+// The theme list of the layout editor, with commands to load, save and delete a theme.
 #pragma once
 
 #include "Application.h"
@@ -21,24 +21,24 @@ class ThemePanel : public QGroupBox {
     Q_OBJECT
 
   public:
-    // `content` tells what a theme saved now holds. What is referred to must live as long as the panel.
+    // `content` returns what SaveTheme() writes. The referenced objects must outlive the panel.
     ThemePanel(Application& application, WindowInterface& ui, const Choosers& choosers,
                std::function<ThemeContent()> content, QWidget* parent = nullptr);
 
     void ListThemes();
-    // Applies the theme to the settings at once. A theme that is gone changes nothing.
+    // Applies the theme to the settings at once. Does nothing if its file no longer exists.
     void LoadTheme(const std::string& name);
     void SaveTheme();
     void DeleteTheme(const std::string& name);
 
   signals:
-    // The settings have changed; controls should follow them.
+    // The settings have changed; the controls must be reloaded.
     void ThemeLoaded();
 
   private:
-    // Asks before it replaces a file. Raises the error of a file that cannot be written.
+    // Asks before replacing a file. Raises the error if the file cannot be written.
     void WriteThemeFile(const std::string& path);
-    // Runs a command on theme files and says so when it fails. Whether it went well.
+    // Runs a command and shows the run-time error it raises. Returns whether it raised none.
     bool Attempt(const std::function<void()>& command);
     std::string SelectedTheme() const;
     void EnableCommands();

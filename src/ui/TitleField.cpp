@@ -9,7 +9,7 @@
 namespace tunedex {
 namespace {
 
-// A menu or another window has the focus meanwhile; the field keeps its selection.
+// The focus went to a menu or another window; QLineEdit keeps its selection then.
 bool IsTemporary(Qt::FocusReason reason) {
     return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
 }

@@ -1,4 +1,4 @@
-// A text field that placeholders are inserted into, at the caret that it had when the focus left it.
+// A text field for a title, with placeholders inserted at the caret position it had when it lost the focus.
 #pragma once
 
 #include <QLineEdit>
@@ -11,8 +11,8 @@ class TitleField final : public QLineEdit {
   public:
     TitleField(const QString& objectName, const QString& accessibleName, const QString& description);
 
-    // Inserts the text at the caret, or in place of what the user has selected, and takes the focus. A
-    // selection that only comes from entering the field by key is left alone. Undo takes the text back.
+    // Inserts the text at the caret, or replaces the user's selection, and takes the focus. Does not replace
+    // a selection that Qt made when the field was entered by key. Undo removes the text.
     void InsertPlaceholder(const QString& placeholder);
 
   protected:
@@ -20,9 +20,9 @@ class TitleField final : public QLineEdit {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    // Entering by Tab or by a mnemonic selects the whole text. Replacing that selection would lose the text.
+    // Qt selects the whole text on entry by Tab or mnemonic. Replacing that selection would lose the text.
     bool selectedOnEntry_ = false;
-    // The user's own selection, which the field drops when the focus moves to the Placeholders button.
+    // The user's selection, which QLineEdit drops when the focus moves to the Insert button; -1 for none.
     int selectionStart_ = -1;
     int selectionLength_ = 0;
 };

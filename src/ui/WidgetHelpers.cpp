@@ -18,7 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Declares a function of the enclosing namespace, which has to be the global one.
+// Q_INIT_RESOURCE declares a function in the enclosing namespace, which must be the global one.
 static void InitResources() {
     Q_INIT_RESOURCE(icons);
 }
@@ -32,7 +32,7 @@ bool IsStrayByte(QChar character) {
     return character.unicode() >= kStrayByteBase + 0x80 && character.unicode() <= kStrayByteBase + 0xFF;
 }
 
-// The same store as the program's registry, in a group that holds nothing else.
+// The registry's store; the windows have a group of their own in it.
 QSettings WindowStore() {
     return QSettings(u"Corvale Works"_s, u"Tunedex"_s);
 }
@@ -60,7 +60,7 @@ QString ToQt(std::string_view text) {
             const auto byte = static_cast<unsigned char>(text[position]);
             result.append(QChar(static_cast<char16_t>(kStrayByteBase + byte)));
         } else {
-            // Not QString's way, which takes the first character for a mark of the byte order.
+            // Not QString::fromUtf8(), which drops a leading U+FEFF as a byte-order mark.
             result.append(QChar::fromUcs4(step.character));
         }
         position += step.length;
@@ -128,7 +128,7 @@ void SetTabOrders(const QList<QWidget*>& controls) {
 }
 
 void FocusAndSelectAll(QLineEdit& field) {
-    field.window()->activateWindow(); // after a message box the system may have chosen another window
+    field.window()->activateWindow(); // after a message box the window manager may activate another one
     field.setFocus(Qt::OtherFocusReason);
     field.selectAll();
 }
@@ -165,7 +165,7 @@ void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owne
         ui.ShowMessage(owner, "The help file could not be found!", kOkExclamation, application.errorTitle);
         return;
     }
-    // Percent-encoded from the bytes, so that a path that is no UTF-8 opens too.
+    // Percent-encodes the bytes: QUrl::fromLocalFile() loses bytes that are not UTF-8.
     const std::string absolute = std::filesystem::absolute(application.helpFile).string();
     const QByteArray path = QByteArray::fromStdString(absolute).toPercentEncoding("/");
     OpenUrl(QUrl::fromEncoded("file://" + path), application, ui, owner);

@@ -1,4 +1,4 @@
-// What the windows share: texts between the program and Qt, naming of controls, remembered sizes, help.
+// Shared by all windows: text conversion, named controls, saved window geometry, help.
 #pragma once
 
 #include "Application.h"
@@ -17,53 +17,51 @@ class QWidget;
 
 namespace tunedex {
 
-// A text of the program as Qt holds it, and back. Nothing is lost on the way: a stray byte b (which is no
-// UTF-8, in an old file name say) becomes the lone surrogate U+DC00 + b, so a path that passes through a text
-// field is the same path.
+// Convert UTF-8 to QString and back without loss: a byte b that is not part of valid UTF-8 (as in old file
+// names) becomes the lone surrogate U+DC00 + b, so a path survives a text field.
 QString ToQt(std::string_view text);
 std::string FromQt(const QString& text);
 
-// The text for the eye alone: stray bytes become U+FFFD and the message's CR LF a plain line break.
+// Converts for display only: invalid bytes become U+FFFD, CR LF becomes LF.
 QString ToQtDisplay(std::string_view text);
 
-// Gives a control its name in the code, the name and description that assistive technology speaks, and the
-// description as its tool tip.
+// Sets the object name, the accessible name, and the accessible description, which is also the tooltip.
 void NameControl(QWidget& control, const QString& objectName, const QString& accessibleName,
                  const QString& description);
 
-// A label whose mnemonic ("&Folder:") moves the focus to the control. Owned by the layout it is put into.
+// A label whose mnemonic ("&Folder:") moves the focus to the control. The caller adds it to a layout, which
+// owns it.
 QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic);
 
-// A text field that takes texts of any length.
+// A text field without QLineEdit's limit of 32,767 characters.
 QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleName,
                          const QString& description);
 
-// Lets the help key (F1) press the window's help button. A button has a single shortcut, which stays the
-// mnemonic of its caption.
+// Makes the help key (F1) press the window's help button. The button's own shortcut is its mnemonic; it can
+// have only one.
 void PressOnHelpKey(QWidget& window, QAbstractButton& button);
 
-// The order in which Tab visits the controls.
+// Sets the tab order of the controls.
 void SetTabOrders(const QList<QWidget*>& controls);
 
-// Activates the field's window, puts the focus into the field and selects its whole text.
+// Activates the field's window, focuses the field and selects its whole text.
 void FocusAndSelectAll(QLineEdit& field);
 
-// Enables or disables a control. Where that takes the focus from it, `heir` gets the focus; Qt would move it
-// to the next control in the tab order, which does something else.
+// Enables or disables a control. If the control loses the focus by that, focuses `heir`; Qt would focus the
+// next control in the tab order, an unrelated command.
 void EnableOrPassFocus(QWidget& control, bool enabled, QWidget& heir);
 
-// A window's size and place from one start of the program to the next, under the window's object name. A
-// window that was never shown before keeps the size it has.
+// Load and save a window's size and position under its object name. Without a saved geometry the window keeps
+// its size.
 void RestoreWindowGeometry(QWidget& window);
 void SaveWindowGeometry(const QWidget& window);
 
-// Gives the program's windows its icon. To be called once there is a QApplication.
+// Sets the icon of all windows. Requires the QApplication.
 void InstallProgramIcon();
 
-// Opens the help file in the user's browser; a failure ends in a message of the window `owner`.
+// Opens the help file in the user's browser. A failure is shown in a message box owned by `owner`.
 void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owner);
-// Opens an address with the program that the desktop has for it; a failure ends in a message of the window
-// `owner`.
+// Opens an address with the desktop's handler. A failure is shown in a message box owned by `owner`.
 void OpenAddress(const QString& address, const Application& application, WindowInterface& ui, QWidget& owner);
 
 } // namespace tunedex

@@ -1,4 +1,4 @@
-// The front end as the windows themselves use it.
+// The front end's interface for its windows.
 #pragma once
 
 #include "UserInterface.h"
@@ -11,8 +11,8 @@ class WindowInterface : public UserInterface {
   public:
     using UserInterface::ShowMessage;
 
-    // As above, for a message that `owner` raises: the box stays in front of that window and gives the focus
-    // back to it. For a hidden owner, its nearest visible parent owns the box.
+    // Shows the message box in front of `owner`, which gets the focus back afterwards. If `owner` is hidden,
+    // its nearest visible parent owns the box.
     virtual int ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) = 0;
 };
 

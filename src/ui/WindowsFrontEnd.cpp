@@ -14,7 +14,7 @@
 namespace tunedex {
 namespace {
 
-// How long a window may take to appear before the run goes on without it.
+// The run starts after this time even if the window is not exposed.
 constexpr int kLongestWaitForWindow = 500; // milliseconds
 
 void WaitUntilExposed(const QWidget& window) {
@@ -25,7 +25,7 @@ void WaitUntilExposed(const QWidget& window) {
     }
 }
 
-// The window itself, or the first visible one that it belongs to; null where there is none.
+// The window itself or its nearest visible parent window; null if there is none.
 QWidget* VisibleOwner(QWidget* window) {
     while (window != nullptr && !window->isVisible()) {
         window = window->parentWidget() != nullptr ? window->parentWidget()->window() : nullptr;
@@ -53,7 +53,7 @@ bool WindowsFrontEnd::CreateList() {
     const bool written = CreateListCommand(application_, *this);
     running_ = false;
     if (progress_ != nullptr) {
-        progress_->SetRunning(false); // left open by the run; the user closes it
+        progress_->SetRunning(false); // the run left the window open; the user closes it
     }
     return written;
 }
@@ -87,7 +87,8 @@ void WindowsFrontEnd::OpenOptions() {
     front->activateWindow();
 }
 
-// The program quits only when every window closes, and options that wait for the editor refuse to.
+// reject(), not close(): QCoreApplication::quit() fails if any window ignores its close event, and the
+// options do so while the editor is open.
 void WindowsFrontEnd::CloseOptions() {
     if (options_ != nullptr) {
         options_->reject();
@@ -126,14 +127,14 @@ RunMonitor& WindowsFrontEnd::ShowProgress() {
     CloseProgress();
     progress_ = std::make_unique<frmProgress>(main_);
     if (options_ != nullptr) {
-        options_->SetUsable(false); // like the main window, which the progress window disables
+        options_->SetUsable(false); // frmProgress disables the main window only
     }
     progress_->SetRunning(running_);
     QObject::connect(progress_.get(), &frmProgress::AbortPressed, &main_,
                      [this] { application_.abortRequested = true; });
     QObject::connect(progress_.get(), &frmProgress::Closed, &main_, [this] {
         monitor_.SetWindow(nullptr);
-        progress_.release()->deleteLater(); // it is still handling its own close
+        progress_.release()->deleteLater(); // called from its closeEvent()
         EnableWindows();
     });
     monitor_.SetWindow(progress_.get());

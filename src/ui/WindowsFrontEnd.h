@@ -1,4 +1,4 @@
-// The front end of windows: what start-up and the list job ask for, done by the main window and its company.
+// The windowed front end: implements UserInterface with the main window, the dialogs and the progress window.
 #pragma once
 
 #include "Application.h"
@@ -22,7 +22,8 @@ class WindowsFrontEnd final : public WindowInterface {
     ~WindowsFrontEnd() override;
 
     frmMain& MainWindow() { return main_; }
-    // The Create List command as the main window's button gives it. Whether the list was written.
+    // The main window's Create List command. Returns whether the list was written; false while a run is
+    // active.
     bool CreateList();
 
     MainFields Fields() const override;
@@ -36,7 +37,7 @@ class WindowsFrontEnd final : public WindowInterface {
     void SetProgressCaption(std::string_view caption) override;
     void CloseProgress() override;
 
-    // Shows the options dialog, which lets the user go on at the main window meanwhile.
+    // Shows the options dialog, which is not modal.
     void OpenOptions();
     // Null while the options dialog is closed.
     frmOptions* Options() const;
@@ -49,7 +50,7 @@ class WindowsFrontEnd final : public WindowInterface {
     ProgressMonitor monitor_;
     frmMain main_;
     QPointer<frmOptions> options_;
-    std::unique_ptr<frmProgress> progress_; // exists while the window is open
+    std::unique_ptr<frmProgress> progress_; // null while the window is closed
     bool running_ = false;
 };
 

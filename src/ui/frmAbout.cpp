@@ -77,7 +77,7 @@ frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget*
     layout->addLayout(top);
     layout->addSpacing(fontMetrics().height() / 2);
     layout->addLayout(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize); // so that the wrapped text always has its height
+    layout->setSizeConstraint(QLayout::SetFixedSize); // gives the wrapped text its full height
 
     SetTabOrders({cmdHomePage, cmdEmail, cmdOK});
     cmdOK->setFocus();

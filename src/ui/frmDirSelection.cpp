@@ -70,7 +70,7 @@ void frmDirSelection::BuildList() {
     lvwDirs_->setRootIsDecorated(false);
     lvwDirs_->setUniformRowHeights(true);
     lvwDirs_->setAlternatingRowColors(true);
-    lvwDirs_->setTextElideMode(Qt::ElideNone); // long paths are scrolled to
+    lvwDirs_->setTextElideMode(Qt::ElideNone); // long paths scroll horizontally
     lvwDirs_->setTabKeyNavigation(false);
     lvwDirs_->setMinimumWidth(fontMetrics().averageCharWidth() * kListWidthInCharacters);
     auto* remove = new QShortcut(QKeySequence::Delete, lvwDirs_);
@@ -81,7 +81,7 @@ void frmDirSelection::BuildList() {
             AddFolder(folder);
         }
     });
-    lvwDirs_->setAcceptDrops(true); // the list hands a drag on to its viewport only then
+    lvwDirs_->setAcceptDrops(true); // required for drags to reach the viewport
 }
 
 QPushButton* frmDirSelection::MakeButton(const char* name, const QString& caption, const QString& description,
@@ -140,7 +140,7 @@ QWidget* frmDirSelection::BuildBottomRow() {
 
 void frmDirSelection::OKPressed_MakeDirs() {
     const std::vector<std::string> rows = Rows();
-    if (!rows.empty()) {
+    if (!rows.empty()) { // Required: OK on an empty list keeps the previous folders. Do not "fix".
         application_.settings.Directory = MultiFolderValue(rows);
     }
 }
@@ -278,7 +278,7 @@ void frmDirSelection::ExchangeTexts(int row, int otherRow) {
     other->setText(0, text);
 }
 
-// The column is as wide as the list, and wider where a folder needs it.
+// Makes the column at least as wide as the list and as its longest folder.
 void frmDirSelection::FitColumn() {
     int widest = 0;
     for (int row = 0; row < lvwDirs_->topLevelItemCount(); ++row) {

@@ -1,4 +1,4 @@
-// The folder-list dialog: several folders that are searched together, in the order of the rows.
+// The folder-list dialog: edits the folders of one run, in search order.
 #pragma once
 
 #include "Application.h"
@@ -21,13 +21,13 @@ class frmDirSelection final : public QDialog {
     Q_OBJECT
 
   public:
-    // Shows the folders of the settings' multi-folder value.
+    // Lists the folders of Settings::Directory if that is a multi-folder value.
     frmDirSelection(Application& application, WindowInterface& ui, Dialogs& dialogs, QWidget* parent);
 
-    // Stores the rows as the settings' folder value; without rows that stays as it is.
+    // Stores the rows in Settings::Directory. Leaves it unchanged if there are no rows.
     void OKPressed_MakeDirs();
 
-    // Appends a folder unless it is missing or listed already in any case of its letters.
+    // Appends a folder unless it does not exist or is listed already, ignoring case.
     void AddFolder(const std::string& folder);
 
     void done(int result) override;
@@ -50,7 +50,7 @@ class frmDirSelection final : public QDialog {
     void Use();
 
     std::vector<std::string> Rows() const;
-    int SelectedRow() const; // -1 where there is none
+    int SelectedRow() const; // -1 if none
     void SelectRow(int row);
     void ExchangeTexts(int row, int otherRow);
     void FitColumn();
@@ -59,7 +59,7 @@ class frmDirSelection final : public QDialog {
     Application& application_;
     WindowInterface& ui_;
     Dialogs& dialogs_;
-    std::string lastFolder_; // where the next browsing begins
+    std::string lastFolder_; // initial folder of the folder chooser
 
     QTreeWidget* lvwDirs_;
     QLabel* lblNumOfDirs_;

@@ -45,7 +45,7 @@ frmEditLayout::frmEditLayout(Application& application, WindowInterface& ui, QWid
     setWindowTitle(u"Edit Layout"_s);
     setSizeGripEnabled(true);
     NameControl(*tabStrip_, u"TabStrip"_s, u"Pages of the layout editor"_s, {});
-    tabStrip_->setUsesScrollButtons(false); // so that every page's title always shows
+    tabStrip_->setUsesScrollButtons(false); // keeps all tab titles visible
     AddPage(columns_, u"&Columns"_s);
     AddPage(fonts_, u"&Fonts"_s);
     AddPage(colours_, u"Co&lours"_s);
@@ -117,7 +117,7 @@ void frmEditLayout::LoadControls() {
     document_->LoadControls(settings);
 }
 
-// A theme file may hold any setting, so every window follows.
+// A theme file may set any setting, so all windows are reloaded.
 void frmEditLayout::FollowTheme() {
     LoadControls();
     ui_.FillFields(FieldsFor(application_.settings));
@@ -142,14 +142,14 @@ ThemeContent frmEditLayout::CurrentTheme() const {
     ThemeContent content;
     content.fonts = edited.Font;
     content.colours = edited.Colour;
-    // A theme takes whether rows alternate from the settings in use, not from this editor.
+    // Required: the settings' AltRows, not the editor's check box. Do not "fix".
     content.alternateRows = application_.settings.AltRows;
     table_->StoreTexts(content);
     return content;
 }
 
 void frmEditLayout::UseLayout() {
-    // The document type counts even when a number is then refused.
+    // Required: stored even if a check below fails. Do not "fix".
     application_.settings.DocumentType = document_->DocumentType();
     if (const auto fault = table_->FirstFault()) {
         ui_.ShowMessage(*this, fault->message, kOkExclamation, kValidationTitle);
@@ -165,7 +165,7 @@ void frmEditLayout::closeEvent(QCloseEvent* event) {
     if (isEnabled()) {
         QDialog::closeEvent(event);
     } else {
-        event->ignore(); // a run comes first
+        event->ignore(); // a run is active
     }
 }
 

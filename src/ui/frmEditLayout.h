@@ -1,4 +1,4 @@
-// The layout editor: everything about the look of HTML listings, with a preview.
+// The layout editor: columns, fonts, colours, table and themes of HTML listings, with a preview.
 #pragma once
 
 #include "Application.h"
@@ -30,22 +30,21 @@ class frmEditLayout : public QDialog {
     Q_OBJECT
 
   public:
-    // The controls show the settings as they are now.
+    // Loads the controls from the settings.
     frmEditLayout(Application& application, WindowInterface& ui, QWidget* parent = nullptr);
 
     // Sets every control from the settings.
     void LoadControls();
 
-    // What a run takes from the open editor: MoveTheArtists and DocumentType.
+    // Stores what a run takes from an open editor: MoveTheArtists and DocumentType.
     void StoreRunControls(Settings& settings) const;
-    // Everything that the editor edits. A number box whose text is no number for a setting leaves its setting
-    // as it is.
+    // Stores all controls. Leaves a number setting unchanged if its box does not hold a number in range.
     void StoreControls(Settings& settings) const;
 
-    // The settings that the preview starts from, before the editor's controls are stored into them; without
-    // it those of the application.
+    // Sets the source of the preview's settings, which the editor's controls then override. By default the
+    // application's settings.
     void SetPreviewBase(std::function<Settings()> base) { previewBase_ = std::move(base); }
-    // In place of Qt's own dialogs.
+    // Replaces Qt's dialogs, for tests.
     void SetChoosers(Choosers choosers) { choosers_ = std::move(choosers); }
 
   protected:

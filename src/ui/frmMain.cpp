@@ -34,8 +34,9 @@ namespace tunedex {
 namespace {
 
 constexpr int kFieldWidthInCharacters = 40;
-constexpr int kFirstWidthInCharacters = 100; // of the window, before the user makes it another
+constexpr int kFirstWidthInCharacters = 100; // initial width of the window
 
+// Required: this list ends in "|". Do not "fix".
 constexpr auto kOutputFilters =
     u"HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|Winamp Playlist (*.m3u)|*.m3u|";
 constexpr auto kSettingsFilters = u"Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*";
@@ -197,7 +198,7 @@ QGroupBox* frmMain::BuildFolderGroup() {
     grid->addLayout(several, 1, 1);
     grid->addWidget(cmdSelectDirs_, 1, 2);
 
-    txtInputDir_->setAcceptDrops(false); // it would take a folder's address as a text
+    txtInputDir_->setAcceptDrops(false); // QLineEdit would insert the folder's URL
     new FolderDrop(*group, [this](const std::vector<std::string>& folders) { TakeDroppedFolders(folders); });
     return group;
 }
@@ -254,7 +255,7 @@ QWidget* frmMain::BuildCommandRow() {
     cmdQuit_ = MakeButton("cmdQuit", tr("&Quit"), tr("Quit"), tr("Ends the program"));
     cmdCreateList_ = MakeButton("cmdCreateList", tr("&Create List"), tr("Create list"),
                                 tr("Searches the folders and writes the list"));
-    cmdCreateList_->setDefault(true); // looks it; the fields' Enter key does it
+    cmdCreateList_->setDefault(true); // appearance only: Enter is handled by returnPressed()
     connect(cmdOptions_, &QPushButton::clicked, this, &frmMain::OptionsRequested);
     connect(cmdAbout_, &QPushButton::clicked, this, &frmMain::ShowAbout);
     connect(cmdQuit_, &QPushButton::clicked, this, &QWidget::close);
@@ -291,7 +292,7 @@ MainFields frmMain::Fields() const {
 
 void frmMain::FillFields(const MainFields& fields) {
     {
-        // The handler would replace the folders that the settings already hold.
+        // MultipleDirsToggled() would replace the folder list in the settings by an empty one.
         const QSignalBlocker quiet(*chkMultipleDirs_);
         chkMultipleDirs_->setChecked(fields.multipleFolders);
     }
@@ -348,8 +349,8 @@ void frmMain::TakeDroppedFolders(const std::vector<std::string>& folders) {
         txtInputDir_->setText(ToQt(folders.front()));
         return;
     }
-    chkMultipleDirs_->setChecked(true); // a single folder makes way for an empty list
-    // The list's own rules decide what is taken.
+    chkMultipleDirs_->setChecked(true); // replaces a single folder by an empty list
+    // The dialog's AddFolder() skips missing folders and duplicates.
     frmDirSelection list(application_, ui_, dialogs_, this);
     for (const std::string& folder : folders) {
         list.AddFolder(folder);
@@ -439,7 +440,7 @@ void frmMain::ShowAbout() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!isEnabled()) { // a run, or what it has left open, comes first
+    if (!isEnabled()) { // the progress window is open
         event->ignore();
         return;
     }

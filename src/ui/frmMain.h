@@ -1,4 +1,4 @@
-// The main window: what changes from list to list, and the commands that reach everything else.
+// The main window: folders, output file, titles, and the commands that open all other windows.
 #pragma once
 
 #include "Application.h"
@@ -29,8 +29,7 @@ class frmMain final : public QMainWindow {
     frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs);
 
     MainFields Fields() const;
-    // Fills every field; in multi-folder mode the folder field keeps its text, and the settings their
-    // folders.
+    // Fills every field. In multi-folder mode the folder field and the folder setting are left unchanged.
     void FillFields(const MainFields& fields);
     QLineEdit& Field(MainField field) const;
 
@@ -40,7 +39,7 @@ class frmMain final : public QMainWindow {
   signals:
     void CreateListRequested();
     void OptionsRequested();
-    // The user has quit, and confirmed it where that is wanted.
+    // The user has quit, and confirmed it if ConfirmQuit is set.
     void Closed();
 
   protected:
@@ -56,7 +55,7 @@ class frmMain final : public QMainWindow {
     QWidget* BuildCommandRow();
     QPushButton* MakeButton(const char* name, const QString& caption, const QString& accessibleName,
                             const QString& description);
-    int LabelWidth() const; // of the longest, so that the fields of all groups are in line
+    int LabelWidth() const; // of the longest label; aligns the fields of all groups
     void OrderControls();
 
     void BrowseFolder();
@@ -71,7 +70,7 @@ class frmMain final : public QMainWindow {
     void SaveSettings();
     void SaveSettingsAs();
     void SaveSettingsTo(const std::string& path);
-    // Runs a command whose run-time errors end in a message.
+    // Runs a command and shows the run-time error it raises.
     void Guarded(const std::function<void()>& command);
 
     void ShowHelp();
@@ -80,7 +79,7 @@ class frmMain final : public QMainWindow {
     Application& application_;
     WindowInterface& ui_;
     Dialogs& dialogs_;
-    std::string settingsPath_; // the file last opened or saved; empty for the default one
+    std::string settingsPath_; // last opened or saved file; empty for the default file
     TitleField* placeholderTarget_ = nullptr;
 
     QLineEdit* txtInputDir_ = nullptr;

@@ -36,7 +36,7 @@ struct Option {
     QString description;
 };
 
-// The options' numbers are their places.
+// Numbers the options in order, from 0.
 void AddOptions(OptionGroup& group, QLayout& layout, std::initializer_list<Option> options) {
     int number = 0;
     for (const Option& option : options) {
@@ -248,8 +248,7 @@ void frmOptions::EnableLinks() {
     txtLinkPrefix_->setEnabled(links);
 }
 
-// Styles differ in whether they show a disabled text box by its background; here it always has the colour of
-// buttons.
+// Not every style greys a disabled text box, so its background is set to the button colour.
 void frmOptions::GreyDisabledFields() {
     for (QLineEdit* field : {static_cast<QLineEdit*>(txtFilesPerPage_), txtLinkPrefix_}) {
         QPalette colours = field->palette();
@@ -270,7 +269,7 @@ void frmOptions::closeEvent(QCloseEvent* event) {
     if (isEnabled()) {
         QDialog::closeEvent(event);
     } else {
-        event->ignore(); // the layout editor, or a run, comes first
+        event->ignore(); // the layout editor is open or a run is active
     }
 }
 
@@ -348,7 +347,7 @@ void frmOptions::EditLayout() {
         try {
             StoreOwnControls(settings);
         } catch (const RunTimeError&) {
-            // Files per page is half typed: the preview is one page in any case.
+            // Files per page is not a number yet; the preview ignores it.
         }
         return settings;
     });
@@ -373,7 +372,7 @@ void frmOptions::SetUsable(bool usable) {
 void frmOptions::UpdateEnabled() {
     setEnabled(usable_ && editor_ == nullptr);
     if (editor_ != nullptr) {
-        editor_->setEnabled(usable_); // comes second: a disabled window disables the windows that it owns
+        editor_->setEnabled(usable_); // after the dialog: disabling a parent window disables its children
     }
 }
 

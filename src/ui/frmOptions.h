@@ -1,4 +1,4 @@
-// The options dialog: searching, file sizes, sorting, errors and links, and the way to the layout editor.
+// The options dialog: searching, file sizes, sorting, errors and links. Opens the layout editor.
 #pragma once
 
 #include "Application.h"
@@ -24,22 +24,21 @@ class frmOptions : public QDialog {
     Q_OBJECT
 
   public:
-    // The controls show the settings as they are now.
+    // Loads the controls from the settings.
     frmOptions(Application& application, WindowInterface& ui, QWidget* parent = nullptr);
 
-    // Sets every control from the settings, those of the open layout editor too.
+    // Sets every control from the settings, also in an open layout editor.
     void LoadControls();
 
-    // Takes the controls into `settings`, and those of the layout editor that count for every run:
-    // MoveTheArtists and DocumentType. Raises error 13 or 6, before anything is stored, when the pages are on
-    // and files per page is no number or does not fit.
+    // Stores the controls, and MoveTheArtists and DocumentType of the layout editor. If page splitting is on
+    // and files per page is not numeric (out of range), raises error 13 (6) and stores nothing.
     void StoreControls(Settings& settings) const;
 
     // Null while the layout editor is closed.
     frmEditLayout* Editor() const;
 
-    // Enables or disables this dialog and its layout editor. While the editor is open, the dialog stays
-    // disabled. A disabled dialog refuses to close; reject() closes both.
+    // Enables or disables this dialog and its layout editor. While the editor is open the dialog stays
+    // disabled. A disabled dialog ignores close events; reject() closes both.
     void SetUsable(bool usable);
 
   protected:
@@ -61,7 +60,7 @@ class frmOptions : public QDialog {
     void EnableLinks();
     void GreyDisabledFields();
 
-    // Says what is wrong with the files per page, if anything is; whether all is well.
+    // Shows a message if files per page is not a number in range. Returns whether it is.
     bool Validate();
     void StoreOwnControls(Settings& settings) const;
     void Use();

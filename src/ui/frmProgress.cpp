@@ -21,11 +21,11 @@ frmProgress::frmProgress(QWidget& mainWindow)
     NameControl(*lblStatus_, u"lblStatus"_s, QString(), QString());
     NameControl(*progressBar_, u"ProgressBar"_s, tr("Progress"), tr("How much of the work is done"));
     NameControl(*cmdAbort_, u"cmdAbort"_s, tr("Abort"), tr("Stops the run; what is written by then stays"));
-    // A held Enter key that has started the run must not stop it again.
+    // Otherwise auto-repeat of the Enter key that started the run would abort it.
     cmdAbort_->setAutoDefault(false);
     connect(cmdAbort_, &QPushButton::clicked, this, &frmProgress::AbortPressed);
 
-    // Wide enough for the longest status text, so that nothing moves while numbers grow.
+    // Fits the longest status text, so the window keeps its size as the numbers grow.
     lblStatus_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     lblStatus_->setMinimumWidth(
         fontMetrics().horizontalAdvance(u"Retrieving MPEG/ID3 information (8888888/8888888)..."_s));
@@ -42,7 +42,7 @@ frmProgress::frmProgress(QWidget& mainWindow)
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     mainWindow_.setEnabled(false);
-    setEnabled(true); // a window's children are disabled along with it
+    setEnabled(true); // disabling the parent window disabled this one
 }
 
 frmProgress::~frmProgress() {

@@ -1,4 +1,4 @@
-// The progress window of a run. While it exists the main window is disabled.
+// The progress window of a run. Disables the main window for its lifetime.
 #pragma once
 
 #include <QDialog>
@@ -17,10 +17,10 @@ class frmProgress final : public QDialog {
     explicit frmProgress(QWidget& mainWindow);
     ~frmProgress() override;
 
-    // While a run is under way, closing the window asks the run to stop; afterwards it closes the window.
+    // While running, a close event emits AbortPressed() and is ignored; otherwise it closes the window.
     void SetRunning(bool running) { running_ = running; }
 
-    // Shown at once, without a turn of the event loop.
+    // Repaints at once, without the event loop. `maximum` 0 leaves the bar's range unchanged.
     void Display(const QString& status, int maximum, int position);
 
     void reject() override;

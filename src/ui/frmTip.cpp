@@ -20,7 +20,6 @@ namespace {
 
 constexpr std::string_view kTipsOnStartup = "TipsOnStartup";
 
-// Room for a few lines of text at a comfortable width.
 constexpr int kTipWidthInCharacters = 56;
 constexpr int kTipHeightInLines = 7;
 
@@ -28,7 +27,7 @@ constexpr int kTipHeightInLines = 7;
 
 bool TipsOnStartup(const Registry& registry) {
     const std::string text = registry.Read(kTipsOnStartup);
-    return LeadingNumber(text) != 0 || UpperCase(TrimBlanks(text)) == "TRUE"; // so it was written elsewhere
+    return LeadingNumber(text) != 0 || UpperCase(TrimBlanks(text)) == "TRUE"; // not written by this program
 }
 
 frmTip::frmTip(Application& application, WindowInterface& ui, QWidget* parent)
@@ -82,7 +81,7 @@ QWidget* frmTip::MakeTipPanel() {
     lblTipText_->setForegroundRole(QPalette::Text);
     lblTipText_->setAutoFillBackground(true);
 
-    auto* panel = new QScrollArea; // for the tip that is longer than the window
+    auto* panel = new QScrollArea; // for long tips
     NameControl(*panel, u"TipPanel"_s, tr("Tip"), QString());
     panel->setWidgetResizable(true);
     panel->setWidget(lblTipText_);

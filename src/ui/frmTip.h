@@ -1,4 +1,4 @@
-// The tip of the day.
+// The tip of the day window.
 #pragma once
 
 #include "Application.h"
@@ -14,14 +14,14 @@ class QLabel;
 
 namespace tunedex {
 
-// Whether the window is to be shown when the program starts.
+// Whether the window is shown at start-up.
 bool TipsOnStartup(const Registry& registry);
 
 class frmTip final : public QDialog {
     Q_OBJECT
 
   public:
-    // Loads the tips and shows a random one when tips are wanted at start-up; shows none otherwise.
+    // Loads the tips and shows a random one if tips are shown at start-up; otherwise shows none.
     frmTip(Application& application, WindowInterface& ui, QWidget* parent);
 
     void LoadTips();
