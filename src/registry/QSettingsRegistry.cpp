@@ -24,7 +24,7 @@ std::string QSettingsRegistry::Read(std::string_view name) const {
     switch (value.typeId()) {
     case QMetaType::QByteArray:
         return value.toByteArray().toStdString();
-    case QMetaType::QStringList: // a comma that someone wrote by hand, outside quotes
+    case QMetaType::QStringList: // an unquoted comma in a hand-edited file
         return value.toStringList().join(u',').toStdString();
     default:
         return value.toString().toStdString();
@@ -33,7 +33,7 @@ std::string QSettingsRegistry::Read(std::string_view name) const {
 
 void QSettingsRegistry::Write(std::string_view name, std::string_view text) {
     const QByteArray bytes(text.data(), static_cast<qsizetype>(text.size()));
-    // A path with stray bytes is no text for Qt; as bytes it comes back as it was.
+    // A QString cannot hold a path with invalid UTF-8; a QByteArray round-trips.
     settings_.setValue(KeyOf(name), IsValidUtf8(text) ? QVariant(QString::fromUtf8(bytes)) : QVariant(bytes));
     settings_.sync();
 }

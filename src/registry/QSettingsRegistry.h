@@ -1,5 +1,5 @@
-// The registry as Qt keeps settings: on Linux the file "Corvale Works/Tunedex.conf" in the user's
-// configuration folder, with the system-wide file of that name behind it; on Windows the registry itself.
+// The registry in QSettings: on Linux "Corvale Works/Tunedex.conf" in the user's configuration folder,
+// falling back to the system-wide file of that name; on Windows the registry.
 #pragma once
 
 #include "Registry.h"
@@ -13,7 +13,7 @@ class QSettingsRegistry final : public Registry {
     QSettingsRegistry();
 
     std::string Read(std::string_view name) const override;
-    // Stored at once; a store that cannot be written keeps the value for this run only.
+    // Writes through. If the store is not writable, the value lasts for this run only.
     void Write(std::string_view name, std::string_view text) override;
 
   private:

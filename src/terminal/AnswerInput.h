@@ -1,4 +1,4 @@
-// Answers from a file descriptor, standard input as a rule: one line each.
+// Reads answers, one per line, from a file descriptor (usually standard input).
 #pragma once
 
 #include <cstddef>
@@ -9,20 +9,20 @@ namespace tunedex {
 class AnswerInput {
   public:
     static constexpr std::size_t kLongestAnswer = 4096; // bytes, without the line end
-    // Bytes read for one question, over all its wrong answers. An input that brings no answer within them
-    // counts as ended from then on, so that an endless one (/dev/zero, `yes maybe`) ends a run.
+    // Limit of bytes read for one question, including all wrong answers. After it the input counts as ended,
+    // so that an endless one (/dev/zero, `yes maybe`) cannot block a run.
     static constexpr std::size_t kMostPerQuestion = 256 * kLongestAnswer;
 
     enum class Line { Read, TooLong, None };
 
     explicit AnswerInput(int descriptor) : descriptor_(descriptor) {}
 
-    // Begins a question.
+    // Resets the byte count. Call before each question.
     void Restart() { left_ = kMostPerQuestion; }
 
-    // Reads one line, without its end. TooLong: more than kLongestAnswer bytes; all of the line is consumed
-    // and its beginning stored. None: the input has ended, also within a line, or a signal has arrived.
-    // Nothing behind the line is consumed: it may be meant for the next program of a script.
+    // Reads one line without its line end. TooLong: the line exceeds kLongestAnswer bytes; it is consumed
+    // whole, and its start is stored. None: the input ended (even within a line) or a signal arrived.
+    // Consumes nothing after the line, which may be input for the next program of a script.
     Line Read(std::string& line);
 
   private:

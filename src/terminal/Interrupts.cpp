@@ -16,9 +16,9 @@ namespace {
 constexpr std::array<int, 3> kInterrupts = {SIGINT, SIGTERM, SIGHUP};
 constexpr int kForever = -1;
 
-// What the signal handler touches. The event is made before the handler is set, and is never read: from the
-// first signal on, every wait for it ends at once. A wait that relied on EINTR would miss a signal that
-// arrives just before it, or one that the system delivers to another thread.
+// Set by the signal handler. The eventfd is created before the handler is installed and is never read, so
+// after the first signal every poll() of it returns at once. Relying on EINTR would miss a signal that
+// arrives just before the poll or is delivered to another thread.
 volatile std::sig_atomic_t interrupted = 0;
 volatile std::sig_atomic_t interruptEvent = -1;
 
@@ -30,7 +30,7 @@ void OnInterrupt(int /*signal*/) {
     errno = errorCode;
 }
 
-// Waits for the descriptor or for a signal.
+// Waits until the descriptor is ready, a signal arrives or the time is up.
 void Wait(int descriptor, short events, int milliseconds) {
     std::array<pollfd, 2> waiting{{{descriptor, events, 0}, {interruptEvent, POLLIN, 0}}};
     while (!Interrupted() && poll(waiting.data(), waiting.size(), milliseconds) < 0 && errno == EINTR) {
@@ -59,7 +59,7 @@ bool Interrupted() {
 }
 
 bool WaitForInput(int descriptor) {
-    if (descriptor >= 0) { // poll would ignore another; the read reports the error
+    if (descriptor >= 0) { // poll() ignores negative descriptors; the read reports the error
         Wait(descriptor, POLLIN, kForever);
     }
     return !Interrupted();

@@ -1,25 +1,25 @@
-// The signals that abort a run without windows, and waits that they end.
+// Signals that abort a run in the terminal, and waits that they interrupt.
 #pragma once
 
 #include <chrono>
 
 namespace tunedex {
 
-// Lets SIGINT, SIGTERM and SIGHUP abort the run as the Abort button does; a second one of the same kind ends
-// the program. A signal that is ignored stays ignored: nohup and a shell's `&` start a program that way.
+// Makes SIGINT, SIGTERM and SIGHUP abort the run like the Abort button; a second signal of the same kind ends
+// the process. Signals that are ignored (by nohup or a shell's `&`) stay ignored.
 void CatchInterrupts();
 
 // Whether one of the signals has arrived.
 bool Interrupted();
 
-// Wait until the descriptor can be read or written without blocking; at its end or on an error, too, which
-// the next read or write then reports. A signal ends them whichever thread it is delivered to.
+// The waits return when the descriptor can be read or written without blocking, at end of file, on an error
+// (which the next read or write reports), or when a signal arrives in any thread.
 
 // Returns false once a signal has arrived.
 bool WaitForInput(int descriptor);
-// Once a signal has arrived, returns at once: whether the descriptor takes output now.
+// Once a signal has arrived, returns at once whether the descriptor can be written without blocking.
 bool WaitForOutput(int descriptor);
-// Waits that long. Returns false once a signal has arrived.
+// Waits for the duration. Returns false once a signal has arrived.
 bool PauseUnlessInterrupted(std::chrono::milliseconds duration);
 
 } // namespace tunedex

@@ -1,4 +1,4 @@
-// An unattended run without a screen.
+// An unattended run in the terminal.
 #pragma once
 
 #include "Application.h"
@@ -8,8 +8,8 @@
 
 namespace tunedex {
 
-// Starts up, creates the list and ends. Returns the exit status: 0 when the list was written, 1 when not.
-// Raises the error of a start-up that fails.
+// Starts up and creates the list. Returns the exit status: 0 if the list was written, else 1. Raises the
+// error if start-up fails.
 int RunTerminal(Application& application, const std::vector<std::string>& arguments);
 
 } // namespace tunedex

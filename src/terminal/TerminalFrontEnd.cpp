@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kLineInterval{1000};
 struct Choice {
     std::string_view prompt;
     int safe;
-    int other; // the answer of the other button; the safe one where there is none
+    int other; // equal to `safe` if there is only one button
     std::string_view safeKeys;
     std::string_view otherKeys;
 };
@@ -34,7 +34,7 @@ Choice ChoiceFor(int buttons) {
     }
 }
 
-// What a line of input answers; 0 when it is none of the buttons' names or their beginnings.
+// The answer in a line of input: a button's name or a prefix of it, in any case. 0 if it is neither.
 int AnswerIn(std::string_view line, const Choice& choice) {
     const std::string word = UpperCase(TrimBlanks(line));
     if (word.empty() || choice.safe == choice.other || choice.safeKeys.starts_with(word)) {
@@ -60,7 +60,7 @@ std::string TerminalFrontEnd::NameInMessage(std::string_view name) const {
     return TerminalText(ReplaceAll(name, kTemplateLineBreak, "?"));
 }
 
-// The message as it is printed. Only its own line breaks, CR LF, begin a new line of a terminal.
+// Formats a message. On a terminal only CR LF starts a new line; a lone CR or LF in a name does not.
 std::string TerminalFrontEnd::MessageText(std::string_view text, std::string_view title) const {
     if (!output_.IsTerminal()) {
         return std::string(title) + "\n" + ReplaceAll(text, "\r\n", "\n") + "\n";
@@ -124,7 +124,7 @@ void TerminalFrontEnd::SetCountedStatus(std::string_view before, std::int32_t co
     status_.counted = true;
     unpainted_ = open_;
     if ((++calls_ & 0xFU) != 0) {
-        return; // the clock need not be asked for each of a million files
+        return; // reads the clock for every 16th file only
     }
     if (std::chrono::steady_clock::now() - lastPaint_ >=
         (output_.IsTerminal() ? kTerminalInterval : kLineInterval)) {
@@ -169,12 +169,13 @@ void TerminalFrontEnd::Paint() {
     }
     const std::string line = Bar() + TerminalText(StatusText());
     const unsigned columns = output_.Columns();
-    // No character is wider than it has bytes. The last column stays free: some terminals wrap there.
+    // A character is at most as wide as its number of bytes. The last column stays free because some
+    // terminals wrap there.
     const std::string_view shown = columns > 1 ? CutToBytes(line, columns - 1U) : std::string_view(line);
     output_.Write("\r" + std::string(shown) + "\x1b[K");
 }
 
-// The last state of a status is always shown; on a terminal its line is ended.
+// Paints the last state of the status and, on a terminal, ends its line.
 void TerminalFrontEnd::FinishStatus() {
     if (!open_) {
         return;

@@ -1,4 +1,4 @@
-// The front end without a screen: status and messages on standard error, answers from standard input.
+// The terminal front end: status and messages on standard error, answers from standard input.
 #pragma once
 
 #include "AnswerInput.h"
@@ -14,17 +14,17 @@ namespace tunedex {
 
 class TerminalFrontEnd final : public UserInterface, public RunMonitor {
   public:
-    // Reads answers from the descriptor `input` and writes to `output`. A terminal gets a progress bar on one
-    // line; anything else a line for each phase, and one a second within it.
+    // Reads answers from the descriptor `input` and writes to the descriptor `output`: on a terminal a
+    // progress bar on one line, otherwise a line per phase and one per second within it.
     TerminalFrontEnd(Application& application, int input, int output);
 
     MainFields Fields() const override { return fields_; }
     void FillFields(const MainFields& fields) override { fields_ = fields; }
     void TakeControls(Settings& settings) override;
-    // Prints title and text and reads the answer; a line that is none asks again. When the input has ended or
-    // a signal has arrived, the answer is the safe one: OK where there is no other button, else No or Cancel.
+    // Prints title and text and reads the answer, asking again after an invalid one. If the input has ended
+    // or a signal has arrived, returns the safe answer: OK if it is the only button, else No or Cancel.
     int ShowMessage(std::string_view text, int buttons, std::string_view title) override;
-    // On a terminal without control characters, line breaks and marks of writing direction.
+    // On a terminal, replaces control characters, line breaks and bidirectional formatting characters.
     std::string NameInMessage(std::string_view name) const override;
     void FocusAndSelect(MainField /*field*/) override {}
     void EnableWindows() override {}
@@ -41,7 +41,7 @@ class TerminalFrontEnd final : public UserInterface, public RunMonitor {
 
   private:
     struct Status {
-        std::string_view before; // the whole text of a phase is in text
+        std::string_view before; // before and after the count; uncounted statuses use `text`
         std::string_view after;
         std::string text;
         std::int32_t count = 0;

@@ -22,7 +22,8 @@ bool HasMode(int descriptor, mode_t mode) {
     return fstat(descriptor, &status) == 0 && (status.st_mode & S_IFMT) == mode;
 }
 
-// The same pipe or terminal with a file description of its own. Other kinds of files never block for long.
+// Opens the pipe or terminal again, which gives a separate file description. Other files never block for
+// long.
 int OpenNonBlocking(int descriptor) {
     if (isatty(descriptor) != 1 && !HasMode(descriptor, S_IFIFO)) {
         return -1;
@@ -51,15 +52,15 @@ unsigned TerminalOutput::Columns() const {
 void TerminalOutput::Write(std::string_view bytes) const {
     const int target = nonBlocking_ >= 0 ? nonBlocking_ : descriptor_;
     while (!bytes.empty() && WaitForOutput(target)) {
-        // PIPE_BUF bytes fit into a pipe that is ready, so this does not block where the pipe is shared with
-        // nobody, even without a second file description.
+        // A ready pipe accepts PIPE_BUF bytes, so even without a second file description this does not block
+        // unless another process writes to the pipe.
         const std::string_view piece = bytes.substr(0, PIPE_BUF);
         const ssize_t done = isSocket_ ? send(target, piece.data(), piece.size(), MSG_DONTWAIT | MSG_NOSIGNAL)
                                        : write(target, piece.data(), piece.size());
         if (done > 0) {
             bytes.remove_prefix(static_cast<std::size_t>(done));
         } else if (done < 0 && errno == EAGAIN) {
-            // A terminal is ready with room for one byte and wants two for a line end.
+            // A terminal polls as ready with one byte free but needs two for a line end.
             if (!PauseUnlessInterrupted(kRetryInterval)) {
                 return;
             }

@@ -1,4 +1,4 @@
-// Output to a file descriptor, standard error as a rule: written in full while it is read, abandoned after an
+// Writes to a file descriptor (usually standard error): blocks until everything is written, but not after an
 // abort.
 #pragma once
 
@@ -8,27 +8,27 @@ namespace tunedex {
 
 class TerminalOutput {
   public:
-    // The descriptor stays the caller's and is never made non-blocking: other programs share its file
-    // description. A pipe or a terminal is opened a second time for that; where this is refused (a terminal
-    // of another user), writes may block and a signal that arrives within one ends it.
+    // Does not own the descriptor and does not make it non-blocking, since other processes share its file
+    // description. Opens a pipe or terminal a second time instead. If that fails (a terminal of another
+    // user), writes may block until a signal arrives.
     explicit TerminalOutput(int descriptor);
     TerminalOutput(const TerminalOutput&) = delete;
     TerminalOutput& operator=(const TerminalOutput&) = delete;
     ~TerminalOutput();
 
     bool IsTerminal() const { return isTerminal_; }
-    // Characters on a line; 0 when unknown.
+    // Width in characters; 0 if unknown.
     unsigned Columns() const;
 
-    // Writes all the bytes, waiting as long as it takes for a reader. Once a signal has arrived, drops what
-    // cannot be written at once. Errors are ignored: there is nobody left to tell.
+    // Writes all bytes, waiting for a reader without a time limit. Once a signal has arrived, drops what
+    // would block. Ignores errors: there is no other channel to report them.
     void Write(std::string_view bytes) const;
 
   private:
     const int descriptor_;
     const bool isTerminal_;
     const bool isSocket_;
-    const int nonBlocking_; // -1 where there is none
+    const int nonBlocking_; // -1 if not opened
 };
 
 } // namespace tunedex
