@@ -58,7 +58,7 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
                                   u"Write the colours into the page's style sheet"_s)),
       chkColoursFontTags_(
           MakeCheckBox(u"chkColoursFontTags"_s, u"Use FONT ta&gs for text colours."_s,
-                       u"Write the colours into the markup, for readers without style sheets"_s)) {
+                       u"Write the colours into the markup, for browsers without style sheets"_s)) {
     auto* grid = new QGridLayout;
     grid->addWidget(new QLabel(u"Text"_s), 0, 1);
     grid->addWidget(new QLabel(u"Background"_s), 0, 4);

@@ -31,10 +31,9 @@ QLayout* LabelledList(ColumnList& list, const QString& label) {
 ColumnsPage::ColumnsPage(QWidget* parent)
     : QFrame(parent), lstInactiveColumns_(new ColumnList), lstActiveColumns_(new ColumnList) {
     NameControl(*lstInactiveColumns_, u"lstInactiveColumns"_s, u"Hidden columns"_s,
-                u"Columns that the listing leaves out. Double-click or drag one to show it."_s);
-    NameControl(
-        *lstActiveColumns_, u"lstActiveColumns"_s, u"Shown columns, in display order"_s,
-        u"Double-click a column to hide it. Drag it, or press Alt+Up or Alt+Down, to change its place."_s);
+                u"Columns that are not listed. Double-click or drag one to show it."_s);
+    NameControl(*lstActiveColumns_, u"lstActiveColumns"_s, u"Shown columns, in display order"_s,
+                u"Double-click a column to hide it. Drag it or press Alt+Up or Alt+Down to move it."_s);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(BuildLists(), 1);
     layout->addLayout(BuildMerges());
@@ -66,16 +65,16 @@ QLayout* ColumnsPage::BuildLists() {
 }
 
 QLayout* ColumnsPage::BuildMoves() {
-    cmdActive_ =
-        MakeButton(u"cmdActive"_s, u"&Show \u203A"_s, u"Show the selected hidden column, as the last one"_s);
+    cmdActive_ = MakeButton(u"cmdActive"_s, u"&Show \u203A"_s,
+                            u"Show the selected hidden column as the last column"_s);
     cmdInactive_ = MakeButton(u"cmdInactive"_s, u"\u2039 Hid&e"_s, u"Hide the selected shown column"_s);
     cmdAllActive_ = MakeButton(u"cmdAllActive"_s, u"Show &all \u00BB"_s, u"Show every column"_s);
     cmdAllInactive_ = MakeButton(u"cmdAllInactive"_s, u"\u00AB H&ide all"_s, u"Hide every column"_s);
-    cmdTop_ = MakeButton(u"cmdTop"_s, u"To&p"_s, u"Make the selected shown column the first"_s);
+    cmdTop_ = MakeButton(u"cmdTop"_s, u"To&p"_s, u"Move the selected shown column to the top"_s);
     cmdUp_ = MakeButton(u"cmdUp"_s, u"&Up"_s, u"Move the selected shown column one place up (Alt+Up)"_s);
     cmdDown_ =
         MakeButton(u"cmdDown"_s, u"Do&wn"_s, u"Move the selected shown column one place down (Alt+Down)"_s);
-    cmdBottom_ = MakeButton(u"cmdBottom"_s, u"&Bottom"_s, u"Make the selected shown column the last"_s);
+    cmdBottom_ = MakeButton(u"cmdBottom"_s, u"&Bottom"_s, u"Move the selected shown column to the bottom"_s);
 
     connect(cmdActive_, &QPushButton::clicked, this,
             [this] { MoveSelected(*lstInactiveColumns_, *lstActiveColumns_); });
@@ -111,12 +110,12 @@ QLayout* ColumnsPage::BuildMerges() {
     chkArtistTitleMerge_ =
         MakeCheckBox(u"chkArtistTitleMerge"_s, u"Mer&ge Artist and Title into one column"_s,
                      u"Shows \u201CArtist: Title\u201D. Both columns must be shown."_s);
-    chkAlbumMerge_ = MakeCheckBox(
-        u"chkAlbumMerge"_s, u"Ta&ke Album into that column, too"_s,
-        u"Shows \u201CArtist (Album): Title\u201D. Counts only where artist and title are merged."_s);
-    chkTheSubstitution_ = MakeCheckBox(u"chkTheSubstitution"_s,
-                                       u"Displa&y a leading \u201CThe\u201D behind the artist's name"_s,
-                                       u"So that artists are sorted by the word that matters"_s);
+    chkAlbumMerge_ =
+        MakeCheckBox(u"chkAlbumMerge"_s, u"Ta&ke Album into that column, too"_s,
+                     u"Shows \u201CArtist (Album): Title\u201D. Requires Artist and Title to be merged."_s);
+    chkTheSubstitution_ =
+        MakeCheckBox(u"chkTheSubstitution"_s, u"Displa&y a leading \u201CThe\u201D after the artist's name"_s,
+                     u"Lists \u201CThe Band\u201D as \u201CBand, The\u201D, sorted under B"_s);
     auto* layout = new QVBoxLayout;
     for (QCheckBox* box : {chkArtistTitleMerge_, chkAlbumMerge_, chkTheSubstitution_}) {
         connect(box, &QCheckBox::toggled, this, &ColumnsPage::Edited);

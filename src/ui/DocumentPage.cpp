@@ -21,7 +21,7 @@ constexpr int kXhtml = 1;
 DocumentPage::DocumentPage(ThemePanel* themes, QWidget* parent)
     : QFrame(parent), cmbDocumentType_(new QComboBox) {
     NameControl(*cmbDocumentType_, u"cmbDocumentType"_s, u"Document type"_s,
-                u"The kind of page that listings are written as"_s);
+                u"The document type of HTML listings"_s);
     cmbDocumentType_->addItems({u"HTML 4.01"_s, u"XHTML 1.0"_s});
     connect(cmbDocumentType_, &QComboBox::currentIndexChanged, this, &DocumentPage::Edited);
 

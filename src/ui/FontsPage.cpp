@@ -46,7 +46,7 @@ FontsPage::FontsPage(const Choosers& choosers, QWidget* parent)
                                 u"Write the fonts into the page's style sheet"_s)),
       chkFontsFontTags_(
           MakeCheckBox(u"chkFontsFontTags"_s, u"Use FONT ta&gs for fonts."_s,
-                       u"Write the fonts into the markup, for readers without style sheets"_s)) {
+                       u"Write the fonts into the markup, for browsers without style sheets"_s)) {
     auto* layout = new QVBoxLayout(this);
     for (std::size_t index = 0; index < kFontCount; ++index) {
         layout->addWidget(BuildRow(index));
@@ -63,10 +63,10 @@ QGroupBox* FontsPage::BuildRow(std::size_t index) {
     const QString title = FontTitle(index);
     Row& row = rows_.at(index);
     row.txtFontList = MakeTextField(ArrayName(u"txtFontList"_s, number), title + u": typefaces"_s,
-                                    u"Typefaces in order of preference, with commas between them"_s);
+                                    u"Typefaces in order of preference, separated by commas"_s);
     row.cmbFontSize = new QComboBox;
     NameControl(*row.cmbFontSize, ArrayName(u"cmbFontSize"_s, number), title + u": size"_s,
-                u"From 1, the smallest, to 7, the largest; 3 is the size of ordinary text"_s);
+                u"1 (smallest) to 7 (largest). 3 is the size of normal text."_s);
     for (int size = 1; size <= kSizes; ++size) {
         row.cmbFontSize->addItem(QString::number(size));
     }
@@ -76,7 +76,7 @@ QGroupBox* FontsPage::BuildRow(std::size_t index) {
         MakeCheckBox(ArrayName(u"chkItalic"_s, number), u"&Italic"_s, title + u" in italic type"_s);
     row.chkItalic->setAccessibleName(title + u": italic"_s);
     row.cmdSelectFont = MakeButton(ArrayName(u"cmdSelectFont"_s, number), u"&Select..."_s,
-                                   u"Select a font of this computer"_s);
+                                   u"Select a font installed on this computer"_s);
     row.cmdSelectFont->setAccessibleName(title + u": select font"_s);
 
     connect(row.txtFontList, &QLineEdit::textChanged, this, &FontsPage::Edited);

@@ -22,11 +22,10 @@ namespace {
 constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
 
 QString NoPreviewText(const RunTimeError& error) {
-    QString text =
-        u"<p>There is no preview: a listing could not be written with these choices (%1).</p>"_s.arg(
-            QString::fromLatin1(error.Description()));
+    QString text = u"<p>There is no preview: a listing cannot be written with this layout (%1).</p>"_s.arg(
+        QString::fromLatin1(error.Description()));
     if (error.Is(ErrorNumber::InvalidProcedureCall)) {
-        text += u"<p>Where Album is merged, it must not stand before both Artist and Title.</p>"_s;
+        text += u"<p>If Album is merged, it must not come before both Artist and Title.</p>"_s;
     }
     return text;
 }
@@ -38,7 +37,7 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
       browser_(new QTextBrowser) {
     setObjectName(u"PreviewPane"_s);
     NameControl(*browser_, u"txtPreview"_s, u"Preview of the listing"_s,
-                u"A few made-up tracks as they would be listed with what the editor shows now"_s);
+                u"Sample tracks, listed with the layout shown here"_s);
     // Without keyboard access to links, Tab skips them.
     browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     browser_->setTabChangesFocus(true);
@@ -92,7 +91,7 @@ void PreviewPane::ShowPage(const QString& page) {
     const RichTextPage richText = PrepareRichText(page);
     caption_->setText(
         richText.styleSheetIgnored
-            ? u"Preview: browsers pass over the style sheet of XHTML listings; FONT tags style them."_s
+            ? u"Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead."_s
             : u"Preview with sample tracks"_s);
     QPalette colours;
     const auto set = [&](QPalette::ColorRole role, const std::optional<QColor>& colour) {

@@ -25,16 +25,15 @@ constexpr int kPercent = 1;
 
 TablePage::TablePage(QWidget* parent)
     : QFrame(parent),
-      txtTableWidth_(new NumberBox(u"txtTableWidth"_s, u"Table width"_s, u"How wide the table is"_s)),
+      txtTableWidth_(new NumberBox(u"txtTableWidth"_s, u"Table width"_s, u"Width of the table"_s)),
       txtBorderSize_(new NumberBox(u"txtBorderSize"_s, u"Border size"_s,
                                    u"Width of the lines between the cells, in pixels"_s)),
       txtCellPadding_(new NumberBox(u"txtCellPadding"_s, u"Cell padding"_s,
-                                    u"Room between a cell's border and its text, in pixels"_s)),
+                                    u"Space between a cell's border and its text, in pixels"_s)),
       widthUnit_(new OptionGroup(this)) {
-    QRadioButton* pixels =
-        MakeOption(u"optWidthPixels"_s, u"Pi&xels"_s, u"The width is a number of pixels"_s);
+    QRadioButton* pixels = MakeOption(u"optWidthPixels"_s, u"Pi&xels"_s, u"Width in pixels"_s);
     QRadioButton* percent =
-        MakeOption(u"optWidthPercent"_s, u"Pe&r cent"_s, u"The width is a share of the page's width"_s);
+        MakeOption(u"optWidthPercent"_s, u"Pe&r cent"_s, u"Width as a percentage of the page's width"_s);
     widthUnit_->addButton(pixels, kPixels);
     widthUnit_->addButton(percent, kPercent);
 

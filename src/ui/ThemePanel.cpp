@@ -31,8 +31,9 @@ ThemePanel::ThemePanel(Application& application, WindowInterface& ui, const Choo
                        std::function<ThemeContent()> content, QWidget* parent)
     : QGroupBox(u"Themes"_s, parent), application_(application), ui_(ui), choosers_(choosers),
       content_(std::move(content)), lvwThemes_(new QListWidget),
-      cmdLoadTheme_(MakeButton(u"cmdLoadTheme"_s, u"Lo&ad theme"_s,
-                               u"Use the selected theme's fonts, colours and table settings at once"_s)),
+      cmdLoadTheme_(
+          MakeButton(u"cmdLoadTheme"_s, u"Lo&ad theme"_s,
+                     u"Apply the selected theme's fonts, colours and table settings immediately"_s)),
       cmdSaveTheme_(MakeButton(u"cmdSaveTheme"_s, u"&Save theme..."_s,
                                u"Save the fonts, colours and table settings shown here as a theme"_s)),
       cmdDeleteTheme_(

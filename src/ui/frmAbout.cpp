@@ -54,7 +54,7 @@ frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget*
     connect(cmdEmail, &QPushButton::clicked, this,
             [this, &application, &ui] { OpenAddress(u"mailto:"_s + ToQt(kEmail), application, ui, *this); });
     auto* cmdOK = new QPushButton(tr("&OK"));
-    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Closes the window"));
+    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Close the window"));
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 

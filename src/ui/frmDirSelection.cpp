@@ -35,7 +35,7 @@ frmDirSelection::frmDirSelection(Application& application, WindowInterface& ui, 
     setSizeGripEnabled(true);
     NameControl(*lblNumOfDirs_, u"lblNumOfDirs"_s, QString(), QString());
     BuildList();
-    auto* caption = MakeLabelFor(*lvwDirs_, tr("&Folders, in the order in which they are searched:"));
+    auto* caption = MakeLabelFor(*lvwDirs_, tr("&Folders, in search order:"));
     caption->setObjectName(u"Label1"_s);
 
     auto* top = new QHBoxLayout;
@@ -64,7 +64,7 @@ frmDirSelection::frmDirSelection(Application& application, WindowInterface& ui, 
 
 void frmDirSelection::BuildList() {
     NameControl(*lvwDirs_, u"lvwDirs"_s, tr("Folders"),
-                tr("The folders to search, first one first; folders can be dropped here"));
+                tr("The folders to search, in order. Folders can be dropped here."));
     lvwDirs_->setColumnCount(1);
     lvwDirs_->setHeaderHidden(true);
     lvwDirs_->setRootIsDecorated(false);
@@ -94,18 +94,18 @@ QPushButton* frmDirSelection::MakeButton(const char* name, const QString& captio
 }
 
 QWidget* frmDirSelection::BuildButtons() {
-    cmdAdd_ = MakeButton("cmdAdd", tr("&Add..."), tr("Appends a folder to the list"), &frmDirSelection::Add);
-    cmdRemove_ = MakeButton("cmdRemove", tr("&Remove"), tr("Takes the selected folder out of the list"),
+    cmdAdd_ = MakeButton("cmdAdd", tr("&Add..."), tr("Append a folder to the list"), &frmDirSelection::Add);
+    cmdRemove_ = MakeButton("cmdRemove", tr("&Remove"), tr("Remove the selected folder from the list"),
                             &frmDirSelection::Remove);
-    cmdClear_ = MakeButton("cmdClear", tr("&Clear"), tr("Takes every folder out of the list"),
-                           &frmDirSelection::Clear);
-    cmdTop_ = MakeButton("cmdTop", tr("&Top"), tr("Moves the selected folder to the first row"),
+    cmdClear_ =
+        MakeButton("cmdClear", tr("&Clear"), tr("Remove all folders from the list"), &frmDirSelection::Clear);
+    cmdTop_ = MakeButton("cmdTop", tr("&Top"), tr("Move the selected folder to the top"),
                          &frmDirSelection::MoveTop);
     cmdUp_ =
-        MakeButton("cmdUp", tr("&Up"), tr("Moves the selected folder one row up"), &frmDirSelection::MoveUp);
-    cmdDown_ = MakeButton("cmdDown", tr("&Down"), tr("Moves the selected folder one row down"),
+        MakeButton("cmdUp", tr("&Up"), tr("Move the selected folder one row up"), &frmDirSelection::MoveUp);
+    cmdDown_ = MakeButton("cmdDown", tr("&Down"), tr("Move the selected folder one row down"),
                           &frmDirSelection::MoveDown);
-    cmdBottom_ = MakeButton("cmdBottom", tr("&Bottom"), tr("Moves the selected folder to the last row"),
+    cmdBottom_ = MakeButton("cmdBottom", tr("&Bottom"), tr("Move the selected folder to the bottom"),
                             &frmDirSelection::MoveBottom);
 
     auto* panel = new QWidget;
@@ -123,10 +123,10 @@ QWidget* frmDirSelection::BuildButtons() {
 }
 
 QWidget* frmDirSelection::BuildBottomRow() {
-    auto* cmdHelp = MakeButton("cmdHelp", tr("&Help"), tr("Opens the help file"), &frmDirSelection::Help);
+    auto* cmdHelp = MakeButton("cmdHelp", tr("&Help"), tr("Open the help file"), &frmDirSelection::Help);
     PressOnHelpKey(*this, *cmdHelp);
     auto* cmdOK =
-        MakeButton("cmdOK", tr("&OK"), tr("Keeps the list and closes the window"), &frmDirSelection::Use);
+        MakeButton("cmdOK", tr("&OK"), tr("Use this list and close the window"), &frmDirSelection::Use);
     cmdOK->setDefault(true);
 
     auto* row = new QWidget;

@@ -78,10 +78,9 @@ void frmEditLayout::AddPage(QWidget* page, const QString& title) {
 QBoxLayout* frmEditLayout::BuildButtons() {
     cmdHelp_ = MakeButton(u"cmdHelp"_s, u"&Help"_s, u"Open the help file"_s);
     chkPreview_ =
-        MakeCheckBox(u"chkPreview"_s, u"Show pre&view"_s, u"Show what a listing would look like now"_s);
+        MakeCheckBox(u"chkPreview"_s, u"Show pre&view"_s, u"Show a sample listing with this layout"_s);
     cmdOK_ = MakeButton(u"cmdOK"_s, u"&OK"_s, u"Use this layout"_s);
-    cmdCancel_ =
-        MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Close without changing anything but a loaded theme"_s);
+    cmdCancel_ = MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Discard all changes except a loaded theme"_s);
     PressOnHelpKey(*this, *cmdHelp_);
     chkPreview_->setChecked(true);
     cmdOK_->setDefault(true);

@@ -87,19 +87,18 @@ frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs
 }
 
 void frmMain::BuildFields() {
-    txtInputDir_ =
-        MakeTextField(u"txtInputDir"_s, tr("Folder"),
-                      tr("The folder that is searched for MP3 files; a folder can be dropped here"));
+    txtInputDir_ = MakeTextField(u"txtInputDir"_s, tr("Folder"),
+                                 tr("The folder to search for MP3 files. Folders can be dropped here."));
     chkMultipleDirs_ = new QCheckBox(tr("Search &multiple folders"));
     NameControl(*chkMultipleDirs_, u"chkMultipleDirs"_s, tr("Search multiple folders"),
-                tr("Searches a list of folders instead of one"));
+                tr("Search a list of folders instead of one"));
     txtOutputFile_ =
-        MakeTextField(u"txtOutputFile"_s, tr("Output file"), tr("The file that the list is written to"));
+        MakeTextField(u"txtOutputFile"_s, tr("Output file"), tr("The file to write the list to"));
     txtWindowTitle_ =
-        new TitleField(u"txtWindowTitle"_s, tr("Window title"), tr("What the browser's window is called"));
+        new TitleField(u"txtWindowTitle"_s, tr("Window title"), tr("The title of the browser window"));
     txtPageTitle_ = new TitleField(u"txtPageTitle"_s, tr("Page title"), tr("The heading of each page"));
     txtPageFooter_ =
-        new TitleField(u"txtPageFooter"_s, tr("Page footer"), tr("What stands at the end of each page"));
+        new TitleField(u"txtPageFooter"_s, tr("Page footer"), tr("The text at the end of each page"));
 
     Settings& settings = application_.settings;
     connect(txtInputDir_, &QLineEdit::textChanged, this, [this](const QString& text) {
@@ -123,30 +122,30 @@ void frmMain::BuildFields() {
 void frmMain::BuildMenus() {
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->setObjectName(u"mnuFile"_s);
-    connect(AddItem(*file, "itmFileOpenSettings", tr("&Open Settings..."), tr("Loads a settings file"),
+    connect(AddItem(*file, "itmFileOpenSettings", tr("&Open Settings..."), tr("Load a settings file"),
                     QKeySequence::Open),
             &QAction::triggered, this, &frmMain::OpenSettings);
-    connect(AddItem(*file, "itmFileSaveSettings", tr("&Save Settings"), tr("Saves the settings"),
+    connect(AddItem(*file, "itmFileSaveSettings", tr("&Save Settings"), tr("Save the settings"),
                     QKeySequence::Save),
             &QAction::triggered, this, &frmMain::SaveSettings);
     connect(AddItem(*file, "itmFileSaveSettingsAs", tr("Save Settings &As..."),
-                    tr("Saves the settings under another name"),
+                    tr("Save the settings under another name"),
                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)),
             &QAction::triggered, this, &frmMain::SaveSettingsAs);
     file->addSeparator();
-    connect(AddItem(*file, "itmFileExit", tr("E&xit"), tr("Ends the program"),
+    connect(AddItem(*file, "itmFileExit", tr("E&xit"), tr("Quit the program"),
                     QKeySequence(Qt::CTRL | Qt::Key_Q)),
             &QAction::triggered, this, &QWidget::close);
 
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->setObjectName(u"mnuHelp"_s);
-    connect(AddItem(*help, "itmHelpTopics", tr("&Help Topics"), tr("Opens the help file"),
+    connect(AddItem(*help, "itmHelpTopics", tr("&Help Topics"), tr("Open the help file"),
                     QKeySequence::HelpContents),
             &QAction::triggered, this, &frmMain::ShowHelp);
-    connect(AddItem(*help, "itmTipOfTheDay", tr("&Tip of the Day..."), tr("Shows a tip")),
-            &QAction::triggered, this, &frmMain::ShowTipOfTheDay);
+    connect(AddItem(*help, "itmTipOfTheDay", tr("&Tip of the Day..."), tr("Show a tip")), &QAction::triggered,
+            this, &frmMain::ShowTipOfTheDay);
     help->addSeparator();
-    connect(AddItem(*help, "itmAbout", tr("&About Tunedex..."), tr("Shows version and statistics")),
+    connect(AddItem(*help, "itmAbout", tr("&About Tunedex..."), tr("Show version and statistics")),
             &QAction::triggered, this, &frmMain::ShowAbout);
 }
 
@@ -175,10 +174,10 @@ int frmMain::LabelWidth() const {
 
 QGroupBox* frmMain::BuildFolderGroup() {
     lblInputDir_ = MakeLabelFor(*txtInputDir_, tr("Fol&der:"));
-    cmdSelectDir_ = MakeButton("cmdSelectDir", tr("&Browse..."), tr("Browse for the folder"),
-                               tr("Lets you pick the folder from your disk"));
+    cmdSelectDir_ =
+        MakeButton("cmdSelectDir", tr("&Browse..."), tr("Browse for the folder"), tr("Choose the folder"));
     cmdSelectDirs_ = MakeButton("cmdSelectDirs", tr("Folder &List..."), tr("Folder list"),
-                                tr("Opens the list of the folders that are searched"));
+                                tr("Edit the list of folders to search"));
     lblFolderCount_ = new QLabel;
     NameControl(*lblFolderCount_, u"lblFolderCount"_s, QString(), QString());
     connect(cmdSelectDir_, &QPushButton::clicked, this, &frmMain::BrowseFolder);
@@ -206,9 +205,10 @@ QGroupBox* frmMain::BuildFolderGroup() {
 QGroupBox* frmMain::BuildOutputGroup() {
     cmdSelectOutputFile_ =
         MakeButton("cmdSelectOutputFile", tr("Bro&wse..."), tr("Browse for the output file"),
-                   tr("Lets you pick the folder and the name of the list"));
+                   tr("Choose the folder and name of the list"));
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
-    auto* hint = new QLabel(tr("A name in .htm gives a web page, .txt a plain text, .m3u a playlist."));
+    auto* hint =
+        new QLabel(tr("The extension sets the format: .htm web page, .txt plain text, .m3u playlist."));
     hint->setObjectName(u"lblOutputHint"_s);
 
     auto* group = new QGroupBox(tr("List"));
@@ -223,8 +223,7 @@ QGroupBox* frmMain::BuildOutputGroup() {
 }
 
 QGroupBox* frmMain::BuildTitleGroup() {
-    const QString description =
-        tr("Opens the menu of placeholders, which the list replaces by date, counts and sizes");
+    const QString description = tr("Insert a placeholder for the date, the time, a count or a size");
     cmdWindowTitlePlaceHolders_ = MakeButton("cmdWindowTitlePlaceHolders", tr("&Insert..."),
                                              tr("Placeholders for the window title"), description);
     cmdPageTitlePlaceHolders_ = MakeButton("cmdPageTitlePlaceHolders", tr("I&nsert..."),
@@ -250,11 +249,12 @@ QGroupBox* frmMain::BuildTitleGroup() {
 
 QWidget* frmMain::BuildCommandRow() {
     cmdOptions_ =
-        MakeButton("cmdOptions", tr("Option&s..."), tr("Options"), tr("What is listed, and how it looks"));
-    cmdAbout_ = MakeButton("cmdAbout", tr("&About..."), tr("About Tunedex"), tr("Version and statistics"));
-    cmdQuit_ = MakeButton("cmdQuit", tr("&Quit"), tr("Quit"), tr("Ends the program"));
+        MakeButton("cmdOptions", tr("Option&s..."), tr("Options"), tr("Contents and layout of the list"));
+    cmdAbout_ =
+        MakeButton("cmdAbout", tr("&About..."), tr("About Tunedex"), tr("Show version and statistics"));
+    cmdQuit_ = MakeButton("cmdQuit", tr("&Quit"), tr("Quit"), tr("Quit the program"));
     cmdCreateList_ = MakeButton("cmdCreateList", tr("&Create List"), tr("Create list"),
-                                tr("Searches the folders and writes the list"));
+                                tr("Search the folders and write the list"));
     cmdCreateList_->setDefault(true); // appearance only: Enter is handled by returnPressed()
     connect(cmdOptions_, &QPushButton::clicked, this, &frmMain::OptionsRequested);
     connect(cmdAbout_, &QPushButton::clicked, this, &frmMain::ShowAbout);

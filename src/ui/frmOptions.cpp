@@ -74,11 +74,11 @@ frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* p
 
 QGroupBox* frmOptions::BuildListGroup() {
     chkRecursive_ = MakeCheckBox(u"chkRecursive"_s, u"Search &subfolders"_s,
-                                 u"Look for MP3 files in the folders below the input folder, too"_s);
+                                 u"Also search the folders below the input folder"_s);
     chkSpan_ = MakeCheckBox(u"chkSpan"_s, u"Split HTML listings into &pages"_s,
-                            u"Write several page files that link to each other instead of one long page"_s);
+                            u"Write several linked pages instead of one long page"_s);
     txtFilesPerPage_ =
-        new NumberBox(u"txtFilesPerPage"_s, u"Files per page"_s, u"How many MP3 files each page lists"_s);
+        new NumberBox(u"txtFilesPerPage"_s, u"Files per page"_s, u"Number of MP3 files on each page"_s);
     connect(chkSpan_, &QCheckBox::toggled, this, &frmOptions::EnableSpanning);
 
     auto* group = new QGroupBox(u"Searching and pages"_s);
@@ -111,7 +111,7 @@ QGroupBox* frmOptions::BuildSortGroup() {
     group->setObjectName(u"fraSortOrder"_s);
     auto* layout = new QVBoxLayout;
     AddOptions(*sortOrder_, *layout,
-               {{u"optNoSort"_s, u"&No sorting"_s, u"List files in the order in which they are found"_s},
+               {{u"optNoSort"_s, u"&No sorting"_s, u"List files in the order they are found"_s},
                 {u"optAscSort"_s, u"&Ascending"_s, u"A to Z"_s},
                 {u"optDescSort"_s, u"&Descending"_s, u"Z to A"_s}});
     group->setLayout(layout);
@@ -120,12 +120,11 @@ QGroupBox* frmOptions::BuildSortGroup() {
 
 QGroupBox* frmOptions::BuildErrorGroup() {
     chkErrorBoxes_ = MakeCheckBox(u"chkErrorBoxes"_s, u"Show &errors in message boxes"_s,
-                                  u"Stop at each folder or file that cannot be read and say why"_s);
-    chkErrorLog_ =
-        MakeCheckBox(u"chkErrorLog"_s, u"&Write errors to a log file"_s,
-                     u"The file Tunedex.log in the program's folder holds the errors of the latest run"_s);
+                                  u"Show a message for each folder or file that cannot be read"_s);
+    chkErrorLog_ = MakeCheckBox(u"chkErrorLog"_s, u"&Write errors to a log file"_s,
+                                u"Write the errors of the latest run to Tunedex.log in the program folder"_s);
     chkConfirmQuit_ = MakeCheckBox(u"chkConfirmQuit"_s, u"Ask before &quitting"_s,
-                                   u"Ask whether you really want to quit"_s);
+                                   u"Ask for confirmation before quitting"_s);
 
     auto* group = new QGroupBox(u"Errors and questions"_s);
     auto* layout = new QVBoxLayout(group);
@@ -137,9 +136,9 @@ QGroupBox* frmOptions::BuildErrorGroup() {
 
 QGroupBox* frmOptions::BuildLinkGroup() {
     chkLinks_ = MakeCheckBox(u"chkLinks"_s, u"&Link each entry to its file"_s,
-                             u"Add a column whose links open the MP3 files"_s);
+                             u"Add a column with links to the MP3 files"_s);
     txtLinkPrefix_ = MakeTextField(u"txtLinkPrefix"_s, u"Link prefix"_s,
-                                   u"Stands in front of every link: file:/// or a web address, say"_s);
+                                   u"Text before every link, for example file:/// or a web address"_s);
     connect(chkLinks_, &QCheckBox::toggled, this, &frmOptions::EnableLinks);
 
     auto* group = new QGroupBox(u"Links in HTML listings"_s);
@@ -148,7 +147,7 @@ QGroupBox* frmOptions::BuildLinkGroup() {
     AddOptions(*linkType_, *options,
                {{u"optNormalLinks"_s, u"N&ormal"_s, u"The full path of the file"_s},
                 {u"optUNIXLinks"_s, u"UN&IX style"_s, u"A slash and the full path without colons"_s},
-                {u"optRelativeLinks"_s, u"&Relative"_s, u"The path below the input folder"_s}});
+                {u"optRelativeLinks"_s, u"&Relative"_s, u"The path relative to the input folder"_s}});
     options->addStretch();
     auto* prefix = new QHBoxLayout;
     prefix->addWidget(MakeLabelFor(*txtLinkPrefix_, u"Link prefi&x:"_s));
@@ -163,10 +162,9 @@ QGroupBox* frmOptions::BuildLinkGroup() {
 QLayout* frmOptions::BuildButtons() {
     cmdEditLayout_ =
         MakeButton(u"cmdEditLayout"_s, u"Edit la&yout..."_s,
-                   u"Columns, fonts, colours, table, document type and themes of HTML listings"_s);
-    cmdUse_ = MakeButton(u"cmdUse"_s, u"&Use"_s, u"Use these options until the program ends"_s);
-    cmdSave_ =
-        MakeButton(u"cmdSave"_s, u"Sa&ve"_s, u"Use these options and save all settings as the default"_s);
+                   u"Edit columns, fonts, colours, table, document type and themes of HTML listings"_s);
+    cmdUse_ = MakeButton(u"cmdUse"_s, u"&Use"_s, u"Apply until you quit"_s);
+    cmdSave_ = MakeButton(u"cmdSave"_s, u"Sa&ve"_s, u"Apply, and save all settings as the default"_s);
     cmdCancel_ = MakeButton(u"cmdCancel"_s, u"&Cancel"_s, u"Close without changing anything"_s);
     cmdUse_->setDefault(true);
     connect(cmdEditLayout_, &QPushButton::clicked, this, &frmOptions::EditLayout);

@@ -19,8 +19,9 @@ frmProgress::frmProgress(QWidget& mainWindow)
     setObjectName(u"frmProgress"_s);
     setWindowTitle(tr("Creating List"));
     NameControl(*lblStatus_, u"lblStatus"_s, QString(), QString());
-    NameControl(*progressBar_, u"ProgressBar"_s, tr("Progress"), tr("How much of the work is done"));
-    NameControl(*cmdAbort_, u"cmdAbort"_s, tr("Abort"), tr("Stops the run; what is written by then stays"));
+    NameControl(*progressBar_, u"ProgressBar"_s, tr("Progress"), tr("Progress of the run"));
+    NameControl(*cmdAbort_, u"cmdAbort"_s, tr("Abort"),
+                tr("Stop the run. Tracks already written stay in the list."));
     // Otherwise auto-repeat of the Enter key that started the run would abort it.
     cmdAbort_->setAutoDefault(false);
     connect(cmdAbort_, &QPushButton::clicked, this, &frmProgress::AbortPressed);

@@ -36,17 +36,16 @@ frmTip::frmTip(Application& application, WindowInterface& ui, QWidget* parent)
     setObjectName(u"frmTip"_s);
     setWindowTitle(tr("Tip of the Day"));
     NameControl(*chkLoadTipsAtStartup_, u"chkLoadTipsAtStartup"_s, tr("Show tips at start-up"),
-                tr("Whether a tip is shown each time the program starts"));
+                tr("Show a tip each time the program starts"));
 
     auto* cmdNextTip = new QPushButton(tr("&Next Tip"));
-    NameControl(*cmdNextTip, u"cmdNextTip"_s, tr("Next tip"), tr("Shows the tip that follows"));
+    NameControl(*cmdNextTip, u"cmdNextTip"_s, tr("Next tip"), tr("Show the next tip"));
     connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::DoNextTip);
     auto* cmdRandomTip = new QPushButton(tr("&Random Tip"));
-    NameControl(*cmdRandomTip, u"cmdRandomTip"_s, tr("Random tip"), tr("Shows any of the tips"));
+    NameControl(*cmdRandomTip, u"cmdRandomTip"_s, tr("Random tip"), tr("Show a random tip"));
     connect(cmdRandomTip, &QPushButton::clicked, this, &frmTip::DoRandomTip);
     auto* cmdOK = new QPushButton(tr("&OK"));
-    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"),
-                tr("Keeps the choice for the next start and closes the window"));
+    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Save the choice and close the window"));
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
