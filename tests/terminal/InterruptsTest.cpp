@@ -27,7 +27,7 @@ TEST(Interrupts, ASignalIsRemembered) {
     }
 }
 
-TEST(Interrupts, ASignalThatWasIgnoredStaysIgnoredEachForItself) {
+TEST(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
     for (const int ignored : kSignals) {
         test::InChild([&] {
             std::signal(ignored, SIG_IGN);
@@ -66,12 +66,12 @@ TEST(Interrupts, ASignalEndsAWaitForInput) {
     });
     ASSERT_EQ(write(ends[1], "x", 1), 1);
     EXPECT_TRUE(WaitForInput(ends[0]));
-    EXPECT_TRUE(WaitForInput(-1)) << "the read reports that there is no input";
+    EXPECT_TRUE(WaitForInput(-1)) << "the read reports the error";
     close(ends[0]);
     close(ends[1]);
 }
 
-// The readers of a run are threads that a signal may be delivered to while it waits for an answer.
+// The kernel may deliver a signal to a reader thread while the main thread waits for an answer.
 TEST(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
@@ -85,7 +85,7 @@ TEST(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
     close(ends[1]);
 }
 
-TEST(Interrupts, AfterASignalOutputIsReadyOrIsNot) {
+TEST(Interrupts, AfterASignalWaitForOutputReturnsAtOnce) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
     test::InChild([&] {

@@ -20,7 +20,7 @@
 namespace tunedex {
 namespace {
 
-// A front end between a file to read answers from and a pipe, or a terminal, that it writes to.
+// A front end that reads answers from a file and writes to a pipe or a pseudo-terminal.
 class TerminalFrontEndTest : public testing::Test {
   public:
     ~TerminalFrontEndTest() override {
@@ -71,7 +71,7 @@ TEST_F(TerminalFrontEndTest, PrintsTitleAndTextOfAMessageAndReadsTheAnswer) {
     EXPECT_EQ(Written(), "Title\nOne.\n\nTwo?\nYes or No? [No] ");
 }
 
-TEST_F(TerminalFrontEndTest, TakesTheButtonsNamesAndTheirBeginningsInAnyCase) {
+TEST_F(TerminalFrontEndTest, AcceptsButtonNamesAndTheirPrefixesInAnyCase) {
     struct Row {
         int buttons;
         const char* input;
@@ -98,8 +98,8 @@ TEST_F(TerminalFrontEndTest, TakesTheButtonsNamesAndTheirBeginningsInAnyCase) {
     input_ = read_ = write_ = -1;
 }
 
-TEST_F(TerminalFrontEndTest, GivesTheSafeAnswerWhereTheInputEnds) {
-    for (const char* input : {"", "y", "maybe\n"}) { // a line without its end is none
+TEST_F(TerminalFrontEndTest, GivesTheSafeAnswerAtTheEndOfInput) {
+    for (const char* input : {"", "y", "maybe\n"}) { // a line without a line end is no answer
         Input(input);
         OutputToPipe();
         TerminalFrontEnd frontEnd(fake_.application, input_, write_);
@@ -128,17 +128,17 @@ TEST_F(TerminalFrontEndTest, AsksAgainAfterAnAnswerThatIsTooLong) {
     OutputToPipe();
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
     EXPECT_EQ(frontEnd.ShowMessage("1", kOkExclamation, "t"), kAnswerOk);
-    EXPECT_EQ(Written(), "t\n1\n[OK] ") << "of that length it is still an answer";
+    EXPECT_EQ(Written(), "t\n1\n[OK] ") << "the longest valid answer";
     EXPECT_EQ(frontEnd.ShowMessage("2", kOkExclamation, "t"), kAnswerOk);
     EXPECT_EQ(Written(), "t\n2\n[OK] [OK] ");
     EXPECT_EQ(frontEnd.ShowMessage("3", kYesNoExclamation, "t"), kAnswerYes);
     EXPECT_EQ(Written(), "t\n3\nYes or No? [No] Yes or No? [No] ");
     std::string rest(16, '\0');
     rest.resize(static_cast<std::size_t>(std::max<ssize_t>(read(input_, rest.data(), rest.size()), 0)));
-    EXPECT_EQ(rest, "next\n") << "what is behind the answer is not consumed";
+    EXPECT_EQ(rest, "next\n") << "input after the answer is not consumed";
 }
 
-TEST_F(TerminalFrontEndTest, TakesAnInputThatNeverAnswersForOneThatHasEnded) {
+TEST_F(TerminalFrontEndTest, TreatsInputWithoutAnAnswerAsEnded) {
     std::string wrong;
     while (wrong.size() < AnswerInput::kMostPerQuestion) {
         wrong += "maybe\n";
@@ -159,7 +159,7 @@ TEST_F(TerminalFrontEndTest, TakesAnInputThatNeverAnswersForOneThatHasEnded) {
     input_ = -1;
 }
 
-TEST_F(TerminalFrontEndTest, WritesEachPhaseOnALineOfItsOwnAndItsLastState) {
+TEST_F(TerminalFrontEndTest, WritesEachPhaseAndItsLastStateOnSeparateLines) {
     OutputToPipe();
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
     RunMonitor& monitor = frontEnd.ShowProgress();
@@ -224,7 +224,7 @@ TEST_F(TerminalFrontEndTest, CutsTheStatusToTheTerminalsWidth) {
     EXPECT_EQ(Written(), "\rSearching\x1b[K");
 }
 
-TEST_F(TerminalFrontEndTest, LetsNoNameSteerTheTerminal) {
+TEST_F(TerminalFrontEndTest, ReplacesControlCharactersOnATerminal) {
     Input("");
     OutputToTerminal(80);
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
@@ -232,7 +232,7 @@ TEST_F(TerminalFrontEndTest, LetsNoNameSteerTheTerminal) {
     EXPECT_EQ(Written(), "t?\r\na?[2J??b? é\r\n[OK] \r\n");
 }
 
-TEST_F(TerminalFrontEndTest, BeginsALineOfATerminalOnlyWhereTheMessageDoes) {
+TEST_F(TerminalFrontEndTest, StartsATerminalLineOnlyAtCrLf) {
     Input("");
     OutputToTerminal(80);
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
@@ -240,7 +240,7 @@ TEST_F(TerminalFrontEndTest, BeginsALineOfATerminalOnlyWhereTheMessageDoes) {
     EXPECT_EQ(Written(), "t??u\r\nOne?line?for?all\r\n\r\nTwo\r\n[OK] \r\n");
 }
 
-TEST_F(TerminalFrontEndTest, KeepsTheLineBreaksOfNamesOutOfATerminal) {
+TEST_F(TerminalFrontEndTest, ReplacesLineBreaksInNamesOnATerminal) {
     const std::string name = "a\r\nb\nc\\nd\u2029e\u202Ef";
     const RunTimeError error(ErrorNumber::PathFileAccess);
     fake_.application.settings.ErrorWarnings = true;
@@ -269,16 +269,16 @@ TEST_F(TerminalFrontEndTest, KeepsTheLineBreaksOfNamesOutOfATerminal) {
     input_ = read_ = write_ = -1;
 }
 
-TEST_F(TerminalFrontEndTest, CutsNoCharacterOfAStatusInTwo) {
+TEST_F(TerminalFrontEndTest, CutsAStatusOnlyBetweenCharacters) {
     OutputToTerminal(8);
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
     frontEnd.ShowProgress().SetStatus("abcdeéèê");
     EXPECT_EQ(Written(), "\rabcdeé\x1b[K");
-    frontEnd.SetStatus("abcdefé"); // the second byte of the last character has no room
+    frontEnd.SetStatus("abcdefé"); // the second byte of "é" does not fit
     EXPECT_EQ(Written(), "\r\n\rabcdef\x1b[K");
 }
 
-TEST_F(TerminalFrontEndTest, KeepsNamesAsTheyAreInAPipe) {
+TEST_F(TerminalFrontEndTest, WritesNamesUnchangedToAPipe) {
     Input("");
     OutputToPipe();
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
@@ -286,7 +286,7 @@ TEST_F(TerminalFrontEndTest, KeepsNamesAsTheyAreInAPipe) {
     EXPECT_EQ(Written(), "t\na\tb \xFF\n[OK] \n");
 }
 
-TEST_F(TerminalFrontEndTest, GivesBackTheFieldsAndTakesThemIntoTheSettings) {
+TEST_F(TerminalFrontEndTest, ReturnsTheFieldsAndStoresThemInTheSettings) {
     TerminalFrontEnd frontEnd(fake_.application, input_, write_);
     MainFields fields;
     fields.multipleFolders = true;
@@ -313,7 +313,7 @@ TEST_F(TerminalFrontEndTest, GivesBackTheFieldsAndTakesThemIntoTheSettings) {
     EXPECT_EQ(settings, expected);
 }
 
-TEST_F(TerminalFrontEndTest, SurvivesAReaderThatGoesAway) {
+TEST_F(TerminalFrontEndTest, SurvivesAReaderThatCloses) {
     OutputToPipe();
     close(read_);
     read_ = -1;
@@ -325,7 +325,7 @@ TEST_F(TerminalFrontEndTest, SurvivesAReaderThatGoesAway) {
     });
 }
 
-TEST_F(TerminalFrontEndTest, TakesASignalForTheAbortButton) {
+TEST_F(TerminalFrontEndTest, TreatsASignalAsAbort) {
     OutputToPipe();
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         test::InChild([&] {
@@ -336,7 +336,7 @@ TEST_F(TerminalFrontEndTest, TakesASignalForTheAbortButton) {
             std::raise(signal);
             EXPECT_TRUE(frontEnd.AbortRequested());
             EXPECT_TRUE(fake_.application.abortRequested);
-            // A question asked from then on is answered as at the input's end.
+            // Later questions are answered as at the end of the input.
             Input("y\n");
             TerminalFrontEnd asking(fake_.application, input_, write_);
             EXPECT_EQ(asking.ShowMessage("?", kYesNoExclamation, "t"), kAnswerNo);

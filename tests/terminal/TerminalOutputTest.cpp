@@ -18,7 +18,7 @@
 namespace tunedex {
 namespace {
 
-using OutputEnds = std::array<int, 2>; // to read from and to write to
+using OutputEnds = std::array<int, 2>; // read end, write end
 
 OutputEnds OpenPipe() {
     OutputEnds ends{};
@@ -56,8 +56,8 @@ class TerminalOutputTest : public testing::TestWithParam<Kind> {
     const OutputEnds ends_ = GetParam().open();
 };
 
-TEST_P(TerminalOutputTest, WaitsForAReaderAndLosesNothing) {
-    const std::string text(300'000, 'x'); // more than any of them holds
+TEST_P(TerminalOutputTest, WaitsForAReaderAndWritesEverything) {
+    const std::string text(300'000, 'x'); // exceeds every kernel buffer
     std::string got;
     std::thread reader([&] {
         std::array<char, 1000> piece{};
@@ -72,28 +72,28 @@ TEST_P(TerminalOutputTest, WaitsForAReaderAndLosesNothing) {
     EXPECT_EQ(got, text);
 }
 
-TEST_P(TerminalOutputTest, DropsWhatNobodyReadsOnceASignalHasArrived) {
+TEST_P(TerminalOutputTest, DropsUnreadOutputAfterASignal) {
     test::InChild([&] {
         CatchInterrupts();
         std::raise(SIGTERM);
         const TerminalOutput output(ends_[1]);
         output.Write("said");
-        output.Write(std::string(1'000'000, 'x')); // returns at all
+        output.Write(std::string(1'000'000, 'x')); // must not block
         std::array<char, 4> start{};
         EXPECT_EQ(read(ends_[0], start.data(), start.size()), 4);
-        EXPECT_EQ(std::string(start.data(), start.size()), "said") << "what can be written is";
+        EXPECT_EQ(std::string(start.data(), start.size()), "said") << "writes what does not block";
     });
 }
 
-// The file description of standard error belongs to the shell, too.
-TEST_P(TerminalOutputTest, LeavesTheDescriptorsModeAlone) {
+// The file description of standard error is shared with the shell.
+TEST_P(TerminalOutputTest, LeavesTheFileStatusFlagsUnchanged) {
     const int before = fcntl(ends_[1], F_GETFL);
     {
         const TerminalOutput output(ends_[1]);
         output.Write("x");
         EXPECT_EQ(fcntl(ends_[1], F_GETFL), before);
     }
-    EXPECT_EQ(fcntl(ends_[1], F_GETFL), before) << "and it is still open";
+    EXPECT_EQ(fcntl(ends_[1], F_GETFL), before) << "and the descriptor is open";
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, TerminalOutputTest,
@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, TerminalOutputTest,
                                          Kind{"Terminal", OpenTerminal}),
                          [](const auto& info) { return info.param.name; });
 
-TEST(TerminalOutput, KnowsATerminalFromAPipe) {
+TEST(TerminalOutput, DistinguishesATerminalFromAPipe) {
     const OutputEnds terminal = OpenTerminal();
     const OutputEnds pipe = OpenPipe();
     EXPECT_TRUE(TerminalOutput(terminal[1]).IsTerminal());

@@ -1,4 +1,4 @@
-// Every window as assistive technology, the keyboard and a small or magnified screen find it.
+// Accessibility of every window: names and roles, keyboard, small and magnified screens.
 #include "WindowTest.h"
 #include "frmAbout.h"
 #include "frmDirSelection.h"
@@ -52,7 +52,7 @@ bool IsInteractive(QAccessible::Role role) {
     }
 }
 
-// Calls back for every object of the accessible tree below `object`.
+// Calls `visit` for every object of the accessible tree, in preorder.
 void Walk(QAccessibleInterface& object, const std::function<void(QAccessibleInterface&)>& visit) {
     visit(object);
     for (int i = 0; i < object.childCount(); ++i) {
@@ -66,7 +66,7 @@ QString NameOf(const QObject& object) {
     return QString::fromLatin1(object.metaObject()->className()) + u' ' + object.objectName();
 }
 
-// The windows by name, each with content and with everything enabled that can be.
+// All windows, filled and with every control enabled where possible.
 struct AllWindows : Desk {
     AllWindows() {
         TheSettings().SetDefaults();
@@ -102,7 +102,7 @@ struct AllWindows : Desk {
         return window;
     }
 
-    QWidget ground; // what the progress window disables
+    QWidget ground; // parent of the progress window, which disables it
     std::unique_ptr<frmDirSelection> folders;
     std::unique_ptr<frmTip> tip;
     std::unique_ptr<frmAbout> about;
@@ -118,7 +118,7 @@ void AddWindowRows() {
     }
 }
 
-// The key after the last single "&", in upper case; no value without one.
+// The character after the first single "&", in upper case; null if there is none.
 QChar MnemonicOf(const QString& text) {
     for (qsizetype i = 0; i + 1 < text.size(); ++i) {
         if (text[i] == u'&') {
@@ -131,7 +131,7 @@ QChar MnemonicOf(const QString& text) {
     return {};
 }
 
-// Every text of the window that should carry a mnemonic.
+// The captions in the window that need a mnemonic.
 QStringList TextsWithMnemonics(QWidget& window) {
     QStringList texts;
     for (const auto* button : window.findChildren<QAbstractButton*>()) {
@@ -150,7 +150,7 @@ QStringList TextsWithMnemonics(QWidget& window) {
     return texts;
 }
 
-// What is too small for its text or sticks out of its parent; empty when all is well.
+// The widgets that clip their text or extend beyond their parent; empty if there are none.
 QString Clipped(const QWidget& window) {
     for (const auto* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisible() || widget->isWindow() || widget->objectName().startsWith(u"qt_"_s)) {
@@ -207,7 +207,7 @@ class AccessibilityTest : public QObject {
                 seen.insert(where);
             }
         });
-        // Whatever takes the focus is one of those.
+        // Every focusable widget must be interactive.
         for (const auto* widget : window.findChildren<QWidget*>()) {
             if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isWindow() &&
                 widget->objectName() != u"TipPanel"_s) {
@@ -232,7 +232,7 @@ class AccessibilityTest : public QObject {
         }
     }
 
-    void TabReachesEveryEnabledControlAndComesBack_data() {
+    void TabReachesEveryEnabledControlAndWraps_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("several");
         for (const QString& name : kWindows) {
@@ -240,7 +240,7 @@ class AccessibilityTest : public QObject {
         }
         QTest::newRow("frmMain with a folder list") << u"frmMain"_s << true;
     }
-    void TabReachesEveryEnabledControlAndComesBack() {
+    void TabReachesEveryEnabledControlAndWraps() {
         QFETCH(QString, name);
         QFETCH(bool, several);
         AllWindows windows;
@@ -300,14 +300,14 @@ class AccessibilityTest : public QObject {
         QCOMPARE(order, expected);
     }
 
-    void EveryTextHasAMnemonicOfItsOwn_data() { AddWindowRows(); }
-    void EveryTextHasAMnemonicOfItsOwn() {
+    void EveryCaptionHasAUniqueMnemonic_data() { AddWindowRows(); }
+    void EveryCaptionHasAUniqueMnemonic() {
         QFETCH(QString, name);
         AllWindows windows;
         std::map<QChar, QString> taken;
         for (const QString& text : TextsWithMnemonics(windows.Window(name))) {
             if (text.isEmpty()) {
-                continue; // a button of Qt's own, in a menu bar or a field
+                continue; // Qt's internal buttons in menu bars and line edits
             }
             const QChar key = MnemonicOf(text);
             QVERIFY2(!key.isNull(), qPrintable(text));
@@ -316,7 +316,7 @@ class AccessibilityTest : public QObject {
         }
     }
 
-    void EveryMenuItemHasAMnemonicOfItsOwn() {
+    void EveryMenuItemHasAUniqueMnemonic() {
         Desk desk;
         for (const char* name : {"mnuFile", "mnuHelp"}) {
             std::set<QChar> taken;
@@ -360,7 +360,7 @@ class AccessibilityTest : public QObject {
         QCOMPARE(Clipped(window), QString());
     }
 
-    void NothingIsClippedInAFolderListOfManyFolders() {
+    void NothingIsClippedWithManyFolders() {
         AllWindows windows;
         windows.TheSettings().Directory = "%MULT%";
         for (int i = 0; i < 1200; ++i) {
@@ -376,7 +376,7 @@ class AccessibilityTest : public QObject {
         QCOMPARE(Clipped(window), QString());
     }
 
-    void TextsStandOutInDarkColoursToo() {
+    void TextsContrastWithDarkBackgrounds() {
         QPalette dark(QColor(0x32, 0x32, 0x36), QColor(0x2b, 0x2b, 0x2f));
         dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x21));
         QApplication::setPalette(dark);

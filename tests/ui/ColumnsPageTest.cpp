@@ -18,28 +18,28 @@ class ColumnsPageTest : public QObject {
     void CommandsMoveColumns_data();
     void CommandsMoveColumns();
     void WithoutASelectionMovesChangeNothing();
-    void CommandsAreEnabledWhereTheyCanAct_data();
-    void CommandsAreEnabledWhereTheyCanAct();
+    void CommandsAreEnabledOnlyIfTheyHaveAnEffect_data();
+    void CommandsAreEnabledOnlyIfTheyHaveAnEffect();
     void DoubleClicksMoveAColumnToTheOtherList();
     void AltWithAnArrowReordersTheShownColumns();
-    void TheFocusStaysWithTheListWhenACommandHasNothingLeftToDo();
-    void DroppedColumnsLandWhereTheyAreDropped_data();
-    void DroppedColumnsLandWhereTheyAreDropped();
+    void ADisabledCommandPassesTheFocusToItsList();
+    void DroppedColumnsAreInsertedAtTheDropPosition_data();
+    void DroppedColumnsAreInsertedAtTheDropPosition();
     void DraggingAColumnOverAListAndDroppingItMovesIt();
-    void ColumnsOfOtherWindowsAndOtherDataAreNotTaken();
+    void ColumnsOfOtherWindowsAndOtherDataAreRejected();
     void HidingEveryColumnStoresAnEmptyText();
-    void MergeFollowsTheTwoBoxes_data();
-    void MergeFollowsTheTwoBoxes();
+    void MergeFollowsBothCheckBoxes_data();
+    void MergeFollowsBothCheckBoxes();
     void MergeBoxesShowTheSetting_data();
     void MergeBoxesShowTheSetting();
-    void MergeBoxesAreEnabledWhereArtistAndTitleAreShownAndKeepTheirValues();
+    void MergeBoxesRequireArtistAndTitleAndKeepTheirValues();
 };
 
 namespace {
 
 const TestClass<ColumnsPageTest> kColumnsPageTestRegistered("ColumnsPageTest");
 
-// An editor with these columns.
+// A layout editor with the given columns.
 class Columns : public LayoutFixture {
   public:
     Columns(const QString& active, const QString& inactive) {
@@ -52,7 +52,7 @@ class Columns : public LayoutFixture {
     ColumnList& Inactive() const { return Find<ColumnList>(*editor, u"lstInactiveColumns"_s); }
     ColumnList& List(const QString& name) const { return Find<ColumnList>(*editor, name); }
 
-    // What the lists show, which is also what OK stores: "A|B C".
+    // The columns shown, which must be those that OK stores, as "A|B C".
     QString Shown() const {
         Settings stored;
         editor->StoreControls(stored);
@@ -77,7 +77,7 @@ QPoint PlaceAbove(const ColumnList& list, int row) {
     return list.visualItemRect(list.item(row)).center() - QPoint(0, 3);
 }
 
-// Whether the list took what was dragged to a place in it and dropped there.
+// Drags the data to a position in the list and drops it. Returns whether the list accepted it.
 bool DragTo(ColumnList& list, QPoint place, const QMimeData& data) {
     QDragEnterEvent enter(place, Qt::MoveAction, &data, Qt::LeftButton, {});
     enter.ignore();
@@ -115,24 +115,24 @@ void ColumnsPageTest::CommandsMoveColumns_data() {
     QTest::addColumn<int>("row");
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("after"); // of A|B|C and D|E|F
-    QTest::addColumn<int>("selected");  // in the same list; -1 none
+    QTest::addColumn<int>("selected");  // row in the same list; -1 for none
     const QString active = u"lstActiveColumns"_s;
     const QString inactive = u"lstInactiveColumns"_s;
     QTest::newRow("hide the first") << active << 0 << u"cmdInactive"_s << u"B|C D|E|F|A"_s << 0;
-    QTest::newRow("hide the middle one") << active << 1 << u"cmdInactive"_s << u"A|C D|E|F|B"_s << 1;
+    QTest::newRow("hide the middle column") << active << 1 << u"cmdInactive"_s << u"A|C D|E|F|B"_s << 1;
     QTest::newRow("hide the last") << active << 2 << u"cmdInactive"_s << u"A|B D|E|F|C"_s << 1;
     QTest::newRow("show the first") << inactive << 0 << u"cmdActive"_s << u"A|B|C|D E|F"_s << 0;
     QTest::newRow("show the last") << inactive << 2 << u"cmdActive"_s << u"A|B|C|F D|E"_s << 1;
     QTest::newRow("show all") << inactive << 0 << u"cmdAllActive"_s << u"A|B|C|D|E|F "_s << -1;
     QTest::newRow("hide all") << active << 0 << u"cmdAllInactive"_s << u" D|E|F|A|B|C"_s << -1;
     QTest::newRow("top") << active << 2 << u"cmdTop"_s << u"C|A|B D|E|F"_s << 0;
-    QTest::newRow("top of the middle one") << active << 1 << u"cmdTop"_s << u"B|A|C D|E|F"_s << 0;
+    QTest::newRow("middle column to the top") << active << 1 << u"cmdTop"_s << u"B|A|C D|E|F"_s << 0;
     QTest::newRow("up") << active << 2 << u"cmdUp"_s << u"A|C|B D|E|F"_s << 1;
     QTest::newRow("down") << active << 0 << u"cmdDown"_s << u"B|A|C D|E|F"_s << 1;
     QTest::newRow("bottom") << active << 0 << u"cmdBottom"_s << u"B|C|A D|E|F"_s << 2;
-    QTest::newRow("bottom of the middle one") << active << 1 << u"cmdBottom"_s << u"A|C|B D|E|F"_s << 2;
-    QTest::newRow("up where it is first") << active << 0 << u"cmdUp"_s << u"A|B|C D|E|F"_s << 0;
-    QTest::newRow("down where it is last") << active << 2 << u"cmdDown"_s << u"A|B|C D|E|F"_s << 2;
+    QTest::newRow("middle column to the bottom") << active << 1 << u"cmdBottom"_s << u"A|C|B D|E|F"_s << 2;
+    QTest::newRow("up from the first row") << active << 0 << u"cmdUp"_s << u"A|B|C D|E|F"_s << 0;
+    QTest::newRow("down from the last row") << active << 2 << u"cmdDown"_s << u"A|B|C D|E|F"_s << 2;
 }
 
 void ColumnsPageTest::CommandsMoveColumns() {
@@ -151,19 +151,19 @@ void ColumnsPageTest::CommandsMoveColumns() {
 void ColumnsPageTest::WithoutASelectionMovesChangeNothing() {
     const Columns with(u"A|B|C"_s, u"D|E|F"_s);
     Show(*with.editor);
-    with.Active().setFocus(); // gives the list a current row, which is not a selection
+    with.Active().setFocus(); // sets a current row but selects nothing
     with.Inactive().setFocus();
     QCOMPARE(with.Active().SelectedRow(), -1);
     for (const QString& name :
          {u"cmdActive"_s, u"cmdInactive"_s, u"cmdTop"_s, u"cmdUp"_s, u"cmdDown"_s, u"cmdBottom"_s}) {
         QAbstractButton& command = Button(*with.editor, name);
         QVERIFY2(!command.isEnabled(), qPrintable(name));
-        emit command.clicked(); // even if it could be pressed
+        emit command.clicked(); // bypasses the disabled state
         QCOMPARE(with.Shown(), u"A|B|C D|E|F"_s);
     }
 }
 
-void ColumnsPageTest::CommandsAreEnabledWhereTheyCanAct_data() {
+void ColumnsPageTest::CommandsAreEnabledOnlyIfTheyHaveAnEffect_data() {
     QTest::addColumn<QString>("active");
     QTest::addColumn<int>("activeRow");
     QTest::addColumn<QString>("inactive");
@@ -174,14 +174,15 @@ void ColumnsPageTest::CommandsAreEnabledWhereTheyCanAct_data() {
         << u"A|B"_s << 0 << u"C"_s << -1 << u"cmdInactive cmdAllActive cmdAllInactive cmdDown cmdBottom"_s;
     QTest::newRow("last shown selected")
         << u"A|B"_s << 1 << u"C"_s << -1 << u"cmdInactive cmdAllActive cmdAllInactive cmdTop cmdUp"_s;
-    QTest::newRow("middle one selected")
+    QTest::newRow("middle column selected")
         << u"A|B|C"_s << 1 << u""_s << -1 << u"cmdInactive cmdAllInactive cmdTop cmdUp cmdDown cmdBottom"_s;
-    QTest::newRow("the only one selected") << u"A"_s << 0 << u""_s << -1 << u"cmdInactive cmdAllInactive"_s;
-    QTest::newRow("a hidden one selected") << u""_s << -1 << u"A|B"_s << 1 << u"cmdActive cmdAllActive"_s;
+    QTest::newRow("the only column selected")
+        << u"A"_s << 0 << u""_s << -1 << u"cmdInactive cmdAllInactive"_s;
+    QTest::newRow("hidden column selected") << u""_s << -1 << u"A|B"_s << 1 << u"cmdActive cmdAllActive"_s;
     QTest::newRow("no columns") << u""_s << -1 << u""_s << -1 << u""_s;
 }
 
-void ColumnsPageTest::CommandsAreEnabledWhereTheyCanAct() {
+void ColumnsPageTest::CommandsAreEnabledOnlyIfTheyHaveAnEffect() {
     QFETCH(QString, active);
     QFETCH(int, activeRow);
     QFETCH(QString, inactive);
@@ -229,7 +230,7 @@ void ColumnsPageTest::AltWithAnArrowReordersTheShownColumns() {
     QCOMPARE(with.Active().SelectedRow(), 1);
 }
 
-void ColumnsPageTest::TheFocusStaysWithTheListWhenACommandHasNothingLeftToDo() {
+void ColumnsPageTest::ADisabledCommandPassesTheFocusToItsList() {
     const Columns with(u"A|B|C"_s, u"D"_s);
     Show(*with.editor);
     with.Active().SelectRow(2);
@@ -242,7 +243,7 @@ void ColumnsPageTest::TheFocusStaysWithTheListWhenACommandHasNothingLeftToDo() {
     QVERIFY(with.Active().hasFocus());
 }
 
-void ColumnsPageTest::DroppedColumnsLandWhereTheyAreDropped_data() {
+void ColumnsPageTest::DroppedColumnsAreInsertedAtTheDropPosition_data() {
     QTest::addColumn<QString>("source");
     QTest::addColumn<int>("sourceRow");
     QTest::addColumn<QString>("target");
@@ -255,14 +256,14 @@ void ColumnsPageTest::DroppedColumnsLandWhereTheyAreDropped_data() {
     QTest::newRow("to its end") << active << 0 << active << 3 << u"B|C|A D|E"_s << 2;
     QTest::newRow("up in one list") << active << 2 << active << 0 << u"C|A|B D|E"_s << 0;
     QTest::newRow("onto itself") << active << 1 << active << 1 << u"A|B|C D|E"_s << 1;
-    QTest::newRow("behind itself") << active << 1 << active << 2 << u"A|B|C D|E"_s << 1;
+    QTest::newRow("after itself") << active << 1 << active << 2 << u"A|B|C D|E"_s << 1;
     QTest::newRow("shown between others") << inactive << 1 << active << 1 << u"A|E|B|C D"_s << 1;
     QTest::newRow("hidden at the end") << active << 0 << inactive << 2 << u"B|C D|E|A"_s << 2;
     QTest::newRow("hidden columns have an order too")
         << inactive << 0 << inactive << 2 << u"A|B|C E|D"_s << 1;
 }
 
-void ColumnsPageTest::DroppedColumnsLandWhereTheyAreDropped() {
+void ColumnsPageTest::DroppedColumnsAreInsertedAtTheDropPosition() {
     QFETCH(QString, source);
     QFETCH(int, sourceRow);
     QFETCH(QString, target);
@@ -285,7 +286,7 @@ void ColumnsPageTest::DraggingAColumnOverAListAndDroppingItMovesIt() {
     QCOMPARE(with.Shown(), u"E|B|C|A D"_s);
 }
 
-void ColumnsPageTest::ColumnsOfOtherWindowsAndOtherDataAreNotTaken() {
+void ColumnsPageTest::ColumnsOfOtherWindowsAndOtherDataAreRejected() {
     const Columns with(u"A|B|C"_s, u"D|E"_s);
     const Columns other(u"A|B|C"_s, u"D|E"_s);
     Show(*with.editor);
@@ -294,7 +295,7 @@ void ColumnsPageTest::ColumnsOfOtherWindowsAndOtherDataAreNotTaken() {
     QMimeData text;
     text.setText(u"Genre"_s);
     QVERIFY(!DragTo(with.Active(), place, text));
-    // The format of every list of Qt's.
+    // The MIME type of all Qt item views.
     const std::unique_ptr<QMimeData> copy = with.Inactive().DragData(0);
     QMimeData foreign;
     foreign.setData(copy->formats().front(), copy->data(copy->formats().front()));
@@ -311,17 +312,17 @@ void ColumnsPageTest::HidingEveryColumnStoresAnEmptyText() {
     QCOMPARE(with.settings.InactiveColumns, std::string("C|A|B"));
 }
 
-void ColumnsPageTest::MergeFollowsTheTwoBoxes_data() {
+void ColumnsPageTest::MergeFollowsBothCheckBoxes_data() {
     QTest::addColumn<bool>("artistTitle");
     QTest::addColumn<bool>("album");
     QTest::addColumn<int>("merge");
     QTest::newRow("neither") << false << false << 0;
-    QTest::newRow("the album alone") << false << true << 0;
+    QTest::newRow("album only") << false << true << 0;
     QTest::newRow("artist and title") << true << false << 1;
     QTest::newRow("both") << true << true << 2;
 }
 
-void ColumnsPageTest::MergeFollowsTheTwoBoxes() {
+void ColumnsPageTest::MergeFollowsBothCheckBoxes() {
     QFETCH(bool, artistTitle);
     QFETCH(bool, album);
     QFETCH(int, merge);
@@ -357,7 +358,7 @@ void ColumnsPageTest::MergeBoxesShowTheSetting() {
     QCOMPARE(IsChecked(editor, u"chkAlbumMerge"_s), album);
 }
 
-void ColumnsPageTest::MergeBoxesAreEnabledWhereArtistAndTitleAreShownAndKeepTheirValues() {
+void ColumnsPageTest::MergeBoxesRequireArtistAndTitleAndKeepTheirValues() {
     Columns with(u"Number|Artist|Title"_s, u"Album"_s);
     const auto enabled = [&] {
         return IsEnabled(*with.editor, u"chkArtistTitleMerge"_s) &&

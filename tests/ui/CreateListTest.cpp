@@ -1,5 +1,4 @@
-// Runs of the list job as the windows show them: what is said, and what focus, selection and windows are left
-// as.
+// Runs of the list job in the windows: messages, and focus, selection and windows afterwards.
 #include "Mp3Builder.h"
 #include "WindowTest.h"
 #include "frmProgress.h"
@@ -16,7 +15,7 @@ using namespace tunedex::test;
 
 namespace {
 
-// A desk with settings as a first start has them, a folder "music" and an output file "list.htm".
+// A desk with default settings, the input folder "music" and the output file "list.htm".
 struct RunDesk : Desk {
     RunDesk() {
         TheSettings().SetDefaults();
@@ -43,7 +42,7 @@ struct RunDesk : Desk {
         const auto& field = Find<QLineEdit>(Main(), name);
         return field.hasFocus() && field.selectionStart() == 0 && field.selectedText() == field.text();
     }
-    // Exactly one message, with this text, these buttons and this title.
+    // Expects exactly one message, with this text, these buttons and this title.
     bool Said(const std::string& text, int buttons, const std::string& title) {
         if (dialogs.messages.size() != 1) {
             qWarning("%zu messages", dialogs.messages.size());
@@ -75,7 +74,7 @@ class CreateListTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void AListIsWrittenInTheFormOfItsExtension_data() {
+    void TheExtensionSetsTheFormat_data() {
         QTest::addColumn<QByteArray>("output");
         QTest::addColumn<QByteArray>("written");
         QTest::addColumn<QByteArray>("beginning");
@@ -88,7 +87,7 @@ class CreateListTest : public QObject {
             << QByteArray("list.xml") << QByteArray() << html;
         QTest::newRow("no extension") << QByteArray("list") << QByteArray() << html;
     }
-    void AListIsWrittenInTheFormOfItsExtension() {
+    void TheExtensionSetsTheFormat() {
         QFETCH(QByteArray, output);
         QFETCH(QByteArray, written);
         QFETCH(QByteArray, beginning);
@@ -112,7 +111,7 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.TheSettings().OutputFile, desk.folder / output.toStdString());
     }
 
-    void AFinishedRunCountsAndLeavesTheWindowAsItWas() {
+    void AFinishedRunIsCountedAndLeavesTheWindowUnchanged() {
         RunDesk desk;
         desk.AddSong("a.mp3");
         desk.AddSong("b.mp3");
@@ -128,7 +127,7 @@ class CreateListTest : public QObject {
         QVERIFY(desk.dialogs.messages.empty());
     }
 
-    void AMissingFolderGetsTheFocusWithItsWholeText() {
+    void AMissingFolderShowsAMessageAndSelectsItsField() {
         RunDesk desk;
         desk.SetField("txtInputDir", desk.folder / "missing");
         desk.Run();
@@ -138,13 +137,13 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Main().isEnabled());
     }
 
-    void NoInputIsSaid_data() {
+    void AnEmptyInputShowsAMessage_data() {
         QTest::addColumn<bool>("several");
         QTest::addColumn<QByteArray>("text");
         QTest::newRow("one folder") << false << QByteArray("No input directory specified!");
         QTest::newRow("a list without folders") << true << QByteArray("No input directories specified!");
     }
-    void NoInputIsSaid() {
+    void AnEmptyInputShowsAMessage() {
         QFETCH(bool, several);
         QFETCH(QByteArray, text);
         RunDesk desk;
@@ -158,14 +157,14 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.Progress(), nullptr);
     }
 
-    void NoOutputFileIsSaid() {
+    void AnEmptyOutputFileShowsAMessage() {
         RunDesk desk;
         desk.SetField("txtOutputFile", "");
         desk.Run();
         QVERIFY(desk.Said("No output file specified!", 48, "Error!"));
     }
 
-    void NoToTheOutputFolderLeavesItsFieldSelectedAndCreatesNothing() {
+    void DecliningToCreateTheOutputFolderSelectsItsField() {
         RunDesk desk;
         desk.SetField("txtOutputFile", desk.folder / "a/b/list.htm");
         desk.dialogs.answers = {kAnswerNo};
@@ -176,7 +175,7 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.Progress(), nullptr);
     }
 
-    void YesCreatesEveryMissingFolder() {
+    void AcceptingCreatesEveryMissingOutputFolder() {
         RunDesk desk;
         desk.AddSong("a.mp3");
         desk.folder.Make("a");
@@ -187,13 +186,13 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
     }
 
-    void NothingFoundIsSaidAndLeavesTheProgressWindowToTheUser_data() {
+    void FindingNothingShowsAMessageAndLeavesTheProgressWindowOpen_data() {
         QTest::addColumn<bool>("several");
         QTest::addColumn<QByteArray>("word");
         QTest::newRow("one folder") << false << QByteArray("directory");
         QTest::newRow("a list") << true << QByteArray("directories");
     }
-    void NothingFoundIsSaidAndLeavesTheProgressWindowToTheUser() {
+    void FindingNothingShowsAMessageAndLeavesTheProgressWindowOpen() {
         QFETCH(bool, several);
         QFETCH(QByteArray, word);
         RunDesk desk;
@@ -220,7 +219,7 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Main().isEnabled());
     }
 
-    void ANewRunTakesTheWindowThatTheLastOneLeft() {
+    void ANewRunReplacesTheProgressWindowOfTheLastOne() {
         RunDesk desk;
         desk.Run();
         QVERIFY(desk.Progress() != nullptr);
@@ -233,11 +232,11 @@ class CreateListTest : public QObject {
         QVERIFY(desk.folder.Exists("list.htm"));
     }
 
-    void ATrappedErrorIsSaidAndLeavesTheProgressWindowToTheUser() {
+    void AnErrorInARunShowsAMessageAndLeavesTheProgressWindowOpen() {
         RunDesk desk;
         desk.AddSong("a.mp3");
         desk.TheSettings().Spanning = 0;
-        desk.folder.Make("list.htm"); // a folder where the list should go
+        desk.folder.Make("list.htm"); // a folder in the list's place
         desk.Run();
         QVERIFY(desk.Said(Unexpected("75 - Path/File access error"), 48, "Error"));
         QVERIFY(desk.Progress() != nullptr && desk.Progress()->isVisible());
@@ -248,7 +247,7 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Main().isEnabled());
     }
 
-    void AnErrorBeforeTheRunIsSaidWithoutAProgressWindow_data() {
+    void AnErrorBeforeTheRunOpensNoProgressWindow_data() {
         QTest::addColumn<QByteArray>("field");
         QTest::addColumn<QByteArray>("path");
         QTest::addColumn<QByteArray>("text");
@@ -260,7 +259,7 @@ class CreateListTest : public QObject {
             << QByteArray("txtOutputFile") << QByteArray("file/sub/list.htm")
             << QByteArray::fromStdString(Unexpected("57 - Device I/O error"));
     }
-    void AnErrorBeforeTheRunIsSaidWithoutAProgressWindow() {
+    void AnErrorBeforeTheRunOpensNoProgressWindow() {
         QFETCH(QByteArray, field);
         QFETCH(QByteArray, path);
         QFETCH(QByteArray, text);
@@ -279,7 +278,7 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Main().isEnabled());
     }
 
-    void AFileThatCannotBeDecodedIsSaidAndTheRunGoesOn() {
+    void AFileThatCannotBeDecodedShowsAMessageAndTheRunContinues() {
         RunDesk desk;
         desk.folder.Write("music/empty.mp3", "");
         desk.Run();
@@ -289,7 +288,7 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Main().isEnabled());
     }
 
-    void InAutomaticModeTheTitleSaysSo() {
+    void TheTitleShowsAutomaticMode() {
         RunDesk desk;
         desk.fake.application.automaticMode = true;
         desk.fake.application.errorTitle = "Tunedex Error! (Automatic Mode)";
@@ -298,10 +297,10 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Said("No output file specified!", 48, "Tunedex Error! (Automatic Mode)"));
     }
 
-    void AbortWhileReadingLeavesStatisticsAndListAlone() {
+    void AbortWhileReadingChangesNeitherStatisticsNorList() {
         RunDesk desk;
         for (int i = 0; i < 40; ++i) {
-            desk.folder.Write("music/" + std::to_string(i) + ".mp3", ""); // each is worth a message
+            desk.folder.Write("music/" + std::to_string(i) + ".mp3", ""); // an empty file causes a message
         }
         desk.dialogs.whileMessageIsShown = [&] { Click(*desk.Progress(), "cmdAbort"); };
         desk.Run();
@@ -311,13 +310,13 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.Progress(), nullptr);
         QVERIFY(desk.Main().isEnabled());
 
-        desk.dialogs.whileMessageIsShown = nullptr; // the next run begins afresh
+        desk.dialogs.whileMessageIsShown = nullptr; // not in the next run
         desk.Run();
         QVERIFY(desk.folder.Exists("list.htm"));
         QCOMPARE(desk.fake.application.statistics.FilesHandled, 40);
     }
 
-    void ARunCannotBeStartedInsideARun() {
+    void ARunCannotStartDuringAnotherRun() {
         RunDesk desk;
         desk.folder.Write("music/empty.mp3", "");
         bool second = true;
@@ -327,7 +326,7 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.fake.application.statistics.ListsCreated, 1);
     }
 
-    void TheFoldersOfAListAreAllSearched() {
+    void EveryFolderOfAListIsSearched() {
         RunDesk desk;
         desk.AddSong("a.mp3");
         const std::string more = desk.folder.Make("more");

@@ -1,4 +1,4 @@
-// The real boxes, answered as a user answers them.
+// The real dialogs, answered with simulated input.
 #include "Dialogs.h"
 
 #include "WindowTest.h"
@@ -17,7 +17,7 @@ using namespace tunedex::test;
 
 namespace {
 
-// Runs once the box is there.
+// Calls `answer` once the dialog is open.
 void WhenShown(const std::function<void(QWidget&)>& act) {
     QTimer::singleShot(0, qApp, [act] {
         if (QWidget* box = QApplication::activeModalWidget(); box != nullptr && box->isVisible()) {
@@ -41,7 +41,7 @@ class DialogsTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void EachButtonGivesItsAnswer_data() {
+    void EachButtonReturnsItsAnswer_data() {
         QTest::addColumn<int>("buttons");
         QTest::addColumn<int>("button");
         QTest::addColumn<int>("answer");
@@ -62,7 +62,7 @@ class DialogsTest : public QObject {
         row("36: Yes", kYesNoQuestion, Box::Yes, kAnswerYes, Box::Question, kAnswerNo);
         row("36: No", kYesNoQuestion, Box::No, kAnswerNo, Box::Question, kAnswerNo);
     }
-    void EachButtonGivesItsAnswer() {
+    void EachButtonReturnsItsAnswer() {
         QFETCH(int, buttons);
         QFETCH(int, button);
         QFETCH(int, answer);
@@ -99,7 +99,7 @@ class DialogsTest : public QObject {
         QCOMPARE(broken.remove(QChar(0x200B)), QString(100, u'x'));
     }
 
-    void AFolderIsChosenBelowItsPrompt() {
+    void TheFolderChooserShowsItsPrompt() {
         const TestFolder folder;
         const std::string chosen = folder.Make("Music");
         Dialogs dialogs;
@@ -126,21 +126,22 @@ class DialogsTest : public QObject {
         QVERIFY(!dialogs.ChooseFolder(nullptr, u"T"_s, u"P"_s, "/no such folder").has_value());
     }
 
-    void AFileToWriteGetsTheExtensionOfItsKind_data() {
+    void TheSelectedFilterSetsTheExtensionOfAFileToSave_data() {
         QTest::addColumn<QByteArray>("start");
         QTest::addColumn<int>("filter");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QByteArray>("expected");
-        QTest::newRow("typed without one") << QByteArray() << 0 << u"list"_s << QByteArray("list.htm");
+        QTest::newRow("typed without an extension")
+            << QByteArray() << 0 << u"list"_s << QByteArray("list.htm");
         QTest::newRow("the playlist filter") << QByteArray() << 2 << u"list"_s << QByteArray("list.m3u");
-        QTest::newRow("the playlist filter over a page's name")
+        QTest::newRow("the playlist filter with a page's name")
             << QByteArray("old.htm") << 2 << QString() << QByteArray("old.m3u");
-        QTest::newRow("an unknown one that was typed is kept")
+        QTest::newRow("an unknown typed extension is kept")
             << QByteArray() << 0 << u"list.xml"_s << QByteArray("list.xml");
-        QTest::newRow("the start's own kind")
+        QTest::newRow("the filter of the initial file")
             << QByteArray("old.txt") << -1 << u"new"_s << QByteArray("new.txt");
     }
-    void AFileToWriteGetsTheExtensionOfItsKind() {
+    void TheSelectedFilterSetsTheExtensionOfAFileToSave() {
         QFETCH(QByteArray, start);
         QFETCH(int, filter);
         QFETCH(QString, typed);
@@ -168,7 +169,7 @@ class DialogsTest : public QObject {
             }
             QTest::keyClick(field, Qt::Key_Return);
             if (dialog.isVisible()) {
-                dialog.reject(); // so that a failure ends
+                dialog.reject(); // so that a failing test ends
             }
         });
         const auto answer =
@@ -177,7 +178,7 @@ class DialogsTest : public QObject {
         QCOMPARE(QByteArray::fromStdString(*answer), QByteArray::fromStdString(folder.Path()) + expected);
     }
 
-    void AFileToOpenIsOneThatExists() {
+    void OnlyAnExistingFileCanBeOpened() {
         const TestFolder folder;
         const std::string path = folder.Write("my.cfg", "");
         Dialogs dialogs;

@@ -13,30 +13,30 @@ class EditLayoutTest : public QObject {
     void OpeningWithOtherDocumentTypesShowsHtml();
     void OkStoresEveryControlAndCloses();
     void OkAndCancelWithoutEditsChangeNothing();
-    void CancelAndEscapeDropEveryEdit();
+    void CancelAndEscapeDiscardEveryEdit();
     void OkWithABadNumberHasAlreadyStoredTheDocumentTypeAndNothingElse();
-    void OkRefusesNumbersInOrder_data();
-    void OkRefusesNumbersInOrder();
-    void TypingWhatIsNoNumberSelectsTheWholeText();
-    void AUnitWithoutAnOptionStaysUntilOneIsChosen();
+    void OkChecksTheNumbersInOrder_data();
+    void OkChecksTheNumbersInOrder();
+    void TypingANonNumberSelectsTheWholeText();
+    void AUnitWithoutAnOptionIsKeptUntilOneIsChosen();
     void RunControlsAreTheSubstitutionAndTheDocumentType();
     void SizesBeyondOneToSevenAreKept();
-    void TheFontChooserLeadsTheListWithTheChosenFamily_data();
-    void TheFontChooserLeadsTheListWithTheChosenFamily();
+    void TheChosenFontFamilyBecomesTheFirstOfTheList_data();
+    void TheChosenFontFamilyBecomesTheFirstOfTheList();
     void CancellingAChooserChangesNothing();
     void TypingAColourPreviewsIt_data();
     void TypingAColourPreviewsIt();
     void TypedColoursAreKeptInUpperCase();
-    void LoadedColoursAreLeftAsTheyAre();
+    void LoadedColoursAreUnchanged();
     void TheColourChooserStartsAtTheShownColourAndWritesSixDigitsRedFirst();
-    void TextsAndToolTipsAreThese();
+    void TextsAndToolTipsAreAsPrescribed();
     void PagesHaveTheirTabs();
 };
 
 namespace {
 const TestClass<EditLayoutTest> kEditLayoutTestRegistered("EditLayoutTest");
 
-// Settings unlike the defaults in everything that the editor shows.
+// Settings that differ from the defaults in every control of the editor.
 Settings OtherSettings() {
     Settings settings;
     settings.SetDefaults();
@@ -160,7 +160,7 @@ void EditLayoutTest::OkAndCancelWithoutEditsChangeNothing() {
     }
 }
 
-void EditLayoutTest::CancelAndEscapeDropEveryEdit() {
+void EditLayoutTest::CancelAndEscapeDiscardEveryEdit() {
     for (const bool escape : {false, true}) {
         LayoutFixture with;
         const Settings before = with.settings;
@@ -201,7 +201,7 @@ void EditLayoutTest::OkWithABadNumberHasAlreadyStoredTheDocumentTypeAndNothingEl
     QVERIFY(with.settings == expected);
 }
 
-void EditLayoutTest::OkRefusesNumbersInOrder_data() {
+void EditLayoutTest::OkChecksTheNumbersInOrder_data() {
     QTest::addColumn<QString>("width");
     QTest::addColumn<QString>("border");
     QTest::addColumn<QString>("padding");
@@ -214,7 +214,7 @@ void EditLayoutTest::OkRefusesNumbersInOrder_data() {
         << u"txtBorderSize"_s;
     QTest::newRow("padding") << u"1"_s << u"2"_s << u"3 px"_s
                              << u"The table cell padding must be a numeric value."_s << u"txtCellPadding"_s;
-    QTest::newRow("what is no number comes before what does not fit")
+    QTest::newRow("non-numeric before out of range")
         << u"99999"_s << u"2"_s << u"c"_s << u"The table cell padding must be a numeric value."_s
         << u"txtCellPadding"_s;
     QTest::newRow("width too large") << u"32768"_s << u"40000"_s << u"3"_s
@@ -228,7 +228,7 @@ void EditLayoutTest::OkRefusesNumbersInOrder_data() {
         << u"txtCellPadding"_s;
 }
 
-void EditLayoutTest::OkRefusesNumbersInOrder() {
+void EditLayoutTest::OkChecksTheNumbersInOrder() {
     QFETCH(QString, width);
     QFETCH(QString, border);
     QFETCH(QString, padding);
@@ -245,12 +245,12 @@ void EditLayoutTest::OkRefusesNumbersInOrder() {
     QCOMPARE(with.Messages().size(), 1U);
     QVERIFY((with.Messages()[0] == LayoutFixture::Message{message.toStdString(), 48, "Error"}));
     QVERIFY(editor.isVisible());
-    QVERIFY(Field(editor, box).hasFocus()); // so its page shows
+    QVERIFY(Field(editor, box).hasFocus()); // so its page is visible
     QCOMPARE(Field(editor, box).selectedText(), Text(editor, box));
     QVERIFY(with.settings == before);
 }
 
-void EditLayoutTest::TypingWhatIsNoNumberSelectsTheWholeText() {
+void EditLayoutTest::TypingANonNumberSelectsTheWholeText() {
     LayoutFixture with;
     frmEditLayout editor(with.application, with.ui);
     Show(editor);
@@ -263,7 +263,7 @@ void EditLayoutTest::TypingWhatIsNoNumberSelectsTheWholeText() {
     QVERIFY(with.Messages().empty());
 }
 
-void EditLayoutTest::AUnitWithoutAnOptionStaysUntilOneIsChosen() {
+void EditLayoutTest::AUnitWithoutAnOptionIsKeptUntilOneIsChosen() {
     LayoutFixture with;
     with.settings.TableWidthUnit = 7;
     {
@@ -305,27 +305,27 @@ void EditLayoutTest::SizesBeyondOneToSevenAreKept() {
     QVERIFY(with.settings == before);
 }
 
-void EditLayoutTest::TheFontChooserLeadsTheListWithTheChosenFamily_data() {
+void EditLayoutTest::TheChosenFontFamilyBecomesTheFirstOfTheList_data() {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("family");
     QTest::addColumn<double>("points");
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("size");
-    QTest::newRow("in place of the first, before the others")
+    QTest::newRow("replaces the first face, keeps the others")
         << u"Tahoma, Arial, sans-serif"_s << u"Verdana"_s << 12.0 << u"Verdana, Arial, sans-serif"_s
         << u"3"_s;
-    QTest::newRow("named once") << u"Tahoma, Arial, sans-serif"_s << u"Arial"_s << 10.0
-                                << u"Arial, sans-serif"_s << u"2"_s;
+    QTest::newRow("no duplicate face")
+        << u"Tahoma, Arial, sans-serif"_s << u"Arial"_s << 10.0 << u"Arial, sans-serif"_s << u"2"_s;
     QTest::newRow("into an empty list") << u""_s << u"Noto Serif"_s << 8.0 << u"Noto Serif"_s << u"1"_s;
-    QTest::newRow("before a single stand-in")
+    QTest::newRow("before a single fallback")
         << u"serif"_s << u"Georgia"_s << 18.0 << u"Georgia, serif"_s << u"5"_s;
-    QTest::newRow("in quotes where CSS wants them")
+    QTest::newRow("quoted if CSS requires it")
         << u"Arial, serif"_s << u"3D Letters"_s << 100.0 << u"'3D Letters', serif"_s << u"7"_s;
-    QTest::newRow("words need none") << u"Arial, serif"_s << u"Times New Roman"_s << 24.0
-                                     << u"Times New Roman, serif"_s << u"6"_s;
+    QTest::newRow("words are not quoted")
+        << u"Arial, serif"_s << u"Times New Roman"_s << 24.0 << u"Times New Roman, serif"_s << u"6"_s;
 }
 
-void EditLayoutTest::TheFontChooserLeadsTheListWithTheChosenFamily() {
+void EditLayoutTest::TheChosenFontFamilyBecomesTheFirstOfTheList() {
     QFETCH(QString, before);
     QFETCH(QString, family);
     QFETCH(double, points);
@@ -385,7 +385,7 @@ void EditLayoutTest::TypingAColourPreviewsIt_data() {
     QTest::newRow("fewer digits are a smaller number") << u"FF"_s << QColor(0, 0, 255);
     QTest::newRow("leading zeros") << u"0000FF00"_s << QColor(0, 255, 0);
     QTest::newRow("no digits") << u"red"_s << QColor();
-    QTest::newRow("a number beyond the colours") << u"1000000"_s << QColor();
+    QTest::newRow("a number above FFFFFF") << u"1000000"_s << QColor();
     QTest::newRow("a prefix") << u"0xFF"_s << QColor();
     QTest::newRow("a sign") << u"-1"_s << QColor();
     QTest::newRow("empty") << QString() << QColor();
@@ -406,7 +406,7 @@ void EditLayoutTest::TypingAColourPreviewsIt() {
     const QColor expected = colour.isValid() ? colour : editor.palette().color(QPalette::Base);
     QCOMPARE(left, expected);
     QCOMPARE(right, expected);
-    // Only where there is no colour is the field crossed out.
+    // The field is crossed out only if there is no colour.
     const int inset = image.width() / 4;
     int otherPixels = 0;
     for (int x = inset; x < image.width() - inset; ++x) {
@@ -430,7 +430,7 @@ void EditLayoutTest::TypedColoursAreKeptInUpperCase() {
     QCOMPARE(Field(editor, u"txtColour(0)"_s).cursorPosition(), 1);
 }
 
-void EditLayoutTest::LoadedColoursAreLeftAsTheyAre() {
+void EditLayoutTest::LoadedColoursAreUnchanged() {
     LayoutFixture with;
     with.settings.Colour[0] = "c0ffee";
     with.settings.Colour[1] = "papayawhip";
@@ -459,7 +459,7 @@ void EditLayoutTest::TheColourChooserStartsAtTheShownColourAndWritesSixDigitsRed
     }
 }
 
-void EditLayoutTest::TextsAndToolTipsAreThese() {
+void EditLayoutTest::TextsAndToolTipsAreAsPrescribed() {
     LayoutFixture with;
     const frmEditLayout editor(with.application, with.ui);
     const std::array toolTips = {

@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# What the program with windows leaves behind when it ends by itself: unattended runs, and a display that cannot be
-# opened.
+# Exit status and files of the windowed program after unattended runs and without a usable display.
 #
 # usage: ExitStatus.sh PROGRAM
 set -euo pipefail
@@ -25,18 +24,18 @@ printf '"2026-01-02"\r\n7\r\n5\r\n3\r\n' >"$folder/program/stats.lst"
 cp "$folder/program/stats.lst" "$folder/stats.before"
 export XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder LC_ALL=C.UTF-8
 
-# Unattended: the list is written, and the statistics are as they were.
+# An unattended run writes the list and leaves the statistics unchanged.
 run QT_QPA_PLATFORM=offscreen "$program" /auto
 ((status == 0)) || fail "an unattended run ended with $status"
 [[ -s $folder/list.txt ]] || fail "an unattended run wrote no list"
 cmp "$folder/program/stats.lst" "$folder/stats.before" || fail "an unattended run was counted"
 
-# A display that is not there: an orderly end, not a crash.
+# An unreachable display ends the program with status 2, without abort().
 for arguments in "" /AUTO; do
     # shellcheck disable=SC2086
     run -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM DISPLAY=:65535 "$program" $arguments
-    ((status == 2)) || fail "without its display the program ended with $status"
-    grep -q "could not open the display" "$folder/errors" || fail "nothing was said of the display"
+    ((status == 2)) || fail "without a display the program ended with $status"
+    grep -q "could not open the display" "$folder/errors" || fail "no message about the display"
 done
 
-echo "ended as it should"
+echo "passed"

@@ -18,7 +18,7 @@ QUrl UrlOf(const std::string& path) {
     return QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"));
 }
 
-// As the window system delivers it. Whether the drop was taken.
+// Sends drag and drop events as the window system does. Returns whether the drop was accepted.
 bool Drop(QWidget& target, const std::vector<std::string>& paths) {
     QMimeData data;
     QList<QUrl> urls;
@@ -37,7 +37,7 @@ bool Drop(QWidget& target, const std::vector<std::string>& paths) {
     return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
 }
 
-// What a drag over the folder field finds: the first widget upwards that takes drops.
+// The widget that receives a drag over the folder field: its nearest ancestor that accepts drops.
 QWidget& TargetUnder(QWidget& widget) {
     QWidget* target = &widget;
     while (!target->acceptDrops()) {
@@ -52,7 +52,7 @@ class FolderDropTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void OnlyFoldersAreTakenAndTheirBytesKept() {
+    void OnlyFoldersAreAcceptedAndTheirBytesKept() {
         const TestFolder folder;
         const std::string music = folder.Make("M\xC3\xBCsik 100% #1");
         const std::string old = folder.Make("old\xFC");
@@ -64,7 +64,7 @@ class FolderDropTest : public QObject {
         QVERIFY(FoldersIn(data) == expected);
     }
 
-    void OneFolderOnTheFolderFieldBecomesItsText() {
+    void AFolderDroppedOnTheFieldSetsItsText() {
         Desk desk;
         desk.Show();
         const std::string music = desk.folder.Make("Music");
@@ -73,7 +73,7 @@ class FolderDropTest : public QObject {
         QCOMPARE(desk.TheSettings().Directory, music);
     }
 
-    void SeveralFoldersOnTheFolderFieldBecomeAList() {
+    void SeveralFoldersDroppedOnTheFieldBecomeAList() {
         Desk desk;
         desk.Show();
         const std::string one = desk.folder.Make("One");
@@ -84,7 +84,7 @@ class FolderDropTest : public QObject {
         QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string("2 folders chosen"));
     }
 
-    void AFolderDroppedInMultiFolderModeJoinsTheList() {
+    void AFolderDroppedInMultiFolderModeIsAddedToTheList() {
         Desk desk;
         desk.Show();
         const std::string one = desk.folder.Make("One");
@@ -96,7 +96,7 @@ class FolderDropTest : public QObject {
         QCOMPARE(desk.TheSettings().Directory, "%MULT%/first%||%" + one);
     }
 
-    void AFileIsNoFolder() {
+    void ADroppedFileIsRejected() {
         Desk desk;
         desk.Show();
         const std::string file = desk.folder.Write("a.mp3", "");

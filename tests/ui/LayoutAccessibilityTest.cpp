@@ -25,7 +25,7 @@ class LayoutAccessibilityTest : public QObject {
     void EveryControlHasANameADescriptionAndARole();
     void EveryControlIsReachedByTab();
     void TabStopsAtTheSelectedOption();
-    void EveryLabelOfAControlHasAMnemonicOfItsOwn();
+    void EveryLabelOfAControlHasAUniqueMnemonic();
     void NothingIsClippedAtTheSmallestSize();
     void TheSmallestSizesFitASmallScreen();
 };
@@ -43,7 +43,7 @@ bool IsControl(const QWidget& widget) {
            qobject_cast<const QTabBar*>(&widget) != nullptr;
 }
 
-// The window's controls that show now. Those that Qt makes for itself begin with "qt_".
+// The window's visible controls, without Qt's internal ones, whose names begin with "qt_".
 QList<QWidget*> VisibleControls(const QWidget& window) {
     QList<QWidget*> controls;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
@@ -55,7 +55,7 @@ QList<QWidget*> VisibleControls(const QWidget& window) {
     return controls;
 }
 
-// Calls `check` for the options dialog and for every page of the editor, each shown with all of its controls
+// Calls `check` for the options dialog and for every page of the editor, each visible with all controls
 // enabled.
 void ForEveryPage(const std::function<void(QWidget&, const QString&)>& check) {
     LayoutFixture with;
@@ -83,7 +83,7 @@ QString Where(const QString& page, const QWidget& widget) {
                                           : widget.objectName());
 }
 
-// An option is reached through its group: Tab stops at the selected one, arrows go to the others.
+// Tab stops at the selected option of a group; arrow keys reach the others.
 bool IsReachedByArrows(const QWidget& widget) {
     const auto* option = qobject_cast<const QRadioButton*>(&widget);
     return option != nullptr && option->group() != nullptr && option->group()->checkedButton() != nullptr &&
@@ -131,7 +131,7 @@ void LayoutAccessibilityTest::EveryControlIsReachedByTab() {
             QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window, Qt::Key_Tab);
             QVERIFY2(QApplication::focusWidget() != nullptr, qPrintable(page));
             if (reached.contains(QApplication::focusWidget())) {
-                break; // once round
+                break; // back at the first control
             }
             reached.insert(QApplication::focusWidget());
         }
@@ -165,13 +165,13 @@ void LayoutAccessibilityTest::TabStopsAtTheSelectedOption() {
     QVERIFY(Button(options, u"optKilobytes"_s).hasFocus());
 }
 
-void LayoutAccessibilityTest::EveryLabelOfAControlHasAMnemonicOfItsOwn() {
+void LayoutAccessibilityTest::EveryLabelOfAControlHasAUniqueMnemonic() {
     ForEveryPage([&](QWidget& window, const QString& page) {
         QMap<QChar, QString> taken;
         const auto take = [&](const QString& text, const QString& where) {
             const QChar mnemonic = Mnemonic(text);
             QVERIFY2(!mnemonic.isNull(), qPrintable(where));
-            // The three fonts have the same controls; their mnemonics go from one to the next.
+            // The three fonts share their mnemonics; pressing one repeatedly cycles through the fonts.
             QVERIFY2(page == u"Fonts"_s || !taken.contains(mnemonic),
                      qPrintable(where + u" and "_s + taken.value(mnemonic)));
             taken.insert(mnemonic, where);

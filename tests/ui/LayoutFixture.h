@@ -1,4 +1,4 @@
-// The surroundings of the options dialog and the layout editor in a test.
+// Fixture for tests of the options dialog and the layout editor.
 #pragma once
 
 #include "Fakes.h"
@@ -20,8 +20,8 @@
 
 namespace tunedex::test {
 
-// Remembers messages and fields as the tests' front end does; controls are taken from the open options
-// dialog, and filled with the fields.
+// Records messages and fields like FakeUserInterface. TakeControls() and FillFields() also store and load the
+// open options dialog.
 class FakeWindowInterface final : public WindowInterface {
   public:
     MainFields Fields() const override { return fake.Fields(); }
@@ -57,7 +57,7 @@ class FakeWindowInterface final : public WindowInterface {
     std::function<void()> whileMessageShows;
 };
 
-// A program with its default settings, a program folder of its own and no themes.
+// An application with default settings and a temporary program folder without themes.
 class LayoutFixture {
   public:
     LayoutFixture() { settings.SetDefaults(); }
@@ -72,11 +72,11 @@ class LayoutFixture {
     std::vector<Message>& Messages() { return ui.fake.messages; }
 };
 
-// The control of that name; the test ends when there is none.
+// The control with that object name. Aborts the test if there is none.
 template <typename T> T& Find(const QWidget& window, const QString& name) {
     T* control = window.findChild<T*>(name);
     if (control == nullptr) {
-        qFatal("there is no control %s", qPrintable(name));
+        qFatal("no control is named %s", qPrintable(name));
     }
     return *control;
 }
@@ -99,8 +99,7 @@ inline QString Text(const QWidget& window, const QString& name) {
 inline void Click(const QWidget& window, const QString& name) {
     QTest::mouseClick(&Button(window, name), Qt::LeftButton, {}, Button(window, name).rect().center());
 }
-// Check boxes and options react beside their indicator only where their text is, so these are set by what a
-// click does.
+// Calls click(): a simulated mouse click in the centre may miss indicator and text.
 inline void Set(const QWidget& window, const QString& name, bool checked) {
     if (IsChecked(window, name) != checked) {
         Button(window, name).click();
@@ -111,7 +110,7 @@ inline void Type(const QWidget& window, const QString& name, const QString& text
     QTest::keyClicks(&Field(window, name), text);
 }
 
-// Shows a window and makes it the active one.
+// Shows and activates a window.
 inline void Show(QWidget& window) {
     window.show();
     window.activateWindow();

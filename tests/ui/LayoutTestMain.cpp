@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    const tunedex::test::TestFolder home; // windows remember their places here
+    const tunedex::test::TestFolder home; // keeps window geometry out of the user's settings
     qputenv("XDG_CONFIG_HOME", home.Path().c_str());
     QApplication application(argc, argv);
     const std::string wanted = argc > 1 ? argv[1] : "";

@@ -1,4 +1,4 @@
-# The options dialog, the layout editor and what they are made of.
+# Tests of the options dialog and the layout editor.
 set(LAYOUT_TEST_CLASSES OptionsTest EditLayoutTest ColumnsPageTest ThemePanelTest PreviewTest SettingsRoundTripTest
                         LayoutAccessibilityTest)
 list(TRANSFORM LAYOUT_TEST_CLASSES APPEND ".cpp" OUTPUT_VARIABLE LAYOUT_TEST_SOURCES)
@@ -8,7 +8,7 @@ foreach(CLASS IN LISTS LAYOUT_TEST_CLASSES)
     add_test(NAME layout_test.${CLASS} COMMAND layout_test ${CLASS})
     set_tests_properties(layout_test.${CLASS} PROPERTIES TIMEOUT 300 ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endforeach()
-# The same windows on screens of higher resolution.
+# The same windows on high-resolution screens.
 foreach(SCALE 1.5 2)
     add_test(NAME layout_test.LayoutAccessibilityTest.scale${SCALE} COMMAND layout_test LayoutAccessibilityTest)
     set_tests_properties(layout_test.LayoutAccessibilityTest.scale${SCALE} PROPERTIES

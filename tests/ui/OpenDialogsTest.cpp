@@ -88,7 +88,7 @@ class OpenDialogsTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void WhileTheEditorIsOpenOnlyTheOptionsWait() {
+    void AnOpenEditorDisablesOnlyTheOptions() {
         EditDesk desk;
         desk.OpenEditor();
         QVERIFY(desk.OnlyTheOptionsWait());
@@ -114,7 +114,7 @@ class OpenDialogsTest : public QObject {
         QVERIFY(desk.OnlyTheOptionsWait());
     }
 
-    void OptionsThatWaitForTheEditorCannotBeClosed() {
+    void OptionsCannotBeClosedWhileTheEditorIsOpen() {
         EditDesk desk;
         desk.OpenEditor();
         QVERIFY(!desk.frontEnd.Options()->close());
@@ -123,7 +123,7 @@ class OpenDialogsTest : public QObject {
         QVERIFY(desk.frontEnd.Options()->close());
     }
 
-    void ARunTakesTheControlsOfTheOpenDialogs() {
+    void ARunUsesTheControlsOfOpenDialogs() {
         EditDesk desk;
         frmEditLayout& editor = desk.OpenEditor();
         Find<QCheckBox>(*desk.frontEnd.Options(), "chkLinks").setChecked(true);
@@ -141,7 +141,7 @@ class OpenDialogsTest : public QObject {
         QCOMPARE(TextOf(editor, "txtTableWidth"), std::string("77"));
     }
 
-    void DuringARunTheOpenDialogsWaitAndCannotBeClosed() {
+    void DuringARunOpenDialogsAreDisabledAndCannotBeClosed() {
         EditDesk desk;
         desk.AddBrokenFile();
         frmEditLayout& editor = desk.OpenEditor();
@@ -175,7 +175,7 @@ class OpenDialogsTest : public QObject {
         QCOMPARE(desk.dialogs.messages[0].owner, &desk.Main());
     }
 
-    void AProgressWindowThatARunLeavesOpenHoldsUpTheEditorAsWell() {
+    void AProgressWindowLeftOpenDisablesTheEditorToo() {
         EditDesk desk;
         desk.OpenEditor();
         desk.TheSettings().Spanning = 0;
@@ -214,7 +214,7 @@ class OpenDialogsTest : public QObject {
         QVERIFY(desk.frontEnd.Options()->isEnabled());
     }
 
-    void QuittingClosesTheOpenDialogsAndDropsTheirEdits() {
+    void QuittingClosesTheOpenDialogsAndDiscardsTheirEdits() {
         EditDesk desk;
         frmEditLayout& editor = desk.OpenEditor();
         Find<QLineEdit>(editor, "txtTableWidth").setText(u"77"_s);
@@ -236,7 +236,7 @@ class OpenDialogsTest : public QObject {
         }
     }
 
-    void AQuitThatIsCancelledLeavesTheDialogsOpen() {
+    void CancellingQuitLeavesTheDialogsOpen() {
         EditDesk desk;
         frmEditLayout& editor = desk.OpenEditor();
         Find<QLineEdit>(editor, "txtTableWidth").setText(u"77"_s);
@@ -305,7 +305,7 @@ class OpenDialogsTest : public QObject {
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(7));
     }
 
-    void AfterItsMessageABadNumberHasTheFocus_data() {
+    void ABadNumberHasTheFocusAfterItsMessage_data() {
         QTest::addColumn<QByteArray>("box");
         QTest::addColumn<bool>("inEditor");
         QTest::newRow("files per page") << QByteArray("txtFilesPerPage") << false;
@@ -313,7 +313,7 @@ class OpenDialogsTest : public QObject {
         QTest::newRow("border size") << QByteArray("txtBorderSize") << true;
         QTest::newRow("cell padding") << QByteArray("txtCellPadding") << true;
     }
-    void AfterItsMessageABadNumberHasTheFocus() {
+    void ABadNumberHasTheFocusAfterItsMessage() {
         QFETCH(QByteArray, box);
         QFETCH(bool, inEditor);
         Desk desk;
@@ -340,7 +340,7 @@ class OpenDialogsTest : public QObject {
         QCOMPARE(field.text(), u"5"_s);
     }
 
-    void AfterItsMessageTheFolderFieldHasTheFocusAlthoughOptionsAreOpen() {
+    void TheFolderFieldHasTheFocusAfterItsMessageWithOptionsOpen() {
         Desk desk;
         desk.TheSettings().SetDefaults();
         Dialogs boxes; // the real ones

@@ -17,28 +17,28 @@ class OptionsTest : public QObject {
     void OpeningShowsEverySetting();
     void OpeningWithSpanningZeroUnchecksThePagesAndDisablesTheBox();
     void LoadingSpanningZeroKeepsTheTextOfTheBox();
-    void NumbersWithoutAnOptionSelectNoneAndStayAsTheyWere();
-    void TypingWhatIsNoNumberSelectsTheWholeTextAndUseRefusesIt();
+    void NumbersWithoutAnOptionSelectNoneAndAreKept();
+    void TypingANonNumberSelectsTheWholeTextAndUseRefusesIt();
     void UseStoresEveryControlAndCloses();
     void UseConvertsTheNumber_data();
     void UseConvertsTheNumber();
     void UseRefusesNumbers_data();
     void UseRefusesNumbers();
     void WithoutPagesAnyTextIsIgnored();
-    void UncheckingLinksGreysThemAndKeepsTheirValues();
-    void DisabledBoxesHaveTheColourOfButtonsAlsoAfterAPaletteChange();
+    void UncheckingLinksDisablesTheirControlsAndKeepsTheValues();
+    void DisabledBoxesUseTheButtonColourAlsoAfterAPaletteChange();
     void CancelAndEscapeChangeNothing();
-    void EnterUses();
-    void SaveTakesAllControlsAndWritesTheDefaultFile();
+    void EnterPressesUse();
+    void SaveStoresAllControlsAndWritesTheDefaultFile();
     void SaveRefusesWhatUseRefuses();
-    void ASaveThatFailsIsToldAndLeavesTheDialogOpen();
+    void AFailedSaveShowsAMessageAndLeavesTheDialogOpen();
     void HelpOpensTheHelpFile();
-    void HelpWithoutAFileSaysSo();
-    void TheEditorsHelpHasBothItsKeys();
+    void HelpWithoutAFileShowsAMessage();
+    void HelpInTheEditorHasAMnemonicAndTheHelpKey();
     void TheEditorDisablesTheDialogUntilItCloses();
-    void StoringTakesTheOpenEditorsDocumentTypeAndSubstitution();
+    void StoringIncludesTheOpenEditorsDocumentTypeAndSubstitution();
     void StoringWithoutAnEditorMakesTheDocumentTypeHtmlUnlessItIsXhtml();
-    void StoringABadNumberRaisesAndStoresNothing();
+    void StoringABadNumberRaisesAnErrorAndStoresNothing();
 
   private:
     static void CheckRefused(const QString& text, const std::string& message);
@@ -100,7 +100,7 @@ void OptionsTest::LoadingSpanningZeroKeepsTheTextOfTheBox() {
     QCOMPARE(Text(options, u"txtFilesPerPage"_s), u"100"_s);
 }
 
-void OptionsTest::NumbersWithoutAnOptionSelectNoneAndStayAsTheyWere() {
+void OptionsTest::NumbersWithoutAnOptionSelectNoneAndAreKept() {
     LayoutFixture with;
     with.settings.SizeType = 7;
     with.settings.SortOrder = -1;
@@ -116,7 +116,7 @@ void OptionsTest::NumbersWithoutAnOptionSelectNoneAndStayAsTheyWere() {
     QCOMPARE(with.settings.LinkType, 3);
 }
 
-void OptionsTest::TypingWhatIsNoNumberSelectsTheWholeTextAndUseRefusesIt() {
+void OptionsTest::TypingANonNumberSelectsTheWholeTextAndUseRefusesIt() {
     LayoutFixture with;
     const Settings before = with.settings;
     frmOptions options(with.application, with.ui);
@@ -178,8 +178,8 @@ void OptionsTest::UseConvertsTheNumber_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("number");
     QTest::newRow("blanks around it") << u" 12 "_s << 12;
-    QTest::newRow("a half goes to the even neighbour below") << u"2.5"_s << 2;
-    QTest::newRow("a half goes to the even neighbour above") << u"3.5"_s << 4;
+    QTest::newRow("2.5 rounds down to even") << u"2.5"_s << 2;
+    QTest::newRow("3.5 rounds up to even") << u"3.5"_s << 4;
     QTest::newRow("an exponent") << u"1e2"_s << 100;
     QTest::newRow("negative") << u"-7"_s << -7;
     QTest::newRow("zero") << u"0"_s << 0;
@@ -205,11 +205,11 @@ void OptionsTest::UseRefusesNumbers_data() {
     const QString outOfRange = u"Files per page must be between -32768 and 32767."_s;
     QTest::newRow("nothing") << QString() << notNumeric;
     QTest::newRow("blanks") << u"  "_s << notNumeric;
-    QTest::newRow("a letter behind") << u"12a"_s << notNumeric;
+    QTest::newRow("a trailing letter") << u"12a"_s << notNumeric;
     QTest::newRow("two numbers") << u"1 2"_s << notNumeric;
-    QTest::newRow("one too large") << u"32768"_s << outOfRange;
-    QTest::newRow("one too small") << u"-32769"_s << outOfRange;
-    QTest::newRow("rounded beyond") << u"32767.5"_s << outOfRange;
+    QTest::newRow("too large") << u"32768"_s << outOfRange;
+    QTest::newRow("too small") << u"-32769"_s << outOfRange;
+    QTest::newRow("too large after rounding") << u"32767.5"_s << outOfRange;
     QTest::newRow("huge") << u"1e300"_s << outOfRange;
 }
 
@@ -245,7 +245,7 @@ void OptionsTest::WithoutPagesAnyTextIsIgnored() {
     QCOMPARE(static_cast<int>(with.settings.Spanning), 0);
 }
 
-void OptionsTest::UncheckingLinksGreysThemAndKeepsTheirValues() {
+void OptionsTest::UncheckingLinksDisablesTheirControlsAndKeepsTheValues() {
     LayoutFixture with;
     with.settings.DoLinks = true;
     with.settings.LinkType = 2;
@@ -264,7 +264,7 @@ void OptionsTest::UncheckingLinksGreysThemAndKeepsTheirValues() {
     QCOMPARE(with.settings.LinkPrefix, std::string("http://music/"));
 }
 
-void OptionsTest::DisabledBoxesHaveTheColourOfButtonsAlsoAfterAPaletteChange() {
+void OptionsTest::DisabledBoxesUseTheButtonColourAlsoAfterAPaletteChange() {
     LayoutFixture with;
     frmOptions options(with.application, with.ui);
     const auto background = [&](const QString& name) {
@@ -303,7 +303,7 @@ void OptionsTest::CancelAndEscapeChangeNothing() {
     }
 }
 
-void OptionsTest::EnterUses() {
+void OptionsTest::EnterPressesUse() {
     LayoutFixture with;
     frmOptions options(with.application, with.ui);
     Show(options);
@@ -313,7 +313,7 @@ void OptionsTest::EnterUses() {
     QCOMPARE(static_cast<int>(with.settings.Spanning), 33);
 }
 
-void OptionsTest::SaveTakesAllControlsAndWritesTheDefaultFile() {
+void OptionsTest::SaveStoresAllControlsAndWritesTheDefaultFile() {
     LayoutFixture with;
     with.ui.fake.fields = {false, "/music", "/out/list.htm", "Window", "Page", "Footer"};
     frmOptions options(with.application, with.ui);
@@ -348,7 +348,7 @@ void OptionsTest::SaveRefusesWhatUseRefuses() {
     QVERIFY(!with.folder.Exists("Tunedex.cfg"));
 }
 
-void OptionsTest::ASaveThatFailsIsToldAndLeavesTheDialogOpen() {
+void OptionsTest::AFailedSaveShowsAMessageAndLeavesTheDialogOpen() {
     LayoutFixture with;
     with.application.programFolder = with.folder / "gone/";
     frmOptions options(with.application, with.ui);
@@ -389,7 +389,7 @@ void OptionsTest::HelpOpensTheHelpFile() {
     QVERIFY(with.Messages().empty());
 }
 
-void OptionsTest::HelpWithoutAFileSaysSo() {
+void OptionsTest::HelpWithoutAFileShowsAMessage() {
     LayoutFixture with;
     frmOptions options(with.application, with.ui);
     frmEditLayout editor(with.application, with.ui);
@@ -402,7 +402,7 @@ void OptionsTest::HelpWithoutAFileSaysSo() {
     QVERIFY(with.Messages()[1] == expected);
 }
 
-void OptionsTest::TheEditorsHelpHasBothItsKeys() {
+void OptionsTest::HelpInTheEditorHasAMnemonicAndTheHelpKey() {
     LayoutFixture with;
     frmEditLayout editor(with.application, with.ui);
     Show(editor);
@@ -440,7 +440,7 @@ void OptionsTest::TheEditorDisablesTheDialogUntilItCloses() {
     }
 }
 
-void OptionsTest::StoringTakesTheOpenEditorsDocumentTypeAndSubstitution() {
+void OptionsTest::StoringIncludesTheOpenEditorsDocumentTypeAndSubstitution() {
     LayoutFixture with;
     frmOptions options(with.application, with.ui);
     Show(options);
@@ -467,7 +467,7 @@ void OptionsTest::StoringWithoutAnEditorMakesTheDocumentTypeHtmlUnlessItIsXhtml(
     }
 }
 
-void OptionsTest::StoringABadNumberRaisesAndStoresNothing() {
+void OptionsTest::StoringABadNumberRaisesAnErrorAndStoresNothing() {
     for (const auto& [text, number] : {std::pair(u"many"_s, 13), std::pair(u"99999"_s, 6)}) {
         LayoutFixture with;
         frmOptions options(with.application, with.ui);

@@ -1,4 +1,4 @@
-// The light and the dark palette in which windows are tested and photographed.
+// The light and dark palettes for tests and screenshots.
 #pragma once
 
 #include <QColor>

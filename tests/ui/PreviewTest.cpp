@@ -19,7 +19,7 @@ class PreviewTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void ThePreviewShowsTheSampleTracksFromTheStart();
+    void TheSampleTracksAreShownOnOpening();
     void FollowsTheColours_data();
     void FollowsTheColours();
     void FollowsThePageColours();
@@ -29,17 +29,17 @@ class PreviewTest : public QObject {
     void FollowsTheMerge();
     void FollowsTheSubstitution();
     void FollowsAlternatingRows();
-    void FollowsTheMeasuresOfTheTable();
-    void ShowsThatBrowsersPassOverTheStyleSheetOfXhtml();
-    void ShowsTheUnsavedOptionsToo();
+    void FollowsTheTableSizes();
+    void SaysThatBrowsersIgnoreTheStyleSheetOfXhtml();
+    void FollowsTheUnsavedOptionsToo();
     void FollowsALoadedTheme();
-    void EscapesWhatTheEntityTableSays();
-    void KeepsNumbersThatAreHalfTyped();
-    void SaysSoWhereNoListingCouldBeWritten();
-    void CanBeHiddenAndShowsTheLatestWhenItIsBack();
-    void KeepsItsPlaceWhileItIsUpdated();
-    void PagesArePreparedForRichText_data();
-    void PagesArePreparedForRichText();
+    void EscapesWithTheEntityTable();
+    void IgnoresNumbersThatAreBeingTyped();
+    void SaysSoIfNoListingCanBeWritten();
+    void IsUpdatedWhenShownAgain();
+    void KeepsItsScrollPositionOnUpdates();
+    void PagesAreConvertedToRichText_data();
+    void PagesAreConvertedToRichText();
 };
 
 namespace {
@@ -69,7 +69,7 @@ class Preview : public LayoutFixture {
         }
         return count;
     }
-    // How the text looks that is found first.
+    // The format of the first occurrence of the text.
     QTextCharFormat FormatOf(const QString& text) const {
         return Browser().document()->find(text, 0, QTextDocument::FindCaseSensitively).charFormat();
     }
@@ -81,7 +81,7 @@ constexpr int kManyPixels = 400;
 
 } // namespace
 
-void PreviewTest::ThePreviewShowsTheSampleTracksFromTheStart() {
+void PreviewTest::TheSampleTracksAreShownOnOpening() {
     Preview with;
     with.settings.PageTitle = "My %C files";
     with.Open();
@@ -127,7 +127,7 @@ void PreviewTest::FollowsTheColours() {
     with.settings.ColourHTML = !css;
     with.settings.DoLinks = true;
     for (FontSetting& font : with.settings.Font) {
-        font.size = "5"; // letters large enough to have pixels of pure colour
+        font.size = "5"; // large enough for pixels that are not antialiased
         font.bold = true;
     }
     with.settings.TableBorder = 3;
@@ -231,7 +231,7 @@ void PreviewTest::FollowsAlternatingRows() {
     QTRY_COMPARE(with.Pixels(alternate), 0);
 }
 
-void PreviewTest::FollowsTheMeasuresOfTheTable() {
+void PreviewTest::FollowsTheTableSizes() {
     Preview with;
     with.settings.Colour[kTableBorder] = "AA77BB";
     with.Open();
@@ -256,7 +256,7 @@ void PreviewTest::FollowsTheMeasuresOfTheTable() {
     QTRY_VERIFY(widest() < 260);
 }
 
-void PreviewTest::ShowsThatBrowsersPassOverTheStyleSheetOfXhtml() {
+void PreviewTest::SaysThatBrowsersIgnoreTheStyleSheetOfXhtml() {
     Preview with;
     with.Open();
     const QString text = with.Shown();
@@ -277,7 +277,7 @@ void PreviewTest::ShowsThatBrowsersPassOverTheStyleSheetOfXhtml() {
     QCOMPARE(with.Shown(), text);
 }
 
-void PreviewTest::ShowsTheUnsavedOptionsToo() {
+void PreviewTest::FollowsTheUnsavedOptionsToo() {
     LayoutFixture with;
     with.settings.ActiveColumns = "Title|File Size";
     frmOptions options(with.application, with.ui);
@@ -291,7 +291,7 @@ void PreviewTest::ShowsTheUnsavedOptionsToo() {
     const QString shown = browser.toPlainText();
     QVERIFY(shown.contains(u"5,306,412 b."_s));
     QVERIFY(shown.contains(u"Link"_s));
-    QVERIFY(shown.contains(u"Long Wave"_s)); // always all on one page
+    QVERIFY(shown.contains(u"Long Wave"_s)); // all tracks are on one page
     QVERIFY(!shown.contains(u"Next Page"_s));
 }
 
@@ -303,7 +303,7 @@ void PreviewTest::FollowsALoadedTheme() {
     QTRY_COMPARE(with.Browser().viewport()->grab().toImage().pixelColor(1, 1), QColor(0, 0, 0xAA));
 }
 
-void PreviewTest::EscapesWhatTheEntityTableSays() {
+void PreviewTest::EscapesWithTheEntityTable() {
     for (const auto& [file, expected] :
          {std::pair("", u"Salt & Rope"_s), std::pair("38\t&amp;\r\n", u"Salt & Rope"_s),
           std::pair("38\t[and]\r\n", u"Salt [and] Rope"_s)}) {
@@ -316,7 +316,7 @@ void PreviewTest::EscapesWhatTheEntityTableSays() {
     }
 }
 
-void PreviewTest::KeepsNumbersThatAreHalfTyped() {
+void PreviewTest::IgnoresNumbersThatAreBeingTyped() {
     Preview with;
     with.settings.TableBorder = 4;
     with.settings.Colour[kTableBorder] = "AA77BB";
@@ -329,7 +329,7 @@ void PreviewTest::KeepsNumbersThatAreHalfTyped() {
     QVERIFY(with.Pixels(QColor(0xAA, 0x77, 0xBB)) > before / 2);
 }
 
-void PreviewTest::SaysSoWhereNoListingCouldBeWritten() {
+void PreviewTest::SaysSoIfNoListingCanBeWritten() {
     Preview with;
     with.settings.ActiveColumns = "Album|Artist|Title";
     with.settings.Merge = 2;
@@ -342,20 +342,20 @@ void PreviewTest::SaysSoWhereNoListingCouldBeWritten() {
     QTRY_VERIFY(with.Shown().contains(u"Amber Lantern: First Ferry Home"_s));
 }
 
-void PreviewTest::CanBeHiddenAndShowsTheLatestWhenItIsBack() {
+void PreviewTest::IsUpdatedWhenShownAgain() {
     Preview with;
     with.Open();
     Set(*with.editor, u"chkPreview"_s, false);
     QVERIFY(!with.Browser().isVisible());
     Set(*with.editor, u"chkTheSubstitution"_s, false);
     QTest::qWait(300);
-    QVERIFY(with.Shown().contains(u"Clockmakers, The"_s)); // nothing is made that nobody sees
+    QVERIFY(with.Shown().contains(u"Clockmakers, The"_s)); // a hidden preview is not updated
     Set(*with.editor, u"chkPreview"_s, true);
     QVERIFY(with.Browser().isVisible());
     QTRY_VERIFY(with.Shown().contains(u"The Clockmakers"_s));
 }
 
-void PreviewTest::KeepsItsPlaceWhileItIsUpdated() {
+void PreviewTest::KeepsItsScrollPositionOnUpdates() {
     Preview with;
     with.settings.TablePadding = 50;
     with.Open();
@@ -367,7 +367,7 @@ void PreviewTest::KeepsItsPlaceWhileItIsUpdated() {
     QCOMPARE(bar->value(), 50);
 }
 
-void PreviewTest::PagesArePreparedForRichText_data() {
+void PreviewTest::PagesAreConvertedToRichText_data() {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("styleSheet");
     QTest::addColumn<QString>("html");
@@ -377,7 +377,7 @@ void PreviewTest::PagesArePreparedForRichText_data() {
     const QString body = u"<body bgcolor=\"#010203\" text=\"#040506\" link=\"#070809\">x</body>"_s;
     QTest::newRow("no style sheet") << body << QString() << body << QColor(4, 5, 6) << QColor(1, 2, 3)
                                     << QColor(7, 8, 9);
-    QTest::newRow("rules outdo the body tag")
+    QTest::newRow("rules override the body tag")
         << u"<style type=\"text/css\">\n\t<!--\n\tbody {color: #AA0000; background-color: #00AA00; "
            u"font-size: small;}\n"
            "\ttd {font-size: xx-large;}\n\ta {color: #0000AA;}\n\t//-->\n</style>"_s +
@@ -385,30 +385,30 @@ void PreviewTest::PagesArePreparedForRichText_data() {
         << u"body {color: #AA0000; background-color: #00AA00; font-size: 13px;}\ntd {font-size: 32px;}\n"
            "a {color: #0000AA;}\n"_s
         << body << QColor(0xAA, 0, 0) << QColor(0, 0xAA, 0) << QColor(0, 0, 0xAA);
-    QTest::newRow("a rule behind empty ones is skipped")
+    QTest::newRow("a rule after empty ones is skipped")
         << u"<style type=\"text/css\">\n<!--\nbody {font-size: x-small;}\ntr }\ntr.r2 }\nth {font-size: "
            u"large;}\n"
            "td {font-size: medium;}\n//-->\n</style>"_s +
                body
         << u"body {font-size: 10px;}\ntd {font-size: 16px;}\n"_s << body << QColor(4, 5, 6) << QColor(1, 2, 3)
         << QColor(7, 8, 9);
-    QTest::newRow("colours only: the rule for links is behind an empty one")
+    QTest::newRow("colours only: the rule for links follows an empty one")
         << u"<style>\n<!--\nbody {color: #AA0000;}\ntr.r2 {color: #111111;}\ntd }\na {color: #0000AA;}\n//-->\n</style>"_s +
                body
         << u"body {color: #AA0000;}\ntr.r2 {color: #111111;}\n"_s << body << QColor(0xAA, 0, 0)
         << QColor(1, 2, 3) << QColor(7, 8, 9);
-    QTest::newRow("an XML section swallows all rules")
+    QTest::newRow("rules in a CDATA section are ignored")
         << u"<style type=\"text/css\">\n<![CDATA[\nbody {font-size: x-small;}\ntd {color: #111111;}\n]]>\n</style>"_s +
                body
         << QString() << body << QColor(4, 5, 6) << QColor(1, 2, 3) << QColor(7, 8, 9);
-    QTest::newRow("nothing of a page")
-        << u"hello"_s << QString() << u"hello"_s << QColor() << QColor() << QColor();
-    QTest::newRow("colours that are none")
-        << u"<body bgcolor=\"#red\" text=\"#\" link=\"#12345\">"_s << QString()
-        << u"<body text=\"#\" link=\"#12345\">"_s << QColor() << QColor() << QColor();
+    QTest::newRow("an empty page") << u"hello"_s << QString() << u"hello"_s << QColor() << QColor()
+                                   << QColor();
+    QTest::newRow("invalid colours") << u"<body bgcolor=\"#red\" text=\"#\" link=\"#12345\">"_s << QString()
+                                     << u"<body text=\"#\" link=\"#12345\">"_s << QColor() << QColor()
+                                     << QColor();
 }
 
-void PreviewTest::PagesArePreparedForRichText() {
+void PreviewTest::PagesAreConvertedToRichText() {
     QFETCH(QString, page);
     QFETCH(QString, styleSheet);
     QFETCH(QString, html);

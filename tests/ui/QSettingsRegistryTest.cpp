@@ -8,7 +8,7 @@
 using namespace tunedex;
 using namespace tunedex::test;
 
-// The two folders are named in the environment before Qt looks there for the first time.
+// Qt reads these variables once, on first use.
 class QSettingsRegistryTest : public QObject {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ class QSettingsRegistryTest : public QObject {
 
     void AMissingValueIsEmpty() { QCOMPARE(QSettingsRegistry().Read("HelpFilePath"), std::string()); }
 
-    void TheSystemWideFileStandsBehindTheUsers() {
+    void MissingValuesComeFromTheSystemWideFile() {
         QSettingsRegistry registry;
         QCOMPARE(registry.Read("TipsOnStartup"), std::string("1"));
         QCOMPARE(registry.Read("InstallationPath"), std::string("/opt/system wide"));
@@ -36,22 +36,22 @@ class QSettingsRegistryTest : public QObject {
                  std::string("[General]\nTipsOnStartup=0\n"));
     }
 
-    void AWrittenTextComesBack_data() {
+    void AWrittenTextIsReadBack_data() {
         QTest::addColumn<QByteArray>("text");
         QTest::newRow("a number") << QByteArray("1");
         QTest::newRow("empty") << QByteArray("");
-        QTest::newRow("blanks, commas and marks") << QByteArray(" /a, b;c=\"d\" %MULT%\\ ");
-        QTest::newRow("letters beyond ASCII") << QByteArray("/M\xC3\xBCsik/\xE3\x81\x82/\xF0\x9F\x8E\xB5");
+        QTest::newRow("blanks, commas and quotes") << QByteArray(" /a, b;c=\"d\" %MULT%\\ ");
+        QTest::newRow("non-ASCII letters") << QByteArray("/M\xC3\xBCsik/\xE3\x81\x82/\xF0\x9F\x8E\xB5");
         QTest::newRow("an at sign, which the file format uses") << QByteArray("@ByteArray(x)");
-        QTest::newRow("bytes that are no UTF-8") << QByteArray("/old\xFCname");
+        QTest::newRow("invalid UTF-8") << QByteArray("/old\xFCname");
     }
-    void AWrittenTextComesBack() {
+    void AWrittenTextIsReadBack() {
         QFETCH(QByteArray, text);
         QSettingsRegistry().Write("TipsFile", text.toStdString());
         QCOMPARE(QByteArray::fromStdString(QSettingsRegistry().Read("TipsFile")), text);
     }
 
-    void ACommaWrittenByHandIsPartOfTheText() {
+    void AnUnquotedCommaIsPartOfTheText() {
         user_.Write("Corvale Works/Tunedex.conf", "[General]\nInstallationPath=/srv/a,b\n");
         QCOMPARE(QSettingsRegistry().Read("InstallationPath"), std::string("/srv/a,b"));
     }

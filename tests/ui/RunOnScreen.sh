@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Uses the program as a user does, by keyboard on a screen: sees the tip, types a folder and an output file, creates the
-# list, sees the progress window, finds the list, corrects a number that the options refuse, creates the list again
-# beside the open layout editor, quits with the question, and finds the runs counted. Then starts where it cannot start,
-# and quits where it cannot save.
+# Drives the program by keyboard on an X server: closes the tip, enters a folder and an output file, creates the list,
+# checks the progress window and the list, corrects a number refused by the options, creates the list again while the
+# layout editor is open, quits with confirmation, and checks the statistics. Then checks the exit status of a start that
+# fails and of a quit that cannot save.
 #
-# usage: RunOnScreen.sh PROGRAM        on the screen that DISPLAY names
+# usage: RunOnScreen.sh PROGRAM        (uses $DISPLAY)
 set -euo pipefail
 program=$1
 folder=$(mktemp -d)
@@ -18,17 +18,17 @@ fail() {
     echo "FAILED: $*" >&2
     exit 1
 }
-# Waits until a visible window has that name (a regular expression) and prints its number.
+# Waits for a visible window whose name matches the regular expression and prints its id.
 window() {
-    timeout 30 xdotool search --sync --onlyvisible --name "$1" | head -n 1 || fail "no window is called $1"
+    timeout 30 xdotool search --sync --onlyvisible --name "$1" | head -n 1 || fail "no window is named $1"
 }
-# Waits until no visible window has that name.
+# Waits until no visible window has a matching name.
 gone() {
     for ((i = 0; i < 300; i++)); do
         xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || return 0
         sleep 0.1
     done
-    fail "the window $1 stays"
+    fail "the window $1 does not close"
 }
 
 mkdir -p "$folder/program" "$folder/config/Corvale Works" "$folder/music/more"
@@ -46,7 +46,7 @@ tip=$(window '^Tip of the Day$')
 xdotool windowfocus --sync "$tip"
 xdotool key alt+s sleep 0.5 key Return # no more tips
 gone '^Tip of the Day$'
-grep -q '^TipsOnStartup=0$' "$folder/config/Corvale Works/Tunedex.conf" || fail "the choice of tips was not kept"
+grep -q '^TipsOnStartup=0$' "$folder/config/Corvale Works/Tunedex.conf" || fail "the tips choice was not saved"
 xdotool windowfocus --sync "$main"
 xdotool key alt+d type --delay 5 "$folder/music"
 xdotool key alt+o type --delay 5 "$folder/lists/list.htm"
@@ -66,7 +66,7 @@ for name in one two three; do
     grep -q "$name.mp3" "$list" || fail "$name.mp3 is not listed"
 done
 
-# After the message the box with the bad number has the focus, its text selected: typing replaces it.
+# After the message the number box has the focus with its text selected, so typing replaces it.
 xdotool windowfocus --sync "$main"
 xdotool key alt+s
 options=$(window '^Options$')
@@ -81,7 +81,7 @@ xdotool sleep 0.5 type --delay 5 "2"
 xdotool key alt+u
 gone '^Options$'
 
-# Beside the open layout editor the main window works: it creates a list of two pages, and quits.
+# While the layout editor is open the main window creates a list of two pages and quits.
 xdotool windowfocus --sync "$main"
 xdotool key alt+s
 options=$(window '^Options$')
@@ -95,7 +95,7 @@ gone '^Creating List$'
 [[ -f ${list%.htm}.002.htm ]] || fail "no list was written while the layout editor was open"
 window '^Edit Layout$' >/dev/null
 
-# Cancelled, the question leaves the program running.
+# Cancel keeps the program running.
 for answer in Escape Return; do
     kill -0 "$pid" || fail "the program has ended"
     xdotool windowfocus --sync "$main"
@@ -113,7 +113,7 @@ pid=
 mapfile -t counts < <(tr -d '\r' <"$folder/program/stats.lst")
 [[ ${counts[0]} == \"????-??-??\" ]] || fail "first started: ${counts[0]}"
 [[ "${counts[*]:1}" == "1 2 6" ]] || fail "counted: ${counts[*]:1}"
-# Answers the one message that appears, and waits for the program's end.
+# Closes the message, waits for the program to end and checks its exit status.
 answer_and_end() {
     local message status=0
     message=$(window '^Error!$')
@@ -125,14 +125,14 @@ answer_and_end() {
 }
 mkdir "$folder/broken"
 printf '[General]\nInstallationPath=%s\n' "$folder/broken" >"$folder/config/Corvale Works/Tunedex.conf"
-ln -s Tunedex.cfg "$folder/broken/Tunedex.cfg" # a link to itself cannot be read
+ln -s Tunedex.cfg "$folder/broken/Tunedex.cfg" # a symbolic link to itself cannot be read
 "$program" &
 pid=$!
 answer_and_end 2
 
 rm "$folder/broken/Tunedex.cfg"
 printf 'ConfirmQuit=0\r\n' >"$folder/broken/Tunedex.cfg"
-mkdir "$folder/broken/stats.lst" # a folder cannot be written over
+mkdir "$folder/broken/stats.lst" # a folder cannot be replaced by a file
 "$program" &
 pid=$!
 main=$(window '^Tunedex v')
@@ -140,4 +140,4 @@ xdotool windowfocus --sync "$main"
 xdotool key alt+q
 answer_and_end 1
 
-echo "typed, created, listed, quitted and counted"
+echo "passed"

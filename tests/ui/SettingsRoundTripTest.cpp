@@ -12,7 +12,7 @@ class SettingsRoundTripTest : public QObject {
 
   private slots:
     void EveryFieldSurvivesTheWindowsAndTheFile();
-    void FieldsThatNoControlHoldsStayAsTheyWere();
+    void FieldsWithoutAControlAreUnchanged();
 };
 
 namespace {
@@ -21,7 +21,7 @@ const TestClass<SettingsRoundTripTest> kSettingsRoundTripTestRegistered("Setting
 
 constexpr unsigned kSeeds = 120;
 
-// Settings as files and controls can hold them, odd ones included.
+// Random settings that files and controls can hold, including unusual values.
 class RandomSettings {
   public:
     explicit RandomSettings(unsigned seed) : random_(seed) {}
@@ -73,7 +73,7 @@ class RandomSettings {
         }
     }
 
-    // Anything but line breaks, which end a line of the file.
+    // Any characters except line breaks, which a settings file cannot hold.
     std::string Text() {
         static const std::vector<std::string> pieces = {
             "a",           "B",        "7",      " ",      "=",
@@ -86,7 +86,7 @@ class RandomSettings {
         for (unsigned i = Below(12); i > 0; --i) {
             text += pieces.at(Below(static_cast<unsigned>(pieces.size())));
         }
-        // Only these two separators have a meaning within values.
+        // Without the two separators that have a meaning within values.
         return text.find("%|%") == std::string::npos && text.find("%||%") == std::string::npos ? text : "";
     }
 
@@ -115,7 +115,7 @@ void AcceptLayout(frmOptions& options) {
     Button(*options.Editor(), u"cmdOK"_s).click();
 }
 
-// As a user does who opens each window and accepts it without a change.
+// Opens each window and accepts it without changes.
 void Use(LayoutFixture& with) {
     frmOptions options(with.application, with.ui);
     AcceptLayout(options);
@@ -149,19 +149,19 @@ void SettingsRoundTripTest::EveryFieldSurvivesTheWindowsAndTheFile() {
         QCOMPARE(faults.str(), std::string());
         QVERIFY2(loaded == made, qPrintable(u"seed %1: through the file"_s.arg(seed)));
 
-        // And once more from what was loaded, into new windows and the same bytes.
+        // A second round trip through new windows must give the same bytes.
         const std::string bytes = ReadBytes(with.folder / "Tunedex.cfg");
         with.settings = loaded;
         Save(with);
-        QVERIFY2(with.settings == made, qPrintable(u"seed %1: once more"_s.arg(seed)));
+        QVERIFY2(with.settings == made, qPrintable(u"seed %1: second round trip"_s.arg(seed)));
         QVERIFY2(ReadBytes(with.folder / "Tunedex.cfg") == bytes,
                  qPrintable(u"seed %1: other bytes"_s.arg(seed)));
     }
 }
 
-void SettingsRoundTripTest::FieldsThatNoControlHoldsStayAsTheyWere() {
+void SettingsRoundTripTest::FieldsWithoutAControlAreUnchanged() {
     LayoutFixture with;
-    with.settings.TableSpacing = 5; // no control has it and no file is given it
+    with.settings.TableSpacing = 5; // has no control and is not written to files
     with.settings.SizeType = 7;
     with.settings.SortOrder = 9;
     with.settings.LinkType = -3;

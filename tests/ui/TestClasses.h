@@ -1,4 +1,4 @@
-// The Qt Test classes of a test program, by name.
+// A registry of the Qt Test classes in a test program.
 #pragma once
 
 #include <QObject>
@@ -17,7 +17,7 @@ inline TestClassMap& TestClasses() {
     return classes;
 }
 
-// Stands as a constant beside each test class.
+// Registers a test class. Define one constant per class.
 template <typename T> struct TestClass {
     explicit TestClass(const char* name) {
         TestClasses()[name] = [] { return std::make_unique<T>(); };

@@ -16,31 +16,31 @@ class ThemePanelTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void TheListShowsThemesInTheFoldersOrderWithTheFirstSelected();
+    void TheListShowsThemesInFolderOrderWithTheFirstSelected();
     void WithoutThemesOnlySavingIsEnabled();
     void LoadingAppliesTheThemeToTheSettingsAtOnceAndToTheControls();
     void ALoadedThemeSurvivesCancelAndOtherEditsDoNot();
-    void ALoadedThemeLeavesTheFourSwitchesAlone();
-    void AThemeMayCarryOtherSettingsForTheOtherWindows();
-    void AThemeThatIsGoneLoadsNothing();
+    void LoadingAThemeLeavesTheFourSwitchesUnchanged();
+    void AThemeMayHoldSettingsOfOtherWindows();
+    void LoadingADeletedThemeChangesNothing();
     void ADoubleClickLoads();
     void AThemeWithAnotherCaseOfItsExtensionIsLoadedAndDeleted();
-    void AThemeThatCannotBeReadIsToldOf();
+    void AThemeThatCannotBeReadShowsAMessage();
     void FaultyLinesAreReportedAndTheRestIsApplied();
     void SavingAsksForANameAndWritesTheEditorsControls();
-    void SavingWritesTextsAsTheyStandAndAltRowsFromTheSettings();
-    void SavingMakesTheMissingFolder();
+    void SavingWritesTextsUnconvertedAndAltRowsFromTheSettings();
+    void SavingCreatesAMissingFolder();
     void ABlankOrNoNameWritesNothing();
     void BlanksAroundANameAreKept();
     void BadNamesGetAMessageAndWriteNothing_data();
     void BadNamesGetAMessageAndWriteNothing();
     void SavingOverAThemeAsksFirst();
     void DecliningToOverwriteKeepsTheFileAndTheStatusStillSaysSaved();
-    void ASaveThatFailsIsToldAndChangesNoStatus();
+    void AFailedSaveShowsAMessageAndKeepsTheStatus();
     void DeletingAsksFirst();
     void AfterDeletingTheFocusStaysInThePanel();
     void DecliningToDeleteKeepsTheTheme();
-    void DeletingAThemeThatIsGoneIsToldAndListsAnew();
+    void DeletingADeletedThemeShowsAMessageAndUpdatesTheList();
     void EveryShippedThemeLoads();
 };
 
@@ -64,7 +64,7 @@ class Panel : public LayoutFixture {
         return *editor;
     }
 
-    // The answer to the question for a name; no value cancels.
+    // The answer to the prompt for a name; no value cancels.
     void AnswerName(const std::optional<QString>& name) {
         choosers.text = [this, name](QWidget*, const QString& title, const QString& prompt) {
             questions << title + u": "_s + prompt;
@@ -101,7 +101,7 @@ Settings WithBlue(Settings settings) {
 
 } // namespace
 
-void ThemePanelTest::TheListShowsThemesInTheFoldersOrderWithTheFirstSelected() {
+void ThemePanelTest::TheListShowsThemesInFolderOrderWithTheFirstSelected() {
     Panel with;
     for (const char* name : {"Zebra.thm", "Dark.THM", "  Sky.thm", "alpha.thm", "bad\xFF.thm"}) {
         with.folder.Write(std::string("Themes/") + name, kBlue);
@@ -169,7 +169,7 @@ void ThemePanelTest::ALoadedThemeSurvivesCancelAndOtherEditsDoNot() {
     QVERIFY(with.settings == expected);
 }
 
-void ThemePanelTest::ALoadedThemeLeavesTheFourSwitchesAlone() {
+void ThemePanelTest::LoadingAThemeLeavesTheFourSwitchesUnchanged() {
     for (const bool on : {false, true}) {
         Panel with;
         with.folder.Write("Themes/Blue.thm", kBlue);
@@ -184,7 +184,7 @@ void ThemePanelTest::ALoadedThemeLeavesTheFourSwitchesAlone() {
     }
 }
 
-void ThemePanelTest::AThemeMayCarryOtherSettingsForTheOtherWindows() {
+void ThemePanelTest::AThemeMayHoldSettingsOfOtherWindows() {
     Panel with;
     with.folder.Write("Themes/All.thm", "PageTitle=From the theme\r\nSpanning=12\r\nLinkPrefix=theme:\r\n"
                                         "ActiveColumns=Title\r\nDocumentType=XHTML\r\nTableSpacing=3\r\n");
@@ -202,7 +202,7 @@ void ThemePanelTest::AThemeMayCarryOtherSettingsForTheOtherWindows() {
     QCOMPARE(static_cast<int>(with.settings.TableSpacing), 3);
 }
 
-void ThemePanelTest::AThemeThatIsGoneLoadsNothing() {
+void ThemePanelTest::LoadingADeletedThemeChangesNothing() {
     Panel with;
     const std::string path = with.folder.Write("Themes/Blue.thm", kBlue);
     const Settings before = with.settings;
@@ -238,12 +238,12 @@ void ThemePanelTest::AThemeWithAnotherCaseOfItsExtensionIsLoadedAndDeleted() {
     QVERIFY(with.Names().isEmpty());
 }
 
-void ThemePanelTest::AThemeThatCannotBeReadIsToldOf() {
+void ThemePanelTest::AThemeThatCannotBeReadShowsAMessage() {
     Panel with;
     const Settings before = with.settings;
     with.folder.Write("Themes/Blue.thm", kBlue);
     with.Open();
-    // A link to itself, which not even root can follow.
+    // A symbolic link to itself: opening it fails even for root.
     QCOMPARE(unlink((with.folder / "Themes/Blue.thm").c_str()), 0);
     QCOMPARE(symlink("Blue.thm", (with.folder / "Themes/Blue.thm").c_str()), 0);
     with.Press(u"cmdLoadTheme"_s);
@@ -313,7 +313,7 @@ void ThemePanelTest::SavingAsksForANameAndWritesTheEditorsControls() {
                          "TableBorder=1\r\n"));
 }
 
-void ThemePanelTest::SavingWritesTextsAsTheyStandAndAltRowsFromTheSettings() {
+void ThemePanelTest::SavingWritesTextsUnconvertedAndAltRowsFromTheSettings() {
     Panel with;
     with.settings.AltRows = false;
     with.settings.TableWidthUnit = 7; // neither option
@@ -329,7 +329,7 @@ void ThemePanelTest::SavingWritesTextsAsTheyStandAndAltRowsFromTheSettings() {
     QVERIFY(bytes.ends_with("\r\nTableWidth=0/75.5 \r\nTablePadding=wide\r\nTableBorder=\r\n"));
 }
 
-void ThemePanelTest::SavingMakesTheMissingFolder() {
+void ThemePanelTest::SavingCreatesAMissingFolder() {
     Panel with;
     with.AnswerName(u"First"_s);
     with.Open();
@@ -364,10 +364,10 @@ void ThemePanelTest::BlanksAroundANameAreKept() {
 void ThemePanelTest::BadNamesGetAMessageAndWriteNothing_data() {
     QTest::addColumn<QString>("name");
     QTest::newRow("a separator") << u"a/b"_s;
-    QTest::newRow("a way out") << u"../escaped"_s;
+    QTest::newRow("a parent folder") << u"../escaped"_s;
     QTest::newRow("an absolute path") << u"/tmp/escaped"_s;
-    QTest::newRow("the folder") << u"."_s;
-    QTest::newRow("the folder above") << u".."_s;
+    QTest::newRow("the current folder") << u"."_s;
+    QTest::newRow("the parent folder itself") << u".."_s;
     QTest::newRow("a NUL") << u"a"_s + QChar(0) + u'b';
     QTest::newRow("too long for a file") << QString(300, u'x');
 }
@@ -415,7 +415,7 @@ void ThemePanelTest::DecliningToOverwriteKeepsTheFileAndTheStatusStillSaysSaved(
     QCOMPARE(with.Status(), u"Theme saved successfully."_s);
 }
 
-void ThemePanelTest::ASaveThatFailsIsToldAndChangesNoStatus() {
+void ThemePanelTest::AFailedSaveShowsAMessageAndKeepsTheStatus() {
     Panel with;
     with.application.programFolder = with.folder / "gone/";
     with.AnswerName(u"Mine"_s);
@@ -472,7 +472,7 @@ void ThemePanelTest::DecliningToDeleteKeepsTheTheme() {
     QCOMPARE(with.Names(), QStringList{u"Blue"_s});
 }
 
-void ThemePanelTest::DeletingAThemeThatIsGoneIsToldAndListsAnew() {
+void ThemePanelTest::DeletingADeletedThemeShowsAMessageAndUpdatesTheList() {
     Panel with;
     const std::string path = with.folder.Write("Themes/Blue.thm", kBlue);
     with.ui.fake.answers = {kAnswerYes};

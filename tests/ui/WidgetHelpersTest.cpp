@@ -9,7 +9,7 @@ using namespace tunedex::test;
 
 namespace {
 
-// Whether exactly this was said, in a box of the main window.
+// Whether there was exactly one message, with this text and owned by the main window.
 bool SaidByMainWindow(Desk& desk, const std::string& text) {
     const std::vector<FakeDialogs::Message>& messages = desk.dialogs.messages;
     return messages.size() == 1 && messages[0].text == text && messages[0].buttons == kOkExclamation &&
@@ -22,45 +22,45 @@ class WidgetHelpersTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void ATextPassesThroughAFieldUnharmed_data() {
+    void AnyTextSurvivesATextField_data() {
         QTest::addColumn<QByteArray>("text");
         QTest::newRow("nothing") << QByteArray("");
         QTest::newRow("ASCII") << QByteArray("/home/a.mp3");
-        QTest::newRow("letters beyond ASCII") << QByteArray("/M\xC3\xBCsik/\xE3\x81\x82");
-        QTest::newRow("a character beyond 16 bits") << QByteArray("\xF0\x9F\x8E\xB5");
-        QTest::newRow("a stray byte") << QByteArray("/old\xFCname");
-        QTest::newRow("a stray byte after a character beyond 16 bits") << QByteArray("\xF0\x9F\x8E\xB5\xB5");
-        QTest::newRow("every stray byte in a row") << [] {
+        QTest::newRow("non-ASCII letters") << QByteArray("/M\xC3\xBCsik/\xE3\x81\x82");
+        QTest::newRow("a character above U+FFFF") << QByteArray("\xF0\x9F\x8E\xB5");
+        QTest::newRow("an invalid byte") << QByteArray("/old\xFCname");
+        QTest::newRow("an invalid byte after a character above U+FFFF") << QByteArray("\xF0\x9F\x8E\xB5\xB5");
+        QTest::newRow("all invalid bytes") << [] {
             QByteArray bytes;
             for (int byte = 0x80; byte <= 0xFF; ++byte) {
                 bytes.append(static_cast<char>(byte)).append(' ');
             }
             return bytes;
         }();
-        QTest::newRow("an encoded surrogate, which is no UTF-8") << QByteArray("\xED\xB2\x80");
-        QTest::newRow("marks of the byte order anywhere") << QByteArray("\uFEFF\uFEFFa\uFEFFb\uFEFF");
+        QTest::newRow("an encoded surrogate") << QByteArray("\xED\xB2\x80");
+        QTest::newRow("byte-order marks anywhere") << QByteArray("\uFEFF\uFEFFa\uFEFFb\uFEFF");
         QTest::newRow("an overlong form") << QByteArray("\xC0\xAF");
         QTest::newRow("a TAB, a line break and a NUL") << QByteArray("a\tb\nc\0d", 7);
-        QTest::newRow("longer than a field usually allows") << QByteArray(40000, 'x');
+        QTest::newRow("longer than QLineEdit's default limit") << QByteArray(40000, 'x');
     }
-    void ATextPassesThroughAFieldUnharmed() {
+    void AnyTextSurvivesATextField() {
         QFETCH(QByteArray, text);
         const QScopedPointer<QLineEdit> field(MakeTextField(u"field"_s, u"Field"_s, u"For texts"_s));
         field->setText(ToQt(text.toStdString()));
         QCOMPARE(QByteArray::fromStdString(FromQt(field->text())), text);
     }
 
-    void ALoneSurrogateOfNoByteBecomesAReplacementCharacter() {
+    void ALoneSurrogateThatEncodesNoByteBecomesAReplacementCharacter() {
         QCOMPARE(FromQt(QString(QChar(0xD800))), std::string("\xEF\xBF\xBD"));
         QCOMPARE(FromQt(QString(QChar(0xDC41))), std::string("\xEF\xBF\xBD"));
     }
 
-    void ForTheEyeAStrayByteIsReplacedAndALineBreakIsPlain() {
+    void DisplayTextReplacesInvalidBytesAndUsesPlainLineBreaks() {
         QCOMPARE(ToQtDisplay("a\r\nb\xFC"), u"a\nb\uFFFD"_s);
         QCOMPARE(ToQtDisplay("\uFEFF\uFEFFa\uFEFF\xE2"), u"\uFEFF\uFEFFa\uFEFF\uFFFD"_s);
     }
 
-    void AControlCarriesItsNameAndDescription() {
+    void AControlHasItsNameAndDescription() {
         const QScopedPointer<QLineEdit> field(MakeTextField(u"txtField"_s, u"Field"_s, u"For texts"_s));
         QCOMPARE(field->objectName(), u"txtField"_s);
         QCOMPARE(field->accessibleName(), u"Field"_s);
@@ -100,14 +100,14 @@ class WidgetHelpersTest : public QObject {
         QCOMPARE(other.size(), QSize(111, 112));
     }
 
-    void AMissingHelpFileIsSaid() {
+    void AMissingHelpFileShowsAMessage() {
         Desk desk;
         desk.Show();
         OpenHelp(desk.fake.application, desk.frontEnd, desk.Main());
         QVERIFY(SaidByMainWindow(desk, "The help file could not be found!"));
     }
 
-    void TheHelpFileOpensWhateverBytesItsPathHolds() {
+    void TheHelpFileOpensEvenIfItsPathIsNotUtf8() {
         FakeBrowser browser;
         Desk desk;
         desk.fake.application.helpFile = "/srv/a b/\xFC#%/Help.html";
@@ -117,14 +117,14 @@ class WidgetHelpersTest : public QObject {
         QCOMPARE(browser.opened[0].toEncoded(), QByteArray("file:///srv/a%20b/%FC%23%25/Help.html"));
     }
 
-    void AnAddressThatNothingOpensIsSaid() {
+    void AnAddressWithoutAHandlerShowsAMessage() {
         Desk desk;
         desk.Show();
         OpenAddress(u"https://tunedex.example/"_s, desk.fake.application, desk.frontEnd, desk.Main());
         QVERIFY(SaidByMainWindow(desk, "No program could be found to open\nhttps://tunedex.example/"));
     }
 
-    void TheMessageOfAHiddenWindowBelongsToTheWindowBehindIt() {
+    void AMessageOfAHiddenWindowIsOwnedByItsVisibleParent() {
         Desk desk;
         desk.Show();
         QDialog hidden(&desk.Main());

@@ -77,7 +77,7 @@ void Choose(const QObject& window, const char* menuItem) {
 
 void PressMnemonic(QWidget& window, Qt::Key letter) {
     QTest::keyClick(&window, letter, Qt::AltModifier);
-    QTest::qWait(200); // a button that is pressed by its key looks pressed for a tenth of a second
+    QTest::qWait(200); // animateClick() releases the button after 100 ms
 }
 
 void Type(const QObject& window, const char* field, const char* text) {

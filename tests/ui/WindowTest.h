@@ -1,4 +1,4 @@
-// What the tests of windows share: an application of fakes, answers to dialogs, a hand on every control.
+// Fixture for window tests: a fake application, prepared answers to dialogs, access to controls by name.
 #pragma once
 
 #include "Dialogs.h"
@@ -21,8 +21,8 @@
 
 namespace tunedex::test {
 
-// Remembers what was asked and gives prepared answers; what nobody has prepared is answered with OK or
-// cancelled.
+// Records all dialogs and returns the queued answers. With an empty queue a message is answered with OK, a
+// chooser is cancelled.
 class FakeDialogs final : public Dialogs {
   public:
     struct Message {
@@ -52,7 +52,7 @@ class FakeDialogs final : public Dialogs {
     std::vector<FileQuestion> fileQuestions;
 };
 
-// Takes the place of the browser and the mail program.
+// Receives the URLs that would open in the browser or the mail program.
 class FakeBrowser final : public QObject {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ class FakeBrowser final : public QObject {
     void Open(const QUrl& url) { opened.push_back(url); }
 };
 
-// The windows over fakes, in a program folder of the test's own. Nothing is shown before Show().
+// The windowed front end over fakes, with a temporary program folder. Windows are hidden until Show().
 class Desk {
   public:
     Desk();
@@ -81,39 +81,39 @@ class Desk {
     WindowsFrontEnd frontEnd;
 };
 
-// The control of that name; the test fails loudly where there is none.
+// The control with that object name. Aborts the test if there is none.
 template <typename Control> Control& Find(const QObject& window, const char* name) {
     auto* control = window.findChild<Control*>(QString::fromLatin1(name));
     if (control == nullptr) {
-        qFatal("no control is called %s", name);
+        qFatal("no control is named %s", name);
     }
     return *control;
 }
 
-// The window of that kind that is open in front of `main`.
+// The visible child window of `main` of that type. Aborts the test if there is none.
 template <typename Window> Window& OpenWindow(const QWidget& main) {
     auto* window = main.findChild<Window*>();
     if (window == nullptr || !window->isVisible()) {
-        qFatal("no such window is open");
+        qFatal("the window is not open");
     }
     return *window;
 }
 
 void Click(const QObject& window, const char* button);
 void Choose(const QObject& window, const char* menuItem);
-// Presses Alt and the letter, and waits for the button that it animates.
+// Presses Alt and the letter, and waits for the button's animation.
 void PressMnemonic(QWidget& window, Qt::Key letter);
-// Types over what is there.
+// Replaces the field's text by typing.
 void Type(const QObject& window, const char* field, const char* text);
 std::string TextOf(const QObject& window, const char* field);
 bool IsEnabled(const QObject& window, const char* control);
 
-// Keeps the window store out of the user's files; call it once, before any window.
+// Redirects saved window geometry to a temporary folder. Call once, before creating any window.
 void UseOwnWindowStore();
 
 } // namespace tunedex::test
 
-// The main function of a window test.
+// Defines the main function of a window test.
 #define TUNEDEX_WINDOW_TEST(TestClass)                                                                       \
     int main(int argc, char** argv) {                                                                        \
         QApplication application(argc, argv);                                                                \

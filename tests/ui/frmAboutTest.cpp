@@ -44,7 +44,7 @@ class frmAboutTest : public QObject {
                              "It has created 1 list, and handled 1 MP3 file."));
     }
 
-    void OnTheFirstStartThereIsNoSecondSentence() {
+    void TheFirstStartShowsNoSecondSentence() {
         Desk desk;
         desk.fake.application.statistics = FirstStatistics("2026-11-21");
         const frmAbout window(desk.fake.application, desk.frontEnd, nullptr);

@@ -11,7 +11,7 @@ using namespace tunedex::test;
 
 namespace {
 
-// The dialog over a folder value.
+// The dialog, opened with a folder value.
 struct ListDesk : Desk {
     explicit ListDesk(const std::string& folderValue) {
         TheSettings().Directory = folderValue;
@@ -32,7 +32,7 @@ struct ListDesk : Desk {
         return rows.join(u' ');
     }
     void Select(int row) { List().setCurrentItem(List().topLevelItem(row - 1)); }
-    // Counted from 1; 0 where none is selected.
+    // 1-based; 0 if no row is selected.
     int Selected() {
         const QList<QTreeWidgetItem*> items = List().selectedItems();
         return items.isEmpty() ? 0 : List().indexOfTopLevelItem(items.first()) + 1;
@@ -53,7 +53,7 @@ class frmDirSelectionTest : public QObject {
         QTest::addColumn<QString>("rows");
         QTest::newRow("a list") << QByteArray("%MULT%/a%||%/b/%||%/c") << u"/a /b/ /c"_s;
         QTest::newRow("one folder in a list") << QByteArray("%MULT%/a") << u"/a"_s;
-        QTest::newRow("the mark alone") << QByteArray("%MULT%") << QString();
+        QTest::newRow("the marker alone") << QByteArray("%MULT%") << QString();
         QTest::newRow("a single folder") << QByteArray("/a") << QString();
         QTest::newRow("nothing") << QByteArray("") << QString();
     }
@@ -71,7 +71,7 @@ class frmDirSelectionTest : public QObject {
         QTest::addColumn<QByteArray>("value");
         QTest::newRow("two") << QByteArray("%MULT%C:\\A%||%D:\\B");
         QTest::newRow("one") << QByteArray("%MULT%/a");
-        QTest::newRow("a name that is no UTF-8") << QByteArray("%MULT%/old\xFC%||%/new");
+        QTest::newRow("a name that is not UTF-8") << QByteArray("%MULT%/old\xFC%||%/new");
     }
     void OKStoresTheRowsInTheirOrder() {
         QFETCH(QByteArray, value);
@@ -82,12 +82,12 @@ class frmDirSelectionTest : public QObject {
         QCOMPARE(QByteArray::fromStdString(desk.TheSettings().Directory), value);
     }
 
-    void OKOnAnEmptyListLeavesTheSettingAsItWas_data() {
+    void OKOnAnEmptyListLeavesTheSettingUnchanged_data() {
         QTest::addColumn<QByteArray>("value");
         QTest::newRow("single folder") << QByteArray("/music");
         QTest::newRow("list") << QByteArray("%MULT%/a%||%/b");
     }
-    void OKOnAnEmptyListLeavesTheSettingAsItWas() {
+    void OKOnAnEmptyListLeavesTheSettingUnchanged() {
         QFETCH(QByteArray, value);
         ListDesk desk(value.toStdString());
         if (desk.List().topLevelItemCount() > 0) {
@@ -98,7 +98,7 @@ class frmDirSelectionTest : public QObject {
         QCOMPARE(QByteArray::fromStdString(desk.TheSettings().Directory), value);
     }
 
-    void EscLeavesTheSettingAsItWas() {
+    void EscLeavesTheSettingUnchanged() {
         ListDesk desk("%MULT%/a%||%/b");
         desk.Press("cmdRemove");
         QTest::keyClick(&*desk.window, Qt::Key_Escape);
@@ -129,7 +129,7 @@ class frmDirSelectionTest : public QObject {
         QVERIFY(desk.dialogs.messages.empty());
     }
 
-    void AddTakesNoMissingFolderAndNoneTwice() {
+    void AddIgnoresMissingFoldersAndDuplicates() {
         ListDesk desk("%MULT%");
         const std::string music = desk.folder.Make("Music");
         const std::string capitals = desk.folder.Make("MUSIC");
@@ -141,7 +141,7 @@ class frmDirSelectionTest : public QObject {
         QVERIFY(desk.dialogs.messages.empty());
     }
 
-    void AFolderThatCannotBeExaminedIsSaid() {
+    void AFolderThatCannotBeExaminedShowsAMessage() {
         ListDesk desk("%MULT%");
         desk.dialogs.folders = {std::string(5000, 'x')};
         desk.Press("cmdAdd");
@@ -150,7 +150,7 @@ class frmDirSelectionTest : public QObject {
         QCOMPARE(desk.dialogs.messages[0].buttons, static_cast<int>(kOkExclamation));
     }
 
-    void RemoveTakesTheSelectedRow() {
+    void RemoveDeletesTheSelectedRow() {
         ListDesk desk("%MULT%A%||%B%||%C");
         desk.Select(2);
         desk.Press("cmdRemove");
@@ -205,7 +205,7 @@ class frmDirSelectionTest : public QObject {
         QCOMPARE(desk.Selected(), selected);
     }
 
-    void OnlyWhatCanBeDoneIsEnabled_data() {
+    void OnlyUsableCommandsAreEnabled_data() {
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<int>("row");
         QTest::addColumn<QStringList>("enabled");
@@ -217,10 +217,10 @@ class frmDirSelectionTest : public QObject {
                                                u"cmdUp"_s,     u"cmdDown"_s,  u"cmdBottom"_s};
         QTest::newRow("last") << QByteArray("%MULT%A%||%B%||%C") << 3
                               << QStringList{u"cmdRemove"_s, u"cmdClear"_s, u"cmdTop"_s, u"cmdUp"_s};
-        QTest::newRow("the only one")
+        QTest::newRow("the only row")
             << QByteArray("%MULT%A") << 1 << QStringList{u"cmdRemove"_s, u"cmdClear"_s};
     }
-    void OnlyWhatCanBeDoneIsEnabled() {
+    void OnlyUsableCommandsAreEnabled() {
         QFETCH(QByteArray, value);
         QFETCH(int, row);
         QFETCH(QStringList, enabled);
@@ -239,7 +239,7 @@ class frmDirSelectionTest : public QObject {
         QVERIFY(IsEnabled(*desk.window, "cmdOK"));
     }
 
-    void AButtonThatTurnsItselfOffLeavesTheFocusWithTheList() {
+    void AButtonThatDisablesItselfPassesTheFocusToTheList() {
         ListDesk desk("%MULT%A%||%B");
         desk.window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&*desk.window));
@@ -251,7 +251,7 @@ class frmDirSelectionTest : public QObject {
         QVERIFY(desk.List().hasFocus());
     }
 
-    void HelpOpensTheHelpFileOrSaysThatItIsMissing() {
+    void HelpOpensTheHelpFileOrShowsAMessage() {
         FakeBrowser browser;
         ListDesk desk("");
         desk.Press("cmdHelp");
@@ -266,7 +266,7 @@ class frmDirSelectionTest : public QObject {
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
     }
 
-    void TheRowIsAsWideAsItsFolderNeeds() {
+    void TheColumnFitsTheLongestFolder() {
         ListDesk desk("%MULT%/short%||%/" + std::string(300, 'm'));
         QVERIFY(desk.List().columnWidth(0) > desk.List().viewport()->width());
         desk.Select(2);

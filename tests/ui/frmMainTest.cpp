@@ -23,7 +23,7 @@ using namespace tunedex::test;
 
 namespace {
 
-// The lines of a settings file without its head, which holds the time.
+// The lines of a settings file without its header, which contains the time.
 bool HoldsLine(const std::string& path, const std::string& line) {
     return ReadBytes(path).find("\n" + line + "\r\n") != std::string::npos;
 }
@@ -67,7 +67,7 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%/a%||%/b"));
     }
 
-    void FieldsCopyTheirTextsAtOnce_data() {
+    void FieldsUpdateTheirSettingsAtOnce_data() {
         QTest::addColumn<QByteArray>("field");
         QTest::addColumn<int>("setting");
         QTest::newRow("txtInputDir") << QByteArray("txtInputDir") << 0;
@@ -76,7 +76,7 @@ class frmMainTest : public QObject {
         QTest::newRow("txtPageTitle") << QByteArray("txtPageTitle") << 3;
         QTest::newRow("txtPageFooter") << QByteArray("txtPageFooter") << 4;
     }
-    void FieldsCopyTheirTextsAtOnce() {
+    void FieldsUpdateTheirSettingsAtOnce() {
         QFETCH(QByteArray, field);
         QFETCH(int, setting);
         Desk desk;
@@ -90,7 +90,7 @@ class frmMainTest : public QObject {
         QVERIFY(desk.TheSettings() == expected);
     }
 
-    void WhileTheListIsUsedTheFolderFieldCopiesNothing() {
+    void TheFolderFieldIsIgnoredInMultiFolderMode() {
         Desk desk;
         desk.TheSettings().Directory = "%MULT%/a";
         MainFields fields;
@@ -150,12 +150,12 @@ class frmMainTest : public QObject {
         QVERIFY(!IsEnabled(desk.Main(), "cmdSelectDirs"));
     }
 
-    void FillingTheFieldsLeavesTheFolderSettingAlone_data() {
+    void FillingTheFieldsLeavesTheFolderSettingUnchanged_data() {
         QTest::addColumn<bool>("several");
         QTest::newRow("to a list") << true;
         QTest::newRow("to one folder") << false;
     }
-    void FillingTheFieldsLeavesTheFolderSettingAlone() {
+    void FillingTheFieldsLeavesTheFolderSettingUnchanged() {
         QFETCH(bool, several);
         Desk desk;
         Find<QCheckBox>(desk.Main(), "chkMultipleDirs").setChecked(!several);
@@ -166,7 +166,7 @@ class frmMainTest : public QObject {
         QCOMPARE(IsEnabled(desk.Main(), "cmdSelectDirs"), several);
     }
 
-    void BrowsingPutsTheFolderIntoItsField() {
+    void BrowsingSetsTheFolderField() {
         Desk desk;
         desk.Show();
         Type(desk.Main(), "txtInputDir", "/before");
@@ -185,7 +185,7 @@ class frmMainTest : public QObject {
                                                            "c"));
     }
 
-    void TheFolderListIsChosenInItsDialog() {
+    void TheFolderListIsEditedInItsDialog() {
         Desk desk;
         desk.Show();
         const std::string one = desk.folder.Make("One");
@@ -202,7 +202,7 @@ class frmMainTest : public QObject {
         QCOMPARE(TextOf(desk.Main(), "lblFolderCount"), std::string("2 folders chosen"));
     }
 
-    void TheOutputFileIsChosenAmongThreeKinds() {
+    void TheOutputFileDialogOffersThreeFormats() {
         Desk desk;
         desk.Show();
         desk.dialogs.files = {"/out/list.m3u", std::nullopt};
@@ -217,7 +217,7 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.TheSettings().OutputFile, std::string("/out/list.m3u"));
     }
 
-    void OptionsOpenInTheirDialogAndItsSaveTakesTheFieldsToo() {
+    void SaveInTheOptionsDialogStoresTheMainFieldsToo() {
         Desk desk;
         desk.Show();
         desk.TheSettings().SetDefaults();
@@ -238,14 +238,14 @@ class frmMainTest : public QObject {
         QVERIFY(desk.frontEnd.Options() != nullptr);
     }
 
-    void QuittingAsksWhenItIsWanted_data() {
+    void QuittingAsksIfConfirmationIsOn_data() {
         QTest::addColumn<QByteArray>("how");
         QTest::newRow("button") << QByteArray("cmdQuit");
         QTest::newRow("menu") << QByteArray("itmFileExit");
         QTest::newRow("shortcut") << QByteArray("Ctrl+Q");
         QTest::newRow("title bar") << QByteArray("close");
     }
-    void QuittingAsksWhenItIsWanted() {
+    void QuittingAsksIfConfirmationIsOn() {
         QFETCH(QByteArray, how);
         Desk desk;
         desk.Show();
@@ -288,7 +288,7 @@ class frmMainTest : public QObject {
         QVERIFY(!desk.Main().isVisible());
     }
 
-    void HelpOpensTheHelpFileOrOnlySaysThatItIsMissing() {
+    void HelpOpensTheHelpFileOrOnlyShowsAMessage() {
         FakeBrowser browser;
         Desk desk;
         desk.Show();
@@ -307,7 +307,7 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
     }
 
-    void SavingTakesTheControlsAndWritesTheDefaultFile() {
+    void SavingStoresTheControlsAndWritesTheDefaultFile() {
         Desk desk;
         desk.Show();
         Type(desk.Main(), "txtInputDir", "/music");
@@ -365,18 +365,18 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%/a%||%/b"));
         QCOMPARE(desk.TheSettings().Spanning, std::int16_t(7));
 
-        Choose(desk.Main(), "itmFileSaveSettings"); // into the file that was opened
+        Choose(desk.Main(), "itmFileSaveSettings"); // to the opened file
         QVERIFY(HoldsLine(path, "PageFooter=kept"));
         QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
     }
 
-    void ASettingsFileThatFailsIsSaid_data() {
+    void ASettingsFileThatFailsShowsAMessage_data() {
         QTest::addColumn<QByteArray>("item");
         QTest::addColumn<QByteArray>("path");
         QTest::addColumn<QByteArray>("error");
         const QByteArray unexpected = "An unexpected error occurred. The error was: \n\nError number ";
-        QTest::newRow("opening what is gone") << QByteArray("itmFileOpenSettings") << QByteArray("gone.cfg")
-                                              << QByteArray("The specified settings file\ndoes not exist!");
+        QTest::newRow("opening a missing file") << QByteArray("itmFileOpenSettings") << QByteArray("gone.cfg")
+                                                << QByteArray("The specified settings file\ndoes not exist!");
         QTest::newRow("opening a name that is too long")
             << QByteArray("itmFileOpenSettings") << QByteArray(300, 'n') + ".cfg"
             << unexpected + "52 - Bad file name or number";
@@ -384,7 +384,7 @@ class frmMainTest : public QObject {
             << QByteArray("itmFileSaveSettingsAs") << QByteArray("none/a.cfg")
             << unexpected + "76 - Path not found";
     }
-    void ASettingsFileThatFailsIsSaid() {
+    void ASettingsFileThatFailsShowsAMessage() {
         QFETCH(QByteArray, item);
         QFETCH(QByteArray, path);
         QFETCH(QByteArray, error);
@@ -396,11 +396,11 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.dialogs.messages[0].text, error.toStdString());
         QCOMPARE(desk.dialogs.messages[0].buttons, 48);
         QCOMPARE(desk.dialogs.messages[0].title, std::string("Error!"));
-        Choose(desk.Main(), "itmFileSaveSettings"); // the failed name is not kept
+        Choose(desk.Main(), "itmFileSaveSettings"); // not to the file that failed
         QVERIFY(desk.folder.Exists("Tunedex.cfg"));
     }
 
-    void ASettingThatHoldsALineBreakIsNamedWhenItIsNotSaved() {
+    void AMessageNamesASettingThatIsNotSavedBecauseOfALineBreak() {
         Desk desk;
         desk.Show();
         desk.TheSettings().Directory = "%MULT%/a\nb";
@@ -433,7 +433,7 @@ class frmMainTest : public QObject {
         QCOMPARE(labels, expected);
     }
 
-    void APlaceholderGoesInAtTheCaret_data() {
+    void APlaceholderIsInsertedAtTheCaret_data() {
         QTest::addColumn<QByteArray>("button");
         QTest::addColumn<QByteArray>("field");
         QTest::newRow("window title")
@@ -442,7 +442,7 @@ class frmMainTest : public QObject {
         QTest::newRow("page footer") << QByteArray("cmdPageFooterPlaceHolders")
                                      << QByteArray("txtPageFooter");
     }
-    void APlaceholderGoesInAtTheCaret() {
+    void APlaceholderIsInsertedAtTheCaret() {
         QFETCH(QByteArray, button);
         QFETCH(QByteArray, field);
         Desk desk;
@@ -464,7 +464,7 @@ class frmMainTest : public QObject {
         QCOMPARE(line.text(), u"ab"_s);
     }
 
-    void APlaceholderReplacesWhatTheUserHasSelected() {
+    void APlaceholderReplacesTheUsersSelection() {
         Desk desk;
         desk.Show();
         Type(desk.Main(), "txtPageTitle", "abcd");
@@ -478,7 +478,7 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.TheSettings().PageTitle, std::string("a%Ld"));
     }
 
-    void ASelectionThatEnteringTheFieldMadeIsNotReplaced_data() {
+    void ASelectionMadeByEnteringTheFieldIsNotReplaced_data() {
         QTest::addColumn<bool>("entersByMnemonic");
         QTest::addColumn<bool>("opensByMnemonic");
         QTest::addColumn<bool>("otherWindowMeanwhile");
@@ -488,7 +488,7 @@ class frmMainTest : public QObject {
         QTest::newRow("the label's mnemonic, then the button's") << true << true << false;
         QTest::newRow("another window between Tab and the mnemonic") << false << true << true;
     }
-    void ASelectionThatEnteringTheFieldMadeIsNotReplaced() {
+    void ASelectionMadeByEnteringTheFieldIsNotReplaced() {
         QFETCH(bool, entersByMnemonic);
         QFETCH(bool, opensByMnemonic);
         QFETCH(bool, otherWindowMeanwhile);
@@ -527,12 +527,13 @@ class frmMainTest : public QObject {
         QTRY_VERIFY(line.hasFocus());
     }
 
-    void TheUsersOwnSelectionIsReplacedByMnemonicToo() {
+    void TheUsersSelectionIsReplacedByMnemonicToo() {
         Desk desk;
         desk.Show();
         Type(desk.Main(), "txtPageTitle", "abcd");
         auto* window = desk.Main().windowHandle();
-        QTest::keyClick(window, Qt::Key_P, Qt::AltModifier); // selects the text; the arrow undoes that
+        QTest::keyClick(window, Qt::Key_P,
+                        Qt::AltModifier); // selects the whole text; the arrow key deselects it
         QTest::keyClick(window, Qt::Key_Right);
         QTest::keyClick(window, Qt::Key_Left, Qt::ShiftModifier);
         QTest::keyClick(window, Qt::Key_N, Qt::AltModifier);
@@ -542,7 +543,7 @@ class frmMainTest : public QObject {
         QTRY_COMPARE(TextOf(desk.Main(), "txtPageTitle"), std::string("abc%D"));
     }
 
-    void AnAbandonedPlaceholderMenuChangesNothing() {
+    void DismissingThePlaceholderMenuChangesNothing() {
         Desk desk;
         desk.Show();
         Type(desk.Main(), "txtPageFooter", "footer");

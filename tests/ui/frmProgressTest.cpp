@@ -30,7 +30,7 @@ class frmProgressTest : public QObject {
         QVERIFY(desk.Main().isEnabled());
         QCOMPARE(desk.Main().findChild<frmProgress*>(), nullptr);
         QCOMPARE(desk.Main().focusWidget(), &Find<QLineEdit>(desk.Main(), "txtPageTitle"));
-        desk.frontEnd.CloseProgress(); // once more does no harm
+        desk.frontEnd.CloseProgress(); // a second call does nothing
     }
 
     void TheDisabledMainWindowDoesNothing() {
@@ -67,7 +67,7 @@ class frmProgressTest : public QObject {
         QCOMPARE(window.windowTitle(), u"Tunedex (Automatic Mode)"_s);
     }
 
-    void TheWindowIsPaintedNowAndThenButTheLastTextIsNeverLost() {
+    void PaintingIsThrottledAndTheLastTextIsShown() {
         Desk desk;
         desk.Show();
         auto& monitor = dynamic_cast<ProgressMonitor&>(desk.frontEnd.ShowProgress());
@@ -83,14 +83,14 @@ class frmProgressTest : public QObject {
             }
         }
         QVERIFY(painted >= 1);
-        QVERIFY2(painted < 50000, "each file was painted");
+        QVERIFY2(painted < 50000, "painted for every file");
         QCOMPARE(monitor.StatusText(), std::string("(100000/100000)"));
         QTest::qSleep(120);
         monitor.AbortRequested();
         QCOMPARE(TextOf(window, "lblStatus"), std::string("(100000/100000)"));
     }
 
-    void WithoutAWindowTheMonitorOnlyRemembers() {
+    void WithoutAWindowTheMonitorOnlyStoresValues() {
         Desk desk;
         RunMonitor& monitor = desk.frontEnd.ShowProgress();
         desk.frontEnd.CloseProgress();
@@ -102,7 +102,7 @@ class frmProgressTest : public QObject {
         QCOMPARE(desk.Main().findChild<frmProgress*>(), nullptr);
     }
 
-    void AbortOnlySetsTheFlagAndTwiceIsHarmless() {
+    void AbortOnlySetsTheFlagEvenIfPressedTwice() {
         Desk desk;
         desk.Show();
         RunMonitor& monitor = desk.frontEnd.ShowProgress();
@@ -116,23 +116,23 @@ class frmProgressTest : public QObject {
         QVERIFY(!desk.Main().isEnabled());
     }
 
-    void APressThatWaitsIsSeenByTheNextQuestion() {
+    void APendingAbortIsSeenByTheNextCheck() {
         Desk desk;
         desk.Show();
         RunMonitor& monitor = desk.frontEnd.ShowProgress();
         auto& window = OpenWindow<frmProgress>(desk.Main());
-        QTest::qSleep(120); // past the pause between two looks
+        QTest::qSleep(120); // longer than kLongestPause
         QMetaObject::invokeMethod(&Find<QPushButton>(window, "cmdAbort"), "click", Qt::QueuedConnection);
         QVERIFY(!desk.fake.application.abortRequested);
         QVERIFY(monitor.AbortRequested());
     }
 
-    void DuringARunClosingMeansAbort_data() {
+    void ClosingDuringARunAborts_data() {
         QTest::addColumn<bool>("byKey");
         QTest::newRow("Esc") << true;
         QTest::newRow("title bar") << false;
     }
-    void DuringARunClosingMeansAbort() {
+    void ClosingDuringARunAborts() {
         QFETCH(bool, byKey);
         QWidget main;
         main.show();
@@ -165,7 +165,7 @@ class frmProgressTest : public QObject {
         QVERIFY(desk.fake.application.abortRequested);
     }
 
-    void ALeftOverWindowIsClosedByTheUserAndEnablesTheMainWindow() {
+    void ClosingAWindowLeftOpenEnablesTheMainWindow() {
         Desk desk;
         desk.Show();
         desk.frontEnd.ShowProgress();

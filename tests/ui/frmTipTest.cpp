@@ -20,7 +20,7 @@ std::string Tip(const frmTip& window) {
     return TextOf(window, "lblTipText");
 }
 
-// A desk with three tips.
+// A desk with a tips file of three tips.
 struct TipDesk : Desk {
     explicit TipDesk(const char* onStartup) {
         fake.registry.values["TipsFile"] = folder.Write("tips.lst", "one\r\ntwo\r\nthree\r\n");
@@ -34,7 +34,7 @@ class frmTipTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void NextTipShowsTheTipsInTheirOrderRoundAndRound() {
+    void NextTipCyclesThroughTheTipsInOrder() {
         TipDesk desk("");
         frmTip window(desk.fake.application, desk.frontEnd, nullptr);
         QCOMPARE(Tip(window), std::string());
@@ -45,7 +45,7 @@ class frmTipTest : public QObject {
         }
     }
 
-    void AtStartUpAnyTipMayBeTheFirst() {
+    void AnyTipCanBeTheFirstAtStartUp() {
         TipDesk desk("1");
         const std::map<std::string, std::string> next{{"one", "two"}, {"two", "three"}, {"three", "one"}};
         std::set<std::string> seen;
@@ -60,7 +60,7 @@ class frmTipTest : public QObject {
         QCOMPARE(seen.size(), next.size());
     }
 
-    void RandomTipShowsEveryTipSoonerOrLater() {
+    void RandomTipEventuallyShowsEveryTip() {
         TipDesk desk("1");
         frmTip window(desk.fake.application, desk.frontEnd, nullptr);
         std::set<std::string> seen;
@@ -72,7 +72,7 @@ class frmTipTest : public QObject {
         QVERIFY(seen == expected);
     }
 
-    void WithoutTipsFileNothingIsShownAndNextTipChangesNothing() {
+    void WithoutATipsFileNothingIsShownAndNextTipDoesNothing() {
         Desk desk;
         std::filesystem::remove_all(desk.fake.application.programFolder + "tips.lst");
         desk.fake.registry.values["TipsOnStartup"] = "1";
@@ -86,7 +86,7 @@ class frmTipTest : public QObject {
         QVERIFY(desk.dialogs.messages.empty());
     }
 
-    void ATipsFileThatCannotBeReadIsSaid() {
+    void ATipsFileThatCannotBeReadShowsAMessage() {
         Desk desk;
         desk.fake.registry.values["TipsFile"] = std::string("/proc/self/mem"); // exists, and reading fails
         frmTip window(desk.fake.application, desk.frontEnd, nullptr);
@@ -115,7 +115,7 @@ class frmTipTest : public QObject {
         QCOMPARE(TipsOnStartup(desk.fake.registry), checked);
     }
 
-    void OnlyOKKeepsTheChoice() {
+    void OnlyOKSavesTheChoice() {
         TipDesk desk("1");
         {
             frmTip window(desk.fake.application, desk.frontEnd, nullptr);
@@ -145,7 +145,7 @@ class frmTipTest : public QObject {
         QCOMPARE(desk.fake.registry.Read("TipsOnStartup"), std::string("1"));
     }
 
-    void TheMenuShowsSomeTipEvenWhenTipsAreOffAtStartUp() {
+    void TheMenuShowsATipEvenIfTipsAreOffAtStartUp() {
         TipDesk desk("0");
         desk.Show();
         Choose(desk.Main(), "itmTipOfTheDay");
@@ -154,7 +154,7 @@ class frmTipTest : public QObject {
         QVERIFY(tips.contains(Tip(window)));
     }
 
-    void ALongTipCanBeScrolledTo() {
+    void ALongTipCanBeScrolled() {
         TipDesk desk("1");
         desk.folder.Write("tips.lst", FromQt(u"many words "_s.repeated(500)));
         frmTip window(desk.fake.application, desk.frontEnd, nullptr);
