@@ -1,5 +1,4 @@
-// The files that ship with the program, carried inside it: one executable can fill a new program folder by
-// itself.
+// The shipped files, embedded in the program, so that the executable alone can fill a new program folder.
 #pragma once
 
 #include <span>
@@ -12,7 +11,7 @@ struct ShippedFile {
     std::string_view bytes; // the file as it is on disk
 };
 
-// Sorted by path. Texts and list live as long as the program.
+// Sorted by path. Static storage.
 std::span<const ShippedFile> ShippedFiles();
 
 } // namespace tunedex

@@ -1,9 +1,7 @@
-// Takes a picture of each window with sample content, in light and in dark colours, and of each theme by its
-// preview.
+// Writes a screenshot of each window with sample content, in light and dark colours, and of each theme's
+// preview to FOLDER. DATA is the folder of the shipped files.
 //
-// usage: screenshots FOLDER DATA       DATA is the folder of the files that ship; run by tools/screenshots,
-// which gives
-//                                      it a screen of its own
+// usage: screenshots FOLDER DATA       (run by tools/screenshots on an X server of its own)
 
 #include "Dialogs.h"
 #include "Palettes.h"
@@ -54,7 +52,7 @@ class SampleRegistry final : public Registry {
     std::string tipsFile_;
 };
 
-// Pictures of the same sources are the same on every day.
+// A fixed time, so that screenshots are reproducible.
 class SampleClock final : public Clock {
   public:
     std::tm LocalTime() const override {
@@ -80,12 +78,12 @@ class Pictures {
   public:
     explicit Pictures(QString folder) : folder_(std::move(folder)) {}
 
-    // What the names of the pictures from here on end in.
+    // Appends the suffix to the names of all later pictures.
     void SetSuffix(const QString& suffix) { suffix_ = suffix; }
 
     void Take(QWidget& window, const QString& name) {
         window.show();
-        QTest::qWait(50); // the windowing system answers, the window lays itself out
+        QTest::qWait(50); // for the window system and the layout
         const QString path = QDir(folder_).filePath(name + suffix_ + u".png"_s);
         if (!window.grab().save(path)) {
             std::cerr << "cannot write " << path.toStdString() << '\n';
@@ -96,7 +94,7 @@ class Pictures {
         window.resize(window.minimumSizeHint());
         Take(window, name + u"-smallest"_s);
     }
-    // The picture of a window that waits for an answer; it is dismissed afterwards.
+    // Takes a picture of the modal window that opens next, and closes it.
     void TakeModal(const QString& name) {
         QTimer::singleShot(300, qApp, [this, name] {
             QWidget* window = QApplication::activeModalWidget();
@@ -123,7 +121,7 @@ void TakeMessages(Pictures& pictures, WindowsFrontEnd& frontEnd, Dialogs& dialog
         QDir::rootPath().toStdString());
 }
 
-// The windows round a run.
+// The main window, its dialogs and the progress window.
 void TakeMain(Pictures& pictures, Application& application) {
     FillSample(application);
     Dialogs dialogs;
@@ -171,7 +169,7 @@ void TakeEveryPage(Pictures& pictures, frmEditLayout& editor, const QString& nam
     }
 }
 
-// The options, and every page of the layout editor.
+// The options dialog and every page of the layout editor.
 void TakeOptions(Pictures& pictures, Application& application) {
     FillSample(application);
     Dialogs dialogs;
@@ -188,7 +186,7 @@ void TakeOptions(Pictures& pictures, Application& application) {
     TakeEveryPage(pictures, editor, u"layout-smallest"_s);
 }
 
-// What each theme looks like, by the preview.
+// Every theme in the preview.
 void TakeThemes(Pictures& pictures, Application& application) {
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);
@@ -213,7 +211,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: screenshots FOLDER DATA\n";
         return 2;
     }
-    const QTemporaryDir configuration; // pictures show windows as they are at first
+    const QTemporaryDir configuration; // no saved window geometry
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, configuration.path());
     const QTemporaryDir programFolder;
     const std::filesystem::path data = arguments[2].toStdString();
@@ -236,7 +234,7 @@ int main(int argc, char** argv) {
         TakeMain(pictures, application);
         TakeOptions(pictures, application);
     }
-    // A page brings its own colours.
+    // Pages have their own colours, independent of the palette.
     pictures.SetSuffix({});
     TakeThemes(pictures, application);
     return pictures.Failed() ? 1 : 0;
