@@ -7,7 +7,7 @@ namespace tunedex {
 void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
                  const CellContext& context) {
     if (const auto text = KindOf(key).text) {
-        page.PutPadded(track.*text);
+        page.Put(track.*text);
         return;
     }
     switch (key) {
@@ -18,21 +18,21 @@ void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::si
         page.Put(SizeText(track.FileSize, context.sizeType, context.locale));
         return;
     case ColumnKey::Filename:
-        page.PutPadded(FileNameOf(track.FullPath, context.pathStyle));
+        page.Put(FileNameOf(track.FullPath, context.pathStyle));
         return;
     case ColumnKey::FolderPath:
-        page.PutPadded(FolderPathOf(track.FullPath, context.pathStyle));
+        page.Put(FolderPathOf(track.FullPath, context.pathStyle));
         return;
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
-        page.PutPadded(track.Artist);
+        page.Put(track.Artist);
         if (key == ColumnKey::ArtistAlbumTitle && !track.Album.Empty()) {
             page.Put(" (");
-            page.PutPadded(track.Album);
+            page.Put(track.Album);
             page.Put(")");
         }
         page.Put(": ");
-        page.PutPadded(track.Title);
+        page.Put(track.Title);
         return;
     default:
         return; // an unknown column has no cells

@@ -1,4 +1,4 @@
-// The plain text of a track under a column.
+// The plain text of a track in a column.
 #pragma once
 
 #include "Columns.h"
@@ -12,14 +12,14 @@
 
 namespace tunedex {
 
-// What cells need beside the track.
+// Context of all cells of a listing.
 struct CellContext {
     std::int16_t sizeType;
     const Locale& locale;
     PathStyle pathStyle;
 };
 
-// Appends the plain text of track `position` (counted from 1) under `key`; nothing for an unknown one.
+// Appends the text of column `key` for track `position` (1-based); nothing for ColumnKey::Unknown.
 void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
                  const CellContext& context);
 

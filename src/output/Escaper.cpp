@@ -3,24 +3,15 @@
 #include "RunTimeError.h"
 #include "Text.h"
 
-#include <algorithm>
-#include <bit>
-#include <cstdint>
-#include <cstring>
+#include <cstddef>
 #include <optional>
+#include <utility>
 
 namespace tunedex {
 
 namespace {
 
 constexpr std::size_t kCodePageSize = 256;
-constexpr unsigned char kNotAscii = 0x80;
-
-std::size_t FirstMarked(std::uint64_t word) {
-    return static_cast<std::size_t>(std::endian::native == std::endian::little ? std::countr_zero(word)
-                                                                               : std::countl_zero(word)) /
-           8;
-}
 
 std::string CharacterOf(std::size_t code) {
     std::string text;
@@ -37,8 +28,8 @@ std::size_t CountOf(std::string_view text, std::string_view part) {
     return count;
 }
 
-// What all slots but the last make of one character; nothing when that grows too long. The length is known
-// before the memory is taken: two lines of a million characters each multiply.
+// Applies all slots but the last to one character; nothing when the result is too long. The length is
+// computed before memory is allocated: two lines of a million characters each multiply.
 std::optional<std::string> Expand(std::string expansion, const std::vector<EntityTable::Slot>& slots,
                                   const std::vector<std::string>& characters) {
     for (std::size_t i = 0; i + 1 < slots.size(); ++i) {
@@ -61,8 +52,6 @@ std::optional<std::string> Expand(std::string expansion, const std::vector<Entit
 
 Escaper::Escaper(const EntityTable& table) {
     expansions_.resize(kCodePageSize);
-    std::size_t marks = 0;
-    marks_.fill(StepBytes{} + kNotAscii);
     std::vector<std::string> characters(kCodePageSize);
     for (std::size_t code = 0; code < kCodePageSize; ++code) {
         characters[code] = CharacterOf(code);
@@ -73,14 +62,7 @@ Escaper::Escaper(const EntityTable& table) {
         changes_.at(code) = expansion != characters[code];
         staysAscii_.at(code) = code < 0x80 && !changes_.at(code);
         expansions_[code] = std::move(expansion).value_or("");
-        if (code >= ' ' && code < kNotAscii && changes_.at(code)) {
-            if (marks < marks_.size()) {
-                marks_.at(marks) = StepBytes{} + static_cast<unsigned char>(code);
-            }
-            ++marks;
-        }
     }
-    manyMarks_ = marks > marks_.size();
 }
 
 std::string_view Escaper::Expansion(unsigned char byte) const {
@@ -91,9 +73,9 @@ std::string_view Escaper::Expansion(unsigned char byte) const {
 }
 
 template <class Put> void Escaper::Escape(std::string_view text, Put put) const {
-    std::size_t done = 0; // what is before this has been put
+    std::size_t done = 0; // bytes put so far
     for (std::size_t i = 0; i < text.size();) {
-        // Nearly every character of nearly every text is ASCII that stays as it is.
+        // Fast path: most characters are ASCII and do not change.
         while (i < text.size() && staysAscii_[static_cast<unsigned char>(text[i])]) {
             ++i;
         }
@@ -116,41 +98,8 @@ void Escaper::AppendEscaped(std::string& result, std::string_view text) const {
     Escape(text, [&result](std::string_view piece) { result += piece; });
 }
 
-// How many of the bytes stand before the first that may change.
-std::size_t Escaper::PlainLength(const StepBytes& bytes) const {
-    using StepWords [[gnu::vector_size(sizeof(StepBytes))]] = std::uint64_t;
-    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    StepBytes found = bytes | reinterpret_cast<StepBytes>(bytes < static_cast<unsigned char>(' '));
-    for (const StepBytes& mark : marks_) {
-        found |= reinterpret_cast<StepBytes>(bytes == mark);
-    }
-    const StepWords words = reinterpret_cast<StepWords>(found) & kHighBits;
-    if (words[0] != 0) {
-        return FirstMarked(words[0]);
-    }
-    return words[1] != 0 ? sizeof(std::uint64_t) + FirstMarked(words[1]) : sizeof bytes;
-}
-
 void Escaper::PutEscaped(PageBuffer& page, std::string_view text) const {
-    if (manyMarks_) {
-        Escape(text, [&page](std::string_view piece) { page.Put(piece); });
-        return;
-    }
-    while (!text.empty()) {
-        StepBytes bytes;
-        std::memcpy(&bytes, text.data(), sizeof bytes);
-        page.MakeRoom(sizeof bytes);
-        std::memcpy(page.End(), &bytes, sizeof bytes);
-        const std::size_t plain = std::min(PlainLength(bytes), text.size());
-        page.Advance(plain);
-        text.remove_prefix(plain);
-        if (plain < sizeof bytes && !text.empty()) {
-            const TextStep step = StepAt(text, 0);
-            const auto byte = step.stray ? std::nullopt : ToWindows1252(step.character);
-            page.Put(byte && changes_[*byte] ? Expansion(*byte) : text.substr(0, step.length));
-            text.remove_prefix(step.length);
-        }
-    }
+    Escape(text, [&page](std::string_view piece) { page.Put(piece); });
 }
 
 std::string Escaper::EscapeEntities(std::string_view text) const {

@@ -206,7 +206,7 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     }
     if (settings.DoLinks) {
         piece += R"(<td align="center">)" + fontOpen + "<a href=\"";
-        frame.linkClose = PaddedText("\">Link</a>" + close + rowEnd);
+        frame.linkClose = "\">Link</a>" + close + rowEnd;
     } else {
         piece += rowEnd;
     }
@@ -254,15 +254,14 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
 void TrackRowWriter::WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t position) const {
     const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
     const TrackRow& track = listing_.tracks.At(position);
-    listing_.tracks.PrefetchAhead(position, listing_.settings.DoLinks);
     for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
-        page.PutPadded(frame.pieces[i]);
+        page.Put(frame.pieces[i]);
         PutCell(page, listing_.columns[i].key, track, position);
     }
-    page.PutPadded(frame.pieces.back());
+    page.Put(frame.pieces.back());
     if (listing_.settings.DoLinks) {
         page.Put(LinkTarget(listing_.settings, track, listing_.pathStyle));
-        page.PutPadded(frame.linkClose);
+        page.Put(frame.linkClose);
     }
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),
                                       static_cast<std::int32_t>(listing_.tracks.Count()), "...");

@@ -51,25 +51,10 @@ class TrackRowWriter {
     void WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t position) const;
 
   private:
-    // A text with the bytes behind it that a PageBuffer wants.
-    class PaddedText {
-      public:
-        PaddedText() = default;
-        explicit PaddedText(const std::string& text)
-            : padded_(text + std::string(PageBuffer::kStep, '\0')), size_(text.size()) {}
-        operator std::string_view() const { // NOLINT(google-explicit-constructor): it is a text
-            return std::string_view(padded_).substr(0, size_);
-        }
-
-      private:
-        std::string padded_;
-        std::size_t size_ = 0;
-    };
-
     // The markup of a row: pieces[i] precedes the text of cell i, the last piece follows the last cell.
     struct RowFrame {
-        std::vector<PaddedText> pieces;
-        PaddedText linkClose; // from the end of the link target to the end of the row; empty without links
+        std::vector<std::string> pieces;
+        std::string linkClose; // from the end of the link target to the end of the row; empty without links
     };
 
     RowFrame MakeFrame(bool alternate) const;

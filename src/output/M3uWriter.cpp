@@ -18,7 +18,6 @@ TextEncoding EncodingFor(const TrackTable& tracks, RunMonitor& monitor) {
         if (position % kTracksToAQuestion == 0 && monitor.AbortRequested()) {
             break; // the writer stops after its first track
         }
-        tracks.PrefetchAhead(position, true);
         if (!IsAscii(tracks.At(position).FullPath)) {
             return TextEncoding::Utf8;
         }
@@ -47,15 +46,14 @@ bool WriteM3uListing(Listing& listing) {
     text.Put("#EXTM3U\r\n");
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
-        listing.tracks.PrefetchAhead(position, true);
         text.Put("#EXTINF:");
         text.PutNumber(static_cast<std::int64_t>(SecondsOf(track.Duration)));
         text.Put(",");
-        text.PutPadded(track.Artist);
+        text.Put(track.Artist);
         text.Put(": ");
-        text.PutPadded(track.Title);
+        text.Put(track.Title);
         text.Put("\r\n");
-        text.PutPadded(track.FullPath);
+        text.Put(track.FullPath);
         text.Put("\r\n");
         listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         aborted = listing.monitor.AbortRequested();

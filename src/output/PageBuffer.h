@@ -1,95 +1,50 @@
-// The text of a page on its way to the file: put together at speed from many short pieces. With a sink its
-// memory is bounded, however long the page and each text on it.
+// Collects the many short texts of a listing and passes them on in large pieces. With a sink its memory is
+// bounded, however long the listing and each text of it.
 #pragma once
 
-#include "SharedText.h"
-
-#include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <functional>
-#include <memory>
+#include <string>
 #include <string_view>
-#include <utility>
 
 namespace tunedex {
 
 class PageBuffer {
   public:
-    // So many bytes are moved in one step, and so many must be readable behind a padded text, whatever they
-    // hold: copying in whole steps is several times as fast as to the byte.
-    static constexpr std::size_t kStep = SharedText::kPadding;
-
-    // Takes the text of a full buffer. Each call gets whole characters, where each text that is put holds
-    // them.
+    // Receives the text of a full buffer. No call splits a character, if each text that is put is whole.
     using Sink = std::function<void(std::string_view)>;
 
-    // From now on a buffer of `pieceBytes` bytes is handed to `sink` instead of growing. What the sink raises
-    // leaves the call that filled the buffer.
-    void SetSink(std::size_t pieceBytes, Sink sink) {
-        pieceBytes_ = pieceBytes;
-        sink_ = std::move(sink);
-    }
-    // Hands what is in the buffer to the sink, which must be set.
+    // From now on the buffer holds at most `pieceBytes` bytes and passes them to `sink` when it is full. An
+    // exception of the sink leaves the call that filled the buffer.
+    void SetSink(std::size_t pieceBytes, Sink sink);
+    // Passes the content to the sink, which must be set.
     void HandOver();
 
-    // Appends any text.
     void Put(std::string_view text) {
-        if (capacity_ - used_ < text.size()) {
-            PutSlowly(text);
+        if (text_.size() + text.size() > pieceBytes_) {
+            PutInPieces(text);
             return;
         }
-        std::copy(text.begin(), text.end(), End());
-        Advance(text.size());
+        text_ += text;
     }
-    // Appends a padded text.
-    void PutPadded(std::string_view text) {
-        if (capacity_ - used_ < text.size()) {
-            PutSlowly(text);
-            return;
-        }
-        for (std::size_t i = 0; i < text.size(); i += kStep) {
-            std::memcpy(End() + i, text.data() + i, kStep);
-        }
-        Advance(text.size());
-    }
-
     // Appends a number in decimal digits.
-    void PutNumber(std::int64_t value) {
-        constexpr std::size_t kLongest = 20;
-        MakeRoom(kLongest);
-        Advance(static_cast<std::size_t>(std::to_chars(End(), End() + kLongest, value).ptr - End()));
-    }
+    void PutNumber(std::int64_t value);
 
-    // For callers that write directly: reserve `count + kStep` bytes, write at End(), then Advance(). `count`
-    // is small: with a sink, reserving the bytes of a whole text would take its memory a second time.
-    void MakeRoom(std::size_t count) {
-        if (capacity_ - used_ < count) {
-            Grow(count);
-        }
-    }
-    char* End() { return bytes_.get() + used_; }
-    void Advance(std::size_t count) { used_ += count; }
-
-    std::string_view View() const { return {bytes_.get(), used_}; }
-    std::size_t Size() const { return used_; }
-    // Drops what was appended beyond the first `size` bytes. With a sink only the latest text is sure to be
-    // in the buffer still.
-    void CutTo(std::size_t size) { used_ = size; }
+    std::string_view View() const { return text_; }
+    std::size_t Size() const { return text_.size(); }
+    // Drops what was appended after the first `size` bytes. With a sink, only the latest text is certain to
+    // be in the buffer still.
+    void CutTo(std::size_t size) { text_.resize(size); }
     // Keeps the memory.
-    void Clear() { used_ = 0; }
+    void Clear() { text_.clear(); }
 
   private:
-    void PutSlowly(std::string_view text);
-    void Grow(std::size_t needed);
+    void PutInPieces(std::string_view text);
 
     Sink sink_;
-    std::size_t pieceBytes_ = 0;
-    std::unique_ptr<char[]> bytes_; // NOLINT(modernize-avoid-c-arrays): not zeroed
-    std::size_t capacity_ = 0;      // one step less than is allocated
-    std::size_t used_ = 0;
+    std::size_t pieceBytes_ = std::string::npos; // without a sink: no limit
+    std::string text_;
 };
 
 } // namespace tunedex

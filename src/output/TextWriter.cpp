@@ -29,7 +29,6 @@ bool AbortedInLine(const Listing& listing) {
 
 void PutLine(PageBuffer& text, const Listing& listing, std::size_t position) {
     const TrackRow& track = listing.tracks.At(position);
-    listing.tracks.PrefetchAhead(position, true);
     const CellContext cells = listing.Cells();
     bool anyColumn = false;
     for (const Column& column : listing.columns) {

@@ -22,10 +22,8 @@ TEST(PageBuffer, ConcatenatesPiecesOfAnyLength) {
     std::string expected;
     for (std::size_t length = 0; length < 300; ++length) {
         const std::string piece(length, static_cast<char>('a' + length % 26));
-        const std::string padded = piece + std::string(PageBuffer::kStep, '#');
         page.Put(piece);
-        page.PutPadded(std::string_view(padded).substr(0, length));
-        expected += piece + piece;
+        expected += piece;
         ASSERT_EQ(page.View(), expected);
     }
     page.Put(std::string(1000000, 'x'));
@@ -57,7 +55,6 @@ TEST(PageBuffer, PassesItsTextToTheSinkInBoundedPiecesOfWholeCharacters) {
     while (text.size() < 4 * kPieceBytes) {
         text += "\xE2\x82\xAC";
     }
-    const std::string padded = text + std::string(PageBuffer::kStep, '#');
     std::string taken;
     PageBuffer page;
     page.SetSink(kPieceBytes, [&](std::string_view piece) {
@@ -66,7 +63,7 @@ TEST(PageBuffer, PassesItsTextToTheSinkInBoundedPiecesOfWholeCharacters) {
         taken += piece;
     });
     page.Put(text);
-    page.PutPadded(std::string_view(padded).substr(0, text.size()));
+    page.Put(text);
     EXPECT_LE(page.Size(), kPieceBytes);
     page.HandOver();
     EXPECT_EQ(page.Size(), 0U);
