@@ -15,16 +15,14 @@ namespace tunedex {
 
 namespace {
 
-// The block: the length in 64 bits, the mark of a long text, the text, padding.
+// The layout of a block: length (64 bits), mark of a long text (32 bits), text.
 constexpr std::size_t kMarkAt = sizeof(std::uint64_t);
 constexpr std::size_t kTextAt = kMarkAt + sizeof(std::uint32_t);
-constexpr std::size_t kAround = kTextAt + SharedText::kPadding;
 
-// Blocks of this size are mapped: malloc keeps freed blocks of up to 32 MiB for each thread.
+// Blocks of at least this size are mapped: malloc caches freed blocks of up to 32 MiB for each thread.
 constexpr std::size_t kMappedBytes = 131072;
 
-// A block of `capacity` bytes with what was in the old one; releases the old one. Null without memory: the
-// old block is then as it was.
+// Like realloc: on failure returns null and leaves the old block unchanged.
 char* ResizeBlock(char* block, std::size_t oldCapacity, std::size_t capacity) {
     if (capacity < kMappedBytes) {
         return static_cast<char*>(std::realloc(block, capacity)); // NOLINT(cppcoreguidelines-no-malloc)
@@ -86,7 +84,7 @@ void LongText::Append(std::string_view text) {
     if (text.empty()) {
         return;
     }
-    const std::size_t needed = length_ + text.size() + kAround;
+    const std::size_t needed = length_ + text.size() + kTextAt;
     if (needed > capacity_) {
         Resize(std::max(needed, capacity_ + capacity_ / 2));
     }
@@ -107,9 +105,9 @@ void LongText::RemovePrefix(std::size_t count) {
 }
 
 void LongText::Fit() {
-    // A mapped block stays one.
+    // A mapped block stays mapped.
     const std::size_t least = capacity_ >= kMappedBytes ? kMappedBytes : 0;
-    const std::size_t capacity = std::max(length_ + kAround, least);
+    const std::size_t capacity = std::max(length_ + kTextAt, least);
     if (capacity < capacity_) {
         Resize(capacity);
     }

@@ -1,4 +1,4 @@
-// Long texts of tags: each in memory of its own, held once however many tracks have it.
+// Long tag texts: each in its own memory, stored once however many tracks have it.
 #pragma once
 
 #include "SharedText.h"
@@ -11,11 +11,11 @@
 
 namespace tunedex {
 
-// A text of this many bytes or more is a long one. Shorter ones are not worth an allocation each.
+// Texts of at least this many bytes are long texts; a shorter one does not justify an allocation.
 inline constexpr std::size_t kLongTextBytes = 1024;
 
-// A text that grows by moving its pages, without a second copy of what is there, and gives its memory back to
-// the system when it goes. Raises std::bad_alloc like any allocation.
+// A growing text. Growth remaps its pages instead of copying them, and the destructor returns the memory to
+// the system. Raises std::bad_alloc like any allocation.
 class LongText {
   public:
     LongText() = default;
@@ -26,13 +26,13 @@ class LongText {
     ~LongText();
 
     void Append(std::string_view text);
-    // `count` is at most the text's length.
+    // `count` is at most the length.
     void RemovePrefix(std::size_t count);
-    // Gives back the memory beyond the text.
+    // Releases unused memory.
     void Fit();
 
     std::string_view View() const { return Shared().View(); }
-    // Valid as long as this text and until it changes.
+    // Valid until this text changes or is destroyed.
     SharedText Shared() const;
 
   private:
@@ -46,22 +46,21 @@ class LongText {
 
 using LongTextHandle = std::shared_ptr<const LongText>;
 
-// Where equal long texts become one. A text lives as long as somebody has its handle. Several threads may use
-// the pool at once.
+// Returns one handle for equal long texts. A text lives as long as a handle to it. Thread-safe.
 class LongTextPool {
   public:
-    // The one copy of this text: an earlier one or, when there is none, this.
+    // Returns the earlier equal text if it still lives, otherwise `text`.
     LongTextHandle Share(LongText text);
     LongTextHandle Share(std::string_view text);
 
-    // Limits what is read at the same time: when many threads read the same very long text, each has a copy
-    // until it is shared. One at a time may exceed kAloneBytes.
+    // Bounds the memory of texts that are not shared yet: threads that read the same very long text each have
+    // a copy. Only one thread at a time may hold more than kAloneBytes.
     class Turn {
       public:
-        // Without a pool there is nothing to wait for.
+        // Without a pool, Reach() never waits.
         explicit Turn(LongTextPool* pool) : pool_(pool) {}
 
-        // Waits, if `bytes` exceed the limit, until no other turn does; the turn lasts until destruction.
+        // If `bytes` exceeds kAloneBytes, waits until no other turn does; holds the turn until destruction.
         void Reach(std::size_t bytes) {
             if (pool_ != nullptr && bytes > kAloneBytes && !lock_.owns_lock()) {
                 lock_ = std::unique_lock(pool_->turn_);

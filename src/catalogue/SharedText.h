@@ -1,4 +1,4 @@
-// A text that belongs to a store and is shared by every row that shows it.
+// A text in a store, shared by all rows that show it.
 #pragma once
 
 #include <cstddef>
@@ -8,12 +8,9 @@
 
 namespace tunedex {
 
-// Copying it copies a pointer; valid as long as what stores the text. It is padded: at least kPadding bytes
-// behind it can be read, whatever they hold, and so behind each part of it.
+// Copying it copies a pointer. Valid as long as the store.
 class SharedText {
   public:
-    static constexpr std::size_t kPadding = 16;
-
     SharedText() = default;
     std::string_view View() const {
         if (record_ == nullptr) {
@@ -26,16 +23,18 @@ class SharedText {
         }
         return {record_ + sizeof length, length};
     }
-    operator std::string_view() const { return View(); } // NOLINT(google-explicit-constructor): it is a text
+    operator std::string_view() const {
+        return View();
+    } // NOLINT(google-explicit-constructor): used as a text
     bool Empty() const { return View().empty(); }
-    // The same for the same stored text, which for two shared texts means: equal.
+    // Equal for the same stored text. Texts that were shared in one store are equal if and only if this is.
     const void* Identity() const { return record_; }
 
   private:
     friend class LongText;
     friend class TextStore;
 
-    // In place of the length: a length of 64 bits precedes it.
+    // In place of the length of a long text; its length, 64 bits, precedes the mark.
     static constexpr std::uint32_t kLongMark = 0xFFFFFFFFU;
 
     explicit SharedText(const char* record) : record_(record) {}
@@ -46,7 +45,7 @@ class SharedText {
         return {record_ + sizeof kLongMark, length};
     }
 
-    const char* record_ = nullptr; // four bytes of length, then the text; none for the empty text
+    const char* record_ = nullptr; // length (32 bits), then the text; null for the empty text
 };
 
 } // namespace tunedex

@@ -46,19 +46,7 @@ struct TrackInfo {
 
     // Clears every member except FullPath. Texts keep up to 512 bytes of memory for the next track: thousands
     // of records are in flight.
-    void Clear() {
-        for (std::string* text : {&BaseFolder, &Artist, &Title, &Album, &Year, &Genre, &Bitrate, &Frequency,
-                                  &Mode, &MpegType, &Duration}) {
-            constexpr std::size_t kMostKept = 512;
-            if (text->capacity() > kMostKept) {
-                *text = std::string();
-            }
-            text->clear();
-        }
-        FileSize = 0;
-        TagType = kNoTag;
-        LongFields.clear();
-    }
+    void Clear();
 
     // Set one of the five texts to a long text; clear one.
     void Set(std::string TrackInfo::*field, LongTextHandle text) {
