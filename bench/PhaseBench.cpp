@@ -10,6 +10,7 @@
 #include "Application.h"
 #include "FolderScanner.h"
 #include "OutputList.h"
+#include "PlayTime.h"
 #include "Sorting.h"
 #include "Text.h"
 
@@ -96,7 +97,8 @@ tunedex::TrackTable MakeTracks(std::size_t count) {
         track.FullPath = "/music/" + track.Artist + "/" + track.Album + "/" + track.Title + ".mp3";
         track.BaseFolder = "/music";
         track.FileSize = static_cast<std::int32_t>(random() % 9000000);
-        track.Duration = std::to_string(random() % 9) + ":" + std::to_string(10 + random() % 50);
+        track.Seconds = static_cast<std::int32_t>(10 + random() % 540);
+        track.Duration = tunedex::MinutesAndSeconds(track.Seconds);
         track.TagType = tunedex::kId3v2Tag;
         table.Append(track);
     }

@@ -24,7 +24,7 @@ void RunSorting(Bytes bytes) {
         const std::string number = std::to_string(expected.size());
         track.FullPath = "/" + number + ".mp3";
         track.BaseFolder = "/" + number + "/";
-        track.FileSize = static_cast<std::int32_t>(expected.size());
+        track.FileSize = track.Seconds = static_cast<std::int32_t>(expected.size());
         track.Year = track.Genre = track.Bitrate = track.Frequency = track.Duration = number;
         track.Mode = track.MpegType = number;
         track.TagType = static_cast<std::int16_t>(expected.size() % 3);

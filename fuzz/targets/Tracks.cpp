@@ -11,7 +11,7 @@ std::string Shown(const TrackInfo& track) {
     for (const std::string& field :
          {track.FullPath, track.BaseFolder, std::to_string(track.FileSize), track.Artist, track.Title,
           track.Album, track.Year, track.Genre, track.Bitrate, track.Frequency, track.Mode, track.MpegType,
-          track.Duration, std::to_string(track.TagType)}) {
+          track.Duration, std::to_string(track.TagType), std::to_string(track.Seconds)}) {
         text += "[" + field + "]\n";
     }
     return text;

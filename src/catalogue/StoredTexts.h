@@ -1,5 +1,5 @@
-// The texts of a track: for each, the member that readers fill, the member in which the table stores it, and how
-// copies of it are found.
+// The texts of a track: for each, the member that readers fill, the member in which the table stores it, and
+// how copies of it are found.
 #pragma once
 
 #include "TrackInfo.h"

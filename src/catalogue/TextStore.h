@@ -13,8 +13,8 @@
 
 namespace tunedex {
 
-// Keeps texts until it is destroyed. Long texts are stored once in any case, the others as the caller asks. Can be
-// moved; its texts then stay where they are.
+// Keeps texts until it is destroyed. Long texts are stored once in any case, the others as the caller asks.
+// Can be moved; its texts then stay where they are.
 class TextStore {
   public:
     // Stores the text; a long one is shared.

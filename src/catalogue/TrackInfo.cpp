@@ -19,6 +19,7 @@ void TrackInfo::Clear() {
         value.clear();
     }
     FileSize = 0;
+    Seconds = 0;
     TagType = kNoTag;
     LongFields.clear();
 }

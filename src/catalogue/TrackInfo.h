@@ -38,6 +38,7 @@ struct TrackInfo {
     std::string MpegType; // version and layer: "1.0 III"
     std::string Duration; // minutes:seconds
     std::int16_t TagType = kNoTag;
+    std::int32_t Seconds = 0; // the playing time that Duration shows; meaningless without a Duration
     // The long texts among Artist, Title, Album, Year and Genre, if read into a pool; those members are then
     // empty.
     std::vector<LongField> LongFields = {};

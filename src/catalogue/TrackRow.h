@@ -20,17 +20,20 @@ struct MovingPart {
     SharedText Bitrate;
     SharedText Frequency;
     SharedText Duration;
-    std::int32_t FileSize = 0;
+    std::uint64_t FileSize : 31 = 0; // bytes
+    std::uint64_t Seconds : 25 = 0;  // of Duration; 2,147,483,647 bytes at 1 kbit/s are 17,179,869 s
 };
 
 // One track: the part that moves, and what stays with its row. Required: after sorting, a row keeps the tag
 // kind, base folder, mode and MPEG type of the file that was found there first. Do not move them.
 struct TrackRow : MovingPart {
-    std::int16_t TagType = kNoTag; // first, in the tail padding of MovingPart
+    std::int8_t TagType = kNoTag; // first, in the byte that MovingPart leaves
     SharedText BaseFolder;
     SharedText Mode;
     SharedText MpegType;
 };
+
+static_assert(sizeof(TrackRow) == 104, "a million rows are in memory at once");
 
 // Exchanges the moving parts of two rows.
 inline void SwapTracks(TrackRow& a, TrackRow& b) {

@@ -3,6 +3,7 @@
 #include "StoredTexts.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <span>
 #include <string>
 
@@ -43,8 +44,9 @@ void TrackTable::Append(const TrackInfo& track) {
     for (const StoredText& text : std::span(kStoredTexts).subspan<1>()) {
         row.*text.stored = track.TagType == kNoTag ? StoreUntagged(track, text, row) : Store(track, text);
     }
-    row.FileSize = track.FileSize;
-    row.TagType = track.TagType;
+    row.FileSize = static_cast<std::uint32_t>(track.FileSize);
+    row.Seconds = static_cast<std::uint32_t>(track.Seconds);
+    row.TagType = static_cast<std::int8_t>(track.TagType);
     for (const LongField& field : track.LongFields) {
         row.*StoredMember(field.field) = texts_.Keep(field.text);
     }
@@ -57,7 +59,8 @@ TrackInfo TrackTable::Copy(std::size_t position) const {
     for (const StoredText& text : kStoredTexts) {
         track.*text.read = (row.*text.stored).View();
     }
-    track.FileSize = row.FileSize;
+    track.FileSize = static_cast<std::int32_t>(row.FileSize);
+    track.Seconds = static_cast<std::int32_t>(row.Seconds);
     track.TagType = row.TagType;
     return track;
 }

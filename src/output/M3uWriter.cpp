@@ -1,6 +1,5 @@
 #include "M3uWriter.h"
 
-#include "Numbers.h"
 #include "PageBuffer.h"
 #include "RunTimeError.h"
 #include "Text.h"
@@ -27,14 +26,6 @@ TextEncoding EncodingFor(const TrackTable& tracks, RunMonitor& monitor) {
 
 } // namespace
 
-double SecondsOf(std::string_view duration) {
-    const std::size_t colon = duration.find(':');
-    if (colon == std::string_view::npos) {
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    }
-    return LeadingNumber(duration.substr(0, colon)) * 60 + LeadingNumber(duration.substr(colon + 1));
-}
-
 bool WriteM3uListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kPlaylistOutput, path);
@@ -46,8 +37,11 @@ bool WriteM3uListing(Listing& listing) {
     text.Put("#EXTM3U\r\n");
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
+        if (track.Duration.Empty()) {
+            throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+        }
         text.Put("#EXTINF:");
-        text.PutNumber(static_cast<std::int64_t>(SecondsOf(track.Duration)));
+        text.PutNumber(static_cast<std::int64_t>(track.Seconds));
         text.Put(",");
         text.Put(track.Artist);
         text.Put(": ");

@@ -1,6 +1,7 @@
 #include "Placeholders.h"
 
 #include "Numbers.h"
+#include "PlayTime.h"
 #include "SizeText.h"
 #include "Text.h"
 
@@ -10,11 +11,7 @@
 namespace tunedex {
 
 std::string PlayTimeText(double totalSeconds) {
-    const auto seconds = static_cast<std::int64_t>(RoundHalfToEven(totalSeconds));
-    const std::int64_t minutes = seconds / 60;
-    std::string text = minutes > 59 ? std::to_string(minutes / 60) + ":" + PadNumber(minutes % 60, 2)
-                                    : std::to_string(minutes);
-    return text + ":" + PadNumber(seconds % 60, 2);
+    return HoursMinutesAndSeconds(static_cast<std::int64_t>(RoundHalfToEven(totalSeconds)));
 }
 
 void ExpandTitlePlaceholders(Listing& listing, std::string_view lineBreak) {

@@ -81,7 +81,7 @@ class CollectingVisitor final : public WalkVisitor {
         if (reading.decodeError) {
             reporter_.Report(kDecodeErrorTemplate, reading.track.FullPath, "", *reading.decodeError);
         } else {
-            totals_.TotalSeconds += static_cast<double>(reading.seconds);
+            totals_.TotalSeconds += reading.track.Seconds;
         }
     }
 

@@ -2,12 +2,11 @@
 
 #include "Genres.h"
 #include "RunTimeError.h"
+#include "TagText.h"
 #include "Text.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
-#include <utility>
 
 namespace tunedex {
 
@@ -22,24 +21,6 @@ void SetFieldText(std::string& text, std::string_view field) {
 }
 
 } // namespace
-
-void SetTagText(std::string& text, std::string_view bytes) {
-    text.clear();
-    while (!bytes.empty()) {
-        const std::size_t run = std::min(bytes.find('\0'), bytes.size());
-        AppendDecodedWindows1252(text, bytes.substr(0, run));
-        bytes.remove_prefix(run);
-        bytes.remove_prefix(std::min(bytes.find_first_not_of('\0'), bytes.size()));
-    }
-}
-
-bool HasLeadingThe(std::string_view artist) {
-    return UpperCase(artist.substr(0, kLeadingTheBytes)) == "THE ";
-}
-
-std::string MoveLeadingThe(std::string artist) {
-    return HasLeadingThe(artist) ? artist.erase(0, kLeadingTheBytes).append(kTrailingThe) : artist;
-}
 
 bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track) {
     if (file.Size() < kTagBytes) {
@@ -61,16 +42,8 @@ bool ReadId3v1(ByteSource& file, bool moveTheArtists, TrackInfo& track) {
     SetFieldText(track.Album, tag.substr(63, 30));
     SetFieldText(track.Year, tag.substr(93, 4));
     track.Genre = GenreName(bytes[127]);
-
-    if (track.Artist.empty()) {
-        track.Artist = kUnknownArtist;
-    }
-    if (moveTheArtists) {
-        track.Artist = MoveLeadingThe(std::move(track.Artist));
-    }
-    if (track.Title.empty()) {
-        track.Title = kUnknownTitle;
-    }
+    FinishTitle(track.Title);
+    FinishArtist(track.Artist, moveTheArtists);
     return true;
 }
 

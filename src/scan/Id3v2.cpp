@@ -1,7 +1,7 @@
 #include "Id3v2.h"
 
-#include "Id3v1.h"
 #include "RunTimeError.h"
+#include "TagText.h"
 
 #include <algorithm>
 #include <array>
@@ -72,30 +72,14 @@ LongText ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t s
     return content;
 }
 
-void MoveLeadingTheOf(LongText& artist) {
-    if (HasLeadingThe(artist.View())) {
-        artist.RemovePrefix(kLeadingTheBytes);
-        artist.Append(kTrailingThe);
-    }
-}
-
-// The default for a frame that is present but empty.
-const char* TextForEmpty(TextField field) {
-    if (field == &TrackInfo::Title) {
-        return kUnknownTitle;
-    }
-    return field == &TrackInfo::Artist ? kUnknownArtist : "";
-}
-
 void SetField(TextField field, std::string_view bytes, const TagTarget& target) {
     target.track.Unset(field);
     std::string& text = target.track.*field;
     SetTagText(text, bytes);
-    if (text.empty()) {
-        text = TextForEmpty(field);
-    }
-    if (field == &TrackInfo::Artist && target.moveTheArtists) {
-        text = MoveLeadingThe(std::move(text));
+    if (field == &TrackInfo::Title) {
+        FinishTitle(text);
+    } else if (field == &TrackInfo::Artist) {
+        FinishArtist(text, target.moveTheArtists);
     }
 }
 
@@ -108,8 +92,8 @@ void ReadLongField(ByteSource& file, std::uint64_t offset, std::uint32_t size, T
         SetField(field, {}, target);
         return;
     }
-    if (field == &TrackInfo::Artist && target.moveTheArtists) {
-        MoveLeadingTheOf(text);
+    if (field == &TrackInfo::Artist) {
+        FinishArtist(text, target.moveTheArtists);
     }
     if (target.longTexts != nullptr && text.View().size() >= kLongTextBytes) {
         target.track.Set(field, target.longTexts->Share(std::move(text)));

@@ -20,7 +20,6 @@ std::int32_t HeldSize(std::uint64_t size) {
 
 void StartAnew(TrackReading& reading) {
     reading.track.Clear();
-    reading.seconds = 0;
     reading.decodeError.reset();
     reading.stopped = false;
 }
@@ -60,7 +59,7 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
         MarkUntagged(track);
     }
     try {
-        reading.seconds = DecodeMpegHeader(file, id3v2.searchPosition, track);
+        DecodeMpegHeader(file, id3v2.searchPosition, track);
     } catch (const RunTimeError& error) {
         reading.decodeError = error;
     }

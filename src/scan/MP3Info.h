@@ -21,7 +21,6 @@ struct ReadOptions {
 
 struct TrackReading {
     TrackInfo track;
-    std::int64_t seconds = 0;                // whole seconds of playing time
     std::optional<RunTimeError> decodeError; // why no audio header was decoded; the track is kept
     bool stopped = false;                    // the stop test ended the reading; discard the rest
 };

@@ -1,6 +1,7 @@
 #include "MpegHeader.h"
 
 #include "Numbers.h"
+#include "PlayTime.h"
 #include "RunTimeError.h"
 
 #include <algorithm>
@@ -227,7 +228,7 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
     }
 }
 
-std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo& track) {
+void DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo& track) {
     const MpegHeader header = FindMpegHeader(file, searchPosition);
     const std::int32_t bitrate = header.vbr ? XingBitrate(track.FileSize, header)
                                             : TableBitrate(header.version, header.layer, header.bitrateIndex);
@@ -245,8 +246,8 @@ std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, Tr
     track.Frequency = std::to_string(header.frequency);
     track.Mode = kModes.at(header.mode);
     track.MpegType = TypeText(header.version, header.layer);
-    track.Duration = std::to_string(seconds / 60) + ":" + PadNumber(seconds % 60, 2);
-    return seconds;
+    track.Duration = MinutesAndSeconds(seconds);
+    track.Seconds = static_cast<std::int32_t>(seconds);
 }
 
 } // namespace tunedex

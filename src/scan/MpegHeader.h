@@ -31,9 +31,9 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition);
 // tables for MPEG-2 Layer III and MPEG-2.5 are not the published ones. Do not 'fix'.
 std::int32_t TableBitrate(MpegVersion version, MpegLayer layer, unsigned bitrateIndex);
 
-// Sets bitrate, frequency, mode, MPEG type and duration and returns the playing time in whole seconds.
-// Requires `track.FileSize`. Raises error 62 (no header), 11 (bitrate or frame count 0), 6 (file of
-// 268,435,456 bytes or more) or the error of a failed read; the track is then unchanged.
-std::int64_t DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo& track);
+// Sets bitrate, frequency, mode, MPEG type, duration and whole seconds. Requires `track.FileSize`. Raises
+// error 62 (no header), 11 (bitrate or frame count 0), 6 (file of 268,435,456 bytes or more) or the error of
+// a failed read; the track is then unchanged.
+void DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo& track);
 
 } // namespace tunedex

@@ -1,9 +1,10 @@
 #include "SamplePage.h"
 
 #include "ByteSource.h"
-#include "Id3v1.h"
 #include "OutputList.h"
+#include "PlayTime.h"
 #include "Sorting.h"
+#include "TagText.h"
 #include "Text.h"
 
 #include <array>
@@ -45,17 +46,13 @@ constexpr std::array kSamples = {
 
 constexpr const char* kFolder = "/home/music/";
 
-std::string Duration(std::int32_t seconds) {
-    const std::string rest = std::to_string(seconds % 60);
-    return std::to_string(seconds / 60) + (rest.size() < 2 ? ":0" : ":") + rest;
-}
-
 TrackInfo TrackOf(const Sample& sample, bool moveTheArtists) {
     TrackInfo track;
     track.BaseFolder = kFolder;
     track.FullPath = std::string(kFolder) + sample.artist + " - " + sample.title + ".mp3";
     track.FileSize = sample.fileSize;
-    track.Artist = moveTheArtists ? MoveLeadingThe(sample.artist) : sample.artist;
+    track.Artist = sample.artist;
+    FinishArtist(track.Artist, moveTheArtists);
     track.Title = sample.title;
     track.Album = sample.album;
     track.Year = sample.year;
@@ -64,7 +61,8 @@ TrackInfo TrackOf(const Sample& sample, bool moveTheArtists) {
     track.Frequency = "44100";
     track.Mode = "Joint Stereo";
     track.MpegType = "1.0 III";
-    track.Duration = Duration(sample.seconds);
+    track.Duration = MinutesAndSeconds(sample.seconds);
+    track.Seconds = sample.seconds;
     track.TagType = kId3v1Tag;
     return track;
 }

@@ -80,7 +80,8 @@ std::vector<TrackInfo> RandomTracks(std::mt19937& random, std::size_t count, uns
                         "m" + n,
                         "t" + n,
                         "d" + n,
-                        static_cast<std::int16_t>(i % 3)};
+                        static_cast<std::int16_t>(i % 3),
+                        static_cast<std::int32_t>(i)};
         if (random() % 10 == 0) {
             track.Artist = track.FullPath; // as in a file without tags
             track.TagType = kNoTag;
@@ -186,14 +187,15 @@ TEST(SortTracks, ComparesKeysAsTheyAreStored) {
 }
 
 TEST(SortTracks, KeepsBaseFolderModeTypeAndTagKindWithTheirRow) {
-    TrackInfo first{"/p/1", "/b/1", 1, "Z", "t1", "al1", "y1", "g1", "k1", "f1", "Mono", "1.0 III", "d1", 1};
-    TrackInfo second{"/p/2", "/b/2", 2,    "A",      "t2",     "al2", "y2",
-                     "g2",   "k2",   "f2", "Stereo", "2.0 II", "d2",  2};
+    TrackInfo first{"/p/1", "/b/1", 1,      "Z",       "t1", "al1", "y1", "g1",
+                    "k1",   "f1",   "Mono", "1.0 III", "d1", 1,     61};
+    TrackInfo second{"/p/2", "/b/2", 2,        "A",      "t2", "al2", "y2", "g2",
+                     "k2",   "f2",   "Stereo", "2.0 II", "d2", 2,     62};
     const auto sorted = Sorted({first, second}, 1);
     EXPECT_TRUE(sorted[0] == (TrackInfo{"/p/2", "/b/1", 2, "A", "t2", "al2", "y2", "g2", "k2", "f2", "Mono",
-                                        "1.0 III", "d2", 1}));
+                                        "1.0 III", "d2", 1, 62}));
     EXPECT_TRUE(sorted[1] == (TrackInfo{"/p/1", "/b/2", 1, "Z", "t1", "al1", "y1", "g1", "k1", "f1", "Stereo",
-                                        "2.0 II", "d1", 2}));
+                                        "2.0 II", "d1", 2, 61}));
 }
 
 TEST(SortTracks, LeavesTheTableUnchangedWhenAborted) {

@@ -65,7 +65,10 @@ class ListingTest : public testing::Test {
     void Use(const std::vector<TrackInfo>& infos) {
         tracks = TrackTable(infos.size());
         totals = {};
-        for (const TrackInfo& info : infos) {
+        for (TrackInfo info : infos) {
+            if (const std::size_t colon = info.Duration.find(':'); colon != std::string::npos) {
+                info.Seconds = std::stoi(info.Duration) * 60 + std::stoi(info.Duration.substr(colon + 1));
+            }
             tracks.Append(info);
             totals.TotalBytes += info.FileSize;
             totals.UntaggedCount += info.TagType == kNoTag ? 1 : 0;

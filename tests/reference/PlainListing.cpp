@@ -93,7 +93,7 @@ class Walk {
         Reading reading = ReadTrack(BytesOf(folder + name), folder + name, settings_.MoveTheArtists);
         reading.track.BaseFolder = baseFolder;
         collected_.totalBytes += reading.track.FileSize;
-        collected_.totalSeconds += static_cast<double>(reading.seconds);
+        collected_.totalSeconds += reading.track.Seconds;
         collected_.untagged += reading.track.TagType == 0 ? 1 : 0;
         if (reading.error != 0) {
             collected_.undecoded.push_back(reading.track.FullPath);

@@ -290,8 +290,8 @@ Reading ReadTrack(const std::string& bytes, const std::string& fullPath, bool mo
         reading.error = kDivisionByZero;
         return reading;
     }
-    reading.seconds = static_cast<std::int64_t>(std::floor(size * 8 / bitrate / 1000));
-    const std::string seconds = std::to_string(reading.seconds % 60);
+    track.Seconds = static_cast<std::int32_t>(std::floor(size * 8 / bitrate / 1000));
+    const std::string seconds = std::to_string(track.Seconds % 60);
     track.Bitrate = std::to_string(static_cast<std::int64_t>(bitrate));
     track.Frequency = std::to_string(Frequency(header.bits));
     const std::string mode = header.bits.substr(24, 2);
@@ -301,7 +301,7 @@ Reading ReadTrack(const std::string& bytes, const std::string& fullPath, bool mo
                                 : "Mono";
     track.MpegType =
         Version(header.bits) + " " + std::string(static_cast<std::size_t>(Layer(header.bits)), 'I');
-    track.Duration = std::to_string(reading.seconds / 60) + ":" + (seconds.size() < 2 ? "0" : "") + seconds;
+    track.Duration = std::to_string(track.Seconds / 60) + ":" + (seconds.size() < 2 ? "0" : "") + seconds;
     return reading;
 }
 

@@ -10,7 +10,6 @@ namespace tunedex::plain {
 
 struct Reading {
     TrackInfo track;
-    std::int64_t seconds = 0;
     int error = 0; // number of the error from decoding the audio header; 0: none
 };
 

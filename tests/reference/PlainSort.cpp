@@ -28,6 +28,7 @@ void Swap(TrackInfo& a, TrackInfo& b) {
     std::swap(a.Bitrate, b.Bitrate);
     std::swap(a.Frequency, b.Frequency);
     std::swap(a.Duration, b.Duration);
+    std::swap(a.Seconds, b.Seconds);
 }
 
 } // namespace

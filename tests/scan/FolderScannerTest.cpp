@@ -83,10 +83,10 @@ TEST(ScanFolders, StoresRecordsAndTotals) {
     ASSERT_EQ(tracks.size(), 3U);
     EXPECT_TRUE(tracks[0] ==
                 (TrackInfo{folder / "a.mp3", folder.Path(), 16000, "artist", "one", "album", "1999", "Rock",
-                           "128", "44100", "Joint Stereo", "1.0 III", "0:01", 1}));
+                           "128", "44100", "Joint Stereo", "1.0 III", "0:01", 1, 1}));
     EXPECT_TRUE(tracks[1] ==
                 (TrackInfo{folder / "b.mp3", folder.Path(), 32000, folder / "b.mp3", "No ID3 Tags!", "", "",
-                           "", "128", "44100", "Joint Stereo", "1.0 III", "0:02", 0}));
+                           "", "128", "44100", "Joint Stereo", "1.0 III", "0:02", 0, 2}));
 }
 
 TEST(ScanFolders, CountsInTheFirstPassAndCollectsInTheSecond) {

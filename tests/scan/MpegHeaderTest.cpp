@@ -36,7 +36,6 @@ MpegHeader Find(const std::string& bytes, std::uint64_t searchPosition = 1) {
 
 struct Decoded {
     TrackInfo track;
-    std::int64_t seconds = 0;
     int error = 0;
 };
 
@@ -46,7 +45,7 @@ Decoded Decode(const std::string& bytes, std::int32_t fileSize) {
     Decoded decoded;
     decoded.track.FileSize = fileSize;
     try {
-        decoded.seconds = DecodeMpegHeader(file, 1, decoded.track);
+        DecodeMpegHeader(file, 1, decoded.track);
     } catch (const RunTimeError& error) {
         decoded.error = error.Number();
     }
@@ -149,7 +148,7 @@ TEST(DecodeMpegHeader, ComputesTheDurationFromSizeAndBitrate) {
     EXPECT_EQ(decoded.track.Mode, "Joint Stereo");
     EXPECT_EQ(decoded.track.MpegType, "1.0 III");
     EXPECT_EQ(decoded.track.Duration, "4:10");
-    EXPECT_EQ(decoded.seconds, 250);
+    EXPECT_EQ(decoded.track.Seconds, 250);
 }
 
 struct DurationRow {
@@ -172,7 +171,7 @@ TEST(DecodeMpegHeader, TruncatesSecondsAndDoesNotLimitMinutes) {
     for (const DurationRow& row : rows) {
         const Decoded decoded = Decode(kHeader, row.fileSize);
         EXPECT_EQ(decoded.track.Duration, row.duration);
-        EXPECT_EQ(decoded.seconds, row.seconds);
+        EXPECT_EQ(decoded.track.Seconds, row.seconds);
     }
 }
 
