@@ -62,6 +62,18 @@ TEST(TrackTable, ReusesTheLongTextsThatReadersShared) {
     EXPECT_EQ(track, fresh);
 }
 
+TEST(TrackTable, KeepsTheLargestSizeAndTheLongestPlayingTime) {
+    TrackTable table(1);
+    TrackInfo track;
+    track.FileSize = INT32_MAX;
+    track.Seconds = INT32_MAX / 125; // at 1 kbit/s
+    track.TagType = kId3v2Tag;
+    table.Append(track);
+    EXPECT_EQ(table.Copy(1).FileSize, track.FileSize);
+    EXPECT_EQ(table.Copy(1).Seconds, track.Seconds);
+    EXPECT_EQ(table.Copy(1).TagType, kId3v2Tag);
+}
+
 TEST(TrackTable, KeepsLongTextsWhenMoved) {
     TrackTable table(1);
     TrackInfo track;
