@@ -31,31 +31,24 @@ FileByteSource::FileByteSource(const std::string& path)
     : FileByteSource(AT_FDCWD, path.find('\0') == std::string::npos ? path.c_str() : "") {}
 
 FileByteSource::FileByteSource(int folder, const char* name, ReadAhead readAhead, const StopTest* stop)
-    : stop_(stop) {
     // O_NONBLOCK: a FIFO may have replaced the file since its folder was listed.
-    descriptor_ =
-        Uninterrupted([&] { return openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); });
-    if (descriptor_ < 0) {
+    : descriptor_(
+          Uninterrupted([&] { return openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); })),
+      stop_(stop) {
+    if (!descriptor_) {
         throw ErrorFromErrno(errno, FileTask::ReadFile);
     }
     struct stat status {};
-    if (Uninterrupted([&] { return fstat(descriptor_, &status); }) != 0) {
-        const int errorCode = errno;
-        close(descriptor_);
-        throw ErrorFromErrno(errorCode, FileTask::ReadFile);
+    if (Uninterrupted([&] { return fstat(descriptor_.Get(), &status); }) != 0) {
+        throw ErrorFromErrno(errno, FileTask::ReadFile);
     }
     if (!S_ISREG(status.st_mode)) {
-        close(descriptor_);
         throw RunTimeError(ErrorNumber::FileNotFound);
     }
     size_ = static_cast<std::uint64_t>(status.st_size);
     if (readAhead == ReadAhead::Nothing) {
-        posix_fadvise(descriptor_, 0, 0, POSIX_FADV_RANDOM); // only a hint: failure does no harm
+        posix_fadvise(descriptor_.Get(), 0, 0, POSIX_FADV_RANDOM); // only a hint: failure does no harm
     }
-}
-
-FileByteSource::~FileByteSource() {
-    close(descriptor_);
 }
 
 std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer) {
@@ -68,7 +61,7 @@ std::size_t FileByteSource::ReadFile(std::uint64_t offset, std::span<std::uint8_
     std::size_t done = 0;
     while (done < buffer.size()) {
         const ssize_t got = Uninterrupted([&] {
-            return pread(descriptor_, buffer.data() + done, buffer.size() - done,
+            return pread(descriptor_.Get(), buffer.data() + done, buffer.size() - done,
                          static_cast<off_t>(offset + done));
         });
         if (got < 0) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "StopTest.h"
+#include "UniqueFd.h"
 
 #include <array>
 #include <cstdint>
@@ -41,8 +42,8 @@ class MemoryByteSource final : public ByteSource {
     std::span<const std::uint8_t> bytes_;
 };
 
-// Kernel readahead assumes sequential reads and loads about four times what a tag reader needs. From a slow
-// disk, that fills the page cache for nothing; Nothing turns it off.
+// Kernel readahead assumes sequential reads and loads about four times what a tag reader needs. On a slow
+// disk this costs time and page cache; ReadAhead::Nothing turns it off.
 enum class ReadAhead { AsUsual, Nothing };
 
 // A file that is opened once. A small read loads a window of the file, because the next read is usually
@@ -56,7 +57,6 @@ class FileByteSource final : public ByteSource {
     // reads as ended and Stopped() is true.
     FileByteSource(int folder, const char* name, ReadAhead readAhead = ReadAhead::AsUsual,
                    const StopTest* stop = nullptr);
-    ~FileByteSource() override;
 
     std::uint64_t Size() const override { return size_; }
     std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> buffer) override;
@@ -75,7 +75,7 @@ class FileByteSource final : public ByteSource {
 
     std::size_t ReadFile(std::uint64_t offset, std::span<std::uint8_t> buffer);
 
-    int descriptor_ = -1;
+    UniqueFd descriptor_;
     std::uint64_t size_ = 0;
     const StopTest* stop_ = nullptr;
     unsigned reads_ = 0; // counts up to kReadsUnasked

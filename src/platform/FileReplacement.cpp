@@ -252,8 +252,7 @@ void FileReplacement::Discard() noexcept {
 }
 
 void FileReplacement::Commit() {
-    // After EINTR, Linux has closed the descriptor and keeps the data written.
-    if (close(written_.Release()) != 0 && errno != EINTR) {
+    if (!written_.Close()) {
         Fail(errno);
     }
     if (!temporary_.empty()) {

@@ -12,6 +12,12 @@ FolderStream::FolderStream(const std::string& path) {
     } while (!stream_ && errno == EINTR);
 }
 
+FolderStream::FolderStream(UniqueFd folder) : stream_(folder ? fdopendir(folder.Get()) : nullptr) {
+    if (stream_) {
+        (void)folder.Release(); // the stream owns it now
+    }
+}
+
 const dirent* FolderStream::Next() {
     const dirent* entry = nullptr;
     do {

@@ -1,6 +1,8 @@
 // Reads the entries of one folder in directory order.
 #pragma once
 
+#include "UniqueFd.h"
+
 #include <dirent.h>
 #include <memory>
 #include <string>
@@ -12,6 +14,8 @@ class FolderStream {
   public:
     // Opens the folder. On failure the stream is empty and errno says why.
     explicit FolderStream(const std::string& path);
+    // Takes over an open folder. On failure, or without a descriptor, the stream is empty.
+    explicit FolderStream(UniqueFd folder);
 
     explicit operator bool() const { return stream_ != nullptr; }
     // The folder's file descriptor; the stream keeps ownership.

@@ -33,7 +33,7 @@ void LogFile::WriteLine(std::string_view text) {
 }
 
 void LogFile::Close() {
-    if (close(descriptor_.Release()) != 0 && errno != EINTR) {
+    if (!descriptor_.Close()) {
         throw ErrorFromErrno(errno, FileTask::WriteFile);
     }
 }

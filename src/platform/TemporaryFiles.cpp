@@ -1,14 +1,14 @@
 #include "TemporaryFiles.h"
 
+#include "FolderStream.h"
+#include "RunTimeError.h"
 #include "Uninterrupted.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <ctime>
-#include <dirent.h>
 #include <fcntl.h>
-#include <memory>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -77,16 +77,19 @@ TemporaryFile CreateTemporaryFile(int folder, mode_t mode) {
 }
 
 void RemoveStaleTemporaryFiles(int folder) {
-    UniqueFd listed(Uninterrupted([&] { return openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(listed ? fdopendir(listed.Get()) : nullptr, closedir);
+    FolderStream stream(
+        UniqueFd(Uninterrupted([&] { return openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); })));
     if (!stream) {
         return;
     }
-    (void)listed.Release(); // the stream owns it now
-    while (const dirent* const entry = readdir(stream.get())) {
-        if (IsTemporaryName(entry->d_name) && IsStale(folder, entry->d_name)) {
-            Uninterrupted([&] { return unlinkat(folder, entry->d_name, 0); });
+    try {
+        while (const dirent* const entry = stream.Next()) {
+            if (IsTemporaryName(entry->d_name) && IsStale(folder, entry->d_name)) {
+                Uninterrupted([&] { return unlinkat(folder, entry->d_name, 0); });
+            }
         }
+    } catch (const RunTimeError&) {
+        // Best effort: stale files must not prevent a new one.
     }
 }
 

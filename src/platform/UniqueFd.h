@@ -1,6 +1,7 @@
 // Owns a file descriptor and closes it.
 #pragma once
 
+#include <cerrno>
 #include <unistd.h>
 #include <utility>
 
@@ -30,6 +31,9 @@ class UniqueFd {
             close(Release());
         }
     }
+    // Closes the descriptor. Returns false with errno set on failure. EINTR is success: Linux has released
+    // the descriptor and keeps the data written.
+    bool Close() { return close(Release()) == 0 || errno == EINTR; }
 
   private:
     int descriptor_ = -1;

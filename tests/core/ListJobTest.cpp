@@ -5,6 +5,7 @@
 #include "OrdinaryUser.h"
 #include "TestFolder.h"
 #include "Text.h"
+#include "UniqueFd.h"
 
 #include <gtest/gtest.h>
 
@@ -687,18 +688,15 @@ class UnreadFifo {
         : made_(mkfifo(path.c_str(), 0666)), reader_(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {
         EXPECT_EQ(made_, 0);
     }
-    UnreadFifo(const UnreadFifo&) = delete;
-    UnreadFifo& operator=(const UnreadFifo&) = delete;
-    ~UnreadFifo() { close(reader_); }
 
     bool IsFull() const {
         int bytes = 0;
-        return ioctl(reader_, FIONREAD, &bytes) == 0 && bytes > 60000;
+        return ioctl(reader_.Get(), FIONREAD, &bytes) == 0 && bytes > 60000;
     }
 
   private:
     int made_;
-    int reader_;
+    UniqueFd reader_;
 };
 
 TEST_F(ListJob, AbortEndsTheWriteToAFullListingFifo) {

@@ -3,6 +3,7 @@
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
 #include "TestFolder.h"
+#include "UniqueFd.h"
 
 #include <gtest/gtest.h>
 
@@ -21,10 +22,9 @@ class NoFreeDescriptor {
   public:
     NoFreeDescriptor() {
         getrlimit(RLIMIT_NOFILE, &before_);
-        const int lowest = dup(STDERR_FILENO);
-        close(lowest);
+        const UniqueFd lowest(dup(STDERR_FILENO));
         rlimit now = before_;
-        now.rlim_cur = static_cast<rlim_t>(lowest);
+        now.rlim_cur = static_cast<rlim_t>(lowest.Get());
         setrlimit(RLIMIT_NOFILE, &now);
     }
     NoFreeDescriptor(const NoFreeDescriptor&) = delete;
@@ -75,35 +75,33 @@ TEST(KeptFiles, AMalformedStatisticsFileIsReplacedAtExit) {
 }
 
 TEST(Terminal, IsNotControlledByNamesInAMessage) {
-    const int master = posix_openpt(O_RDWR | O_NOCTTY);
-    if (master < 0 || grantpt(master) != 0 || unlockpt(master) != 0) {
+    const UniqueFd master(posix_openpt(O_RDWR | O_NOCTTY));
+    if (!master || grantpt(master.Get()) != 0 || unlockpt(master.Get()) != 0) {
         GTEST_SKIP() << "no pseudo-terminal available";
     }
-    const int terminal = open(ptsname(master), O_RDWR | O_NOCTTY);
-    ASSERT_GE(terminal, 0);
-    const int noInput = open("/dev/null", O_RDONLY);
+    UniqueFd terminal(open(ptsname(master.Get()), O_RDWR | O_NOCTTY));
+    ASSERT_TRUE(terminal);
+    const UniqueFd noInput(open("/dev/null", O_RDONLY));
     const TestFolder folder;
     FakeApplication fake(folder.Path());
     {
         // The front end opens the terminal again; read() below reports the end only after that one is closed,
         // too.
-        TerminalFrontEnd frontEnd(fake.application, noInput, terminal);
+        TerminalFrontEnd frontEnd(fake.application, noInput.Get(), terminal.Get());
         frontEnd.ShowMessage("a\x1b[2Jb\xC2\x9B"
                              "2Jc\x9B"
                              "2Jd\a\re\x7F\xC3\xA9\xE9",
                              kOkExclamation, "Error");
     }
-    close(noInput);
-    close(terminal);
+    terminal.Reset();
     // Read until the end; the kernel may split the output.
     std::string shown;
     std::array<char, 512> piece{};
     for (ssize_t length = 1; length > 0;) {
-        length = read(master, piece.data(), piece.size());
+        length = read(master.Get(), piece.data(), piece.size());
         shown.append(piece.data(), static_cast<std::size_t>(std::max<ssize_t>(length, 0)));
     }
     EXPECT_EQ(shown, "Error\r\na?[2Jb?2Jc?2Jd??e?\xC3\xA9\xE9\r\n[OK] \r\n");
-    close(master);
 }
 
 } // namespace

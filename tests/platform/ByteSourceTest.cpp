@@ -3,6 +3,7 @@
 #include "OrdinaryUser.h"
 #include "Raises.h"
 #include "TestFolder.h"
+#include "UniqueFd.h"
 
 #include <gtest/gtest.h>
 
@@ -113,15 +114,14 @@ TEST(FileByteSource, ReadsFarBeyondFourGigabytes) {
 TEST(FileByteSource, OpensANameRelativeToAFolderDescriptor) {
     const test::TestFolder folder;
     folder.Write("a.mp3", "x");
-    const int descriptor = open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    ASSERT_GE(descriptor, 0);
+    const UniqueFd opened(open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    ASSERT_TRUE(opened);
     {
-        FileByteSource source(descriptor, "a.mp3");
+        FileByteSource source(opened.Get(), "a.mp3");
         EXPECT_EQ(ReadAt(source, 0, 9), Buffer{'x'});
-        EXPECT_EQ(test::RaisedBy([&] { FileByteSource(descriptor, "b.mp3"); }), 53);
+        EXPECT_EQ(test::RaisedBy([&] { FileByteSource(opened.Get(), "b.mp3"); }), 53);
     }
-    EXPECT_EQ(fcntl(descriptor, F_GETFD), FD_CLOEXEC) << "the caller keeps the folder descriptor";
-    close(descriptor);
+    EXPECT_EQ(fcntl(opened.Get(), F_GETFD), FD_CLOEXEC) << "the caller keeps the folder descriptor";
 }
 
 TEST(FileByteSource, RaisesTheErrorOfAnythingButAReadableFileWithoutBlocking) {
@@ -144,17 +144,16 @@ TEST(FileByteSource, RaisesTheErrorOfAnythingButAReadableFileWithoutBlocking) {
     for (const auto& [path, number] : rows) {
         EXPECT_EQ(test::RaisedBy([&path = path] { FileByteSource source(path); }), number) << path;
     }
-    const int descriptor = open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const UniqueFd opened(open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (const auto& [path, number] : rows) {
         if (path.starts_with(folder.Path()) && path.find('\0') == std::string::npos) {
             EXPECT_EQ(test::RaisedBy([&, name = path.c_str() + folder.Path().size()] {
-                          FileByteSource source(descriptor, name);
+                          FileByteSource source(opened.Get(), name);
                       }),
                       number)
                 << path;
         }
     }
-    close(descriptor);
     test::AsOrdinaryUser(folder, [&] {
         ASSERT_EQ(chmod((folder / "file").c_str(), 0), 0);
         EXPECT_EQ(test::RaisedBy([&] { FileByteSource source(folder / "file"); }), 75);

@@ -1,13 +1,13 @@
 #include "FileSystem.h"
 
 #include "OrdinaryUser.h"
+#include "Pipe.h"
 #include "Raises.h"
 #include "TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
@@ -134,40 +134,35 @@ TEST_F(FileSystemTest, FindsTheRunningProgramAndItsFolder) {
 }
 
 TEST(WriteWhole, WaitsForTheReaderOfAFullPipe) {
-    std::array<int, 2> pipe{};
-    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    const test::Pipe pipe = test::MakePipe(O_CLOEXEC | O_NONBLOCK);
     const std::string bytes(1'000'000, 'x');
     std::size_t got = 0;
     std::vector<char> buffer(65536);
     const auto readSome = [&] {
-        const ssize_t count = read(pipe[0], buffer.data(), buffer.size());
+        const ssize_t count = read(pipe.reader.Get(), buffer.data(), buffer.size());
         got += count > 0 ? static_cast<std::size_t>(count) : 0;
         return false;
     };
-    EXPECT_TRUE(WriteWhole(pipe[1], bytes, readSome));
+    EXPECT_TRUE(WriteWhole(pipe.writer.Get(), bytes, readSome));
     for (std::size_t before = got + 1; got != before;) {
         before = got;
         readSome();
     }
     EXPECT_EQ(got, bytes.size());
-    close(pipe[0]);
-    close(pipe[1]);
 }
 
 TEST(WriteWhole, StopsWaitingWhenTheStopTestReturnsTrue) {
-    std::array<int, 2> pipe{};
-    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    test::Pipe pipe = test::MakePipe(O_CLOEXEC | O_NONBLOCK);
     int asked = 0;
-    EXPECT_FALSE(WriteWhole(pipe[1], std::string(1'000'000, 'x'), [&] { return ++asked == 3; }));
+    EXPECT_FALSE(WriteWhole(pipe.writer.Get(), std::string(1'000'000, 'x'), [&] { return ++asked == 3; }));
     EXPECT_EQ(asked, 3);
-    EXPECT_FALSE(WriteWhole(pipe[1], "x", [] { return true; })) << "without waiting";
-    close(pipe[0]);
+    EXPECT_FALSE(WriteWhole(pipe.writer.Get(), "x", [] { return true; })) << "without waiting";
+    pipe.reader.Reset();
     EXPECT_EQ(test::RaisedBy([&] {
                   std::signal(SIGPIPE, SIG_IGN);
-                  WriteWhole(pipe[1], "x");
+                  WriteWhole(pipe.writer.Get(), "x");
               }),
               57);
-    close(pipe[1]);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "OrdinaryUser.h"
 #include "Raises.h"
 #include "TestFolder.h"
+#include "UniqueFd.h"
 
 #include <gtest/gtest.h>
 
@@ -77,8 +78,8 @@ TEST(LogFile, DropsTheRestWhenTheStopTestEndsTheWaitForAFullFifo) {
     const test::TestFolder folder;
     const std::string path = folder / "Tunedex.log";
     ASSERT_EQ(mkfifo(path.c_str(), 0666), 0);
-    const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    ASSERT_GE(reader, 0);
+    const UniqueFd reader(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    ASSERT_TRUE(reader);
     int asked = 0;
     LogFile log(path, [&] { return ++asked > 2; });
     const std::string line(1000, 'x');
@@ -93,9 +94,8 @@ TEST(LogFile, DropsTheRestWhenTheStopTestEndsTheWaitForAFullFifo) {
     EXPECT_EQ(asked, 3) << "no further writes and no waits";
     log.Close();
     std::array<char, 1002> first{};
-    ASSERT_EQ(read(reader, first.data(), first.size()), 1002);
+    ASSERT_EQ(read(reader.Get(), first.data(), first.size()), 1002);
     EXPECT_EQ(std::string(first.data(), first.size()), line + "\r\n");
-    close(reader);
 }
 
 } // namespace

@@ -2,8 +2,10 @@
 
 #include "FileSystem.h"
 #include "OrdinaryUser.h"
+#include "Pipe.h"
 #include "Raises.h"
 #include "TestFolder.h"
+#include "UniqueFd.h"
 
 #include <gtest/gtest.h>
 
@@ -204,19 +206,16 @@ TEST(TextFile, CreatesTheFileThatADanglingLinkNames) {
 
 TEST(TextFile, WritesThroughALinkToAPipe) {
     const test::TestFolder folder;
-    std::array<int, 2> pipe{};
-    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
-    const std::string link = "/proc/self/fd/" + std::to_string(pipe[1]); // like /dev/stdout
+    const test::Pipe pipe = test::MakePipe(O_CLOEXEC);
+    const std::string link = "/proc/self/fd/" + std::to_string(pipe.writer.Get()); // like /dev/stdout
     ASSERT_EQ(symlink(link.c_str(), (folder / "link").c_str()), 0);
     for (const std::string& path : {link, folder / "link"}) {
         Save(path, "new");
         std::array<char, 9> bytes{};
-        ASSERT_EQ(read(pipe[0], bytes.data(), bytes.size()), 3);
+        ASSERT_EQ(read(pipe.reader.Get(), bytes.data(), bytes.size()), 3);
         EXPECT_STREQ(bytes.data(), "new");
     }
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
-    close(pipe[0]);
-    close(pipe[1]);
 }
 
 TEST(TextFile, KeepsTheOldFilesPermissions) {
@@ -450,9 +449,7 @@ TEST(TextFile, GivesANewFileTheDefaultListOfItsFolder) {
         if (!SetAttribute(folder.Path(), kDefaultList, list)) {
             GTEST_SKIP() << "the file system has no access-control lists";
         }
-        const int usual = open((folder / "usual").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
-        ASSERT_GE(usual, 0);
-        close(usual);
+        ASSERT_TRUE(UniqueFd(open((folder / "usual").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666)));
         Save(folder / "list.htm", "new");
         EXPECT_EQ(PermissionsOf(folder / "list.htm"), PermissionsOf(folder / "usual"));
         EXPECT_EQ(Attribute(folder / "list.htm", kAccessList), Attribute(folder / "usual", kAccessList));
@@ -559,8 +556,8 @@ TEST(TextFile, DropsTheRestWhenTheStopTestEndsTheWaitForAFullFifo) {
     const test::TestFolder folder;
     ASSERT_EQ(mkfifo((folder / "list.htm").c_str(), 0666), 0);
     EXPECT_EQ(test::RaisedBy([&] { Save(folder / "list.htm", "x"); }), 57) << "the FIFO has no reader";
-    const int reader = open((folder / "list.htm").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    ASSERT_GE(reader, 0);
+    const UniqueFd reader(open((folder / "list.htm").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    ASSERT_TRUE(reader);
     int asked = 0;
     TextFile file(folder / "list.htm", TextEncoding::Utf8, [&] { return ++asked == 3; });
     file.Write("small");
@@ -572,23 +569,21 @@ TEST(TextFile, DropsTheRestWhenTheStopTestEndsTheWaitForAFullFifo) {
     file.Close();
     EXPECT_EQ(asked, 3);
     std::array<char, 6> first{};
-    ASSERT_EQ(read(reader, first.data(), 5), 5);
+    ASSERT_EQ(read(reader.Get(), first.data(), 5), 5);
     EXPECT_STREQ(first.data(), "small");
-    close(reader);
     EXPECT_TRUE(fs::is_fifo(folder / "list.htm"));
 }
 
 TEST(TextFile, WritesInPlaceWhenItsFolderCannotBeReachedByName) {
     const test::TestFolder folder;
     const std::string path = folder.Write("list.htm", "old and rather longer");
-    const int open = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    ASSERT_GE(open, 0);
+    const UniqueFd file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    ASSERT_TRUE(file);
     fs::remove(path); // still exists for processes that have it open
-    Save("/proc/self/fd/" + std::to_string(open), "new");
+    Save("/proc/self/fd/" + std::to_string(file.Get()), "new");
     std::array<char, 9> bytes{};
-    EXPECT_EQ(read(open, bytes.data(), bytes.size()), 3);
+    EXPECT_EQ(read(file.Get(), bytes.data(), bytes.size()), 3);
     EXPECT_STREQ(bytes.data(), "new");
-    close(open);
     EXPECT_EQ(CountIn(folder.Path()), 0U);
 }
 
