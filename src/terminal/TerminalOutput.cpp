@@ -24,12 +24,12 @@ bool HasMode(int descriptor, mode_t mode) {
 
 // Opens the pipe or terminal again, which gives a separate file description. Other files never block for
 // long.
-int OpenNonBlocking(int descriptor) {
+UniqueFd OpenNonBlocking(int descriptor) {
     if (isatty(descriptor) != 1 && !HasMode(descriptor, S_IFIFO)) {
-        return -1;
+        return {};
     }
     const std::string path = "/proc/self/fd/" + std::to_string(descriptor);
-    return open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    return UniqueFd(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
 }
 
 } // namespace
@@ -38,19 +38,13 @@ TerminalOutput::TerminalOutput(int descriptor)
     : descriptor_(descriptor), isTerminal_(isatty(descriptor) == 1), isSocket_(HasMode(descriptor, S_IFSOCK)),
       nonBlocking_(OpenNonBlocking(descriptor)) {}
 
-TerminalOutput::~TerminalOutput() {
-    if (nonBlocking_ >= 0) {
-        close(nonBlocking_);
-    }
-}
-
 unsigned TerminalOutput::Columns() const {
     winsize size{};
     return ioctl(descriptor_, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0U;
 }
 
 void TerminalOutput::Write(std::string_view bytes) const {
-    const int target = nonBlocking_ >= 0 ? nonBlocking_ : descriptor_;
+    const int target = nonBlocking_ ? nonBlocking_.Get() : descriptor_;
     while (!bytes.empty() && WaitForOutput(target)) {
         // A ready pipe accepts PIPE_BUF bytes, so even without a second file description this does not block
         // unless another process writes to the pipe.

@@ -2,6 +2,8 @@
 // abort.
 #pragma once
 
+#include "UniqueFd.h"
+
 #include <string_view>
 
 namespace tunedex {
@@ -12,9 +14,6 @@ class TerminalOutput {
     // description. Opens a pipe or terminal a second time instead. If that fails (a terminal of another
     // user), writes may block until a signal arrives.
     explicit TerminalOutput(int descriptor);
-    TerminalOutput(const TerminalOutput&) = delete;
-    TerminalOutput& operator=(const TerminalOutput&) = delete;
-    ~TerminalOutput();
 
     bool IsTerminal() const { return isTerminal_; }
     // Width in characters; 0 if unknown.
@@ -28,7 +27,7 @@ class TerminalOutput {
     const int descriptor_;
     const bool isTerminal_;
     const bool isSocket_;
-    const int nonBlocking_; // -1 if not opened
+    const UniqueFd nonBlocking_; // none if not opened
 };
 
 } // namespace tunedex
