@@ -3,6 +3,7 @@
 #include "FileLookup.h"
 #include "FileSystem.h"
 #include "Path.h"
+#include "Product.h"
 #include "RunTimeError.h"
 #include "ShippedFiles.h"
 #include "TextFile.h"
@@ -18,9 +19,17 @@ namespace tunedex {
 namespace {
 
 constexpr std::string_view kHelpFileName = "Help.html";
-constexpr std::string_view kInstalledData = "../share/tunedex/"; // relative to the running program's folder
-constexpr std::string_view kFillingMark = ".filling";            // exists while the folder is being filled
+constexpr std::string_view kFillingMark = ".filling"; // exists while the folder is being filled
 constexpr std::string_view kFilledMark = ".filled";
+
+std::string WithProgramName(const std::string& parentFolder) {
+    return parentFolder + kProgramName + "/";
+}
+
+// The data folder of an installation whose program is in `runningFolder`.
+std::string InstalledDataFolder(const std::string& runningFolder) {
+    return WithProgramName(runningFolder + "../share/");
+}
 
 std::string HomeFolder() {
     const char* home = std::getenv("HOME");
@@ -35,14 +44,14 @@ std::string UserDataFolder() {
     const char* data = std::getenv("XDG_DATA_HOME");
     // XDG_DATA_HOME must be absolute; a relative path is ignored.
     const std::string base = data != nullptr && *data == '/' ? data : HomeFolder() + "/.local/share";
-    return WithSeparator(base, PathStyle::Native()) + "tunedex/";
+    return WithProgramName(WithSeparator(base, PathStyle::Native()));
 }
 
 // Whether the program is installed: bin/tunedex next to share/tunedex/, under any prefix. An installed
 // program never writes to its own folder, even as root or under ~/.local.
 bool IsInstalled(const std::string& runningFolder) {
     try {
-        return FolderExists(runningFolder + std::string(kInstalledData));
+        return FolderExists(InstalledDataFolder(runningFolder));
     } catch (const RunTimeError&) {
         return false; // a folder that cannot be examined is not our installation
     }
@@ -56,7 +65,7 @@ bool NeedsFilling(const std::string& folder, const std::string& runningFolder) {
         return true;
     }
     std::error_code unknown; // on error: not the same folder
-    return std::filesystem::equivalent(folder, runningFolder + std::string(kInstalledData), unknown) &&
+    return std::filesystem::equivalent(folder, InstalledDataFolder(runningFolder), unknown) &&
            !FileExists(folder + std::string(kFilledMark));
 }
 
@@ -72,8 +81,8 @@ void FillOnFirstUse(const std::string& folder, const std::string& runningFolder,
     CreateFolders(folder);
     WriteMark(filling);
     FillProgramFolder(folder);
-    if (registry.Read("TipsOnStartup").empty()) {
-        registry.Write("TipsOnStartup", "1"); // a missing value means off; new users should see the tips
+    if (registry.Read(kTipsOnStartupValue).empty()) {
+        registry.Write(kTipsOnStartupValue, "1"); // a missing value means off; new users should see the tips
     }
     WriteMark(folder + std::string(kFilledMark));
     DeleteFile(filling);
@@ -95,7 +104,7 @@ void FillProgramFolder(const std::string& folder) {
 }
 
 std::string FindProgramFolder(Registry& registry, const std::string& runningFolder) {
-    const std::string installed = registry.Read("InstallationPath");
+    const std::string installed = registry.Read(kInstallationPathValue);
     if (!installed.empty()) {
         return WithSeparator(installed, PathStyle::Native());
     }
@@ -110,13 +119,13 @@ std::string FindProgramFolder(Registry& registry, const std::string& runningFold
 std::string FindHelpFile(const Registry& registry, const std::string& programFolder) {
     const PathStyle style = PathStyle::Native();
     const std::string own = RunningProgramFolder();
-    std::string registered = registry.Read("HelpFilePath");
+    std::string registered = registry.Read(kHelpFilePathValue);
     if (FileNameOf(registered, style) == kHelpFileName && FileIsThere(registered)) {
         return registered;
     }
     // Required: with a wrong registered path the program folder is not searched. Do not "fix".
     const std::string first = registered.empty() ? programFolder : own;
-    for (const std::string& folder : {first, own, own + std::string(kInstalledData)}) {
+    for (const std::string& folder : {first, own, InstalledDataFolder(own)}) {
         std::string path = folder + std::string(kHelpFileName);
         if (FileIsThere(path)) {
             return path;

@@ -9,7 +9,7 @@ namespace tunedex {
 
 std::string TipsPath(const Registry& registry, const std::string& runningFolder,
                      const std::string& programFolder) {
-    std::string path = registry.Read("TipsFile");
+    std::string path = registry.Read(kTipsFileValue);
     if (!path.empty()) {
         return path;
     }

@@ -6,6 +6,12 @@
 
 namespace tunedex {
 
+// The names of the values.
+inline constexpr std::string_view kInstallationPathValue = "InstallationPath"; // the program folder
+inline constexpr std::string_view kHelpFilePathValue = "HelpFilePath";
+inline constexpr std::string_view kTipsFileValue = "TipsFile";
+inline constexpr std::string_view kTipsOnStartupValue = "TipsOnStartup"; // "1" or "0"
+
 class Registry {
   public:
     Registry() = default;

@@ -1,12 +1,11 @@
 #include "QSettingsRegistry.h"
 
+#include "Product.h"
 #include "Text.h"
 
 #include <QByteArray>
 #include <QStringList>
 #include <QVariant>
-
-using namespace Qt::StringLiterals;
 
 namespace tunedex {
 namespace {
@@ -17,7 +16,8 @@ QString KeyOf(std::string_view name) {
 
 } // namespace
 
-QSettingsRegistry::QSettingsRegistry() : settings_(u"Corvale Works"_s, u"Tunedex"_s) {}
+QSettingsRegistry::QSettingsRegistry()
+    : settings_(QString::fromLatin1(kCompanyName), QString::fromLatin1(kProductTitle)) {}
 
 std::string QSettingsRegistry::Read(std::string_view name) const {
     const QVariant value = settings_.value(KeyOf(name));

@@ -1,5 +1,6 @@
 #include "WidgetHelpers.h"
 
+#include "Product.h"
 #include "Text.h"
 
 #include <QAbstractButton>
@@ -34,7 +35,7 @@ bool IsStrayByte(QChar character) {
 
 // The registry's store; the windows have a group of their own in it.
 QSettings WindowStore() {
-    return QSettings(u"Corvale Works"_s, u"Tunedex"_s);
+    return QSettings(ToQt(kCompanyName), ToQt(kProductTitle));
 }
 
 QString GeometryKey(const QWidget& window) {

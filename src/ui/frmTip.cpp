@@ -18,15 +18,13 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr std::string_view kTipsOnStartup = "TipsOnStartup";
-
 constexpr int kTipWidthInCharacters = 56;
 constexpr int kTipHeightInLines = 7;
 
 } // namespace
 
 bool TipsOnStartup(const Registry& registry) {
-    const std::string text = registry.Read(kTipsOnStartup);
+    const std::string text = registry.Read(kTipsOnStartupValue);
     return LeadingNumber(text) != 0 || UpperCase(TrimBlanks(text)) == "TRUE"; // not written by this program
 }
 
@@ -112,7 +110,7 @@ void frmTip::DisplayCurrentTip() {
 }
 
 void frmTip::accept() {
-    application_.registry.Write(kTipsOnStartup, chkLoadTipsAtStartup_->isChecked() ? "1" : "0");
+    application_.registry.Write(kTipsOnStartupValue, chkLoadTipsAtStartup_->isChecked() ? "1" : "0");
     QDialog::accept();
 }
 
