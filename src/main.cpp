@@ -4,12 +4,12 @@
 #include "Application.h"
 #include "CommandLine.h"
 #include "Display.h"
+#include "ExitStatus.h"
 #include "QSettingsRegistry.h"
 #include "RunTerminal.h"
 #include "RunWindows.h"
 
 #include <csignal>
-#include <cstdlib>
 #include <exception>
 #include <fcntl.h>
 #include <iostream>
@@ -19,8 +19,6 @@
 #include <vector>
 
 namespace {
-
-constexpr int kCouldNotStart = 2;
 
 // If a standard stream is closed, the next file opened gets its descriptor, and messages would be written
 // into a listing.
@@ -35,10 +33,10 @@ void OpenStandardStreams() {
 int Print(const std::string& text) {
     std::cout << text << std::flush;
     if (std::cout) {
-        return EXIT_SUCCESS;
+        return tunedex::kExitSuccess;
     }
     std::cerr << "Tunedex: standard output cannot be written.\n";
-    return kCouldNotStart;
+    return tunedex::kExitCannotStart;
 }
 
 int Run(int argc, char** argv) {
@@ -57,7 +55,7 @@ int Run(int argc, char** argv) {
         return tunedex::RunTerminal(application, arguments);
     }
     std::cerr << "Tunedex: there is no display to open its window on. Without one, start it with /AUTO.\n";
-    return kCouldNotStart;
+    return tunedex::kExitCannotStart;
 }
 
 } // namespace
@@ -74,5 +72,5 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
         std::cerr << "Tunedex could not start: " << error.what() << '\n';
     }
-    return kCouldNotStart;
+    return tunedex::kExitCannotStart;
 }

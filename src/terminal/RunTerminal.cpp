@@ -1,5 +1,6 @@
 #include "RunTerminal.h"
 
+#include "ExitStatus.h"
 #include "Interrupts.h"
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
@@ -12,7 +13,7 @@ int RunTerminal(Application& application, const std::vector<std::string>& argume
     CatchInterrupts();
     TerminalFrontEnd frontEnd(application, STDIN_FILENO, STDERR_FILENO);
     StartUp(application, frontEnd, arguments);
-    return CreateListCommand(application, frontEnd) ? 0 : 1;
+    return CreateListCommand(application, frontEnd) ? kExitSuccess : kExitFailure;
 }
 
 } // namespace tunedex

@@ -2,6 +2,7 @@
 
 #include "Dialogs.h"
 #include "Display.h"
+#include "ExitStatus.h"
 #include "FontPreload.h"
 #include "Functions.h"
 #include "Startup.h"
@@ -23,7 +24,6 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr int kCannotStart = 2;
 constexpr int kIconDelay = 100; // milliseconds; usually the window has been painted by then
 
 // Qt calls abort() when it cannot open the display, after advice to reinstall the program. Intercepts its
@@ -33,7 +33,7 @@ void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
         return; // warnings before the fatal message
     }
     std::fputs(UnusableDisplayText(DisplayVariables()).c_str(), stderr);
-    std::_Exit(kCannotStart);
+    std::_Exit(kExitCannotStart);
 }
 
 std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
@@ -67,7 +67,7 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
         tip->open();
     }
     const int status = QApplication::exec();
-    return SaveStatisticsOrSay(application, frontEnd) ? status : 1;
+    return SaveStatisticsOrSay(application, frontEnd) ? status : kExitFailure;
 }
 
 } // namespace
@@ -85,11 +85,11 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
         StartUp(application, frontEnd, arguments);
     } catch (const RunTimeError& error) {
         ShowMessage(frontEnd, UnexpectedErrorText(error), kOkExclamation, application.errorTitle);
-        return kCannotStart;
+        return kExitCannotStart;
     }
     if (automatic) {
         InstallProgramIcon();
-        return frontEnd.CreateList() ? 0 : 1;
+        return frontEnd.CreateList() ? kExitSuccess : kExitFailure;
     }
     return RunInteractively(application, frontEnd);
 }
