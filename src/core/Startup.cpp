@@ -20,15 +20,8 @@ std::string StatisticsPath(const Application& application) {
 
 // Whether the error came from the content of the file rather than from reading it.
 bool IsMalformed(const RunTimeError& error) {
-    switch (static_cast<ErrorNumber>(error.Number())) {
-    case ErrorNumber::InvalidProcedureCall:
-    case ErrorNumber::Overflow:
-    case ErrorNumber::TypeMismatch:
-    case ErrorNumber::InputPastEnd:
-        return true;
-    default:
-        return false;
-    }
+    return error.Is(ErrorNumber::InvalidProcedureCall) || error.Is(ErrorNumber::Overflow) ||
+           error.Is(ErrorNumber::TypeMismatch) || error.Is(ErrorNumber::InputPastEnd);
 }
 
 void StartStatistics(Application& application, UserInterface& ui) {
