@@ -7,7 +7,9 @@
 #include "ExitStatus.h"
 #include "QSettingsRegistry.h"
 #include "RunTerminal.h"
+#include "RunTimeError.h"
 #include "RunWindows.h"
+#include "Startup.h"
 
 #include <csignal>
 #include <exception>
@@ -39,6 +41,16 @@ int Print(const std::string& text) {
     return tunedex::kExitCannotStart;
 }
 
+int WriteDefaults(const tunedex::Application& application, const std::string& path) {
+    try {
+        tunedex::WriteDefaultSettings(application, path);
+        return tunedex::kExitSuccess;
+    } catch (const tunedex::RunTimeError& error) {
+        std::cerr << "Tunedex: the default settings cannot be written: " << error.Description() << '\n';
+        return tunedex::kExitFailure;
+    }
+}
+
 int Run(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     if (const std::optional<std::string> information = tunedex::InformationText(arguments)) {
@@ -47,6 +59,9 @@ int Run(int argc, char** argv) {
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
+    if (const std::optional<std::string> path = tunedex::DefaultsFile(arguments)) {
+        return WriteDefaults(application, *path);
+    }
     const bool automatic = tunedex::IsAutomatic(arguments);
     if (!tunedex::DisplayVariables().empty()) {
         return tunedex::RunWindows(argc, argv, application, automatic);

@@ -10,6 +10,7 @@ namespace {
 
 // At most 80 columns. Keep the manual page in step: same entries, same words.
 constexpr const char* kHelpText = R"(Usage: tunedex [/AUTO]
+       tunedex --write-defaults FILE
        tunedex --help
        tunedex --version
 
@@ -21,6 +22,9 @@ Options:
   /AUTO      Create the list that the default settings file describes, without
              the main window, and end. The switch is recognised anywhere on the
              command line, in upper or lower case.
+  --write-defaults FILE
+             As the only arguments: write the default settings to FILE and
+             end. The extension .cfg is added if it is missing.
   --help     As the single argument: print a summary and end.
   --version  As the single argument: print the version and end.
 
@@ -56,6 +60,13 @@ std::optional<std::string> InformationText(const std::vector<std::string>& argum
         return std::string(kProductTitle) + " " + kVersionText + "." + kBuildNumber + "\n";
     }
     return std::nullopt;
+}
+
+std::optional<std::string> DefaultsFile(const std::vector<std::string>& arguments) {
+    if (arguments.size() != 2 || arguments.front() != "--write-defaults") {
+        return std::nullopt;
+    }
+    return arguments.back();
 }
 
 bool IsAutomatic(const std::vector<std::string>& arguments) {

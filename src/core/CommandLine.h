@@ -11,6 +11,9 @@ namespace tunedex {
 // --version; otherwise empty.
 std::optional<std::string> InformationText(const std::vector<std::string>& arguments);
 
+// FILE when the arguments are exactly --write-defaults FILE; otherwise empty.
+std::optional<std::string> DefaultsFile(const std::vector<std::string>& arguments);
+
 // Whether "/AUTO" occurs anywhere in the arguments, in any case. Required: also inside a longer word.
 bool IsAutomatic(const std::vector<std::string>& arguments);
 

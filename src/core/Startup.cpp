@@ -103,6 +103,15 @@ std::string SaveSettingsCommand(const Application& application, const std::strin
     return text;
 }
 
+void WriteDefaultSettings(const Application& application, const std::string& path) {
+    if (path.empty()) { // SaveSettings would write the default file
+        throw RunTimeError(ErrorNumber::BadFileName);
+    }
+    Settings defaults;
+    defaults.SetDefaults();
+    SaveSettings(defaults, path, "", StampNow(application));
+}
+
 void SaveStatisticsAtExit(const Application& application) {
     if (application.statisticsUnread) {
         return; // do not replace an existing file because of a transient read error

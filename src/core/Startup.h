@@ -34,6 +34,10 @@ bool CreateListCommand(Application& application, UserInterface& ui);
 std::string SaveSettingsCommand(const Application& application, const std::string& path);
 inline constexpr const char* kUnsavedSettingsTitle = "Settings";
 
+// Writes the default settings to the file `path`; adds the extension ".cfg" if it is missing. Raises the
+// error of a file that cannot be written, 52 for an empty path.
+void WriteDefaultSettings(const Application& application, const std::string& path);
+
 // Saves the statistics when an interactive program ends. Required: an unattended run does not save them.
 void SaveStatisticsAtExit(const Application& application);
 

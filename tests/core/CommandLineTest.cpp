@@ -44,6 +44,21 @@ TEST(InformationText, ExistsOnlyForASingleExactArgument) {
     }
 }
 
+TEST(DefaultsFile, IsTheFileOfTheOptionAsTheOnlyArguments) {
+    EXPECT_EQ(DefaultsFile({"--write-defaults", "new.cfg"}), "new.cfg");
+    EXPECT_EQ(DefaultsFile({"--write-defaults", "/AUTO"}), "/AUTO");
+    EXPECT_EQ(DefaultsFile({"--write-defaults", ""}), "");
+    const std::vector<std::vector<std::string>> others = {{},
+                                                          {"--write-defaults"},
+                                                          {"new.cfg", "--write-defaults"},
+                                                          {"--write-defaults", "new.cfg", "/AUTO"},
+                                                          {"--write-defaults=new.cfg", ""},
+                                                          {"--Write-Defaults", "new.cfg"}};
+    for (const auto& arguments : others) {
+        EXPECT_EQ(DefaultsFile(arguments), std::nullopt) << (arguments.empty() ? "" : arguments.front());
+    }
+}
+
 TEST(InformationText, ShowsTheVersionWithItsBuildNumber) {
     EXPECT_EQ(InformationText({"--version"}), "Tunedex 1.0.0\n");
 }

@@ -134,6 +134,18 @@ TEST_F(StartUpTest, FindsTheHelpFile) {
     EXPECT_EQ(application_.helpFile, help);
 }
 
+TEST_F(StartUpTest, LoadsTheDefaultsThatItWrites) {
+    WriteDefaultSettings(application_, folder_ / "new");
+    Settings settings;
+    EXPECT_EQ(LoadSettings(settings, folder_ / "new.cfg", folder_.Path(), fake_.faults), LoadOutcome::Loaded);
+    Settings defaults;
+    defaults.SetDefaults();
+    EXPECT_EQ(settings, defaults);
+    EXPECT_EQ(fake_.faults.str(), "");
+    EXPECT_EQ(test::RaisedBy([&] { WriteDefaultSettings(application_, folder_ / "none/new.cfg"); }), 76);
+    EXPECT_EQ(test::RaisedBy([&] { WriteDefaultSettings(application_, ""); }), 52);
+}
+
 TEST(StampNow, HasVersionDateAndTimeInTheUsersFormats) {
     const test::TestFolder folder;
     const test::FakeApplication fake(folder.Path());
