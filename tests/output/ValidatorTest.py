@@ -1,10 +1,9 @@
 """Validates listings as HTML 4.01 Transitional and XHTML 1.0 Transitional.
 
-usage: ValidatorTest.py PROGRAM DATA-FOLDER MAKE-SAMPLE TAGGER SAMPLE-FOLDER WORK-FOLDER [CORPUS]
+usage: ValidatorTest.py PROGRAM DATA-FOLDER MAKE-SAMPLE TAGGER SAMPLE-FOLDER WORK-FOLDER [--corpus]
 
-Runs onsgmls and xmllint offline with the document types that Debian ships. With CORPUS,
-a folder of MP3 files from elsewhere (the environment's TUNEDEX_CORPUS goes before), only that is listed; where the
-folder is missing the exit status is 77.
+Runs onsgmls and xmllint offline with the document types that Debian ships. With --corpus, lists only the folder of real
+MP3 files that TUNEDEX_CORPUS names; without that variable, exits with 77 (skipped).
 """
 
 import collections
@@ -21,7 +20,8 @@ import unittest
 from listings import ALL_COLUMNS, Program, make_sample
 
 PROGRAM, DATA, MAKE_SAMPLE, TAGGER, SAMPLE, WORK = sys.argv[1:7]
-CORPUS = os.environ.get("TUNEDEX_CORPUS", sys.argv[7]) if len(sys.argv) > 7 else None
+WITH_CORPUS = sys.argv[7:] == ["--corpus"]
+CORPUS = os.environ.get("TUNEDEX_CORPUS") if WITH_CORPUS else None
 DTDS = pathlib.Path("/usr/share/xml/w3c-sgml-lib/schema/dtd")
 
 
@@ -217,9 +217,11 @@ def unravelled(*first):
 
 
 if __name__ == "__main__":
-    if CORPUS and not pathlib.Path(CORPUS).is_dir():
-        print(f"skipped: there is no {CORPUS}")
+    if WITH_CORPUS and not CORPUS:
+        print("SKIPPED: the listing of real MP3 files: TUNEDEX_CORPUS is not set")
         sys.exit(77)
+    if CORPUS and not pathlib.Path(CORPUS).is_dir():
+        sys.exit(f"TUNEDEX_CORPUS: no such folder: {CORPUS}")
     del sys.argv[1:]
     # The other classes need the sample collection.
     unittest.main(defaultTest="PagesAreValid" if CORPUS else None)
