@@ -1,8 +1,8 @@
 #include "HTMLBits.h"
 
-#include "Numbers.h"
 #include "Product.h"
 #include "RunTimeError.h"
+#include "StyleSheet.h"
 #include "Text.h"
 #include "Version.h"
 
@@ -26,6 +26,10 @@ bool UsesFontTags(const Settings& settings) {
 
 std::string Indent(int n) {
     return std::string(static_cast<std::size_t>(n), '\t');
+}
+
+std::string_view LineBreak(const Settings& settings) {
+    return settings.DocumentType == "XHTML" ? "<br />" : "<br>";
 }
 
 std::string FontOpen(const Settings& settings, std::size_t fontIndex, std::size_t colourIndex) {
@@ -74,33 +78,59 @@ std::string StrengthClose(const Settings& settings, std::size_t fontIndex) {
     return tags;
 }
 
-std::string PageFiles::PathOf(std::int32_t page) const {
-    return baseName + "." + PadNumber(page, 3) + extension;
+void WriteHeadStart(std::string& page, const Settings& settings) {
+    if (settings.DocumentType == "XHTML") {
+        page += "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>\r\n"
+                "<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Transitional//EN\" "
+                "\"http://www.w3.org/TR/xhtml1/DTD/xhtml1-transitional.dtd\">\r\n"
+                "<html xmlns=\"http://www.w3.org/1999/xhtml\" xml:lang=\"en\" lang=\"en\">\r\n";
+    } else if (settings.DocumentType == "HTML") {
+        page += "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
+                "\"http://www.w3.org/TR/1999/REC-html401-19991224/loose.dtd\">\r\n"
+                "<html>\r\n";
+    } else {
+        page += "\r\n\r\n"; // Required: two empty lines for an unknown document type.
+    }
+    page += Indent(1) + "<head>\r\n";
+    page += Indent(2) + "<title>";
+}
+
+void WriteHeadRest(std::string& page, const Settings& settings) {
+    const std::string end = settings.DocumentType == "XHTML" ? " />\r\n" : ">\r\n";
+    page += "</title>\r\n";
+    // Required: declared as ISO-8859-1, although the bytes are Windows-1252.
+    page += Indent(2) + R"(<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1")" + end;
+    page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" +
+            kHomePage + ")\"" + end;
+    if (settings.FontCSS || settings.ColourCSS) {
+        WriteStyleBlock(page, settings);
+    }
+    page += Indent(1) + "</head>\r\n";
+    page += Indent(1) + "<body bgcolor=\"#" + settings.Colour[kPageBackground] + "\" text=\"#" +
+            settings.Colour[kPageText] + "\" link=\"#" + settings.Colour[kLinkText] + "\">\r\n";
 }
 
 void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style) {
     const auto link = [&](std::int32_t target, const std::string& label) {
-        // Relative to the page: the file name without its folder.
-        return "<a href=\"" + std::string(FileNameOf(files.PathOf(target), style)) + "\">" + label + "</a>";
+        return "<a href=\"" + files.LinkTo(target, style) + "\">" + label + "</a>";
     };
     const std::string previous = "&lt;&lt; Previous Page";
     const std::string next = "Next Page &gt;&gt;";
     page += Indent(2) + R"(<p align="center"><font size="2">)";
     page += number == 1 ? previous : link(number - 1, previous);
     page += "&nbsp;&nbsp;&#124;&nbsp;&nbsp;";
-    page += number == files.count ? next : link(number + 1, next);
+    page += number == files.Count() ? next : link(number + 1, next);
     page += "</font></p>";
     page += kLineEnd;
 }
 
-void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count,
-                      std::string_view lineBreak) {
+void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count) {
     // Required: the page title is not escaped; users put markup in it.
     page += Indent(2) + R"(<p align="center">)" + FontOpen(settings, kPageFont, kPageText) +
             StrengthOpen(settings, kPageFont) + settings.PageTitle + StrengthClose(settings, kPageFont) +
             FontClose(settings);
     if (count > 1) {
-        page += lineBreak;
+        page += LineBreak(settings);
         page +=
             R"(<font size="2">Page )" + std::to_string(number) + " of " + std::to_string(count) + "</font>";
     }
@@ -251,8 +281,8 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
     }
 }
 
-void TrackRowWriter::WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t position) const {
-    const RowFrame& frame = frames_.at(kind == RowKind::Alternate ? 1 : 0);
+void TrackRowWriter::WriteTrackRow(PageBuffer& page, bool alternate, std::size_t position) const {
+    const RowFrame& frame = frames_.at(alternate ? 1 : 0);
     const TrackRow& track = listing_.tracks.At(position);
     for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
         page.Put(frame.pieces[i]);
@@ -266,6 +296,20 @@ void TrackRowWriter::WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t p
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),
                                       static_cast<std::int32_t>(listing_.tracks.Count()), "...");
     listing_.monitor.SetPosition(static_cast<std::int32_t>(position));
+}
+
+void WriteEnd(std::string& page, const Settings& settings) {
+    const std::string_view lineBreak = LineBreak(settings);
+    const std::string lineEnd = std::string(lineBreak) + "\r\n";
+    page += Indent(2) + "<p align=\"center\">\r\n" + Indent(3) + FontOpen(settings, kCellFont, kPageText);
+    page += settings.PageFooter;
+    page += lineBreak;
+    page += lineEnd;
+    page += Indent(3) + "<a href=\"" + kHomePage + "\" target=\"_blank\">" + kHomePage + "</a>" +
+            FontClose(settings) + lineEnd;
+    page += Indent(2) + "</p>\r\n";
+    page += Indent(1) + "</body>\r\n";
+    page += "</html>\r\n";
 }
 
 } // namespace tunedex

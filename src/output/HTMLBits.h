@@ -1,10 +1,10 @@
-// HTML fragments between the head and the end of a page. Each function appends to `page`, with CR LF line
-// ends.
+// The HTML fragments that pages are made of. Each Write function appends to `page`, with CR LF line ends.
 #pragma once
 
 #include "Escaper.h"
 #include "OutputList.h"
 #include "PageBuffer.h"
+#include "PageFiles.h"
 
 #include <array>
 #include <cstdint>
@@ -17,6 +17,9 @@ namespace tunedex {
 // n TABs.
 std::string Indent(int n);
 
+// The line break of the document type.
+std::string_view LineBreak(const Settings& settings);
+
 // The opening font tag; empty unless FontHTML or ColourHTML is set. Raises error 9 for an index out of range.
 std::string FontOpen(const Settings& settings, std::size_t fontIndex, std::size_t colourIndex);
 std::string FontClose(const Settings& settings);
@@ -24,31 +27,26 @@ std::string FontClose(const Settings& settings);
 std::string StrengthOpen(const Settings& settings, std::size_t fontIndex);
 std::string StrengthClose(const Settings& settings, std::size_t fontIndex);
 
-// The page files of a listing on several pages.
-struct PageFiles {
-    std::string baseName;  // the path before the extension
-    std::string extension; // with its full stop
-    std::int32_t count = 1;
+// The head of a page up to "<title>", and from "</title>" to the body tag.
+void WriteHeadStart(std::string& page, const Settings& settings);
+void WriteHeadRest(std::string& page, const Settings& settings);
 
-    // The path of page `page`, counted from 1: base.001.htm. The number has at least three digits.
-    std::string PathOf(std::int32_t page) const;
-};
-
+// Page numbers count from 1.
 void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style);
-void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count,
-                      std::string_view lineBreak);
+void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count);
 void WriteTableHead(std::string& page, const Settings& settings, const std::vector<Column>& columns);
 void WriteTableFoot(std::string& page, const Settings& settings, std::size_t columnCount);
 
-// Plain and Normal rows use the cell colours, Alternate rows the alternate ones.
-enum class RowKind { Plain = 0, Normal = 1, Alternate = 2 };
+// The end of a page: footer, home page, closing tags.
+void WriteEnd(std::string& page, const Settings& settings);
 
 // Writes table rows. The markup around the cells is built once per listing.
 class TrackRowWriter {
   public:
     explicit TrackRowWriter(const Listing& listing);
 
-    void WriteTrackRow(PageBuffer& page, RowKind kind, std::size_t position) const;
+    // `alternate` selects the alternate colours; `position` counts from 1.
+    void WriteTrackRow(PageBuffer& page, bool alternate, std::size_t position) const;
 
   private:
     // The markup of a row: pieces[i] precedes the text of cell i, the last piece follows the last cell.

@@ -1,9 +1,9 @@
 #include "M3uWriter.h"
 
+#include "ListingFile.h"
 #include "PageBuffer.h"
 #include "RunTimeError.h"
 #include "Text.h"
-#include "TextFile.h"
 
 namespace tunedex {
 
@@ -12,9 +12,9 @@ namespace {
 // Players read a whole playlist in one encoding, and paths must keep their bytes, so a single path that is
 // not ASCII makes the file UTF-8.
 TextEncoding EncodingFor(const TrackTable& tracks, RunMonitor& monitor) {
-    constexpr std::size_t kTracksToAQuestion = 4096;
+    constexpr std::size_t kTracksPerAbortCheck = 4096;
     for (std::size_t position = 1; position <= tracks.Count(); ++position) {
-        if (position % kTracksToAQuestion == 0 && monitor.AbortRequested()) {
+        if (position % kTracksPerAbortCheck == 0 && monitor.AbortRequested()) {
             break; // the writer stops after its first track
         }
         if (!IsAscii(tracks.At(position).FullPath)) {
@@ -29,11 +29,9 @@ TextEncoding EncodingFor(const TrackTable& tracks, RunMonitor& monitor) {
 bool WriteM3uListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kPlaylistOutput, path);
-    TextFile file(path, EncodingFor(listing.tracks, listing.monitor),
-                  [&] { return listing.monitor.AbortRequested(); });
     bool aborted = false;
     PageBuffer text;
-    text.SetSink(TextFile::kPieceBytes, [&file](std::string_view piece) { file.Write(piece); });
+    ListingFile file(text, path, EncodingFor(listing.tracks, listing.monitor), listing.monitor);
     text.Put("#EXTM3U\r\n");
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         const TrackRow& track = listing.tracks.At(position);
@@ -52,9 +50,8 @@ bool WriteM3uListing(Listing& listing) {
         listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         aborted = listing.monitor.AbortRequested();
     }
-    text.HandOver();
-    file.Close();
-    return aborted || file.Stopped();
+    const bool closed = file.Close();
+    return aborted || !closed;
 }
 
 } // namespace tunedex

@@ -1,9 +1,9 @@
 #include "TextWriter.h"
 
+#include "ListingFile.h"
 #include "PageBuffer.h"
 #include "RunTimeError.h"
 #include "Text.h"
-#include "TextFile.h"
 
 #include <algorithm>
 
@@ -46,9 +46,8 @@ void PutLine(PageBuffer& text, const Listing& listing, std::size_t position) {
 bool WriteTextListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kTextOutput, path);
-    TextFile file(path, TextEncoding::Windows1252Questions, [&] { return listing.monitor.AbortRequested(); });
     PageBuffer text;
-    text.SetSink(TextFile::kPieceBytes, [&file](std::string_view piece) { file.Write(piece); });
+    ListingFile file(text, path, TextEncoding::Windows1252Questions, listing.monitor);
     // Required: an unknown column has a header here but no field in the lines below.
     for (const Column& column : listing.columns) {
         text.Put(HeaderText(column));
@@ -63,9 +62,8 @@ bool WriteTextListing(Listing& listing) {
             listing.monitor.SetPosition(static_cast<std::int32_t>(position));
         }
     }
-    text.HandOver();
-    file.Close();
-    return aborted || file.Stopped();
+    const bool closed = file.Close();
+    return aborted || !closed;
 }
 
 } // namespace tunedex

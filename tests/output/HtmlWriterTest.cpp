@@ -72,22 +72,6 @@ TEST_F(HtmlWriterTest, HasAStyleBlockWithFontCssOrColourCss) {
     }
 }
 
-struct PagesRow {
-    std::size_t tracks;
-    std::int16_t spanning;
-    std::int32_t pages;
-};
-
-TEST_F(HtmlWriterTest, SplitsTheTracksIntoPages) {
-    for (const PagesRow& row :
-         {PagesRow{0, 100, 1}, PagesRow{99, 100, 1}, PagesRow{100, 100, 1}, PagesRow{101, 100, 2},
-          PagesRow{200, 100, 2}, PagesRow{250, 100, 3}, PagesRow{250, 0, 1}, PagesRow{250, -5, 1},
-          PagesRow{3, 1, 3}, PagesRow{1, 1, 1}, PagesRow{1000, 1, 1000}}) {
-        settings.Spanning = row.spanning;
-        EXPECT_EQ(PlanPages(settings, row.tracks).count, row.pages) << row.tracks << " " << row.spanning;
-    }
-}
-
 TEST_F(HtmlWriterTest, WritesOnePageToTheOutputFile) {
     UseMany(100);
     const std::string page = Page();

@@ -1,7 +1,6 @@
 #include "PlainListing.h"
 
 #include "HTMLBits.h"
-#include "HtmlWriter.h"
 #include "Numbers.h"
 #include "Placeholders.h"
 #include "PlainReader.h"
@@ -301,7 +300,6 @@ std::string Padded(std::size_t number) {
 
 std::map<std::string, std::string> Pages(const Settings& settings, const std::vector<TrackInfo>& tracks,
                                          const Surroundings& surroundings) {
-    const std::string lineBreak = settings.DocumentType == "XHTML" ? "<br />" : "<br>";
     const std::vector<std::string> columns = WorkingColumns(settings);
     const std::size_t perPage = settings.Spanning > 0 ? static_cast<std::size_t>(settings.Spanning) : 0;
     std::size_t count = 1;
@@ -309,16 +307,15 @@ std::map<std::string, std::string> Pages(const Settings& settings, const std::ve
         count = tracks.size() / perPage + (tracks.size() % perPage > 0 ? 1 : 0);
     }
     const std::size_t stop = settings.OutputFile.rfind('.');
-    PageFiles files;
-    files.count = static_cast<std::int32_t>(count);
-    files.baseName = settings.OutputFile.substr(0, stop);
-    files.extension = settings.OutputFile.substr(stop);
+    const std::string baseName = settings.OutputFile.substr(0, stop);
+    const std::string extension = settings.OutputFile.substr(stop);
+    const PageFiles files(settings.OutputFile, settings.Spanning, tracks.size());
 
     std::map<std::string, std::string> pages;
     for (std::size_t number = 1; number <= count; ++number) {
         const auto page32 = static_cast<std::int32_t>(number);
         const std::string path =
-            count > 1 ? files.baseName + "." + Padded(number) + files.extension : settings.OutputFile;
+            count > 1 ? baseName + "." + Padded(number) + extension : settings.OutputFile;
         const std::string title = count > 1 ? settings.WindowTitle + " - Page " + std::to_string(number) +
                                                   " of " + std::to_string(count)
                                             : settings.WindowTitle;
@@ -331,7 +328,7 @@ std::map<std::string, std::string> Pages(const Settings& settings, const std::ve
         page += title;
         WriteHeadRest(page, settings);
         page += navigation;
-        WritePageHeading(page, settings, page32, files.count, lineBreak);
+        WritePageHeading(page, settings, page32, static_cast<std::int32_t>(count));
         std::vector<Column> heads;
         for (const std::string& column : columns) {
             heads.push_back({column, ColumnKeyOf(column)});
@@ -348,7 +345,7 @@ std::map<std::string, std::string> Pages(const Settings& settings, const std::ve
         }
         WriteTableFoot(page, settings, columns.size());
         page += navigation;
-        WriteEnd(page, settings, settings.PageFooter, lineBreak);
+        WriteEnd(page, settings);
         pages[path] = Encoded(page, true);
     }
     return pages;
