@@ -8,6 +8,7 @@
 // Prints lines of NAME SECONDS; the caller runs it several times and computes the ratios.
 
 #include "Application.h"
+#include "DefaultSettings.h"
 #include "FolderScanner.h"
 #include "OutputList.h"
 #include "PlayTime.h"
@@ -131,7 +132,7 @@ void Sort(std::size_t count) {
 // What a writer needs.
 struct Bench {
     explicit Bench(tunedex::TrackTable tracks) : table(std::move(tracks)) {
-        settings.SetDefaults();
+        settings = tunedex::DefaultSettings();
         settings.Spanning = 0;
         entities.Load(TUNEDEX_SOURCE_DIR "/data/html_entities.lst", std::cerr);
         QuietMonitor monitor;

@@ -5,6 +5,7 @@
 // Prints the time of each phase, then files listed, total time and peak memory.
 
 #include "Application.h"
+#include "DefaultSettings.h"
 #include "ListJob.h"
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
@@ -104,7 +105,7 @@ int main(int argc, char** argv) {
     NoRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
     tunedex::Settings& settings = application.settings;
-    settings.SetDefaults();
+    settings = tunedex::DefaultSettings();
     settings.Directory = argv[1];
     settings.OutputFile = argv[2];
     settings.Spanning = 0;

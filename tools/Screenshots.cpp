@@ -3,6 +3,7 @@
 //
 // usage: screenshots FOLDER DATA       (run by tools/screenshots on an X server of its own)
 
+#include "DefaultSettings.h"
 #include "Dialogs.h"
 #include "Palettes.h"
 #include "Registry.h"
@@ -68,7 +69,7 @@ class SampleClock final : public Clock {
 };
 
 void FillSample(Application& application) {
-    application.settings.SetDefaults();
+    application.settings = DefaultSettings();
     application.settings.Directory = "/home/lea/Music";
     application.settings.OutputFile = "/home/lea/Documents/music.htm";
     application.statistics = {"2026-03-14", 41, 27, 18230};
@@ -194,7 +195,7 @@ void TakeThemes(Pictures& pictures, Application& application) {
     for (const QString& file : themes.entryList({u"*.thm"_s}, QDir::Files, QDir::Name)) {
         FillSample(application);
         application.settings.DoLinks = true;
-        LoadSettings(application.settings, themes.filePath(file).toStdString(), "", std::cerr);
+        LoadSettings(application.settings, themes.filePath(file).toStdString(), "", {}, std::cerr);
         frmEditLayout editor(application, frontEnd);
         editor.show();
         pictures.Take(*editor.findChild<QWidget*>(u"txtPreview"_s),

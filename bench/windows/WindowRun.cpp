@@ -6,6 +6,7 @@
 // second, their ratio, and the time from pressing Abort to the end of the run.
 
 #include "Application.h"
+#include "DefaultSettings.h"
 #include "Dialogs.h"
 #include "ListJob.h"
 #include "Startup.h"
@@ -128,7 +129,7 @@ int main(int argc, char** argv) {
     NoPause clock;
     NoRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
-    application.settings.SetDefaults();
+    application.settings = tunedex::DefaultSettings();
     application.settings.Directory = argv[1];
     application.settings.OutputFile = argv[2];
     application.settings.ErrorWarnings = false;

@@ -16,7 +16,7 @@ void RunSettings(Bytes bytes) {
     SaveSettings(read, "", folder, {"1.0", "2026-11-21", "14:05"});
     Settings again;
     std::ostringstream faults;
-    Require(LoadSettings(again, "", folder, faults) == LoadOutcome::Loaded, "a saved file is found");
+    Require(LoadSettings(again, "", folder, {}, faults) == LoadOutcome::Loaded, "a saved file is found");
     RequireEqual(faults.str(), "", "a saved file has no faulty line");
     again.TableSpacing = read.TableSpacing;
     Require(again == read, "settings are unchanged by a round trip");

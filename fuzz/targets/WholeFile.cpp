@@ -1,4 +1,5 @@
 // Input: one byte of options, then a file. The file is read and listed by all three writers.
+#include "DefaultSettings.h"
 #include "MP3Info.h"
 #include "OutputList.h"
 #include "PlainReader.h"
@@ -63,8 +64,7 @@ void CheckPage(const std::string& page) {
 }
 
 void CheckListings(const TrackInfo& track, unsigned choices) {
-    Settings settings;
-    settings.SetDefaults();
+    Settings settings = DefaultSettings();
     settings.Merge = 0;
     settings.SizeType = static_cast<std::int16_t>((choices >> 1U) & 3U);
     settings.DocumentType = (choices & 8U) != 0 ? "XHTML" : "HTML";

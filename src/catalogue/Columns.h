@@ -18,14 +18,14 @@ enum class ColumnKey {
     Artist,
     Album,
     Title,
-    Year,
-    Genre,
-    MpegType,
-    Mode,
-    Bitrate,
-    Frequency,
     Duration,
+    Bitrate,
     FileSize,
+    Frequency,
+    Genre,
+    Mode,
+    MpegType,
+    Year,
     Filename,
     FolderPath,
     FullPath,
@@ -37,6 +37,7 @@ enum class ColumnKey {
 struct ColumnKind {
     ColumnKey key;
     std::string_view name;      // in the settings
+    bool shown = false;         // in the listings of a new user
     bool leftHeader = false;    // header left-aligned; default centred
     bool rightCells = false;    // cells right-aligned; default left
     bool blankForEmpty = false; // an empty text becomes "&nbsp;" in pages: browsers do not draw empty cells
@@ -44,27 +45,39 @@ struct ColumnKind {
     std::string_view header = {};    // its header in listings; empty: the name in the settings
 };
 
-// In the order of the keys. The columns that users can choose come first, in the order in which they are
-// offered.
+// In the order of the keys. The columns that users choose come first, in the order in which a new user has
+// them.
 inline constexpr std::array kColumns = {
-    ColumnKind{.key = ColumnKey::Number, .name = "Number", .rightCells = true},
-    ColumnKind{.key = ColumnKey::Artist, .name = "Artist", .leftHeader = true, .text = &TrackRow::Artist},
+    ColumnKind{.key = ColumnKey::Number, .name = "Number", .shown = true, .rightCells = true},
+    ColumnKind{.key = ColumnKey::Artist,
+               .name = "Artist",
+               .shown = true,
+               .leftHeader = true,
+               .text = &TrackRow::Artist},
     ColumnKind{.key = ColumnKey::Album,
                .name = "Album",
+               .shown = true,
                .leftHeader = true,
                .blankForEmpty = true,
                .text = &TrackRow::Album},
-    ColumnKind{.key = ColumnKey::Title, .name = "Title", .leftHeader = true, .text = &TrackRow::Title},
-    ColumnKind{.key = ColumnKey::Year, .name = "Year", .blankForEmpty = true, .text = &TrackRow::Year},
-    ColumnKind{.key = ColumnKey::Genre, .name = "Genre", .blankForEmpty = true, .text = &TrackRow::Genre},
-    ColumnKind{.key = ColumnKey::MpegType, .name = "MPEG Type", .text = &TrackRow::MpegType},
-    ColumnKind{.key = ColumnKey::Mode, .name = "Mode", .text = &TrackRow::Mode},
+    ColumnKind{.key = ColumnKey::Title,
+               .name = "Title",
+               .shown = true,
+               .leftHeader = true,
+               .text = &TrackRow::Title},
+    ColumnKind{.key = ColumnKey::Duration,
+               .name = "Duration",
+               .shown = true,
+               .rightCells = true,
+               .text = &TrackRow::Duration},
     ColumnKind{.key = ColumnKey::Bitrate, .name = "Bitrate", .rightCells = true, .text = &TrackRow::Bitrate},
+    ColumnKind{.key = ColumnKey::FileSize, .name = "File Size", .rightCells = true},
     ColumnKind{
         .key = ColumnKey::Frequency, .name = "Frequency", .rightCells = true, .text = &TrackRow::Frequency},
-    ColumnKind{
-        .key = ColumnKey::Duration, .name = "Duration", .rightCells = true, .text = &TrackRow::Duration},
-    ColumnKind{.key = ColumnKey::FileSize, .name = "File Size", .rightCells = true},
+    ColumnKind{.key = ColumnKey::Genre, .name = "Genre", .blankForEmpty = true, .text = &TrackRow::Genre},
+    ColumnKind{.key = ColumnKey::Mode, .name = "Mode", .text = &TrackRow::Mode},
+    ColumnKind{.key = ColumnKey::MpegType, .name = "MPEG Type", .text = &TrackRow::MpegType},
+    ColumnKind{.key = ColumnKey::Year, .name = "Year", .blankForEmpty = true, .text = &TrackRow::Year},
     ColumnKind{.key = ColumnKey::Filename, .name = "Filename", .leftHeader = true},
     ColumnKind{.key = ColumnKey::FolderPath, .name = "Folder Path", .leftHeader = true},
     ColumnKind{
@@ -90,6 +103,11 @@ static_assert(
 
 constexpr const ColumnKind& KindOf(ColumnKey key) {
     return kColumns[static_cast<std::size_t>(key)];
+}
+
+// Whether users can choose the column; they cannot choose merged and unknown ones.
+constexpr bool IsChoosable(ColumnKey key) {
+    return key < ColumnKey::ArtistTitle;
 }
 
 struct Column {

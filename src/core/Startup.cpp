@@ -1,6 +1,7 @@
 #include "Startup.h"
 
 #include "CommandLine.h"
+#include "DefaultSettings.h"
 #include "FileSystem.h"
 #include "FolderSetting.h"
 #include "Functions.h"
@@ -50,7 +51,7 @@ void StartUp(Application& application, UserInterface& ui, const std::vector<std:
     application.errorTitle = application.automaticMode ? "Tunedex Error! (Automatic Mode)" : "Error!";
     application.abortRequested = false;
     StartStatistics(application, ui);
-    LoadSettings(application.settings, "", application.programFolder, application.faults);
+    LoadSettings(application.settings, "", application.programFolder, DefaultSettings(), application.faults);
     ui.FillFields(FieldsFor(application.settings));
 }
 

@@ -32,8 +32,8 @@ enum ColourIndex : std::size_t {
     kColourCount
 };
 
-// Required: a new record is empty, zero and false throughout, and a settings file is read over it without
-// defaults. Only SetDefaults() stores these.
+// Required: a new record is empty, zero and false throughout, and a settings file is read over it, not over
+// the defaults.
 struct Settings {
     std::string Directory; // one folder or several: see FolderSetting.h
     std::string OutputFile;
@@ -73,9 +73,6 @@ struct Settings {
     std::int16_t TablePadding = 0;
     std::int16_t TableBorder = 0;
     std::int16_t TableSpacing = 0; // required: read from files, never written
-
-    // Sets every member to its default.
-    void SetDefaults();
 
     bool operator==(const Settings&) const = default;
 };

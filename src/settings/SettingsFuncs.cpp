@@ -245,14 +245,14 @@ std::string SettingsPath(const std::string& path, const std::string& programFold
 }
 
 LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std::string& programFolder,
-                         std::ostream& faults) {
+                         const Settings& defaults, std::ostream& faults) {
     const std::string defaultPath = SettingsPath("", programFolder);
     const std::string file = path.empty() ? defaultPath : path;
     if (!FileExists(file)) {
         if (file != defaultPath) {
             return LoadOutcome::Missing;
         }
-        settings.SetDefaults();
+        settings = defaults;
         return LoadOutcome::DefaultsApplied;
     }
     ApplySettings(settings, ReadTextLines(file, StrayBytes::Escaped), file, faults);

@@ -29,10 +29,11 @@ enum class LoadOutcome {
 };
 
 // Reads a settings or theme file over `settings`; members whose keys it lacks keep their values. An empty
-// path means the default file in `programFolder` (which ends in a separator). An invalid line is skipped and
-// reported on `faults`. Raises the error of a file that cannot be read.
+// path means the default file in `programFolder` (which ends in a separator); if that does not exist,
+// `settings` becomes `defaults`. An invalid line is skipped and reported on `faults`. Raises the error of a
+// file that cannot be read.
 LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std::string& programFolder,
-                         std::ostream& faults);
+                         const Settings& defaults, std::ostream& faults);
 
 // The same for lines already read; `name` is the file's name in reports.
 void ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,

@@ -1,5 +1,6 @@
 #include "ThemePanel.h"
 
+#include "DefaultSettings.h"
 #include "FileSystem.h"
 #include "Functions.h"
 #include "PageControls.h"
@@ -112,8 +113,9 @@ void ThemePanel::LoadTheme(const std::string& name) {
     bool applied = false;
     Attempt([&] {
         const std::string path = StoredThemePath(application_.programFolder, name);
-        applied = FileExists(path) && LoadSettings(application_.settings, path, application_.programFolder,
-                                                   application_.faults) == LoadOutcome::Loaded;
+        applied =
+            FileExists(path) && LoadSettings(application_.settings, path, application_.programFolder,
+                                             DefaultSettings(), application_.faults) == LoadOutcome::Loaded;
     });
     if (applied) {
         emit ThemeLoaded();

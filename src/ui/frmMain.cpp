@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "DefaultSettings.h"
 #include "FolderDrop.h"
 #include "FolderSetting.h"
 #include "Functions.h"
@@ -381,8 +382,8 @@ void frmMain::OpenSettings() {
         return;
     }
     Guarded([&] {
-        const LoadOutcome outcome =
-            LoadSettings(application_.settings, *path, application_.programFolder, application_.faults);
+        const LoadOutcome outcome = LoadSettings(application_.settings, *path, application_.programFolder,
+                                                 DefaultSettings(), application_.faults);
         if (outcome == LoadOutcome::Missing) {
             ui_.ShowMessage(*this, "The specified settings file\r\ndoes not exist!", kOkExclamation,
                             application_.errorTitle);

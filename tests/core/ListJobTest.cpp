@@ -1,5 +1,6 @@
 #include "ListJob.h"
 
+#include "DefaultSettings.h"
 #include "Fakes.h"
 #include "Mp3Builder.h"
 #include "OrdinaryUser.h"
@@ -37,7 +38,7 @@ class ListJob : public testing::Test {
         folder_.Make("music");
         folder_.Make("out");
         application_.programFolder = folder_ / "program/";
-        application_.settings.SetDefaults();
+        application_.settings = DefaultSettings();
         application_.settings.Spanning = 0;
         application_.settings.ActiveColumns = "Artist|Title";
         application_.settings.Merge = 0;

@@ -1,5 +1,6 @@
 #include "Startup.h"
 
+#include "DefaultSettings.h"
 #include "Fakes.h"
 #include "ListJob.h"
 #include "Mp3Builder.h"
@@ -32,8 +33,7 @@ class StartUpTest : public testing::Test {
 TEST_F(StartUpTest, StartsWithDefaultsWithoutAnyFile) {
     application_.abortRequested = true;
     Start();
-    Settings defaults;
-    defaults.SetDefaults();
+    Settings defaults = DefaultSettings();
     EXPECT_EQ(application_.settings, defaults);
     EXPECT_EQ(application_.statistics, (Statistics{"2026-11-21", 1, 0, 0}));
     EXPECT_EQ(application_.programFolder, folder_.Path());
@@ -177,7 +177,7 @@ class CommandTest : public StartUpTest {
     CommandTest() {
         folder_.Write("music/a.mp3", test::Audio(8192) + test::Id3v1Tag({"Rock & <Roll>", "", "", "", ""}));
         folder_.Make("out");
-        application_.settings.SetDefaults();
+        application_.settings = DefaultSettings();
         application_.settings.Spanning = 0;
         application_.programFolder = folder_.Path();
         ui_.fields.inputFolder = folder_ / "music";

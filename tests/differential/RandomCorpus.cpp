@@ -1,5 +1,6 @@
 #include "RandomCorpus.h"
 
+#include "DefaultSettings.h"
 #include "Mp3Builder.h"
 
 #include <filesystem>
@@ -126,7 +127,7 @@ void RandomCorpus::MakeFolders() {
 }
 
 void RandomCorpus::MakeSettings() {
-    settings_.SetDefaults();
+    settings_ = DefaultSettings();
     if (folders_.size() == 1 && !OneIn(4)) {
         settings_.Directory = folders_.front();
     } else {

@@ -1,6 +1,7 @@
 // saver KIND FOLDER COUNT: saves a file COUNT times with the program's own code, alternating between two
 // contents. KIND: settings, statistics, theme. Exits with the number of the run-time error that stopped it,
 // or 0.
+#include "DefaultSettings.h"
 #include "RunTimeError.h"
 #include "SettingsFuncs.h"
 #include "Statistics.h"
@@ -21,8 +22,7 @@ std::string LongText(char c) {
 void Save(const std::string& kind, const std::string& folder, bool second) {
     const std::string text = LongText(second ? 'b' : 'a');
     if (kind == "settings") {
-        tunedex::Settings settings;
-        settings.SetDefaults();
+        tunedex::Settings settings = tunedex::DefaultSettings();
         settings.PageTitle = text;
         tunedex::SaveSettings(settings, "", folder, kStamp);
     } else if (kind == "statistics") {

@@ -1,6 +1,7 @@
 // Fixture: a listing with settings, tracks and fake surroundings.
 #pragma once
 
+#include "DefaultSettings.h"
 #include "Fakes.h"
 #include "OutputList.h"
 #include "TestFolder.h"
@@ -56,7 +57,7 @@ inline std::size_t CountOf(const std::string& page, const std::string& part) {
 class ListingTest : public testing::Test {
   protected:
     ListingTest() {
-        settings.SetDefaults();
+        settings = DefaultSettings();
         settings.OutputFile = folder / "list.htm";
         entities.Load(TUNEDEX_SOURCE_DIR "/data/html_entities.lst", faults);
         EXPECT_EQ(faults.str(), "");

@@ -1,4 +1,5 @@
 // Accessibility of every window: names and roles, keyboard, small and magnified screens.
+#include "DefaultSettings.h"
 #include "WindowTest.h"
 #include "frmAbout.h"
 #include "frmDirSelection.h"
@@ -69,7 +70,7 @@ QString NameOf(const QObject& object) {
 // All windows, filled and with every control enabled where possible.
 struct AllWindows : Desk {
     AllWindows() {
-        TheSettings().SetDefaults();
+        TheSettings() = DefaultSettings();
         TheSettings().Directory = "%MULT%/a%||%/b%||%/c";
         fake.application.statistics = {"2026-11-21", 12345, 2345, 1234567};
         fake.registry.values["TipsFile"] = folder.Write("tips.lst", "A tip.\r\n");

@@ -1,4 +1,5 @@
 // Runs of the list job in the windows: messages, and focus, selection and windows afterwards.
+#include "DefaultSettings.h"
 #include "Mp3Builder.h"
 #include "WindowTest.h"
 #include "frmProgress.h"
@@ -18,7 +19,7 @@ namespace {
 // A desk with default settings, the input folder "music" and the output file "list.htm".
 struct RunDesk : Desk {
     RunDesk() {
-        TheSettings().SetDefaults();
+        TheSettings() = DefaultSettings();
         MainFields fields;
         fields.inputFolder = music;
         fields.outputFile = folder / "list.htm";

@@ -1,3 +1,4 @@
+#include "DefaultSettings.h"
 #include "LayoutFixture.h"
 #include "TestClasses.h"
 
@@ -38,8 +39,7 @@ const TestClass<EditLayoutTest> kEditLayoutTestRegistered("EditLayoutTest");
 
 // Settings that differ from the defaults in every control of the editor.
 Settings OtherSettings() {
-    Settings settings;
-    settings.SetDefaults();
+    Settings settings = DefaultSettings();
     settings.DocumentType = "XHTML";
     settings.ActiveColumns = "Title|Artist|Foo";
     settings.InactiveColumns = "Year";

@@ -1,6 +1,7 @@
 // Fixture for tests of the options dialog and the layout editor.
 #pragma once
 
+#include "DefaultSettings.h"
 #include "Fakes.h"
 #include "TestFolder.h"
 #include "frmEditLayout.h"
@@ -60,7 +61,7 @@ class FakeWindowInterface final : public WindowInterface {
 // An application with default settings and a temporary program folder without themes.
 class LayoutFixture {
   public:
-    LayoutFixture() { settings.SetDefaults(); }
+    LayoutFixture() { settings = DefaultSettings(); }
 
     TestFolder folder;
     FakeApplication fake{folder.Path()};

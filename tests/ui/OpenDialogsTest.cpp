@@ -1,5 +1,6 @@
 // The options dialog and the layout editor beside the main window: what works while they are open, what a run
 // takes from them, and where a message leaves the focus.
+#include "DefaultSettings.h"
 #include "Mp3Builder.h"
 #include "WindowTest.h"
 #include "frmDirSelection.h"
@@ -26,7 +27,7 @@ namespace {
 // A desk whose fields name a folder with one track of "The Band" and the output file list.htm.
 struct EditDesk : Desk {
     EditDesk() {
-        TheSettings().SetDefaults();
+        TheSettings() = DefaultSettings();
         folder.Write("music/a.mp3", Id3v2Tag({{"TPE1", Latin1("The Band")}}) + Audio(4000));
         MainFields fields;
         fields.inputFolder = folder / "music";
@@ -317,7 +318,7 @@ class OpenDialogsTest : public QObject {
         QFETCH(QByteArray, box);
         QFETCH(bool, inEditor);
         Desk desk;
-        desk.TheSettings().SetDefaults();
+        desk.TheSettings() = DefaultSettings();
         Dialogs boxes; // the real ones
         WindowsFrontEnd frontEnd(desk.fake.application, boxes);
         frontEnd.MainWindow().show();
@@ -342,7 +343,7 @@ class OpenDialogsTest : public QObject {
 
     void TheFolderFieldHasTheFocusAfterItsMessageWithOptionsOpen() {
         Desk desk;
-        desk.TheSettings().SetDefaults();
+        desk.TheSettings() = DefaultSettings();
         Dialogs boxes; // the real ones
         WindowsFrontEnd frontEnd(desk.fake.application, boxes);
         frontEnd.MainWindow().show();

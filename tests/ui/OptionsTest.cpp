@@ -332,7 +332,7 @@ void OptionsTest::SaveStoresAllControlsAndWritesTheDefaultFile() {
     QVERIFY(with.settings == expected);
     Settings saved;
     std::ostringstream faults;
-    QCOMPARE(LoadSettings(saved, with.folder / "Tunedex.cfg", "", faults), LoadOutcome::Loaded);
+    QCOMPARE(LoadSettings(saved, with.folder / "Tunedex.cfg", "", {}, faults), LoadOutcome::Loaded);
     QVERIFY(saved == expected);
 }
 

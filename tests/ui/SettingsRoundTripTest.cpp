@@ -145,7 +145,7 @@ void SettingsRoundTripTest::EveryFieldSurvivesTheWindowsAndTheFile() {
         QVERIFY2(with.settings == made, qPrintable(u"seed %1: while it was saved"_s.arg(seed)));
         Settings loaded;
         std::ostringstream faults;
-        QCOMPARE(LoadSettings(loaded, "", with.application.programFolder, faults), LoadOutcome::Loaded);
+        QCOMPARE(LoadSettings(loaded, "", with.application.programFolder, {}, faults), LoadOutcome::Loaded);
         QCOMPARE(faults.str(), std::string());
         QVERIFY2(loaded == made, qPrintable(u"seed %1: through the file"_s.arg(seed)));
 
@@ -173,7 +173,7 @@ void SettingsRoundTripTest::FieldsWithoutAControlAreUnchanged() {
     QVERIFY(with.settings == before);
     Settings loaded;
     std::ostringstream faults;
-    LoadSettings(loaded, "", with.application.programFolder, faults);
+    LoadSettings(loaded, "", with.application.programFolder, {}, faults);
     loaded.TableSpacing = 5;
     QVERIFY(loaded == before);
 }

@@ -499,7 +499,7 @@ void ThemePanelTest::EveryShippedThemeLoads() {
         with.Press(u"cmdLoadTheme"_s);
         Settings theme = with.settings;
         std::ostringstream faults;
-        LoadSettings(theme, ThemePath(shipped, with.List().item(row)->text().toStdString()), "", faults);
+        LoadSettings(theme, ThemePath(shipped, with.List().item(row)->text().toStdString()), "", {}, faults);
         QVERIFY(with.settings == theme);
         Settings shown = with.settings;
         editor.StoreControls(shown);

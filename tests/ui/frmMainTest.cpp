@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "DefaultSettings.h"
 #include "WindowTest.h"
 
 #include "SettingsFuncs.h"
@@ -220,7 +221,7 @@ class frmMainTest : public QObject {
     void SaveInTheOptionsDialogStoresTheMainFieldsToo() {
         Desk desk;
         desk.Show();
-        desk.TheSettings().SetDefaults();
+        desk.TheSettings() = DefaultSettings();
         desk.frontEnd.FillFields(FieldsFor(desk.TheSettings()));
         Type(desk.Main(), "txtPageTitle", "Mine");
         Click(desk.Main(), "cmdOptions");
