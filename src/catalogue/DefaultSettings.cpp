@@ -20,8 +20,8 @@ std::string ColumnList(bool shown) {
 
 } // namespace
 
-Settings DefaultSettings() {
-    Settings settings;
+void SetDefaults(Settings& settings) {
+    settings = Settings();
     settings.WindowTitle = "MP3 List (%D)";
     settings.PageTitle = "MP3 Listing (%C files)";
     settings.PageFooter = "Created on %D at %T";
@@ -55,6 +55,11 @@ Settings DefaultSettings() {
     settings.TableWidth = 99;
     settings.TablePadding = 2;
     settings.TableBorder = 1;
+}
+
+Settings DefaultSettings() {
+    Settings settings;
+    SetDefaults(settings);
     return settings;
 }
 

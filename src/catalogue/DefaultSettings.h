@@ -5,7 +5,11 @@
 
 namespace tunedex {
 
-// The column lists hold every column of kColumns that users can choose, in table order.
+// Stores every default, overwriting all members. The column lists hold every column of kColumns that users
+// can choose, in table order.
+void SetDefaults(Settings& settings);
+
+// New settings with every default.
 Settings DefaultSettings();
 
 } // namespace tunedex

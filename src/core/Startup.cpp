@@ -108,9 +108,7 @@ void WriteDefaultSettings(const Application& application, const std::string& pat
     if (path.empty()) { // SaveSettings would write the default file
         throw RunTimeError(ErrorNumber::BadFileName);
     }
-    Settings defaults;
-    defaults.SetDefaults();
-    SaveSettings(defaults, path, "", StampNow(application));
+    SaveSettings(DefaultSettings(), path, "", StampNow(application));
 }
 
 void SaveStatisticsAtExit(const Application& application) {

@@ -137,10 +137,9 @@ TEST_F(StartUpTest, FindsTheHelpFile) {
 TEST_F(StartUpTest, LoadsTheDefaultsThatItWrites) {
     WriteDefaultSettings(application_, folder_ / "new");
     Settings settings;
-    EXPECT_EQ(LoadSettings(settings, folder_ / "new.cfg", folder_.Path(), fake_.faults), LoadOutcome::Loaded);
-    Settings defaults;
-    defaults.SetDefaults();
-    EXPECT_EQ(settings, defaults);
+    EXPECT_EQ(LoadSettings(settings, folder_ / "new.cfg", folder_.Path(), {}, fake_.faults),
+              LoadOutcome::Loaded);
+    EXPECT_EQ(settings, DefaultSettings());
     EXPECT_EQ(fake_.faults.str(), "");
     EXPECT_EQ(test::RaisedBy([&] { WriteDefaultSettings(application_, folder_ / "none/new.cfg"); }), 76);
     EXPECT_EQ(test::RaisedBy([&] { WriteDefaultSettings(application_, ""); }), 52);
