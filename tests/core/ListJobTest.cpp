@@ -359,7 +359,7 @@ TEST_F(ListJob, ReportsThatNothingWasFoundAndKeepsTheStatistics) {
     EXPECT_FALSE(folder_.Exists("out/list.txt"));
 }
 
-TEST_F(ListJob, SaysDirectoriesForSeveralFolders) {
+TEST_F(ListJob, UsesTheWordDirectoriesForSeveralFolders) {
     ui_.fields.multipleFolders = true;
     application_.settings.Directory = "%MULT%" + folder_ / "music" + "%||%" + folder_ / "out";
     EXPECT_FALSE(Run());

@@ -244,7 +244,7 @@ TEST(TextFile, KeepsTheOwnerOfTheOldFile) {
     EXPECT_EQ(status.st_gid, 65533U);
 }
 
-TEST(TextFile, GivesANewFilePermissionsByTheUmask) {
+TEST(TextFile, CreatesANewFileWithPermissionsByTheUmask) {
     const test::TestFolder folder;
     test::InChild([&] {
         umask(027);
@@ -389,7 +389,7 @@ TEST(TextFile, AllowsTwoFilesInOneFolderAtATime) {
     EXPECT_EQ(test::ReadBytes(folder / "two"), "2");
 }
 
-TEST(TextFile, GivesTheTemporaryFileANameThatTheWalkIgnores) {
+TEST(TextFile, NamesTheTemporaryFileSoThatTheWalkIgnoresIt) {
     const test::TestFolder folder;
     const TextFile file(folder / "list.htm", TextEncoding::Utf8);
     const std::vector<std::string> names = FileNamesIn(folder.Path());
@@ -436,7 +436,7 @@ TEST(TextFile, DoesNotGiveTheOldFileTheDefaultListOfItsFolder) {
     EXPECT_EQ(PermissionsOf(path), 0640U);
 }
 
-TEST(TextFile, GivesANewFileTheDefaultListOfItsFolder) {
+TEST(TextFile, CreatesANewFileWithTheDefaultListOfItsFolder) {
     const std::vector<std::string> lists = {
         ListNaming(6, 4),
         ListNaming(4, 0),

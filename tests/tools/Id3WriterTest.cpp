@@ -17,7 +17,7 @@ Id3v2Tag TitleTag(const std::string& title) {
     return tag;
 }
 
-TEST(Id3v1Tags, HoldTheirFieldsAtTheirPlaces) {
+TEST(Id3v1Tags, HaveTheirFieldsAtFixedOffsets) {
     Id3v1Tag tag;
     tag.title = "Où";
     tag.artist = "An artist whose name is longer than thirty letters";
@@ -33,7 +33,7 @@ TEST(Id3v1Tags, HoldTheirFieldsAtTheirPlaces) {
     EXPECT_EQ(expected.size(), 128U);
 }
 
-TEST(Id3v1Tags, WithoutATrackGiveTheCommentThirtyBytes) {
+TEST(Id3v1Tags, HaveAThirtyByteCommentWithoutATrack) {
     Id3v1Tag tag;
     tag.comment = std::string(40, 'c');
     tag.fill = ' ';
@@ -98,7 +98,7 @@ std::vector<WrittenTag> WrittenTags() {
 
 class Id3v2Tags : public testing::TestWithParam<WrittenTag> {};
 
-TEST_P(Id3v2Tags, AreWrittenToTheByte) {
+TEST_P(Id3v2Tags, HaveTheExpectedBytes) {
     const TagBytes tag = MakeId3v2(GetParam().tag);
     EXPECT_EQ(tag.bytes, GetParam().bytes);
     EXPECT_EQ(tag.zeros, GetParam().zeros);
@@ -107,19 +107,19 @@ TEST_P(Id3v2Tags, AreWrittenToTheByte) {
 INSTANTIATE_TEST_SUITE_P(Every, Id3v2Tags, testing::ValuesIn(WrittenTags()),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(Id3v2TagFaults, ATextThatTheEncodingLacksIsRefused) {
+TEST(Id3v2TagFaults, ATextThatTheEncodingCannotRepresentIsRejected) {
     EXPECT_THROW(MakeId3v2(TitleTag("桜")), std::invalid_argument);
     EXPECT_THROW(MakeId3v2(TitleTag("\xFF")), std::invalid_argument);
 }
 
-TEST(Id3v2TagFaults, AFrameThatTheVersionLacksIsRefused) {
+TEST(Id3v2TagFaults, AFrameThatTheVersionLacksIsRejected) {
     Id3v2Tag tag;
     tag.frames = {{"XXXX", "x"}};
     tag.version = Id3v2Version::V22;
     EXPECT_THROW(MakeId3v2(tag), std::invalid_argument);
 }
 
-TEST(Id3v2TagFaults, ASizeOfMoreThan28BitsIsRefused) {
+TEST(Id3v2TagFaults, ASizeOfMoreThan28BitsIsRejected) {
     Id3v2Tag tag = TitleTag("x");
     tag.padding = 1U << 28U;
     EXPECT_THROW(MakeId3v2(tag), std::invalid_argument);
