@@ -7,12 +7,11 @@
 //   TUNEDEX_FAULT_STAYS   if set, all later calls of that kind fail too
 //   TUNEDEX_FAULT_KILL    if set, the process is killed at that call instead
 //   TUNEDEX_FAULT_RUN     a shell command to run before that call, which then does not fail
-//   TUNEDEX_FAULT_SLOW    microseconds to add to each opendir and each read; with TUNEDEX_FAULT_N only to the
-//                         first N of each
+//   TUNEDEX_FAULT_SLOW    microseconds to add to each open of a folder or file and each pread; with
+//                         TUNEDEX_FAULT_N only to the first N of each
 //   TUNEDEX_FAULT_DENY    a path that access() reports as not writable, like that of an installed program
-//   TUNEDEX_FAULT_REPORT  a file that receives, at exit, the number of calls of each kind, of faults, of
-//   files
-//                         still open, and the largest number of concurrent slow calls of each kind
+//   TUNEDEX_FAULT_REPORT  a file that receives, at exit, the number of calls of each kind, of faults and of
+//                         files still open, and the largest number of concurrent slow calls of each kind
 //
 // Sleeps return at once.
 #include <algorithm>
@@ -192,6 +191,9 @@ int Open(int folder, const char* path, int flags, mode_t mode) {
     const bool concerned = Concerns(folder, path);
     if (concerned && Fails(kOpen)) {
         return -1;
+    }
+    if (concerned) {
+        Wait(kOpen);
     }
     static const auto next = Next<int (*)(int, const char*, int, mode_t)>("openat");
     const int descriptor = next(folder, path, flags, mode);
