@@ -8,8 +8,8 @@
 #include "Text.h"
 #include "Uninterrupted.h"
 
-#include <atomic>
 #include <cerrno>
+#include <dirent.h>
 #include <optional>
 #include <set>
 #include <sys/stat.h>
@@ -19,17 +19,12 @@ namespace tunedex {
 
 namespace {
 
-std::atomic<int>& OpenFolderCount() {
-    static std::atomic<int> count{0};
-    return count;
-}
-
 enum class EntryKind { File, Folder, Neither };
 
 // The type of an entry, symbolic links followed. Most file systems store it in the directory, which saves a
 // stat() per file.
-EntryKind KindOf(int folder, const dirent& entry) {
-    switch (entry.d_type) {
+EntryKind KindOf(int folder, const FolderEntry& entry) {
+    switch (entry.type) {
     case DT_REG:
         return EntryKind::File;
     case DT_DIR:
@@ -40,7 +35,7 @@ EntryKind KindOf(int folder, const dirent& entry) {
     default:
         return EntryKind::Neither;
     }
-    const std::optional<mode_t> mode = ModeBehindLinks(folder, entry.d_name);
+    const std::optional<mode_t> mode = ModeBehindLinks(folder, entry.name);
     if (!mode) {
         return EntryKind::Neither; // a dangling link
     }
@@ -62,22 +57,6 @@ std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_vie
 }
 
 } // namespace
-
-OpenFolder::OpenFolder(std::string path, std::string_view baseFolder)
-    : path_(std::move(path)), baseFolder_(baseFolder), stream_(path_) {
-    if (!stream_) {
-        throw ErrorFromErrno(errno, FileTask::UseFolder);
-    }
-    ++OpenFolderCount();
-}
-
-OpenFolder::~OpenFolder() {
-    --OpenFolderCount();
-}
-
-int OpenFolder::OpenCount() {
-    return OpenFolderCount();
-}
 
 bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
     std::set<std::pair<dev_t, ino_t>> walked;
@@ -110,16 +89,16 @@ bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visito
 
 bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor) {
     while (true) {
-        const dirent* entry = folder->Stream().Next();
-        if (entry == nullptr) {
+        const std::optional<FolderEntry> entry = folder->Next();
+        if (!entry) {
             return true;
         }
-        const std::string_view name(entry->d_name);
+        const std::string_view name(entry->name);
         if (name.starts_with('.')) {
             continue; // hidden, ".", or ".."
         }
         const bool matches = EndsInIgnoringCase(name, ".MP3");
-        const bool mayBeFolder = recurse && entry->d_type != DT_REG;
+        const bool mayBeFolder = recurse && entry->type != DT_REG;
         if (matches || mayBeFolder) {
             const EntryKind kind = KindOf(folder->Descriptor(), *entry);
             if (recurse && kind == EntryKind::Folder) {
@@ -128,7 +107,7 @@ bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse
             } else if (matches && kind != EntryKind::Neither) {
                 // Required: without recursion a folder named *.mp3 counts as a file; collecting it then
                 // fails. Do not 'fix'.
-                visitor.OnFile(folder, entry->d_name);
+                visitor.OnFile(folder, entry->name);
             }
         }
         if (!visitor.AfterEntry()) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "FolderSetting.h"
-#include "FolderStream.h"
+#include "OpenFolder.h"
 
 #include <memory>
 #include <string>
@@ -10,31 +10,6 @@
 #include <vector>
 
 namespace tunedex {
-
-// A folder in the walk. It stays open until the last of its files has been read, because files are opened
-// relative to its descriptor. The destructor may run on any thread.
-class OpenFolder {
-  public:
-    // Raises error 76 if the folder does not exist, 75 if it may not be listed, 67 without a free file
-    // descriptor.
-    OpenFolder(std::string path, std::string_view baseFolder);
-    OpenFolder(const OpenFolder&) = delete;
-    OpenFolder& operator=(const OpenFolder&) = delete;
-    ~OpenFolder();
-
-    const std::string& Path() const { return path_; } // ends in a separator
-    const std::string& BaseFolder() const { return baseFolder_; }
-    int Descriptor() const { return stream_.Descriptor(); }
-    FolderStream& Stream() { return stream_; }
-
-    // Folders open in this process.
-    static int OpenCount();
-
-  private:
-    std::string path_;
-    std::string baseFolder_;
-    FolderStream stream_;
-};
 
 class WalkVisitor {
   public:

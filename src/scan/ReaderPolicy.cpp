@@ -8,26 +8,35 @@ ReaderPolicy::ReaderPolicy(unsigned fixedReaders, unsigned processors)
     : fixed_(fixedReaders > 0), fewest_(fixed_ ? fixedReaders : std::clamp(processors, 1U, kMostReaders)),
       wanted_(fewest_) {}
 
-void ReaderPolicy::AfterFastBatch() {
-    if (++fastBatches_ < kFastBatches) {
-        return;
+bool ReaderPolicy::Report(const ReadTiming& timing, bool moreToRead) {
+    const auto files = static_cast<std::int64_t>(timing.files);
+    if (timing.elapsed > kSlowFile * files && timing.waits * kFilesPerWait >= files) {
+        return AfterSlow(moreToRead);
     }
-    fastBatches_ = 0;
-    if (wanted_ > fewest_) {
-        --wanted_;
-    } else {
-        slowDisk_ = false;
-    }
+    AfterFast();
+    return false;
 }
 
-bool ReaderPolicy::AfterSlowBatch(bool moreToRead) {
-    fastBatches_ = 0;
+bool ReaderPolicy::AfterSlow(bool moreToRead) {
+    fastTimings_ = 0;
     slowDisk_ = true;
     if (fixed_ || !moreToRead) {
         return false;
     }
     wanted_ = std::min(wanted_ + 1, kMostReaders);
     return true;
+}
+
+void ReaderPolicy::AfterFast() {
+    if (++fastTimings_ < kFastTimings) {
+        return;
+    }
+    fastTimings_ = 0;
+    if (wanted_ > fewest_) {
+        --wanted_;
+    } else {
+        slowDisk_ = false;
+    }
 }
 
 } // namespace tunedex

@@ -1,41 +1,23 @@
 // Reads many files in parallel and delivers the readings in the order of submission.
 #pragma once
 
-#include "FolderWalk.h"
-#include "MP3Info.h"
-#include "ReaderPolicy.h"
+#include "ReaderPool.h"
+#include "TrackBatch.h"
 
-#include <array>
-#include <atomic>
-#include <chrono>
-#include <condition_variable>
+#include <cstddef>
 #include <deque>
-#include <exception>
 #include <functional>
 #include <memory>
-#include <mutex>
-#include <optional>
-#include <span>
 #include <thread>
 #include <vector>
 
 namespace tunedex {
 
-// One file in the queue.
-struct QueuedTrack {
-    std::shared_ptr<OpenFolder> folder;
-    TrackReading reading;                // its track's FullPath is set by Submit
-    std::optional<RunTimeError> failure; // the file's size cannot be read: there is no track
-};
-
-void ReadQueuedTrack(QueuedTrack& track, const ReadOptions& options);
-
 // The environment of a queue; tests replace it.
 struct QueueMachine {
     // 0: unknown.
     unsigned processors = std::thread::hardware_concurrency();
-    // Reads one file into a track whose folder and FullPath are set. Called on several threads.
-    std::function<void(QueuedTrack&, const ReadOptions&)> reader = ReadQueuedTrack;
+    TrackReader reader = ReadQueuedTrack;
 };
 
 class TrackQueue {
@@ -51,10 +33,6 @@ class TrackQueue {
     // ReaderPolicy.
     TrackQueue(unsigned readers, ReadOptions options, Receiver receiver, StopTest stopTest,
                QueueMachine machine = {});
-    TrackQueue(const TrackQueue&) = delete;
-    TrackQueue& operator=(const TrackQueue&) = delete;
-    // Joins the readers; readings that were not delivered are dropped.
-    ~TrackQueue();
 
     // Submits a file. May deliver earlier readings, and blocks while too many files are in flight. Returns
     // false if the stop test ended a wait.
@@ -65,60 +43,34 @@ class TrackQueue {
     bool Empty() const { return batches_.empty() && filling_ == nullptr; }
 
   private:
-    // Files are passed to readers in batches, so that locking costs little per file.
-    static constexpr std::size_t kBatchFiles = 16;
+    // Stopped: by the stop test. Failed: the receiver threw. Both are final.
+    enum class State { Running, Stopped, Failed };
 
-    struct Batch {
-        std::span<QueuedTrack> Tracks() { return std::span(tracks).first(count); }
+    QueuedTrack& NextTrack(const std::shared_ptr<OpenFolder>& folder);
+    void Publish();
+    void ReadHere(TrackBatch& batch) const;
+    void DeliverFront();
+    void Deliver(TrackBatch& batch);
+    void Deliver(QueuedTrack& track);
+    bool WaitFor(const TrackBatch& batch);
+    bool WaitForAll();
+    bool Running() const { return state_ == State::Running; }
+    bool Full() const { return batches_.size() >= ReaderPolicy::kMostBatches || folders_ >= mostFolders_; }
 
-        std::array<QueuedTrack, kBatchFiles> tracks;
-        std::size_t count = 0;
-        std::exception_ptr fault; // an exception that is not a RunTimeError: out of memory
-        bool done = false;
-    };
-
-    std::unique_ptr<Batch> EmptyBatch();
-    void Recycle(std::unique_ptr<Batch> batch);
-    bool Publish();
-    bool ReceiveFront(bool wait);
-    bool WaitFor(const Batch& batch);
-    void Receive(Batch& batch);
-    void ReadLoop();
-    void ReadBatch(Batch& batch, const StopTest& stop) const;
-    void StartFirstReaders();
-    bool StartReader();
-    unsigned Busy() const { return static_cast<unsigned>(readers_.size()) - idle_; }
-    void Adapt(bool slow);
-    void StopReaders();
-
-    const unsigned fixedReaders_;
-    const int mostOpenFolders_;
+    const bool onThisThread_;
+    const std::size_t mostFolders_;
     const ReadOptions options_;
     const Receiver receiver_;
     const StopTest stopTest_;
-    const std::function<void(QueuedTrack&, const ReadOptions&)> reader_;
-    // Stopped: by the stop test. Failed: the receiver threw. Both are final.
-    enum class State { Running, Stopped, Failed };
+    const TrackReader reader_;
     State state_ = State::Running;
 
-    // Used by the caller's thread only.
-    std::unique_ptr<Batch> filling_;
-    std::deque<std::unique_ptr<Batch>> batches_; // published, in order
-    std::vector<std::unique_ptr<Batch>> spare_;  // delivered; reused with the memory of their texts
-
-    bool haveReaders_ = false; // readers_ itself is changed by readers
-
-    // Guarded by mutex_.
-    std::mutex mutex_;
-    std::condition_variable work_;
-    std::condition_variable finished_;
-    std::deque<Batch*> unread_;
-    std::vector<std::thread> readers_;
-    unsigned idle_ = 0;
-    ReaderPolicy policy_;
-    std::atomic<bool> slowDisk_ = false; // copy of the policy's, read without the mutex
-    std::atomic<bool> stopping_ = false; // polled between files, so that a batch ends early
-    bool callerWaits_ = false;
+    std::unique_ptr<TrackBatch> filling_;
+    std::deque<std::unique_ptr<TrackBatch>> batches_; // published, in order
+    std::vector<std::unique_ptr<TrackBatch>> spare_;
+    const OpenFolder* latestFolder_ = nullptr;
+    std::size_t folders_ = 0; // of files in flight, give or take one
+    ReaderPool pool_;         // last member: its readers use the batches
 };
 
 } // namespace tunedex
