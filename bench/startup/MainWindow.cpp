@@ -3,7 +3,6 @@
 
 #include "Application.h"
 #include "Dialogs.h"
-#include "FontPreload.h"
 #include "QSettingsRegistry.h"
 #include "Startup.h"
 #include "WidgetHelpers.h"
@@ -12,20 +11,17 @@
 #include <QApplication>
 
 #include <iostream>
-#include <optional>
 
 int main(int argc, char** argv) {
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
-    std::optional<tunedex::FontPreload> fonts(std::in_place);
     QApplication qtApplication(argc, argv);
-    fonts.reset();
+    tunedex::InstallProgramIcon();
     tunedex::Dialogs dialogs;
     tunedex::WindowsFrontEnd frontEnd(application, dialogs);
     tunedex::StartUp(application, frontEnd, {});
     const FirstPaint painted(frontEnd.MainWindow());
     frontEnd.MainWindow().show();
-    QTimer::singleShot(100, &frontEnd.MainWindow(), &tunedex::InstallProgramIcon);
     return QApplication::exec();
 }

@@ -71,7 +71,7 @@ void PreviewPane::ShowSoon() {
 
 void PreviewPane::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    delay_.start(0); // once the window itself shows
+    ShowNow();
 }
 
 void PreviewPane::ShowNow() {

@@ -3,7 +3,6 @@
 #include "Dialogs.h"
 #include "Display.h"
 #include "ExitStatus.h"
-#include "FontPreload.h"
 #include "Functions.h"
 #include "Startup.h"
 #include "WidgetHelpers.h"
@@ -11,7 +10,6 @@
 #include "frmTip.h"
 
 #include <QApplication>
-#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,7 +22,6 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr int kIconDelay = 100; // milliseconds; usually the window has been painted by then
 
 // Qt calls abort() when it cannot open the display, after advice to reinstall the program. Intercepts its
 // fatal message and exits with the start-up failure status.
@@ -38,7 +35,6 @@ void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
 
 std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
     const QtMessageHandler before = qInstallMessageHandler(ReportMissingDisplay);
-    const FontPreload fonts;
     auto qtApplication = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(before);
     return qtApplication;
@@ -59,8 +55,6 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
     // Not QApplication's quitOnLastWindowClosed: the last window may be a message box.
     QObject::connect(&window, &frmMain::Closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     window.show();
-    // Decoding the icon's seven sizes would delay the first paint.
-    QTimer::singleShot(kIconDelay, &window, &InstallProgramIcon);
     if (TipsOnStartup(application.registry)) {
         auto* tip = new frmTip(application, frontEnd, &window);
         tip->setAttribute(Qt::WA_DeleteOnClose);
@@ -78,6 +72,7 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
     const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setDesktopFileName(u"tunedex"_s);
+    InstallProgramIcon();
 
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);
@@ -88,7 +83,6 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
         return kExitCannotStart;
     }
     if (automatic) {
-        InstallProgramIcon();
         return frontEnd.CreateList() ? kExitSuccess : kExitFailure;
     }
     return RunInteractively(application, frontEnd);
