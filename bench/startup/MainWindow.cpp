@@ -3,9 +3,9 @@
 
 #include "Application.h"
 #include "Dialogs.h"
+#include "ProgramIcon.h"
 #include "QSettingsRegistry.h"
 #include "Startup.h"
-#include "WidgetHelpers.h"
 #include "WindowsFrontEnd.h"
 
 #include <QApplication>

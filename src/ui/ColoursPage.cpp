@@ -1,9 +1,9 @@
 #include "ColoursPage.h"
 
 #include "ColourButton.h"
+#include "Controls.h"
 #include "HexColour.h"
-#include "PageControls.h"
-#include "WidgetHelpers.h"
+#include "QtText.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,7 +1,7 @@
 #include "ColumnList.h"
 
+#include "QtText.h"
 #include "Text.h"
-#include "WidgetHelpers.h"
 
 #include <QDrag>
 #include <QDropEvent>

@@ -1,8 +1,7 @@
 #include "ColumnsPage.h"
 
 #include "ColumnList.h"
-#include "PageControls.h"
-#include "WidgetHelpers.h"
+#include "Controls.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

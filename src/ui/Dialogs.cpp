@@ -1,8 +1,8 @@
 #include "Dialogs.h"
 
 #include "FileFilters.h"
+#include "QtText.h"
 #include "UserInterface.h"
-#include "WidgetHelpers.h"
 
 #include <QDialog>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "DocumentPage.h"
 
+#include "Controls.h"
 #include "ThemePanel.h"
-#include "WidgetHelpers.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

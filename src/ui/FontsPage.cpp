@@ -1,8 +1,8 @@
 #include "FontsPage.h"
 
+#include "Controls.h"
 #include "FontChoice.h"
-#include "PageControls.h"
-#include "WidgetHelpers.h"
+#include "QtText.h"
 
 #include <QCheckBox>
 #include <QComboBox>

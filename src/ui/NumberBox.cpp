@@ -1,8 +1,9 @@
 #include "NumberBox.h"
 
+#include "Controls.h"
 #include "Numbers.h"
+#include "QtText.h"
 #include "RunTimeError.h"
-#include "WidgetHelpers.h"
 
 #include <limits>
 

@@ -1,10 +1,11 @@
 #include "PreviewPane.h"
 
+#include "Controls.h"
 #include "Path.h"
+#include "QtText.h"
 #include "RichTextPage.h"
 #include "RunTimeError.h"
 #include "SamplePage.h"
-#include "WidgetHelpers.h"
 
 #include <QLabel>
 #include <QScrollBar>

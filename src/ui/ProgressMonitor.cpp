@@ -1,6 +1,6 @@
 #include "ProgressMonitor.h"
 
-#include "WidgetHelpers.h"
+#include "QtText.h"
 #include "frmProgress.h"
 
 #include <QCoreApplication>

@@ -4,8 +4,8 @@
 #include "Display.h"
 #include "ExitStatus.h"
 #include "Functions.h"
+#include "ProgramIcon.h"
 #include "Startup.h"
-#include "WidgetHelpers.h"
 #include "WindowsFrontEnd.h"
 #include "frmTip.h"
 
@@ -21,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace tunedex {
 namespace {
-
 
 // Qt calls abort() when it cannot open the display, after advice to reinstall the program. Intercepts its
 // fatal message and exits with the start-up failure status.

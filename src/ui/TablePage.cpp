@@ -1,10 +1,10 @@
 #include "TablePage.h"
 
+#include "Controls.h"
 #include "NumberBox.h"
 #include "OptionGroup.h"
-#include "PageControls.h"
+#include "QtText.h"
 #include "Themes.h"
-#include "WidgetHelpers.h"
 
 #include <QGridLayout>
 #include <QLabel>

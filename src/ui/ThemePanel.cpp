@@ -1,12 +1,12 @@
 #include "ThemePanel.h"
 
+#include "Controls.h"
 #include "DefaultSettings.h"
 #include "FileSystem.h"
 #include "Functions.h"
-#include "PageControls.h"
+#include "QtText.h"
 #include "RunTimeError.h"
 #include "Text.h"
-#include "WidgetHelpers.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "TitleField.h"
 
-#include "WidgetHelpers.h"
+#include "Controls.h"
 
 #include <QFocusEvent>
 

@@ -1,7 +1,8 @@
 #include "WindowsFrontEnd.h"
 
+#include "Controls.h"
+#include "QtText.h"
 #include "Startup.h"
-#include "WidgetHelpers.h"
 #include "frmEditLayout.h"
 #include "frmOptions.h"
 #include "frmProgress.h"

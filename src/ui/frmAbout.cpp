@@ -1,9 +1,11 @@
 #include "frmAbout.h"
 
+#include "Controls.h"
+#include "OpenHelp.h"
 #include "Product.h"
+#include "QtText.h"
 #include "Statistics.h"
 #include "Version.h"
-#include "WidgetHelpers.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>

@@ -1,11 +1,14 @@
 #include "frmDirSelection.h"
 
+#include "Controls.h"
 #include "FileSystem.h"
 #include "FolderDrop.h"
 #include "FolderSetting.h"
 #include "Functions.h"
+#include "OpenHelp.h"
+#include "QtText.h"
 #include "Text.h"
-#include "WidgetHelpers.h"
+#include "WindowGeometry.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

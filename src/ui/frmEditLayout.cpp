@@ -2,15 +2,16 @@
 
 #include "ColoursPage.h"
 #include "ColumnsPage.h"
+#include "Controls.h"
 #include "DocumentPage.h"
 #include "FontsPage.h"
 #include "NumberBox.h"
-#include "PageControls.h"
+#include "OpenHelp.h"
 #include "PreviewPane.h"
 #include "Startup.h"
 #include "TablePage.h"
 #include "ThemePanel.h"
-#include "WidgetHelpers.h"
+#include "WindowGeometry.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>

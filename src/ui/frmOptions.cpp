@@ -1,12 +1,14 @@
 #include "frmOptions.h"
 
+#include "Controls.h"
 #include "Functions.h"
 #include "NumberBox.h"
+#include "OpenHelp.h"
 #include "OptionGroup.h"
-#include "PageControls.h"
+#include "QtText.h"
 #include "RunTimeError.h"
 #include "Startup.h"
-#include "WidgetHelpers.h"
+#include "WindowGeometry.h"
 #include "frmEditLayout.h"
 
 #include <QCheckBox>

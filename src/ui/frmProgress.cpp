@@ -1,6 +1,6 @@
 #include "frmProgress.h"
 
-#include "WidgetHelpers.h"
+#include "Controls.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>

@@ -1,10 +1,11 @@
 #include "frmTip.h"
 
+#include "Controls.h"
 #include "FileSystem.h"
 #include "Functions.h"
 #include "Numbers.h"
+#include "QtText.h"
 #include "Text.h"
-#include "WidgetHelpers.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -3,8 +3,8 @@
 
 #include "Dialogs.h"
 #include "Fakes.h"
+#include "QtText.h"
 #include "TestFolder.h"
-#include "WidgetHelpers.h"
 #include "WindowsFrontEnd.h"
 
 #include <QApplication>
