@@ -4,10 +4,24 @@
 
 namespace tunedex {
 
+std::optional<std::string_view> TrackText(ColumnKey key, const TrackRow& track, PathStyle pathStyle) {
+    if (const auto text = KindOf(key).text) {
+        return std::string_view(track.*text);
+    }
+    switch (key) {
+    case ColumnKey::Filename:
+        return FileNameOf(track.FullPath, pathStyle);
+    case ColumnKey::FolderPath:
+        return FolderPathOf(track.FullPath, pathStyle);
+    default:
+        return std::nullopt;
+    }
+}
+
 void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
                  const CellContext& context) {
-    if (const auto text = KindOf(key).text) {
-        page.Put(track.*text);
+    if (const auto text = TrackText(key, track, context.pathStyle)) {
+        page.Put(*text);
         return;
     }
     switch (key) {
@@ -16,12 +30,6 @@ void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::si
         return;
     case ColumnKey::FileSize:
         page.Put(SizeText(track.FileSize, context.sizeType, context.locale));
-        return;
-    case ColumnKey::Filename:
-        page.Put(FileNameOf(track.FullPath, context.pathStyle));
-        return;
-    case ColumnKey::FolderPath:
-        page.Put(FolderPathOf(track.FullPath, context.pathStyle));
         return;
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:

@@ -9,6 +9,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string_view>
 
 namespace tunedex {
 
@@ -18,6 +20,9 @@ struct CellContext {
     const Locale& locale;
     PathStyle pathStyle;
 };
+
+// The text of a column that shows a stored text, or a part of one; none where the text is made.
+std::optional<std::string_view> TrackText(ColumnKey key, const TrackRow& track, PathStyle pathStyle);
 
 // Appends the text of column `key` for track `position` (1-based); nothing for ColumnKey::Unknown.
 void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,

@@ -246,13 +246,11 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
 
 void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track,
                              std::size_t position) const {
-    const ColumnKind& kind = KindOf(key);
-    if (kind.text != nullptr) {
-        const std::string_view text = track.*kind.text;
-        if (text.empty() && kind.blankForEmpty) {
+    if (const auto text = TrackText(key, track, listing_.pathStyle)) {
+        if (text->empty() && KindOf(key).blankForEmpty) {
             page.Put("&nbsp;");
         } else {
-            escaper_.PutEscaped(page, text);
+            escaper_.PutEscaped(page, *text);
         }
         return;
     }
@@ -268,12 +266,6 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
         }
         page.Put(":</b> ");
         escaper_.PutEscaped(page, track.Title);
-        return;
-    case ColumnKey::Filename:
-        escaper_.PutEscaped(page, FileNameOf(track.FullPath, listing_.pathStyle));
-        return;
-    case ColumnKey::FolderPath:
-        escaper_.PutEscaped(page, FolderPathOf(track.FullPath, listing_.pathStyle));
         return;
     default: // Required: number and size are not escaped, nor is the locale's separator in the size.
         PutCellText(page, key, track, position, listing_.Cells());
