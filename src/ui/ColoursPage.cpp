@@ -21,18 +21,22 @@ struct ColourTexts {
     QString toolTip;
 };
 
-const ColourTexts& TextsOf(std::size_t index) {
-    static const std::array<ColourTexts, kColourCount> texts = {{
-        {u"Page text"_s, u"The colour of the page header/footers"_s},
-        {u"Page background"_s, u"The background colour of the page"_s},
-        {u"Table header text"_s, u"The colour of the table headers"_s},
-        {u"Table header background"_s, u"The background colour of the table headers"_s},
-        {u"Cell text"_s, u"The colour of the table cells"_s},
-        {u"Cell background"_s, u"The background colour of the table cells"_s},
-        {u"Alternate cell text"_s, u"The colour of the alternate table cells"_s},
-        {u"Alternate cell background"_s, u"The background colour of the alternate cells"_s},
-        {u"Links"_s, u"The colour of generated links"_s},
-        {u"Table border"_s, u"The colour the main table's border"_s}, // Required wording. Do not "fix".
+// By index of Settings::Colour.
+ColourTexts TextsOf(std::size_t index) {
+    const std::array<ColourTexts, kColourCount> texts = {{
+        {ColoursPage::tr("Page text"), ColoursPage::tr("The colour of the page header/footers")},
+        {ColoursPage::tr("Page background"), ColoursPage::tr("The background colour of the page")},
+        {ColoursPage::tr("Table header text"), ColoursPage::tr("The colour of the table headers")},
+        {ColoursPage::tr("Table header background"),
+         ColoursPage::tr("The background colour of the table headers")},
+        {ColoursPage::tr("Cell text"), ColoursPage::tr("The colour of the table cells")},
+        {ColoursPage::tr("Cell background"), ColoursPage::tr("The background colour of the table cells")},
+        {ColoursPage::tr("Alternate cell text"), ColoursPage::tr("The colour of the alternate table cells")},
+        {ColoursPage::tr("Alternate cell background"),
+         ColoursPage::tr("The background colour of the alternate cells")},
+        {ColoursPage::tr("Links"), ColoursPage::tr("The colour of generated links")},
+        // Required wording of the tooltip. Do not "fix".
+        {ColoursPage::tr("Table border"), ColoursPage::tr("The colour the main table's border")},
     }};
     return texts.at(index);
 }
@@ -52,23 +56,23 @@ void UpperCaseTyping(QLineEdit& box) {
 ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
     : QFrame(parent), choosers_(choosers),
       chkAlternateTDColours_(
-          MakeCheckBox(u"chkAlternateTDColours"_s, u"Table cells &use alternating text/background colours"_s,
-                       u"Alternate between the two colours below for table cells. Aids readability."_s)),
-      chkColoursCSS_(MakeCheckBox(u"chkColoursCSS"_s, u"Use CSS fo&r text colours."_s,
-                                  u"Write the colours into the page's style sheet"_s)),
+          MakeCheckBox(u"chkAlternateTDColours"_s, tr("Table cells &use alternating text/background colours"),
+                       tr("Alternate between the two colours below for table cells. Aids readability."))),
+      chkColoursCSS_(MakeCheckBox(u"chkColoursCSS"_s, tr("Use CSS fo&r text colours."),
+                                  tr("Write the colours into the page's style sheet"))),
       chkColoursFontTags_(
-          MakeCheckBox(u"chkColoursFontTags"_s, u"Use FONT ta&gs for text colours."_s,
-                       u"Write the colours into the markup, for browsers without style sheets"_s)) {
+          MakeCheckBox(u"chkColoursFontTags"_s, tr("Use FONT ta&gs for text colours."),
+                       tr("Write the colours into the markup, for browsers without style sheets"))) {
     auto* grid = new QGridLayout;
-    grid->addWidget(new QLabel(u"Text"_s), 0, 1);
-    grid->addWidget(new QLabel(u"Background"_s), 0, 4);
-    AddRow(*grid, 1, u"&Page:"_s, kPageText, true);
-    AddRow(*grid, 2, u"Table header&s:"_s, kHeaderText, true);
-    AddRow(*grid, 3, u"Table c&ells:"_s, kCellText, true);
+    grid->addWidget(new QLabel(tr("Text")), 0, 1);
+    grid->addWidget(new QLabel(tr("Background")), 0, 4);
+    AddRow(*grid, 1, tr("&Page:"), kPageText, true);
+    AddRow(*grid, 2, tr("Table header&s:"), kHeaderText, true);
+    AddRow(*grid, 3, tr("Table c&ells:"), kCellText, true);
     grid->addWidget(chkAlternateTDColours_, 4, 0, 1, 6);
-    AddRow(*grid, 5, u"&Alternate cells:"_s, kAlternateText, true);
-    AddRow(*grid, 6, u"L&inks:"_s, kLinkText, false);
-    AddRow(*grid, 7, u"Table &border:"_s, kTableBorder, false);
+    AddRow(*grid, 5, tr("&Alternate cells:"), kAlternateText, true);
+    AddRow(*grid, 6, tr("L&inks:"), kLinkText, false);
+    AddRow(*grid, 7, tr("Table &border:"), kTableBorder, false);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(3, 12);
     grid->setColumnStretch(4, 1);
@@ -87,13 +91,13 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
 void ColoursPage::BuildField(std::size_t index) {
     const int number = static_cast<int>(index);
     Field& field = fields_.at(index);
-    field.txtColour =
-        MakeTextField(ArrayName(u"txtColour"_s, number), TextsOf(index).name, TextsOf(index).toolTip);
-    field.txtColour->setPlaceholderText(u"RRGGBB"_s);
+    const ColourTexts texts = TextsOf(index);
+    field.txtColour = MakeTextField(ArrayName(u"txtColour"_s, number), texts.name, texts.toolTip);
+    field.txtColour->setPlaceholderText(tr("RRGGBB"));
     field.txtColour->setMinimumWidth(field.txtColour->fontMetrics().horizontalAdvance(u"CCCCCCCC"_s) + 12);
     field.cmdColourSelector = new ColourButton;
     NameControl(*field.cmdColourSelector, ArrayName(u"cmdColourSelector"_s, number),
-                TextsOf(index).name + u": select colour"_s, u"Select a colour from the palette"_s);
+                tr("%1: select colour").arg(texts.name), tr("Select a colour from the palette"));
 
     connect(field.txtColour, &QLineEdit::textEdited, this,
             [this, index] { UpperCaseTyping(*fields_.at(index).txtColour); });

@@ -29,10 +29,10 @@ QLayout* LabelledList(ColumnList& list, const QString& label) {
 
 ColumnsPage::ColumnsPage(QWidget* parent)
     : QFrame(parent), lstInactiveColumns_(new ColumnList), lstActiveColumns_(new ColumnList) {
-    NameControl(*lstInactiveColumns_, u"lstInactiveColumns"_s, u"Hidden columns"_s,
-                u"Columns that are not listed. Double-click or drag one to show it."_s);
-    NameControl(*lstActiveColumns_, u"lstActiveColumns"_s, u"Shown columns, in display order"_s,
-                u"Double-click a column to hide it. Drag it or press Alt+Up or Alt+Down to move it."_s);
+    NameControl(*lstInactiveColumns_, u"lstInactiveColumns"_s, tr("Hidden columns"),
+                tr("Columns that are not listed. Double-click or drag one to show it."));
+    NameControl(*lstActiveColumns_, u"lstActiveColumns"_s, tr("Shown columns, in display order"),
+                tr("Double-click a column to hide it. Drag it or press Alt+Up or Alt+Down to move it."));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(BuildLists(), 1);
     layout->addLayout(BuildMerges());
@@ -57,23 +57,24 @@ ColumnsPage::ColumnsPage(QWidget* parent)
 
 QLayout* ColumnsPage::BuildLists() {
     auto* layout = new QHBoxLayout;
-    layout->addLayout(LabelledList(*lstInactiveColumns_, u"Hidden colu&mns:"_s), 1);
+    layout->addLayout(LabelledList(*lstInactiveColumns_, tr("Hidden colu&mns:")), 1);
     layout->addLayout(BuildMoves());
-    layout->addLayout(LabelledList(*lstActiveColumns_, u"Shown, in this o&rder:"_s), 1);
+    layout->addLayout(LabelledList(*lstActiveColumns_, tr("Shown, in this o&rder:")), 1);
     return layout;
 }
 
 QLayout* ColumnsPage::BuildMoves() {
-    cmdActive_ = MakeButton(u"cmdActive"_s, u"&Show \u203A"_s,
-                            u"Show the selected hidden column as the last column"_s);
-    cmdInactive_ = MakeButton(u"cmdInactive"_s, u"\u2039 Hid&e"_s, u"Hide the selected shown column"_s);
-    cmdAllActive_ = MakeButton(u"cmdAllActive"_s, u"Show &all \u00BB"_s, u"Show every column"_s);
-    cmdAllInactive_ = MakeButton(u"cmdAllInactive"_s, u"\u00AB H&ide all"_s, u"Hide every column"_s);
-    cmdTop_ = MakeButton(u"cmdTop"_s, u"To&p"_s, u"Move the selected shown column to the top"_s);
-    cmdUp_ = MakeButton(u"cmdUp"_s, u"&Up"_s, u"Move the selected shown column one place up (Alt+Up)"_s);
+    cmdActive_ = MakeButton(u"cmdActive"_s, tr("&Show \u203A"),
+                            tr("Show the selected hidden column as the last column"));
+    cmdInactive_ = MakeButton(u"cmdInactive"_s, tr("\u2039 Hid&e"), tr("Hide the selected shown column"));
+    cmdAllActive_ = MakeButton(u"cmdAllActive"_s, tr("Show &all \u00BB"), tr("Show every column"));
+    cmdAllInactive_ = MakeButton(u"cmdAllInactive"_s, tr("\u00AB H&ide all"), tr("Hide every column"));
+    cmdTop_ = MakeButton(u"cmdTop"_s, tr("To&p"), tr("Move the selected shown column to the top"));
+    cmdUp_ = MakeButton(u"cmdUp"_s, tr("&Up"), tr("Move the selected shown column one place up (Alt+Up)"));
     cmdDown_ =
-        MakeButton(u"cmdDown"_s, u"Do&wn"_s, u"Move the selected shown column one place down (Alt+Down)"_s);
-    cmdBottom_ = MakeButton(u"cmdBottom"_s, u"&Bottom"_s, u"Move the selected shown column to the bottom"_s);
+        MakeButton(u"cmdDown"_s, tr("Do&wn"), tr("Move the selected shown column one place down (Alt+Down)"));
+    cmdBottom_ =
+        MakeButton(u"cmdBottom"_s, tr("&Bottom"), tr("Move the selected shown column to the bottom"));
 
     connect(cmdActive_, &QPushButton::clicked, this,
             [this] { MoveSelected(*lstInactiveColumns_, *lstActiveColumns_); });
@@ -107,14 +108,14 @@ QLayout* ColumnsPage::BuildMoves() {
 
 QLayout* ColumnsPage::BuildMerges() {
     chkArtistTitleMerge_ =
-        MakeCheckBox(u"chkArtistTitleMerge"_s, u"Mer&ge Artist and Title into one column"_s,
-                     u"Shows \u201CArtist: Title\u201D. Both columns must be shown."_s);
+        MakeCheckBox(u"chkArtistTitleMerge"_s, tr("Mer&ge Artist and Title into one column"),
+                     tr("Shows \u201CArtist: Title\u201D. Both columns must be shown."));
     chkAlbumMerge_ =
-        MakeCheckBox(u"chkAlbumMerge"_s, u"Ta&ke Album into that column, too"_s,
-                     u"Shows \u201CArtist (Album): Title\u201D. Requires Artist and Title to be merged."_s);
-    chkTheSubstitution_ =
-        MakeCheckBox(u"chkTheSubstitution"_s, u"Displa&y a leading \u201CThe\u201D after the artist's name"_s,
-                     u"Lists \u201CThe Band\u201D as \u201CBand, The\u201D, sorted under B"_s);
+        MakeCheckBox(u"chkAlbumMerge"_s, tr("Ta&ke Album into that column, too"),
+                     tr("Shows \u201CArtist (Album): Title\u201D. Requires Artist and Title to be merged."));
+    chkTheSubstitution_ = MakeCheckBox(
+        u"chkTheSubstitution"_s, tr("Displa&y a leading \u201CThe\u201D after the artist's name"),
+        tr("Lists \u201CThe Band\u201D as \u201CBand, The\u201D, sorted under B"));
     auto* layout = new QVBoxLayout;
     for (QCheckBox* box : {chkArtistTitleMerge_, chkAlbumMerge_, chkTheSubstitution_}) {
         connect(box, &QCheckBox::toggled, this, &ColumnsPage::Edited);
@@ -124,22 +125,9 @@ QLayout* ColumnsPage::BuildMerges() {
 }
 
 void ColumnsPage::SetTabOrder() {
-    const std::initializer_list<QWidget*> order = {lstInactiveColumns_,
-                                                   cmdActive_,
-                                                   cmdInactive_,
-                                                   cmdAllActive_,
-                                                   cmdAllInactive_,
-                                                   lstActiveColumns_,
-                                                   cmdTop_,
-                                                   cmdUp_,
-                                                   cmdDown_,
-                                                   cmdBottom_,
-                                                   chkArtistTitleMerge_,
-                                                   chkAlbumMerge_,
-                                                   chkTheSubstitution_};
-    for (const auto* next = order.begin() + 1; next != order.end(); ++next) {
-        setTabOrder(*(next - 1), *next);
-    }
+    SetTabOrders({lstInactiveColumns_, cmdActive_, cmdInactive_, cmdAllActive_, cmdAllInactive_,
+                  lstActiveColumns_, cmdTop_, cmdUp_, cmdDown_, cmdBottom_, chkArtistTitleMerge_,
+                  chkAlbumMerge_, chkTheSubstitution_});
 }
 
 void ColumnsPage::LoadControls(const Settings& settings) {

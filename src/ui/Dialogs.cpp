@@ -137,7 +137,7 @@ std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& 
     chooser->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
     chooser->setFileMode(QFileDialog::Directory);
     chooser->setDirectory(ExistingStart(start));
-    chooser->setLabelText(QFileDialog::Accept, QDialog::tr("&OK"));
+    chooser->setLabelText(QFileDialog::Accept, tr("&OK"));
     chooser->setWindowFlags(Qt::Widget);
     chooser->setSizeGripEnabled(false);
     chooser->layout()->setContentsMargins(0, 0, 0, 0);

@@ -1,6 +1,7 @@
 // The modal dialogs: message box, folder chooser, file chooser. Virtual, so that tests can answer them.
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -18,6 +19,8 @@ struct FileQuestion {
 };
 
 class Dialogs {
+    Q_DECLARE_TR_FUNCTIONS(tunedex::Dialogs)
+
   public:
     Dialogs() = default;
     Dialogs(const Dialogs&) = delete;

@@ -20,13 +20,13 @@ constexpr int kXhtml = 1;
 
 DocumentPage::DocumentPage(ThemePanel* themes, QWidget* parent)
     : QFrame(parent), cmbDocumentType_(new QComboBox) {
-    NameControl(*cmbDocumentType_, u"cmbDocumentType"_s, u"Document type"_s,
-                u"The document type of HTML listings"_s);
-    cmbDocumentType_->addItems({u"HTML 4.01"_s, u"XHTML 1.0"_s});
+    NameControl(*cmbDocumentType_, u"cmbDocumentType"_s, tr("Document type"),
+                tr("The document type of HTML listings"));
+    cmbDocumentType_->addItems({tr("HTML 4.01"), tr("XHTML 1.0")});
     connect(cmbDocumentType_, &QComboBox::currentIndexChanged, this, &DocumentPage::Edited);
 
     auto* type = new QHBoxLayout;
-    type->addWidget(MakeLabelFor(*cmbDocumentType_, u"Doc&ument type:"_s));
+    type->addWidget(MakeLabelFor(*cmbDocumentType_, tr("Doc&ument type:")));
     type->addWidget(cmbDocumentType_);
     type->addStretch();
     auto* layout = new QVBoxLayout(this);

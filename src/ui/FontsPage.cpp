@@ -20,11 +20,12 @@ namespace {
 
 constexpr int kSizes = 7;
 
-QString FontTitle(std::size_t index) {
-    static const std::array<QString, kFontCount> titles = {u"Page heading and text"_s, u"Table headers"_s,
-                                                           u"Table cells"_s};
-    return titles.at(index);
-}
+// By index of Settings::Font. Translated where they are used.
+constexpr std::array<const char*, kFontCount> kFontTitles = {
+    QT_TRANSLATE_NOOP("tunedex::FontsPage", "Page heading and text"),
+    QT_TRANSLATE_NOOP("tunedex::FontsPage", "Table headers"),
+    QT_TRANSLATE_NOOP("tunedex::FontsPage", "Table cells"),
+};
 
 // A settings file may hold a size other than 1 to 7; it is added to the list while it is in use, so that it
 // is stored unchanged.
@@ -42,11 +43,11 @@ void ShowSize(QComboBox& sizes, const QString& size) {
 
 FontsPage::FontsPage(const Choosers& choosers, QWidget* parent)
     : QFrame(parent), choosers_(choosers),
-      chkFontsCSS_(MakeCheckBox(u"chkFontsCSS"_s, u"&Use CSS for fonts."_s,
-                                u"Write the fonts into the page's style sheet"_s)),
+      chkFontsCSS_(MakeCheckBox(u"chkFontsCSS"_s, tr("&Use CSS for fonts."),
+                                tr("Write the fonts into the page's style sheet"))),
       chkFontsFontTags_(
-          MakeCheckBox(u"chkFontsFontTags"_s, u"Use FONT ta&gs for fonts."_s,
-                       u"Write the fonts into the markup, for browsers without style sheets"_s)) {
+          MakeCheckBox(u"chkFontsFontTags"_s, tr("Use FONT ta&gs for fonts."),
+                       tr("Write the fonts into the markup, for browsers without style sheets"))) {
     auto* layout = new QVBoxLayout(this);
     for (std::size_t index = 0; index < kFontCount; ++index) {
         layout->addWidget(BuildRow(index));
@@ -60,24 +61,25 @@ FontsPage::FontsPage(const Choosers& choosers, QWidget* parent)
 
 QGroupBox* FontsPage::BuildRow(std::size_t index) {
     const int number = static_cast<int>(index);
-    const QString title = FontTitle(index);
+    const QString title = tr(kFontTitles.at(index));
     Row& row = rows_.at(index);
-    row.txtFontList = MakeTextField(ArrayName(u"txtFontList"_s, number), title + u": typefaces"_s,
-                                    u"Typefaces in order of preference, separated by commas"_s);
+    row.txtFontList = MakeTextField(ArrayName(u"txtFontList"_s, number), tr("%1: typefaces").arg(title),
+                                    tr("Typefaces in order of preference, separated by commas"));
     row.cmbFontSize = new QComboBox;
-    NameControl(*row.cmbFontSize, ArrayName(u"cmbFontSize"_s, number), title + u": size"_s,
-                u"1 (smallest) to 7 (largest). 3 is the size of normal text."_s);
+    NameControl(*row.cmbFontSize, ArrayName(u"cmbFontSize"_s, number), tr("%1: size").arg(title),
+                tr("1 (smallest) to 7 (largest). 3 is the size of normal text."));
     for (int size = 1; size <= kSizes; ++size) {
         row.cmbFontSize->addItem(QString::number(size));
     }
-    row.chkBold = MakeCheckBox(ArrayName(u"chkBold"_s, number), u"&Bold"_s, title + u" in bold type"_s);
-    row.chkBold->setAccessibleName(title + u": bold"_s);
+    row.chkBold =
+        MakeCheckBox(ArrayName(u"chkBold"_s, number), tr("&Bold"), tr("%1 in bold type").arg(title));
+    row.chkBold->setAccessibleName(tr("%1: bold").arg(title));
     row.chkItalic =
-        MakeCheckBox(ArrayName(u"chkItalic"_s, number), u"&Italic"_s, title + u" in italic type"_s);
-    row.chkItalic->setAccessibleName(title + u": italic"_s);
-    row.cmdSelectFont = MakeButton(ArrayName(u"cmdSelectFont"_s, number), u"&Select..."_s,
-                                   u"Select a font installed on this computer"_s);
-    row.cmdSelectFont->setAccessibleName(title + u": select font"_s);
+        MakeCheckBox(ArrayName(u"chkItalic"_s, number), tr("&Italic"), tr("%1 in italic type").arg(title));
+    row.chkItalic->setAccessibleName(tr("%1: italic").arg(title));
+    row.cmdSelectFont = MakeButton(ArrayName(u"cmdSelectFont"_s, number), tr("&Select..."),
+                                   tr("Select a font installed on this computer"));
+    row.cmdSelectFont->setAccessibleName(tr("%1: select font").arg(title));
 
     connect(row.txtFontList, &QLineEdit::textChanged, this, &FontsPage::Edited);
     connect(row.cmbFontSize, &QComboBox::currentIndexChanged, this, &FontsPage::Edited);
@@ -87,9 +89,9 @@ QGroupBox* FontsPage::BuildRow(std::size_t index) {
 
     auto* group = new QGroupBox(title);
     auto* grid = new QGridLayout(group);
-    grid->addWidget(MakeLabelFor(*row.txtFontList, u"T&ypefaces:"_s), 0, 0);
+    grid->addWidget(MakeLabelFor(*row.txtFontList, tr("T&ypefaces:")), 0, 0);
     grid->addWidget(row.txtFontList, 0, 1, 1, 4);
-    grid->addWidget(MakeLabelFor(*row.cmbFontSize, u"Si&ze:"_s), 1, 0);
+    grid->addWidget(MakeLabelFor(*row.cmbFontSize, tr("Si&ze:")), 1, 0);
     grid->addWidget(row.cmbFontSize, 1, 1);
     grid->addWidget(row.chkBold, 1, 2);
     grid->addWidget(row.chkItalic, 1, 3);

@@ -2,6 +2,7 @@
 
 #include "QtText.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
 
@@ -12,9 +13,9 @@ namespace {
 
 void OpenUrl(const QUrl& url, const Application& application, WindowInterface& ui, QWidget& owner) {
     if (!QDesktopServices::openUrl(url)) {
-        const std::string shown = FromQt(url.toDisplayString());
-        ui.ShowMessage(owner, "No program could be found to open\r\n" + shown, kOkExclamation,
-                       application.errorTitle);
+        const QString text =
+            QCoreApplication::translate("tunedex::OpenHelp", "No program could be found to open\r\n%1");
+        ui.ShowMessage(owner, text.arg(url.toDisplayString()), kOkExclamation, ToQt(application.errorTitle));
     }
 }
 
@@ -22,7 +23,9 @@ void OpenUrl(const QUrl& url, const Application& application, WindowInterface& u
 
 void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owner) {
     if (application.helpFile.empty()) {
-        ui.ShowMessage(owner, "The help file could not be found!", kOkExclamation, application.errorTitle);
+        ui.ShowMessage(owner,
+                       QCoreApplication::translate("tunedex::OpenHelp", "The help file could not be found!"),
+                       kOkExclamation, ToQt(application.errorTitle));
         return;
     }
     // Percent-encodes the bytes: QUrl::fromLocalFile() loses bytes that are not UTF-8.

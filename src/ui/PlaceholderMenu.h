@@ -1,21 +1,23 @@
-// The descriptions in the Placeholders menu.
+// The descriptions in the Placeholders menu, in the order of kTitlePlaceholders. Translated by frmMain.
 #pragma once
 
 #include "Placeholders.h"
+
+#include <QtGlobal>
 
 #include <array>
 
 namespace tunedex {
 
 inline constexpr std::array<const char*, kTitlePlaceholders.size()> kPlaceholderMeanings = {
-    "Current date",
-    "Current time",
-    "Number of files",
-    "Number of non-tagged files",
-    "Total size of all files",
-    "Total play-time of all files",
-    "Percent sign",
-    "Line break",
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Current date"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Current time"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Number of files"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Number of non-tagged files"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Total size of all files"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Total play-time of all files"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Percent sign"),
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Line break"),
 };
 
 } // namespace tunedex

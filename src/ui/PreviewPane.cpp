@@ -23,10 +23,11 @@ namespace {
 constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
 
 QString NoPreviewText(const RunTimeError& error) {
-    QString text = u"<p>There is no preview: a listing cannot be written with this layout (%1).</p>"_s.arg(
-        QString::fromLatin1(error.Description()));
+    QString text =
+        PreviewPane::tr("<p>There is no preview: a listing cannot be written with this layout (%1).</p>")
+            .arg(QString::fromLatin1(error.Description()));
     if (error.Is(ErrorNumber::InvalidProcedureCall)) {
-        text += u"<p>If Album is merged, it must not come before both Artist and Title.</p>"_s;
+        text += PreviewPane::tr("<p>If Album is merged, it must not come before both Artist and Title.</p>");
     }
     return text;
 }
@@ -37,8 +38,8 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     : QWidget(parent), application_(application), settings_(std::move(settings)), caption_(new QLabel),
       browser_(new QTextBrowser) {
     setObjectName(u"PreviewPane"_s);
-    NameControl(*browser_, u"txtPreview"_s, u"Preview of the listing"_s,
-                u"Sample tracks, listed with the layout shown here"_s);
+    NameControl(*browser_, u"txtPreview"_s, tr("Preview of the listing"),
+                tr("Sample tracks, listed with the layout shown here"));
     // Without keyboard access to links, Tab skips them.
     browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     browser_->setTabChangesFocus(true);
@@ -92,8 +93,8 @@ void PreviewPane::ShowPage(const QString& page) {
     const RichTextPage richText = PrepareRichText(page);
     caption_->setText(
         richText.styleSheetIgnored
-            ? u"Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead."_s
-            : u"Preview with sample tracks"_s);
+            ? tr("Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.")
+            : tr("Preview with sample tracks"));
     QPalette colours;
     const auto set = [&](QPalette::ColorRole role, const std::optional<QColor>& colour) {
         if (colour) {

@@ -2,8 +2,8 @@
 
 #include "Dialogs.h"
 #include "Display.h"
+#include "ErrorMessage.h"
 #include "ExitStatus.h"
-#include "Functions.h"
 #include "ProgramIcon.h"
 #include "Startup.h"
 #include "WindowsFrontEnd.h"
@@ -39,16 +39,6 @@ std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
     return qtApplication;
 }
 
-bool SaveStatisticsOrSay(const Application& application, UserInterface& ui) {
-    try {
-        SaveStatisticsAtExit(application);
-        return true;
-    } catch (const RunTimeError& error) {
-        ShowMessage(ui, UnexpectedErrorText(error), kOkExclamation, application.errorTitle);
-        return false;
-    }
-}
-
 int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
     frmMain& window = frontEnd.MainWindow();
     // Not QApplication's quitOnLastWindowClosed: the last window may be a message box.
@@ -60,7 +50,9 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
         tip->open();
     }
     const int status = QApplication::exec();
-    return SaveStatisticsOrSay(application, frontEnd) ? status : kExitFailure;
+    const bool saved =
+        RunOrShowError(frontEnd, window, application.errorTitle, [&] { SaveStatisticsAtExit(application); });
+    return saved ? status : kExitFailure;
 }
 
 } // namespace
@@ -75,10 +67,8 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
 
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);
-    try {
-        StartUp(application, frontEnd, arguments);
-    } catch (const RunTimeError& error) {
-        ShowMessage(frontEnd, UnexpectedErrorText(error), kOkExclamation, application.errorTitle);
+    if (!RunOrShowError(frontEnd, frontEnd.MainWindow(), application.errorTitle,
+                        [&] { StartUp(application, frontEnd, arguments); })) {
         return kExitCannotStart;
     }
     if (automatic) {

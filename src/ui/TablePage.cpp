@@ -25,29 +25,29 @@ constexpr int kPercent = 1;
 
 TablePage::TablePage(QWidget* parent)
     : QFrame(parent),
-      txtTableWidth_(new NumberBox(u"txtTableWidth"_s, u"Table width"_s, u"Width of the table"_s)),
-      txtBorderSize_(new NumberBox(u"txtBorderSize"_s, u"Border size"_s,
-                                   u"Width of the lines between the cells, in pixels"_s)),
-      txtCellPadding_(new NumberBox(u"txtCellPadding"_s, u"Cell padding"_s,
-                                    u"Space between a cell's border and its text, in pixels"_s)),
+      txtTableWidth_(new NumberBox(u"txtTableWidth"_s, tr("Table width"), tr("Width of the table"))),
+      txtBorderSize_(new NumberBox(u"txtBorderSize"_s, tr("Border size"),
+                                   tr("Width of the lines between the cells, in pixels"))),
+      txtCellPadding_(new NumberBox(u"txtCellPadding"_s, tr("Cell padding"),
+                                    tr("Space between a cell's border and its text, in pixels"))),
       widthUnit_(new OptionGroup(this)) {
-    QRadioButton* pixels = MakeOption(u"optWidthPixels"_s, u"Pi&xels"_s, u"Width in pixels"_s);
+    QRadioButton* pixels = MakeOption(u"optWidthPixels"_s, tr("Pi&xels"), tr("Width in pixels"));
     QRadioButton* percent =
-        MakeOption(u"optWidthPercent"_s, u"Pe&r cent"_s, u"Width as a percentage of the page's width"_s);
+        MakeOption(u"optWidthPercent"_s, tr("Pe&r cent"), tr("Width as a percentage of the page's width"));
     widthUnit_->addButton(pixels, kPixels);
     widthUnit_->addButton(percent, kPercent);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeLabelFor(*txtTableWidth_, u"Table &width:"_s), 0, 0);
+    grid->addWidget(MakeLabelFor(*txtTableWidth_, tr("Table &width:")), 0, 0);
     grid->addWidget(txtTableWidth_, 0, 1);
     grid->addWidget(pixels, 0, 2);
     grid->addWidget(percent, 0, 3);
-    grid->addWidget(MakeLabelFor(*txtBorderSize_, u"&Border size:"_s), 1, 0);
+    grid->addWidget(MakeLabelFor(*txtBorderSize_, tr("&Border size:")), 1, 0);
     grid->addWidget(txtBorderSize_, 1, 1);
-    grid->addWidget(new QLabel(u"pixels"_s), 1, 2);
-    grid->addWidget(MakeLabelFor(*txtCellPadding_, u"Cell &padding:"_s), 2, 0);
+    grid->addWidget(new QLabel(tr("pixels")), 1, 2);
+    grid->addWidget(MakeLabelFor(*txtCellPadding_, tr("Cell &padding:")), 2, 0);
     grid->addWidget(txtCellPadding_, 2, 1);
-    grid->addWidget(new QLabel(u"pixels"_s), 2, 2);
+    grid->addWidget(new QLabel(tr("pixels")), 2, 2);
     grid->setColumnStretch(4, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid);
@@ -58,10 +58,7 @@ TablePage::TablePage(QWidget* parent)
         connect(box, &QLineEdit::textChanged, this, &TablePage::Edited);
     }
     connect(widthUnit_, &QButtonGroup::idToggled, this, &TablePage::Edited);
-    setTabOrder(txtTableWidth_, pixels);
-    setTabOrder(pixels, percent);
-    setTabOrder(percent, txtBorderSize_);
-    setTabOrder(txtBorderSize_, txtCellPadding_);
+    SetTabOrders({txtTableWidth_, pixels, percent, txtBorderSize_, txtCellPadding_});
 }
 
 void TablePage::LoadControls(const Settings& settings) {
@@ -93,16 +90,16 @@ void TablePage::StoreTexts(ThemeContent& content) const {
 std::optional<TablePage::Fault> TablePage::FirstFault() const {
     struct Check {
         NumberBox* box;
-        std::string_view notNumeric;
-        std::string_view outOfRange;
+        QString notNumeric;
+        QString outOfRange;
     };
     const std::array checks = {
-        Check{txtTableWidth_, "The table width must be a numeric value.",
-              "The table width must be between -32768 and 32767."},
-        Check{txtBorderSize_, "The table border size must be a numeric value.",
-              "The table border size must be between -32768 and 32767."},
-        Check{txtCellPadding_, "The table cell padding must be a numeric value.",
-              "The table cell padding must be between -32768 and 32767."},
+        Check{txtTableWidth_, tr("The table width must be a numeric value."),
+              tr("The table width must be between -32768 and 32767.")},
+        Check{txtBorderSize_, tr("The table border size must be a numeric value."),
+              tr("The table border size must be between -32768 and 32767.")},
+        Check{txtCellPadding_, tr("The table cell padding must be a numeric value."),
+              tr("The table cell padding must be between -32768 and 32767.")},
     };
     for (const Check& check : checks) {
         if (!check.box->IsNumeric()) {

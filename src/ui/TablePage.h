@@ -4,9 +4,9 @@
 #include "Settings.h"
 
 #include <QFrame>
+#include <QString>
 
 #include <optional>
-#include <string_view>
 
 namespace tunedex {
 
@@ -29,7 +29,7 @@ class TablePage : public QFrame {
 
     struct Fault {
         NumberBox* box;
-        std::string_view message;
+        QString message;
     };
     // The first box whose text is not numeric; if there is none, the first whose number is out of range.
     std::optional<Fault> FirstFault() const;

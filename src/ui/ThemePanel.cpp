@@ -2,10 +2,9 @@
 
 #include "Controls.h"
 #include "DefaultSettings.h"
+#include "ErrorMessage.h"
 #include "FileSystem.h"
-#include "Functions.h"
 #include "QtText.h"
-#include "RunTimeError.h"
 #include "Text.h"
 
 #include <QGridLayout>
@@ -20,38 +19,37 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr const char* kErrorTitle = "Error";
-constexpr const char* kSaveTitle = "Save Theme";
-constexpr const char* kBadName = "This cannot be the name of a theme.\r\n\r\n"
-                                 "A name must be short enough for a file name, without a slash,\r\n"
-                                 "and neither \".\" nor \"..\".";
+constexpr const char* kSaveTitle = QT_TRANSLATE_NOOP("tunedex::ThemePanel", "Save Theme");
+constexpr const char* kBadName = QT_TRANSLATE_NOOP(
+    "tunedex::ThemePanel", "This cannot be the name of a theme.\r\n\r\n"
+                           "A name must be short enough for a file name, without a slash,\r\n"
+                           "and neither \".\" nor \"..\".");
 
 } // namespace
 
 ThemePanel::ThemePanel(Application& application, WindowInterface& ui, const Choosers& choosers,
                        std::function<ThemeContent()> content, QWidget* parent)
-    : QGroupBox(u"Themes"_s, parent), application_(application), ui_(ui), choosers_(choosers),
+    : QGroupBox(tr("Themes"), parent), application_(application), ui_(ui), choosers_(choosers),
       content_(std::move(content)), lvwThemes_(new QListWidget),
       cmdLoadTheme_(
-          MakeButton(u"cmdLoadTheme"_s, u"Lo&ad theme"_s,
-                     u"Apply the selected theme's fonts, colours and table settings immediately"_s)),
-      cmdSaveTheme_(MakeButton(u"cmdSaveTheme"_s, u"&Save theme..."_s,
-                               u"Save the fonts, colours and table settings shown here as a theme"_s)),
+          MakeButton(u"cmdLoadTheme"_s, tr("Lo&ad theme"),
+                     tr("Apply the selected theme's fonts, colours and table settings immediately"))),
+      cmdSaveTheme_(MakeButton(u"cmdSaveTheme"_s, tr("&Save theme..."),
+                               tr("Save the fonts, colours and table settings shown here as a theme"))),
       cmdDeleteTheme_(
-          MakeButton(u"cmdDeleteTheme"_s, u"Delete the&me..."_s, u"Delete the selected theme's file"_s)),
+          MakeButton(u"cmdDeleteTheme"_s, tr("Delete the&me..."), tr("Delete the selected theme's file"))),
       lblThemeStatus_(new QLabel) {
-    NameControl(*lvwThemes_, u"lvwThemes"_s, u"Themes"_s, u"Double-click a theme to load it"_s);
+    NameControl(*lvwThemes_, u"lvwThemes"_s, tr("Themes"), tr("Double-click a theme to load it"));
     lvwThemes_->setMinimumHeight(lvwThemes_->fontMetrics().height() * 4);
     lblThemeStatus_->setObjectName(u"lblThemeStatus"_s);
     lblThemeStatus_->setTextFormat(Qt::PlainText);
-    auto* about =
-        new QLabel(u"Themes are preset colour, font, and table settings that you can import into your own "
-                   "settings.\n\nYou can also export your own settings as a theme."_s);
+    auto* about = new QLabel(tr("Themes are preset colour, font, and table settings that you can import into "
+                                "your own settings.\n\nYou can also export your own settings as a theme."));
     about->setObjectName(u"lblAboutThemes"_s);
     about->setWordWrap(true);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeLabelFor(*lvwThemes_, u"Availa&ble themes:"_s), 0, 0);
+    grid->addWidget(MakeLabelFor(*lvwThemes_, tr("Availa&ble themes:")), 0, 0);
     grid->addWidget(lvwThemes_, 1, 0, 4, 1);
     grid->addWidget(cmdLoadTheme_, 1, 1);
     grid->addWidget(cmdSaveTheme_, 2, 1);
@@ -100,13 +98,7 @@ std::string ThemePanel::SelectedTheme() const {
 }
 
 bool ThemePanel::Attempt(const std::function<void()>& command) {
-    try {
-        command();
-        return true;
-    } catch (const RunTimeError& error) {
-        ui_.ShowMessage(*window(), UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
-        return false;
-    }
+    return RunOrShowError(ui_, *window(), FromQt(tr("Error")), command);
 }
 
 void ThemePanel::LoadTheme(const std::string& name) {
@@ -119,33 +111,33 @@ void ThemePanel::LoadTheme(const std::string& name) {
     });
     if (applied) {
         emit ThemeLoaded();
-        lblThemeStatus_->setText(u"Theme loaded successfully."_s);
+        lblThemeStatus_->setText(tr("Theme loaded successfully."));
     }
 }
 
 void ThemePanel::SaveTheme() {
     const std::optional<QString> answer =
-        choosers_.text(window(), QString::fromLatin1(kSaveTitle), u"Please enter a name for your theme:"_s);
+        choosers_.text(window(), tr(kSaveTitle), tr("Please enter a name for your theme:"));
     const std::string name = FromQt(answer.value_or(QString()));
     if (TrimBlanks(name).empty()) {
         return;
     }
     if (!IsThemeName(name)) {
-        ui_.ShowMessage(*window(), kBadName, kOkExclamation, kErrorTitle);
+        ui_.ShowMessage(*window(), tr(kBadName), kOkExclamation, tr("Error"));
         return;
     }
     // Required: the status also says "saved" after No to overwriting. Do not "fix".
     const bool saved = Attempt([&] { WriteThemeFile(StoredThemePath(application_.programFolder, name)); });
     if (saved) {
-        lblThemeStatus_->setText(u"Theme saved successfully."_s);
+        lblThemeStatus_->setText(tr("Theme saved successfully."));
         ListThemes();
     }
 }
 
 void ThemePanel::WriteThemeFile(const std::string& path) {
     if (FileExists(path)) {
-        const int answer = ui_.ShowMessage(*window(), "This theme already exists!\r\n\r\nOverwrite?",
-                                           kYesNoQuestion, kSaveTitle);
+        const int answer = ui_.ShowMessage(*window(), tr("This theme already exists!\r\n\r\nOverwrite?"),
+                                           kYesNoQuestion, tr(kSaveTitle));
         if (answer != kAnswerYes) {
             return;
         }
@@ -158,9 +150,10 @@ void ThemePanel::WriteThemeFile(const std::string& path) {
 }
 
 void ThemePanel::DeleteTheme(const std::string& name) {
-    const std::string question =
-        "Are you sure you want to delete\r\nthe " + name + " theme?\r\n\r\nYou cannot recover it afterwards!";
-    if (ui_.ShowMessage(*window(), question, kYesNoExclamation, "Delete Theme") != kAnswerYes) {
+    const QString question = tr("Are you sure you want to delete\r\nthe %1 theme?\r\n\r\n"
+                                "You cannot recover it afterwards!")
+                                 .arg(ToQt(name));
+    if (ui_.ShowMessage(*window(), question, kYesNoExclamation, tr("Delete Theme")) != kAnswerYes) {
         return;
     }
     Attempt([&] { DeleteFile(StoredThemePath(application_.programFolder, name)); });

@@ -23,15 +23,11 @@ namespace {
 constexpr int kIconSize = 64;
 constexpr int kTextWidthInCharacters = 48;
 
-QString VersionSentence() {
-    return ToQt(std::string("Version ") + kMajorVersion + "." + kMinorVersion + " - Build " + kBuildNumber);
-}
-
 } // namespace
 
 frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget* parent) : QDialog(parent) {
     setObjectName(u"frmAbout"_s);
-    setWindowTitle(tr("About ") + ToQt(kProductTitle));
+    setWindowTitle(tr("About %1").arg(ToQt(kProductTitle)));
 
     auto* icon = new QLabel;
     icon->setPixmap(windowIcon().pixmap(kIconSize, kIconSize));
@@ -40,24 +36,25 @@ frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget*
     large.setPointSizeF(large.pointSizeF() * 1.6);
     large.setBold(true);
     title->setFont(large);
-    auto* lblVersion = new QLabel(VersionSentence());
+    auto* lblVersion = new QLabel(
+        tr("Version %1.%2 - Build %3").arg(ToQt(kMajorVersion), ToQt(kMinorVersion), ToQt(kBuildNumber)));
     NameControl(*lblVersion, u"lblVersion"_s, QString(), QString());
     auto* lblStats = new QLabel(ToQtDisplay(StatisticsText(application.statistics)).trimmed());
     NameControl(*lblStats, u"lblStats"_s, QString(), QString());
     lblStats->setWordWrap(true);
     lblStats->setMinimumWidth(fontMetrics().averageCharWidth() * kTextWidthInCharacters);
 
-    auto* cmdHomePage = new QPushButton(tr("&Home Page"));
-    NameControl(*cmdHomePage, u"cmdHomePage"_s, tr("Home page"), ToQt(kHomePage));
+    QPushButton* cmdHomePage = MakeButton(u"cmdHomePage"_s, tr("&Home Page"), ToQt(kHomePage));
     connect(cmdHomePage, &QPushButton::clicked, this,
             [this, &application, &ui] { OpenAddress(ToQt(kHomePage), application, ui, *this); });
-    auto* cmdEmail = new QPushButton(tr("&E-mail the Author"));
-    NameControl(*cmdEmail, u"cmdEmail"_s, tr("E-mail the author"), ToQt(kEmail));
+    QPushButton* cmdEmail = MakeButton(u"cmdEmail"_s, tr("&E-mail the Author"), ToQt(kEmail));
     connect(cmdEmail, &QPushButton::clicked, this,
             [this, &application, &ui] { OpenAddress(u"mailto:"_s + ToQt(kEmail), application, ui, *this); });
-    auto* cmdOK = new QPushButton(tr("&OK"));
-    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Close the window"));
+    QPushButton* cmdOK = MakeButton(u"cmdOK"_s, tr("&OK"), tr("Close the window"));
     cmdOK->setDefault(true);
+    for (QPushButton* button : {cmdHomePage, cmdEmail, cmdOK}) {
+        button->setAutoDefault(true); // Enter presses the focused button
+    }
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* texts = new QVBoxLayout;

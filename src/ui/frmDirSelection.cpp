@@ -1,10 +1,10 @@
 #include "frmDirSelection.h"
 
 #include "Controls.h"
+#include "ErrorMessage.h"
 #include "FileSystem.h"
 #include "FolderDrop.h"
 #include "FolderSetting.h"
-#include "Functions.h"
 #include "OpenHelp.h"
 #include "QtText.h"
 #include "Text.h"
@@ -87,29 +87,28 @@ void frmDirSelection::BuildList() {
     lvwDirs_->setAcceptDrops(true); // required for drags to reach the viewport
 }
 
-QPushButton* frmDirSelection::MakeButton(const char* name, const QString& caption, const QString& description,
-                                         void (frmDirSelection::*command)()) {
-    auto* button = new QPushButton(caption);
-    NameControl(*button, QString::fromLatin1(name), QString(caption).remove(u'&'), description);
-    button->setAutoDefault(false);
+QPushButton* frmDirSelection::MakeCommand(const QString& objectName, const QString& caption,
+                                          const QString& description, void (frmDirSelection::*command)()) {
+    QPushButton* button = MakeButton(objectName, caption, description);
     connect(button, &QPushButton::clicked, this, command);
     return button;
 }
 
 QWidget* frmDirSelection::BuildButtons() {
-    cmdAdd_ = MakeButton("cmdAdd", tr("&Add..."), tr("Append a folder to the list"), &frmDirSelection::Add);
-    cmdRemove_ = MakeButton("cmdRemove", tr("&Remove"), tr("Remove the selected folder from the list"),
-                            &frmDirSelection::Remove);
-    cmdClear_ =
-        MakeButton("cmdClear", tr("&Clear"), tr("Remove all folders from the list"), &frmDirSelection::Clear);
-    cmdTop_ = MakeButton("cmdTop", tr("&Top"), tr("Move the selected folder to the top"),
-                         &frmDirSelection::MoveTop);
-    cmdUp_ =
-        MakeButton("cmdUp", tr("&Up"), tr("Move the selected folder one row up"), &frmDirSelection::MoveUp);
-    cmdDown_ = MakeButton("cmdDown", tr("&Down"), tr("Move the selected folder one row down"),
-                          &frmDirSelection::MoveDown);
-    cmdBottom_ = MakeButton("cmdBottom", tr("&Bottom"), tr("Move the selected folder to the bottom"),
-                            &frmDirSelection::MoveBottom);
+    cmdAdd_ =
+        MakeCommand(u"cmdAdd"_s, tr("&Add..."), tr("Append a folder to the list"), &frmDirSelection::Add);
+    cmdRemove_ = MakeCommand(u"cmdRemove"_s, tr("&Remove"), tr("Remove the selected folder from the list"),
+                             &frmDirSelection::Remove);
+    cmdClear_ = MakeCommand(u"cmdClear"_s, tr("&Clear"), tr("Remove all folders from the list"),
+                            &frmDirSelection::Clear);
+    cmdTop_ = MakeCommand(u"cmdTop"_s, tr("&Top"), tr("Move the selected folder to the top"),
+                          &frmDirSelection::MoveTop);
+    cmdUp_ = MakeCommand(u"cmdUp"_s, tr("&Up"), tr("Move the selected folder one row up"),
+                         &frmDirSelection::MoveUp);
+    cmdDown_ = MakeCommand(u"cmdDown"_s, tr("&Down"), tr("Move the selected folder one row down"),
+                           &frmDirSelection::MoveDown);
+    cmdBottom_ = MakeCommand(u"cmdBottom"_s, tr("&Bottom"), tr("Move the selected folder to the bottom"),
+                             &frmDirSelection::MoveBottom);
 
     auto* panel = new QWidget;
     auto* layout = new QVBoxLayout(panel);
@@ -126,10 +125,10 @@ QWidget* frmDirSelection::BuildButtons() {
 }
 
 QWidget* frmDirSelection::BuildBottomRow() {
-    auto* cmdHelp = MakeButton("cmdHelp", tr("&Help"), tr("Open the help file"), &frmDirSelection::Help);
+    auto* cmdHelp = MakeCommand(u"cmdHelp"_s, tr("&Help"), tr("Open the help file"), &frmDirSelection::Help);
     PressOnHelpKey(*this, *cmdHelp);
     auto* cmdOK =
-        MakeButton("cmdOK", tr("&OK"), tr("Use this list and close the window"), &frmDirSelection::Use);
+        MakeCommand(u"cmdOK"_s, tr("&OK"), tr("Use this list and close the window"), &frmDirSelection::Use);
     cmdOK->setDefault(true);
 
     auto* row = new QWidget;
@@ -149,12 +148,9 @@ void frmDirSelection::OKPressed_MakeDirs() {
 }
 
 void frmDirSelection::AddFolder(const std::string& folder) {
-    try {
-        if (!FolderExists(folder)) {
-            return;
-        }
-    } catch (const RunTimeError& error) {
-        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
+    bool exists = false;
+    RunOrShowError(ui_, *this, application_.errorTitle, [&] { exists = FolderExists(folder); });
+    if (!exists) {
         return;
     }
     const std::vector<std::string> rows = Rows();
@@ -192,8 +188,8 @@ void frmDirSelection::Clear() {
     if (lvwDirs_->topLevelItemCount() == 0) {
         return;
     }
-    const int answer = ui_.ShowMessage(*this, "Are you sure you want\r\nto clear the list?",
-                                       kOkCancelQuestion, "Clear Directories?");
+    const int answer = ui_.ShowMessage(*this, tr("Are you sure you want\r\nto clear the list?"),
+                                       kOkCancelQuestion, tr("Clear Directories?"));
     if (answer != kAnswerCancel) {
         lvwDirs_->clear();
         UpdateState();

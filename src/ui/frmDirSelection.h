@@ -33,8 +33,8 @@ class frmDirSelection final : public QDialog {
     void done(int result) override;
 
   private:
-    QPushButton* MakeButton(const char* name, const QString& caption, const QString& description,
-                            void (frmDirSelection::*command)());
+    QPushButton* MakeCommand(const QString& objectName, const QString& caption, const QString& description,
+                             void (frmDirSelection::*command)());
     void BuildList();
     QWidget* BuildButtons();
     QWidget* BuildBottomRow();

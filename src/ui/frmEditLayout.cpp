@@ -26,7 +26,6 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr const char* kValidationTitle = "Error";
 constexpr QSize kUsualSize{1040, 600};
 const QList<int> kUsualShares{490, 530};
 
@@ -43,15 +42,15 @@ frmEditLayout::frmEditLayout(Application& application, WindowInterface& ui, QWid
           return settings;
       })) {
     setObjectName(u"frmEditLayout"_s);
-    setWindowTitle(u"Edit Layout"_s);
+    setWindowTitle(tr("Edit Layout"));
     setSizeGripEnabled(true);
-    NameControl(*tabStrip_, u"TabStrip"_s, u"Pages of the layout editor"_s, {});
+    NameControl(*tabStrip_, u"TabStrip"_s, tr("Pages of the layout editor"), {});
     tabStrip_->setUsesScrollButtons(false); // keeps all tab titles visible
-    AddPage(columns_, u"&Columns"_s);
-    AddPage(fonts_, u"&Fonts"_s);
-    AddPage(colours_, u"Co&lours"_s);
-    AddPage(table_, u"&Table"_s);
-    AddPage(document_, u"&Document and themes"_s);
+    AddPage(columns_, tr("&Columns"));
+    AddPage(fonts_, tr("&Fonts"));
+    AddPage(colours_, tr("Co&lours"));
+    AddPage(table_, tr("&Table"));
+    AddPage(document_, tr("&Document and themes"));
 
     auto* splitter = new QSplitter;
     splitter->addWidget(tabStrip_);
@@ -77,11 +76,11 @@ void frmEditLayout::AddPage(QWidget* page, const QString& title) {
 }
 
 QBoxLayout* frmEditLayout::BuildButtons() {
-    cmdHelp_ = MakeButton(u"cmdHelp"_s, u"&Help"_s, u"Open the help file"_s);
+    cmdHelp_ = MakeButton(u"cmdHelp"_s, tr("&Help"), tr("Open the help file"));
     chkPreview_ =
-        MakeCheckBox(u"chkPreview"_s, u"Show pre&view"_s, u"Show a sample listing with this layout"_s);
-    cmdOK_ = MakeButton(u"cmdOK"_s, u"&OK"_s, u"Use this layout"_s);
-    cmdCancel_ = MakeButton(u"cmdCancel"_s, u"Ca&ncel"_s, u"Discard all changes except a loaded theme"_s);
+        MakeCheckBox(u"chkPreview"_s, tr("Show pre&view"), tr("Show a sample listing with this layout"));
+    cmdOK_ = MakeButton(u"cmdOK"_s, tr("&OK"), tr("Use this layout"));
+    cmdCancel_ = MakeButton(u"cmdCancel"_s, tr("Ca&ncel"), tr("Discard all changes except a loaded theme"));
     PressOnHelpKey(*this, *cmdHelp_);
     chkPreview_->setChecked(true);
     cmdOK_->setDefault(true);
@@ -152,7 +151,7 @@ void frmEditLayout::UseLayout() {
     // Required: stored even if a check below fails. Do not "fix".
     application_.settings.DocumentType = document_->DocumentType();
     if (const auto fault = table_->FirstFault()) {
-        ui_.ShowMessage(*this, fault->message, kOkExclamation, kValidationTitle);
+        ui_.ShowMessage(*this, fault->message, kOkExclamation, tr("Error"));
         tabStrip_->setCurrentWidget(table_);
         FocusAndSelectAll(*fault->box);
         return;

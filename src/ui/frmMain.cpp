@@ -2,9 +2,9 @@
 
 #include "Controls.h"
 #include "DefaultSettings.h"
+#include "ErrorMessage.h"
 #include "FolderDrop.h"
 #include "FolderSetting.h"
-#include "Functions.h"
 #include "OpenHelp.h"
 #include "PlaceholderMenu.h"
 #include "Product.h"
@@ -40,10 +40,13 @@ namespace {
 constexpr int kFieldWidthInCharacters = 40;
 constexpr int kFirstWidthInCharacters = 100; // initial width of the window
 
-// Required: this list ends in "|". Do not "fix".
-constexpr auto kOutputFilters =
-    u"HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|Winamp Playlist (*.m3u)|*.m3u|";
-constexpr auto kSettingsFilters = u"Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*";
+// Filter lists; only the descriptions are to be translated.
+// Required: the first list ends in "|". Do not "fix".
+constexpr const char* kOutputFilters =
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|"
+                                          "Winamp Playlist (*.m3u)|*.m3u|");
+constexpr const char* kSettingsFilters =
+    QT_TRANSLATE_NOOP("tunedex::frmMain", "Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*");
 
 QAction* AddItem(QMenu& menu, const char* name, const QString& text, const QString& description,
                  const QKeySequence& shortcut = {}) {
@@ -70,7 +73,7 @@ void ShowModal(QDialog* window) {
 frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs)
     : application_(application), ui_(ui), dialogs_(dialogs) {
     setObjectName(u"frmMain"_s);
-    setWindowTitle(ToQt(kProductTitle) + u" v"_s + ToQt(kVersionText));
+    setWindowTitle(tr("%1 v%2").arg(ToQt(kProductTitle), ToQt(kVersionText)));
     BuildFields();
     BuildMenus();
     BuildPlaceholderMenu();
@@ -93,9 +96,8 @@ frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs
 void frmMain::BuildFields() {
     txtInputDir_ = MakeTextField(u"txtInputDir"_s, tr("Folder"),
                                  tr("The folder to search for MP3 files. Folders can be dropped here."));
-    chkMultipleDirs_ = new QCheckBox(tr("Search &multiple folders"));
-    NameControl(*chkMultipleDirs_, u"chkMultipleDirs"_s, tr("Search multiple folders"),
-                tr("Search a list of folders instead of one"));
+    chkMultipleDirs_ = MakeCheckBox(u"chkMultipleDirs"_s, tr("Search &multiple folders"),
+                                    tr("Search a list of folders instead of one"));
     txtOutputFile_ =
         MakeTextField(u"txtOutputFile"_s, tr("Output file"), tr("The file to write the list to"));
     txtWindowTitle_ =
@@ -158,18 +160,12 @@ void frmMain::BuildPlaceholderMenu() {
     mnuPlaceholders_->setObjectName(u"mnuPlaceholders"_s);
     for (std::size_t i = 0; i < kTitlePlaceholders.size(); ++i) {
         const QString placeholder = ToQt(kTitlePlaceholders[i]);
-        QAction* action = mnuPlaceholders_->addAction(placeholder + u" - "_s + ToQt(kPlaceholderMeanings[i]));
+        QAction* action =
+            mnuPlaceholders_->addAction(tr("%1 - %2").arg(placeholder, tr(kPlaceholderMeanings[i])));
         action->setObjectName(u"itmPlaceholder"_s);
         connect(action, &QAction::triggered, this,
                 [this, placeholder] { placeholderTarget_->InsertPlaceholder(placeholder); });
     }
-}
-
-QPushButton* frmMain::MakeButton(const char* name, const QString& caption, const QString& accessibleName,
-                                 const QString& description) {
-    auto* button = new QPushButton(caption);
-    NameControl(*button, QString::fromLatin1(name), accessibleName, description);
-    return button;
 }
 
 int frmMain::LabelWidth() const {
@@ -178,10 +174,10 @@ int frmMain::LabelWidth() const {
 
 QGroupBox* frmMain::BuildFolderGroup() {
     lblInputDir_ = MakeLabelFor(*txtInputDir_, tr("Fol&der:"));
-    cmdSelectDir_ =
-        MakeButton("cmdSelectDir", tr("&Browse..."), tr("Browse for the folder"), tr("Choose the folder"));
-    cmdSelectDirs_ = MakeButton("cmdSelectDirs", tr("Folder &List..."), tr("Folder list"),
-                                tr("Edit the list of folders to search"));
+    cmdSelectDir_ = MakeButton(u"cmdSelectDir"_s, tr("&Browse..."), tr("Choose the folder"));
+    cmdSelectDir_->setAccessibleName(tr("Browse for the folder"));
+    cmdSelectDirs_ =
+        MakeButton(u"cmdSelectDirs"_s, tr("Folder &List..."), tr("Edit the list of folders to search"));
     lblFolderCount_ = new QLabel;
     NameControl(*lblFolderCount_, u"lblFolderCount"_s, QString(), QString());
     connect(cmdSelectDir_, &QPushButton::clicked, this, &frmMain::BrowseFolder);
@@ -208,8 +204,8 @@ QGroupBox* frmMain::BuildFolderGroup() {
 
 QGroupBox* frmMain::BuildOutputGroup() {
     cmdSelectOutputFile_ =
-        MakeButton("cmdSelectOutputFile", tr("Bro&wse..."), tr("Browse for the output file"),
-                   tr("Choose the folder and name of the list"));
+        MakeButton(u"cmdSelectOutputFile"_s, tr("Bro&wse..."), tr("Choose the folder and name of the list"));
+    cmdSelectOutputFile_->setAccessibleName(tr("Browse for the output file"));
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
     auto* hint =
         new QLabel(tr("The extension sets the format: .htm web page, .txt plain text, .m3u playlist."));
@@ -228,12 +224,12 @@ QGroupBox* frmMain::BuildOutputGroup() {
 
 QGroupBox* frmMain::BuildTitleGroup() {
     const QString description = tr("Insert a placeholder for the date, the time, a count or a size");
-    cmdWindowTitlePlaceHolders_ = MakeButton("cmdWindowTitlePlaceHolders", tr("&Insert..."),
-                                             tr("Placeholders for the window title"), description);
-    cmdPageTitlePlaceHolders_ = MakeButton("cmdPageTitlePlaceHolders", tr("I&nsert..."),
-                                           tr("Placeholders for the page title"), description);
-    cmdPageFooterPlaceHolders_ = MakeButton("cmdPageFooterPlaceHolders", tr("Ins&ert..."),
-                                            tr("Placeholders for the page footer"), description);
+    cmdWindowTitlePlaceHolders_ = MakeButton(u"cmdWindowTitlePlaceHolders"_s, tr("&Insert..."), description);
+    cmdWindowTitlePlaceHolders_->setAccessibleName(tr("Placeholders for the window title"));
+    cmdPageTitlePlaceHolders_ = MakeButton(u"cmdPageTitlePlaceHolders"_s, tr("I&nsert..."), description);
+    cmdPageTitlePlaceHolders_->setAccessibleName(tr("Placeholders for the page title"));
+    cmdPageFooterPlaceHolders_ = MakeButton(u"cmdPageFooterPlaceHolders"_s, tr("Ins&ert..."), description);
+    cmdPageFooterPlaceHolders_->setAccessibleName(tr("Placeholders for the page footer"));
 
     auto* group = new QGroupBox(tr("Titles of web pages"));
     auto* grid = new QGridLayout(group);
@@ -252,13 +248,11 @@ QGroupBox* frmMain::BuildTitleGroup() {
 }
 
 QWidget* frmMain::BuildCommandRow() {
-    cmdOptions_ =
-        MakeButton("cmdOptions", tr("Option&s..."), tr("Options"), tr("Contents and layout of the list"));
-    cmdAbout_ =
-        MakeButton("cmdAbout", tr("&About..."), tr("About Tunedex"), tr("Show version and statistics"));
-    cmdQuit_ = MakeButton("cmdQuit", tr("&Quit"), tr("Quit"), tr("Quit the program"));
-    cmdCreateList_ = MakeButton("cmdCreateList", tr("&Create List"), tr("Create list"),
-                                tr("Search the folders and write the list"));
+    cmdOptions_ = MakeButton(u"cmdOptions"_s, tr("Option&s..."), tr("Contents and layout of the list"));
+    cmdAbout_ = MakeButton(u"cmdAbout"_s, tr("&About..."), tr("Show version and statistics"));
+    cmdQuit_ = MakeButton(u"cmdQuit"_s, tr("&Quit"), tr("Quit the program"));
+    cmdCreateList_ =
+        MakeButton(u"cmdCreateList"_s, tr("&Create List"), tr("Search the folders and write the list"));
     cmdCreateList_->setDefault(true); // appearance only: Enter is handled by returnPressed()
     connect(cmdOptions_, &QPushButton::clicked, this, &frmMain::OptionsRequested);
     connect(cmdAbout_, &QPushButton::clicked, this, &frmMain::ShowAbout);
@@ -364,9 +358,8 @@ void frmMain::TakeDroppedFolders(const std::vector<std::string>& folders) {
 }
 
 void frmMain::BrowseOutputFile() {
-    const auto file =
-        dialogs_.ChooseFile(this, {tr("Select the Output File"), QString::fromUtf16(kOutputFilters),
-                                   FromQt(txtOutputFile_->text()), true});
+    const auto file = dialogs_.ChooseFile(
+        this, {tr("Select the Output File"), tr(kOutputFilters), FromQt(txtOutputFile_->text()), true});
     if (file) {
         txtOutputFile_->setText(ToQt(*file));
     }
@@ -379,17 +372,17 @@ void frmMain::OpenPlaceholderMenu(TitleField& field, QPushButton& button) {
 }
 
 void frmMain::OpenSettings() {
-    const auto path = dialogs_.ChooseFile(
-        this, {tr("Open Settings"), QString::fromUtf16(kSettingsFilters), settingsPath_, false});
+    const auto path =
+        dialogs_.ChooseFile(this, {tr("Open Settings"), tr(kSettingsFilters), settingsPath_, false});
     if (!path) {
         return;
     }
-    Guarded([&] {
+    RunOrShowError(ui_, *this, application_.errorTitle, [&] {
         const LoadOutcome outcome = LoadSettings(application_.settings, *path, application_.programFolder,
                                                  DefaultSettings(), application_.faults);
         if (outcome == LoadOutcome::Missing) {
-            ui_.ShowMessage(*this, "The specified settings file\r\ndoes not exist!", kOkExclamation,
-                            application_.errorTitle);
+            ui_.ShowMessage(*this, tr("The specified settings file\r\ndoes not exist!"), kOkExclamation,
+                            ToQt(application_.errorTitle));
             return;
         }
         settingsPath_ = *path;
@@ -402,15 +395,15 @@ void frmMain::SaveSettings() {
 }
 
 void frmMain::SaveSettingsAs() {
-    const auto path = dialogs_.ChooseFile(
-        this, {tr("Save Settings As"), QString::fromUtf16(kSettingsFilters), settingsPath_, true});
+    const auto path =
+        dialogs_.ChooseFile(this, {tr("Save Settings As"), tr(kSettingsFilters), settingsPath_, true});
     if (path) {
         SaveSettingsTo(*path);
     }
 }
 
 void frmMain::SaveSettingsTo(const std::string& path) {
-    Guarded([&] {
+    RunOrShowError(ui_, *this, application_.errorTitle, [&] {
         ui_.TakeControls(application_.settings);
         const std::string unsaved = SaveSettingsCommand(application_, path);
         settingsPath_ = path.empty() ? path : SettingsPath(path, application_.programFolder);
@@ -418,14 +411,6 @@ void frmMain::SaveSettingsTo(const std::string& path) {
             ui_.ShowMessage(*this, unsaved, kOkExclamation, kUnsavedSettingsTitle);
         }
     });
-}
-
-void frmMain::Guarded(const std::function<void()>& command) {
-    try {
-        command();
-    } catch (const RunTimeError& error) {
-        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
-    }
 }
 
 void frmMain::ShowHelp() {
@@ -449,8 +434,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
         return;
     }
     if (application_.settings.ConfirmQuit) {
-        const int answer =
-            ui_.ShowMessage(*this, "Do you really want\r\nto quit Tunedex?", kOkCancelQuestion, "Quit?");
+        const int answer = ui_.ShowMessage(*this, tr("Do you really want\r\nto quit Tunedex?"),
+                                           kOkCancelQuestion, tr("Quit?"));
         if (answer == kAnswerCancel) {
             event->ignore();
             return;

@@ -7,7 +7,6 @@
 
 #include <QMainWindow>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -53,8 +52,6 @@ class frmMain final : public QMainWindow {
     QGroupBox* BuildOutputGroup();
     QGroupBox* BuildTitleGroup();
     QWidget* BuildCommandRow();
-    QPushButton* MakeButton(const char* name, const QString& caption, const QString& accessibleName,
-                            const QString& description);
     int LabelWidth() const; // of the longest label; aligns the fields of all groups
     void OrderControls();
 
@@ -70,8 +67,6 @@ class frmMain final : public QMainWindow {
     void SaveSettings();
     void SaveSettingsAs();
     void SaveSettingsTo(const std::string& path);
-    // Runs a command and shows the run-time error it raises.
-    void Guarded(const std::function<void()>& command);
 
     void ShowHelp();
     void ShowAbout();

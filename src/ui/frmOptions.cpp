@@ -1,7 +1,7 @@
 #include "frmOptions.h"
 
 #include "Controls.h"
-#include "Functions.h"
+#include "ErrorMessage.h"
 #include "NumberBox.h"
 #include "OpenHelp.h"
 #include "OptionGroup.h"
@@ -30,8 +30,6 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr const char* kErrorTitle = "Error";
-
 struct Option {
     QString objectName;
     QString text;
@@ -54,7 +52,7 @@ frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* p
     : QDialog(parent), application_(application), ui_(ui), sizeType_(new OptionGroup(this)),
       sortOrder_(new OptionGroup(this)), linkType_(new OptionGroup(this)) {
     setObjectName(u"frmOptions"_s);
-    setWindowTitle(u"Options"_s);
+    setWindowTitle(tr("Options"));
 
     auto* grid = new QGridLayout;
     grid->addWidget(BuildListGroup(), 0, 0, 1, 2);
@@ -75,19 +73,19 @@ frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* p
 }
 
 QGroupBox* frmOptions::BuildListGroup() {
-    chkRecursive_ = MakeCheckBox(u"chkRecursive"_s, u"Search &subfolders"_s,
-                                 u"Also search the folders below the input folder"_s);
-    chkSpan_ = MakeCheckBox(u"chkSpan"_s, u"Split HTML listings into &pages"_s,
-                            u"Write several linked pages instead of one long page"_s);
+    chkRecursive_ = MakeCheckBox(u"chkRecursive"_s, tr("Search &subfolders"),
+                                 tr("Also search the folders below the input folder"));
+    chkSpan_ = MakeCheckBox(u"chkSpan"_s, tr("Split HTML listings into &pages"),
+                            tr("Write several linked pages instead of one long page"));
     txtFilesPerPage_ =
-        new NumberBox(u"txtFilesPerPage"_s, u"Files per page"_s, u"Number of MP3 files on each page"_s);
+        new NumberBox(u"txtFilesPerPage"_s, tr("Files per page"), tr("Number of MP3 files on each page"));
     connect(chkSpan_, &QCheckBox::toggled, this, &frmOptions::EnableSpanning);
 
-    auto* group = new QGroupBox(u"Searching and pages"_s);
+    auto* group = new QGroupBox(tr("Searching and pages"));
     auto* pages = new QHBoxLayout;
     pages->addWidget(chkSpan_);
     pages->addStretch();
-    pages->addWidget(MakeLabelFor(*txtFilesPerPage_, u"&Files per page:"_s));
+    pages->addWidget(MakeLabelFor(*txtFilesPerPage_, tr("&Files per page:")));
     pages->addWidget(txtFilesPerPage_);
     txtFilesPerPage_->setFixedWidth(txtFilesPerPage_->fontMetrics().horizontalAdvance(u'0') * 8 + 16);
     auto* layout = new QVBoxLayout(group);
@@ -97,38 +95,39 @@ QGroupBox* frmOptions::BuildListGroup() {
 }
 
 QGroupBox* frmOptions::BuildSizeGroup() {
-    auto* group = new QGroupBox(u"Show file sizes in"_s);
+    auto* group = new QGroupBox(tr("Show file sizes in"));
     group->setObjectName(u"fraSizeOptions"_s);
     auto* layout = new QVBoxLayout;
     AddOptions(*sizeType_, *layout,
-               {{u"optBytes"_s, u"&Bytes"_s, u"1,234,567 b."_s},
-                {u"optKilobytes"_s, u"&Kilobytes"_s, u"1,205.63 kB"_s},
-                {u"optMegabytes"_s, u"&Megabytes"_s, u"1.18 MB"_s}});
+               {{u"optBytes"_s, tr("&Bytes"), tr("1,234,567 b.")},
+                {u"optKilobytes"_s, tr("&Kilobytes"), tr("1,205.63 kB")},
+                {u"optMegabytes"_s, tr("&Megabytes"), tr("1.18 MB")}});
     group->setLayout(layout);
     return group;
 }
 
 QGroupBox* frmOptions::BuildSortGroup() {
-    auto* group = new QGroupBox(u"Sort by artist, album and title"_s);
+    auto* group = new QGroupBox(tr("Sort by artist, album and title"));
     group->setObjectName(u"fraSortOrder"_s);
     auto* layout = new QVBoxLayout;
     AddOptions(*sortOrder_, *layout,
-               {{u"optNoSort"_s, u"&No sorting"_s, u"List files in the order they are found"_s},
-                {u"optAscSort"_s, u"&Ascending"_s, u"A to Z"_s},
-                {u"optDescSort"_s, u"&Descending"_s, u"Z to A"_s}});
+               {{u"optNoSort"_s, tr("&No sorting"), tr("List files in the order they are found")},
+                {u"optAscSort"_s, tr("&Ascending"), tr("A to Z")},
+                {u"optDescSort"_s, tr("&Descending"), tr("Z to A")}});
     group->setLayout(layout);
     return group;
 }
 
 QGroupBox* frmOptions::BuildErrorGroup() {
-    chkErrorBoxes_ = MakeCheckBox(u"chkErrorBoxes"_s, u"Show &errors in message boxes"_s,
-                                  u"Show a message for each folder or file that cannot be read"_s);
-    chkErrorLog_ = MakeCheckBox(u"chkErrorLog"_s, u"&Write errors to a log file"_s,
-                                u"Write the errors of the latest run to Tunedex.log in the program folder"_s);
-    chkConfirmQuit_ = MakeCheckBox(u"chkConfirmQuit"_s, u"Ask before &quitting"_s,
-                                   u"Ask for confirmation before quitting"_s);
+    chkErrorBoxes_ = MakeCheckBox(u"chkErrorBoxes"_s, tr("Show &errors in message boxes"),
+                                  tr("Show a message for each folder or file that cannot be read"));
+    chkErrorLog_ =
+        MakeCheckBox(u"chkErrorLog"_s, tr("&Write errors to a log file"),
+                     tr("Write the errors of the latest run to Tunedex.log in the program folder"));
+    chkConfirmQuit_ = MakeCheckBox(u"chkConfirmQuit"_s, tr("Ask before &quitting"),
+                                   tr("Ask for confirmation before quitting"));
 
-    auto* group = new QGroupBox(u"Errors and questions"_s);
+    auto* group = new QGroupBox(tr("Errors and questions"));
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(chkErrorBoxes_);
     layout->addWidget(chkErrorLog_);
@@ -137,22 +136,22 @@ QGroupBox* frmOptions::BuildErrorGroup() {
 }
 
 QGroupBox* frmOptions::BuildLinkGroup() {
-    chkLinks_ = MakeCheckBox(u"chkLinks"_s, u"&Link each entry to its file"_s,
-                             u"Add a column with links to the MP3 files"_s);
-    txtLinkPrefix_ = MakeTextField(u"txtLinkPrefix"_s, u"Link prefix"_s,
-                                   u"Text before every link, for example file:/// or a web address"_s);
+    chkLinks_ = MakeCheckBox(u"chkLinks"_s, tr("&Link each entry to its file"),
+                             tr("Add a column with links to the MP3 files"));
+    txtLinkPrefix_ = MakeTextField(u"txtLinkPrefix"_s, tr("Link prefix"),
+                                   tr("Text before every link, for example file:/// or a web address"));
     connect(chkLinks_, &QCheckBox::toggled, this, &frmOptions::EnableLinks);
 
-    auto* group = new QGroupBox(u"Links in HTML listings"_s);
+    auto* group = new QGroupBox(tr("Links in HTML listings"));
     group->setObjectName(u"fraLinks"_s);
     auto* options = new QHBoxLayout;
     AddOptions(*linkType_, *options,
-               {{u"optNormalLinks"_s, u"N&ormal"_s, u"The full path of the file"_s},
-                {u"optUNIXLinks"_s, u"UN&IX style"_s, u"A slash and the full path without colons"_s},
-                {u"optRelativeLinks"_s, u"&Relative"_s, u"The path relative to the input folder"_s}});
+               {{u"optNormalLinks"_s, tr("N&ormal"), tr("The full path of the file")},
+                {u"optUNIXLinks"_s, tr("UN&IX style"), tr("A slash and the full path without colons")},
+                {u"optRelativeLinks"_s, tr("&Relative"), tr("The path relative to the input folder")}});
     options->addStretch();
     auto* prefix = new QHBoxLayout;
-    prefix->addWidget(MakeLabelFor(*txtLinkPrefix_, u"Link prefi&x:"_s));
+    prefix->addWidget(MakeLabelFor(*txtLinkPrefix_, tr("Link prefi&x:")));
     prefix->addWidget(txtLinkPrefix_);
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(chkLinks_);
@@ -163,11 +162,11 @@ QGroupBox* frmOptions::BuildLinkGroup() {
 
 QLayout* frmOptions::BuildButtons() {
     cmdEditLayout_ =
-        MakeButton(u"cmdEditLayout"_s, u"Edit la&yout..."_s,
-                   u"Edit columns, fonts, colours, table, document type and themes of HTML listings"_s);
-    cmdUse_ = MakeButton(u"cmdUse"_s, u"&Use"_s, u"Apply until you quit"_s);
-    cmdSave_ = MakeButton(u"cmdSave"_s, u"Sa&ve"_s, u"Apply, and save all settings as the default"_s);
-    cmdCancel_ = MakeButton(u"cmdCancel"_s, u"&Cancel"_s, u"Close without changing anything"_s);
+        MakeButton(u"cmdEditLayout"_s, tr("Edit la&yout..."),
+                   tr("Edit columns, fonts, colours, table, document type and themes of HTML listings"));
+    cmdUse_ = MakeButton(u"cmdUse"_s, tr("&Use"), tr("Apply until you quit"));
+    cmdSave_ = MakeButton(u"cmdSave"_s, tr("Sa&ve"), tr("Apply, and save all settings as the default"));
+    cmdCancel_ = MakeButton(u"cmdCancel"_s, tr("&Cancel"), tr("Close without changing anything"));
     cmdUse_->setDefault(true);
     connect(cmdEditLayout_, &QPushButton::clicked, this, &frmOptions::EditLayout);
     connect(cmdUse_, &QPushButton::clicked, this, &frmOptions::Use);
@@ -185,7 +184,7 @@ QLayout* frmOptions::BuildButtons() {
 
 void frmOptions::BuildMenu() {
     auto* bar = new QMenuBar;
-    QAction* topics = bar->addMenu(u"&Help"_s)->addAction(u"Help &topics"_s);
+    QAction* topics = bar->addMenu(tr("&Help"))->addAction(tr("Help &topics"));
     topics->setObjectName(u"itmHelpTopics"_s);
     topics->setShortcut(QKeySequence::HelpContents);
     connect(topics, &QAction::triggered, this, [this] { OpenHelp(application_, ui_, *this); });
@@ -204,9 +203,7 @@ void frmOptions::SetTabOrder() {
         order << option;
     }
     order << txtLinkPrefix_ << cmdEditLayout_ << cmdUse_ << cmdSave_ << cmdCancel_;
-    for (qsizetype i = 1; i < order.size(); ++i) {
-        setTabOrder(order[i - 1], order[i]);
-    }
+    SetTabOrders(order);
 }
 
 frmEditLayout* frmOptions::Editor() const {
@@ -285,9 +282,10 @@ bool frmOptions::Validate() {
     if (!txtFilesPerPage_->isEnabled() || txtFilesPerPage_->HoldsSetting()) {
         return true;
     }
-    const char* fault = txtFilesPerPage_->IsNumeric() ? "Files per page must be between -32768 and 32767."
-                                                      : "Files per page must be a numeric value.";
-    ui_.ShowMessage(*this, fault, kOkExclamation, kErrorTitle);
+    const QString fault = txtFilesPerPage_->IsNumeric()
+                              ? tr("Files per page must be between -32768 and 32767.")
+                              : tr("Files per page must be a numeric value.");
+    ui_.ShowMessage(*this, fault, kOkExclamation, tr("Error"));
     FocusAndSelectAll(*txtFilesPerPage_);
     return false;
 }
@@ -327,16 +325,15 @@ void frmOptions::Save() {
         return;
     }
     ui_.TakeControls(application_.settings);
-    try {
+    const bool saved = RunOrShowError(ui_, *this, FromQt(tr("Error")), [this] {
         const std::string unsaved = SaveSettingsCommand(application_, "");
         if (!unsaved.empty()) {
             ui_.ShowMessage(*this, unsaved, kOkExclamation, kUnsavedSettingsTitle);
         }
-    } catch (const RunTimeError& error) {
-        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, kErrorTitle);
-        return;
+    });
+    if (saved) {
+        accept();
     }
-    accept();
 }
 
 void frmOptions::EditLayout() {

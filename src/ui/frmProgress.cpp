@@ -15,15 +15,13 @@ namespace tunedex {
 
 frmProgress::frmProgress(QWidget& mainWindow)
     : QDialog(&mainWindow), mainWindow_(mainWindow), focusBefore_(mainWindow.focusWidget()),
-      lblStatus_(new QLabel), progressBar_(new QProgressBar), cmdAbort_(new QPushButton(tr("&Abort"))) {
+      lblStatus_(new QLabel), progressBar_(new QProgressBar),
+      cmdAbort_(MakeButton(u"cmdAbort"_s, tr("&Abort"),
+                           tr("Stop the run. Tracks already written stay in the list."))) {
     setObjectName(u"frmProgress"_s);
     setWindowTitle(tr("Creating List"));
     NameControl(*lblStatus_, u"lblStatus"_s, QString(), QString());
     NameControl(*progressBar_, u"ProgressBar"_s, tr("Progress"), tr("Progress of the run"));
-    NameControl(*cmdAbort_, u"cmdAbort"_s, tr("Abort"),
-                tr("Stop the run. Tracks already written stay in the list."));
-    // Otherwise auto-repeat of the Enter key that started the run would abort it.
-    cmdAbort_->setAutoDefault(false);
     connect(cmdAbort_, &QPushButton::clicked, this, &frmProgress::AbortPressed);
 
     // Fits the longest status text, so the window keeps its size as the numbers grow.

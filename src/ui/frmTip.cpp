@@ -1,8 +1,8 @@
 #include "frmTip.h"
 
 #include "Controls.h"
+#include "ErrorMessage.h"
 #include "FileSystem.h"
-#include "Functions.h"
 #include "Numbers.h"
 #include "QtText.h"
 #include "Text.h"
@@ -31,21 +31,20 @@ bool TipsOnStartup(const Registry& registry) {
 
 frmTip::frmTip(Application& application, WindowInterface& ui, QWidget* parent)
     : QDialog(parent), application_(application), ui_(ui), lblTipText_(new QLabel),
-      chkLoadTipsAtStartup_(new QCheckBox(tr("&Show tips at start-up"))) {
+      chkLoadTipsAtStartup_(MakeCheckBox(u"chkLoadTipsAtStartup"_s, tr("&Show tips at start-up"),
+                                         tr("Show a tip each time the program starts"))) {
     setObjectName(u"frmTip"_s);
     setWindowTitle(tr("Tip of the Day"));
-    NameControl(*chkLoadTipsAtStartup_, u"chkLoadTipsAtStartup"_s, tr("Show tips at start-up"),
-                tr("Show a tip each time the program starts"));
 
-    auto* cmdNextTip = new QPushButton(tr("&Next Tip"));
-    NameControl(*cmdNextTip, u"cmdNextTip"_s, tr("Next tip"), tr("Show the next tip"));
+    QPushButton* cmdNextTip = MakeButton(u"cmdNextTip"_s, tr("&Next Tip"), tr("Show the next tip"));
     connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::DoNextTip);
-    auto* cmdRandomTip = new QPushButton(tr("&Random Tip"));
-    NameControl(*cmdRandomTip, u"cmdRandomTip"_s, tr("Random tip"), tr("Show a random tip"));
+    QPushButton* cmdRandomTip = MakeButton(u"cmdRandomTip"_s, tr("&Random Tip"), tr("Show a random tip"));
     connect(cmdRandomTip, &QPushButton::clicked, this, &frmTip::DoRandomTip);
-    auto* cmdOK = new QPushButton(tr("&OK"));
-    NameControl(*cmdOK, u"cmdOK"_s, tr("OK"), tr("Save the choice and close the window"));
+    QPushButton* cmdOK = MakeButton(u"cmdOK"_s, tr("&OK"), tr("Save the choice and close the window"));
     cmdOK->setDefault(true);
+    for (QPushButton* button : {cmdNextTip, cmdRandomTip, cmdOK}) {
+        button->setAutoDefault(true); // Enter presses the focused button
+    }
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* buttons = new QHBoxLayout;
@@ -89,11 +88,9 @@ QWidget* frmTip::MakeTipPanel() {
 }
 
 void frmTip::LoadTips() {
-    try {
+    RunOrShowError(ui_, *this, application_.errorTitle, [this] {
         tips_.Load(TipsPath(application_.registry, RunningProgramFolder(), application_.programFolder));
-    } catch (const RunTimeError& error) {
-        ui_.ShowMessage(*this, UnexpectedErrorText(error), kOkExclamation, application_.errorTitle);
-    }
+    });
 }
 
 void frmTip::DoNextTip() {
