@@ -269,6 +269,7 @@ void frmDirSelection::SelectRow(int row) {
     }
 }
 
+// Required: moves exchange the texts of rows; only the selection follows the folder.
 void frmDirSelection::ExchangeTexts(int row, int otherRow) {
     QTreeWidgetItem* one = lvwDirs_->topLevelItem(row);
     QTreeWidgetItem* other = lvwDirs_->topLevelItem(otherRow);

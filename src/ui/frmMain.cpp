@@ -309,6 +309,7 @@ QLineEdit& frmMain::Field(MainField field) const {
 }
 
 void frmMain::MultipleDirsToggled() {
+    // Required: ticking the box starts with an empty list, not with the single folder. Do not "fix".
     application_.settings.Directory =
         chkMultipleDirs_->isChecked() ? std::string(kMultiFolderMark) : FromQt(txtInputDir_->text());
     UpdateFolderControls();

@@ -214,7 +214,7 @@ void frmOptions::LoadControls() {
     const Settings& settings = application_.settings;
     chkRecursive_->setChecked(settings.Recurse);
     chkSpan_->setChecked(settings.Spanning != 0);
-    if (settings.Spanning != 0) {
+    if (settings.Spanning != 0) { // Required: with 0 the box keeps its text. Do not "fix".
         txtFilesPerPage_->SetNumber(settings.Spanning);
     }
     sizeType_->Select(settings.SizeType);
@@ -300,6 +300,7 @@ void frmOptions::StoreOwnControls(Settings& settings) const {
     settings.ErrorLog = chkErrorLog_->isChecked();
     settings.ConfirmQuit = chkConfirmQuit_->isChecked();
     settings.DoLinks = chkLinks_->isChecked();
+    // Required: stored even if links are off. Do not "fix".
     linkType_->Store(settings.LinkType);
     settings.LinkPrefix = FromQt(txtLinkPrefix_->text());
 }
