@@ -59,9 +59,10 @@ QRadioButton* MakeOption(const QString& objectName, const QString& textWithMnemo
 }
 
 QPushButton* MakeButton(const QString& objectName, const QString& textWithMnemonic,
-                        const QString& description) {
+                        const QString& description, const QString& accessibleName) {
     auto* button = new QPushButton(textWithMnemonic);
-    NameControl(*button, objectName, SpokenText(textWithMnemonic), description);
+    NameControl(*button, objectName, accessibleName.isEmpty() ? SpokenText(textWithMnemonic) : accessibleName,
+                description);
     button->setAutoDefault(false);
     return button;
 }

@@ -39,8 +39,9 @@ QCheckBox* MakeCheckBox(const QString& objectName, const QString& textWithMnemon
 QRadioButton* MakeOption(const QString& objectName, const QString& textWithMnemonic,
                          const QString& description);
 // Not an auto-default button: Enter presses it only if it is the window's default.
+// An empty `accessibleName` means the spoken form of the caption.
 QPushButton* MakeButton(const QString& objectName, const QString& textWithMnemonic,
-                        const QString& description);
+                        const QString& description, const QString& accessibleName = {});
 
 // Sets the tab order of the controls.
 void SetTabOrders(const QList<QWidget*>& controls);

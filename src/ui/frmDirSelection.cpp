@@ -97,6 +97,7 @@ QPushButton* frmDirSelection::MakeCommand(const QString& objectName, const QStri
 QWidget* frmDirSelection::BuildButtons() {
     cmdAdd_ =
         MakeCommand(u"cmdAdd"_s, tr("&Add..."), tr("Append a folder to the list"), &frmDirSelection::Add);
+    cmdAdd_->setAccessibleName(tr("Add..."));
     cmdRemove_ = MakeCommand(u"cmdRemove"_s, tr("&Remove"), tr("Remove the selected folder from the list"),
                              &frmDirSelection::Remove);
     cmdClear_ = MakeCommand(u"cmdClear"_s, tr("&Clear"), tr("Remove all folders from the list"),

@@ -174,10 +174,10 @@ int frmMain::LabelWidth() const {
 
 QGroupBox* frmMain::BuildFolderGroup() {
     lblInputDir_ = MakeLabelFor(*txtInputDir_, tr("Fol&der:"));
-    cmdSelectDir_ = MakeButton(u"cmdSelectDir"_s, tr("&Browse..."), tr("Choose the folder"));
-    cmdSelectDir_->setAccessibleName(tr("Browse for the folder"));
-    cmdSelectDirs_ =
-        MakeButton(u"cmdSelectDirs"_s, tr("Folder &List..."), tr("Edit the list of folders to search"));
+    cmdSelectDir_ =
+        MakeButton(u"cmdSelectDir"_s, tr("&Browse..."), tr("Choose the folder"), tr("Browse for the folder"));
+    cmdSelectDirs_ = MakeButton(u"cmdSelectDirs"_s, tr("Folder &List..."),
+                                tr("Edit the list of folders to search"), tr("Folder list"));
     lblFolderCount_ = new QLabel;
     NameControl(*lblFolderCount_, u"lblFolderCount"_s, QString(), QString());
     connect(cmdSelectDir_, &QPushButton::clicked, this, &frmMain::BrowseFolder);
@@ -204,8 +204,8 @@ QGroupBox* frmMain::BuildFolderGroup() {
 
 QGroupBox* frmMain::BuildOutputGroup() {
     cmdSelectOutputFile_ =
-        MakeButton(u"cmdSelectOutputFile"_s, tr("Bro&wse..."), tr("Choose the folder and name of the list"));
-    cmdSelectOutputFile_->setAccessibleName(tr("Browse for the output file"));
+        MakeButton(u"cmdSelectOutputFile"_s, tr("Bro&wse..."), tr("Choose the folder and name of the list"),
+                   tr("Browse for the output file"));
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
     auto* hint =
         new QLabel(tr("The extension sets the format: .htm web page, .txt plain text, .m3u playlist."));
@@ -224,12 +224,12 @@ QGroupBox* frmMain::BuildOutputGroup() {
 
 QGroupBox* frmMain::BuildTitleGroup() {
     const QString description = tr("Insert a placeholder for the date, the time, a count or a size");
-    cmdWindowTitlePlaceHolders_ = MakeButton(u"cmdWindowTitlePlaceHolders"_s, tr("&Insert..."), description);
-    cmdWindowTitlePlaceHolders_->setAccessibleName(tr("Placeholders for the window title"));
-    cmdPageTitlePlaceHolders_ = MakeButton(u"cmdPageTitlePlaceHolders"_s, tr("I&nsert..."), description);
-    cmdPageTitlePlaceHolders_->setAccessibleName(tr("Placeholders for the page title"));
-    cmdPageFooterPlaceHolders_ = MakeButton(u"cmdPageFooterPlaceHolders"_s, tr("Ins&ert..."), description);
-    cmdPageFooterPlaceHolders_->setAccessibleName(tr("Placeholders for the page footer"));
+    cmdWindowTitlePlaceHolders_ = MakeButton(u"cmdWindowTitlePlaceHolders"_s, tr("&Insert..."), description,
+                                             tr("Placeholders for the window title"));
+    cmdPageTitlePlaceHolders_ = MakeButton(u"cmdPageTitlePlaceHolders"_s, tr("I&nsert..."), description,
+                                           tr("Placeholders for the page title"));
+    cmdPageFooterPlaceHolders_ = MakeButton(u"cmdPageFooterPlaceHolders"_s, tr("Ins&ert..."), description,
+                                            tr("Placeholders for the page footer"));
 
     auto* group = new QGroupBox(tr("Titles of web pages"));
     auto* grid = new QGridLayout(group);
@@ -249,10 +249,11 @@ QGroupBox* frmMain::BuildTitleGroup() {
 
 QWidget* frmMain::BuildCommandRow() {
     cmdOptions_ = MakeButton(u"cmdOptions"_s, tr("Option&s..."), tr("Contents and layout of the list"));
-    cmdAbout_ = MakeButton(u"cmdAbout"_s, tr("&About..."), tr("Show version and statistics"));
+    cmdAbout_ =
+        MakeButton(u"cmdAbout"_s, tr("&About..."), tr("Show version and statistics"), tr("About Tunedex"));
     cmdQuit_ = MakeButton(u"cmdQuit"_s, tr("&Quit"), tr("Quit the program"));
-    cmdCreateList_ =
-        MakeButton(u"cmdCreateList"_s, tr("&Create List"), tr("Search the folders and write the list"));
+    cmdCreateList_ = MakeButton(u"cmdCreateList"_s, tr("&Create List"),
+                                tr("Search the folders and write the list"), tr("Create list"));
     cmdCreateList_->setDefault(true); // appearance only: Enter is handled by returnPressed()
     connect(cmdOptions_, &QPushButton::clicked, this, &frmMain::OptionsRequested);
     connect(cmdAbout_, &QPushButton::clicked, this, &frmMain::ShowAbout);

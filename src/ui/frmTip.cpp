@@ -36,9 +36,11 @@ frmTip::frmTip(Application& application, WindowInterface& ui, QWidget* parent)
     setObjectName(u"frmTip"_s);
     setWindowTitle(tr("Tip of the Day"));
 
-    QPushButton* cmdNextTip = MakeButton(u"cmdNextTip"_s, tr("&Next Tip"), tr("Show the next tip"));
+    QPushButton* cmdNextTip =
+        MakeButton(u"cmdNextTip"_s, tr("&Next Tip"), tr("Show the next tip"), tr("Next tip"));
     connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::DoNextTip);
-    QPushButton* cmdRandomTip = MakeButton(u"cmdRandomTip"_s, tr("&Random Tip"), tr("Show a random tip"));
+    QPushButton* cmdRandomTip =
+        MakeButton(u"cmdRandomTip"_s, tr("&Random Tip"), tr("Show a random tip"), tr("Random tip"));
     connect(cmdRandomTip, &QPushButton::clicked, this, &frmTip::DoRandomTip);
     QPushButton* cmdOK = MakeButton(u"cmdOK"_s, tr("&OK"), tr("Save the choice and close the window"));
     cmdOK->setDefault(true);
