@@ -1,5 +1,6 @@
 // Every text that a user sees goes through tr(). A translator marks all texts; a text without the mark must
 // be data (names, numbers, texts from core).
+#include "DefaultSettings.h"
 #include "Statistics.h"
 #include "WindowTest.h"
 #include "frmAbout.h"
@@ -97,7 +98,7 @@ QStringList Untranslated(const QWidget& window, const QStringList& data = {}) {
 // A desk with the options dialog and the layout editor open.
 struct OpenDesk : Desk {
     OpenDesk() {
-        TheSettings().SetDefaults();
+        SetDefaults(TheSettings());
         Show();
         Click(Main(), "cmdOptions");
         Click(Options(), "cmdEditLayout");
