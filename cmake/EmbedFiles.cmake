@@ -1,6 +1,6 @@
-# Writes a C++ source that holds files byte for byte:
+# Generates a C++ source that embeds files byte for byte:
 #   cmake -DFOLDER=folder -DFILES=path|path... -DOUTPUT=source -P EmbedFiles.cmake
-# Paths are relative to the folder; they are the names under which the program finds the bytes.
+# PATHS are relative to FOLDER; the program finds the bytes under these names.
 
 set(ARRAYS "")
 set(ROWS "")
@@ -10,9 +10,9 @@ foreach(PATH IN LISTS PATHS)
     file(READ "${FOLDER}/${PATH}" BYTES HEX)
     file(SIZE "${FOLDER}/${PATH}" LENGTH)
     if(LENGTH EQUAL 0)
-        message(FATAL_ERROR "${PATH} is empty: nothing to ship")
+        message(FATAL_ERROR "${PATH} is empty: there is nothing to embed")
     endif()
-    # Sixteen bytes a line. Character literals, because a string literal this long is not portable.
+    # Sixteen bytes per line, as character literals: string literals of this length are not portable.
     string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," BYTES "${BYTES}")
     string(REPEAT "'.x..'," 16 SIXTEEN)
     string(REGEX REPLACE "(${SIXTEEN})" "\\1\n    " BYTES "${BYTES}")
@@ -21,7 +21,7 @@ foreach(PATH IN LISTS PATHS)
     math(EXPR NUMBER "${NUMBER} + 1")
 endforeach()
 
-file(WRITE "${OUTPUT}" "// Written by the build from the files in data/.
+file(WRITE "${OUTPUT}" "// Generated from the files in data/. Do not edit.
 #include \"ShippedFiles.h\"
 
 #include <array>

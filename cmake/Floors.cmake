@@ -1,5 +1,5 @@
 # tunedex_floor(NAME SOURCES files... LINKS libraries...): one static library for each folder of src/. It sees the headers of
-# the floors it links and no others, so an include that points up the house does not build.
+# the floors it links and no others, so an include that points to a higher floor does not build.
 function(tunedex_floor NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_library(tunedex_${NAME} STATIC ${ARG_SOURCES})

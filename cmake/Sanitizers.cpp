@@ -1,13 +1,12 @@
-// What the sanitizers are told, whatever environment a test gives the program. Only builds with sanitizers
-// hold it.
+// Default options of the sanitizers, independent of the environment in which a test runs the program. Only
+// sanitizer builds contain this file.
 
 extern "C" {
 
-// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizers' own names
+// NOLINTBEGIN(bugprone-reserved-identifier): names that the sanitizers define
 
-// A status of its own: a test that allows for a run that fails must not take a finding for one. Strings are
-// not checked to their ends (strict_string_checks): the keyboard library copies pieces of what the X server
-// sent, which has none.
+// A distinct exit status: a test that expects a run to fail must not accept a finding instead. No
+// strict_string_checks: the keyboard library copies unterminated pieces of the X server's messages.
 const char* __asan_default_options() {
     return "exitcode=99:detect_stack_use_after_return=1:check_initialization_order=1:print_suppressions=0";
 }
@@ -16,8 +15,8 @@ const char* __ubsan_default_options() {
     return "exitcode=99:print_stacktrace=1";
 }
 
-// What other people's libraries keep until the end:
-//   libdbus-1   the connection to the desktop's bus, which Qt's X platform opens and never closes
+// Leaks of third-party libraries:
+//   libdbus-1   the connection to the session bus, which Qt's xcb platform opens and never closes
 const char* __lsan_default_suppressions() {
     return "leak:libdbus-1\n";
 }

@@ -27,7 +27,7 @@ struct MovingPart {
 // One track: the part that moves, and what stays with its row. Required: after sorting, a row keeps the tag
 // kind, base folder, mode and MPEG type of the file that was found there first. Do not move them.
 struct TrackRow : MovingPart {
-    std::int8_t TagType = kNoTag; // first, in the byte that MovingPart leaves
+    std::uint8_t TagType = kNoTag; // first, in the byte that MovingPart leaves
     SharedText BaseFolder;
     SharedText Mode;
     SharedText MpegType;

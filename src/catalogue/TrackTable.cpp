@@ -46,7 +46,7 @@ void TrackTable::Append(const TrackInfo& track) {
     }
     row.FileSize = static_cast<std::uint32_t>(track.FileSize);
     row.Seconds = static_cast<std::uint32_t>(track.Seconds);
-    row.TagType = static_cast<std::int8_t>(track.TagType);
+    row.TagType = static_cast<std::uint8_t>(track.TagType);
     for (const LongField& field : track.LongFields) {
         row.*StoredMember(field.field) = texts_.Keep(field.text);
     }
