@@ -18,6 +18,7 @@
 #include <utility>
 
 // Brevity and clarity come before speed here.
+// NOLINTBEGIN(performance-inefficient-string-concatenation,performance-inefficient-vector-operation)
 namespace tunedex::plain {
 
 namespace {
