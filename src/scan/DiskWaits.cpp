@@ -10,16 +10,13 @@ std::int64_t WaitsOfThread() {
     return usage.ru_nvcsw;
 }
 
-bool WaitDetector::ManyWaits() {
-    constexpr int kFolders = 32;
-    constexpr std::int64_t kMany = 12;
+bool WaitDetector::AfterOpen(std::chrono::nanoseconds elapsed) {
+    slow_ += elapsed >= kSlowOpen ? 1 : 0;
     if (++folders_ < kFolders) {
         return false;
     }
-    const std::int64_t waits = WaitsOfThread();
-    const bool many = waits - waitsBefore_ >= kMany;
-    waitsBefore_ = waits;
-    folders_ = 0;
+    const bool many = slow_ >= kMany;
+    folders_ = slow_ = 0;
     return many;
 }
 

@@ -94,6 +94,11 @@ class CollectingVisitor final : public WalkVisitor {
     TrackQueue queue_; // last member: its readers must end before the members they use
 };
 
+// Both passes may block: a network drive asks its server again at each open.
+FolderWalk::Preload PreloadFor(unsigned readers) {
+    return readers == 1 ? FolderWalk::Preload::Never : FolderWalk::Preload::WhenWaiting;
+}
+
 bool WalkAll(const std::vector<StartFolder>& starts, bool recurse, FolderWalk& walk, WalkVisitor& visitor) {
     for (const StartFolder& start : starts) {
         if (!walk.Run(start, recurse, visitor)) {
@@ -112,7 +117,7 @@ bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, boo
 
 bool FolderScanner::CountTracks(const std::vector<StartFolder>& starts, bool recurse) {
     totals_.FoundCount = 0;
-    FolderWalk walk(readers_ != 1 ? FolderWalk::Preload::WhenWaiting : FolderWalk::Preload::Never);
+    FolderWalk walk(PreloadFor(readers_));
     CountingVisitor visitor(totals_, monitor_);
     try {
         return !WalkAll(starts, recurse, walk, visitor);
@@ -124,7 +129,7 @@ bool FolderScanner::CountTracks(const std::vector<StartFolder>& starts, bool rec
 
 bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool recurse) {
     totals_.StoredCount = 0;
-    FolderWalk walk(FolderWalk::Preload::Never); // the counting pass has loaded the folders
+    FolderWalk walk(PreloadFor(readers_));
     ReadOptions options = options_;
     options.longTexts = &table_.LongTexts();
     CollectingVisitor visitor(totals_, table_, monitor_, reporter_, std::move(options), readers_);

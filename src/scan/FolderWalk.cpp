@@ -9,6 +9,7 @@
 #include "Uninterrupted.h"
 
 #include <cerrno>
+#include <chrono>
 #include <dirent.h>
 #include <optional>
 #include <set>
@@ -42,52 +43,60 @@ EntryKind KindOf(int folder, const FolderEntry& entry) {
     return S_ISDIR(*mode) ? EntryKind::Folder : S_ISREG(*mode) ? EntryKind::File : EntryKind::Neither;
 }
 
-// Without a free descriptor: closes folders that others hold open, then tries once more.
+// Without a free descriptor: closes folders listed ahead, then those of files in flight, and tries again.
 std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
-                                        WalkVisitor& visitor, FolderPreload& preload) {
-    try {
-        return std::make_shared<OpenFolder>(path, baseFolder);
-    } catch (const RunTimeError& error) {
-        const bool tooMany = error.Is(ErrorNumber::TooManyFiles);
-        if (!tooMany || !(preload.Stop() || visitor.ReleaseFolders())) {
-            throw;
+                                        WalkVisitor& visitor, FolderPreload& pendingFolders) {
+    while (true) {
+        try {
+            return std::make_shared<OpenFolder>(path, baseFolder);
+        } catch (const RunTimeError& error) {
+            if (!error.Is(ErrorNumber::TooManyFiles) ||
+                !(pendingFolders.Release() || visitor.ReleaseFolders())) {
+                throw;
+            }
         }
     }
-    return std::make_shared<OpenFolder>(path, baseFolder);
 }
 
 } // namespace
 
 bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
     std::set<std::pair<dev_t, ino_t>> walked;
-    pending_.assign(1, start.path);
-    FolderPreload preload;
+    FolderPreload pendingFolders(start.baseFolder);
     WaitDetector detector;
+    pendingFolders.Push(start.path);
     if (preload_ == Preload::AtOnce && recurse) {
-        preload.Start(pending_);
+        pendingFolders.Start();
     }
-    while (!pending_.empty()) {
-        currentFolder_ = std::move(pending_.back());
-        pending_.pop_back();
-        const auto folder = OpenForWalk(currentFolder_, start.baseFolder, visitor, preload);
+    while (const auto pending = pendingFolders.Pop()) {
+        currentFolder_ = pending->path;
+        std::shared_ptr<OpenFolder> folder = std::move(pending->folder);
+        if (!folder) {
+            const auto begun = std::chrono::steady_clock::now();
+            folder = OpenForWalk(currentFolder_, start.baseFolder, visitor, pendingFolders);
+            folder->ReadAhead(1); // the first read may block, too
+            if (detector.AfterOpen(std::chrono::steady_clock::now() - begun) &&
+                preload_ == Preload::WhenWaiting && recurse) {
+                pendingFolders.Start();
+            }
+        }
         struct stat status {};
         if (Uninterrupted([&] { return fstat(folder->Descriptor(), &status); }) != 0) {
             throw ErrorFromErrno(errno, FileTask::UseFolder);
         }
-        if (walked.emplace(status.st_dev, status.st_ino).second && !WalkOne(folder, recurse, visitor)) {
+        if (walked.emplace(status.st_dev, status.st_ino).second &&
+            !WalkOne(*pending, folder, recurse, pendingFolders, visitor)) {
             return false;
         }
-        if (preload.Running()) {
-            preload.Advance();
-            detector = WaitDetector(); // switches while waiting for the workers are not disk waits
-        } else if (preload_ == Preload::WhenWaiting && detector.ManyWaits()) {
-            preload.Start(pending_);
+        if (pendingFolders.Running() && !pendingFolders.Pays()) {
+            pendingFolders.Stop();
         }
     }
     return true;
 }
 
-bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor) {
+bool FolderWalk::WalkOne(PendingFolder& pending, const std::shared_ptr<OpenFolder>& folder, bool recurse,
+                         FolderPreload& pendingFolders, WalkVisitor& visitor) {
     while (true) {
         const std::optional<FolderEntry> entry = folder->Next();
         if (!entry) {
@@ -103,7 +112,7 @@ bool FolderWalk::WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse
             const EntryKind kind = KindOf(folder->Descriptor(), *entry);
             if (recurse && kind == EntryKind::Folder) {
                 // Required: a stack, so siblings come out in reverse listing order. Do not 'fix'.
-                pending_.push_back(folder->Path() + std::string(name) + PathStyle::Native().separator);
+                pendingFolders.Push(folder->Path() + entry->name + PathStyle::Native().separator, &pending);
             } else if (matches && kind != EntryKind::Neither) {
                 // Required: without recursion a folder named *.mp3 counts as a file; collecting it then
                 // fails. Do not 'fix'.

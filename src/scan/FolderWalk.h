@@ -6,10 +6,11 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace tunedex {
+
+class FolderPreload;
+struct PendingFolder;
 
 class WalkVisitor {
   public:
@@ -45,10 +46,10 @@ class FolderWalk {
     const std::string& CurrentFolder() const { return currentFolder_; }
 
   private:
-    bool WalkOne(const std::shared_ptr<OpenFolder>& folder, bool recurse, WalkVisitor& visitor);
+    bool WalkOne(PendingFolder& pending, const std::shared_ptr<OpenFolder>& folder, bool recurse,
+                 FolderPreload& pendingFolders, WalkVisitor& visitor);
 
     const Preload preload_;
-    std::vector<std::string> pending_; // the next folder last
     std::string currentFolder_;
 };
 

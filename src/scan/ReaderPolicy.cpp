@@ -4,9 +4,9 @@
 
 namespace tunedex {
 
-ReaderPolicy::ReaderPolicy(unsigned fixedReaders, unsigned processors)
-    : fixed_(fixedReaders > 0), fewest_(fixed_ ? fixedReaders : std::clamp(processors, 1U, kMostReaders)),
-      wanted_(fewest_) {}
+ReaderPolicy::ReaderPolicy(unsigned fixedReaders, unsigned processors, unsigned mostReaders)
+    : fixed_(fixedReaders > 0), most_(mostReaders),
+      fewest_(fixed_ ? fixedReaders : std::clamp(processors, 1U, most_)), wanted_(fewest_) {}
 
 bool ReaderPolicy::Report(const ReadTiming& timing, bool moreToRead) {
     const auto files = static_cast<std::int64_t>(timing.files);
@@ -23,7 +23,7 @@ bool ReaderPolicy::AfterSlow(bool moreToRead) {
     if (fixed_ || !moreToRead) {
         return false;
     }
-    wanted_ = std::min(wanted_ + 1, kMostReaders);
+    wanted_ = std::min(wanted_ + 1, most_);
     return true;
 }
 

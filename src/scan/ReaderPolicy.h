@@ -23,8 +23,8 @@ class ReaderPolicy {
     // Files that a reader takes at a time while readers block on disk: few, so that all readers have some.
     static constexpr std::size_t kSlowFiles = 2;
     static constexpr std::size_t kMostBatches = 128;
-    // Folders of files in flight. Each holds a file descriptor; the usual limit per process is 1024, of which
-    // they hold at most one part in kPartOfDescriptors: the files in them need descriptors, too.
+    // Folders of files in flight. Each holds a file descriptor, as does each reader; the usual limit per
+    // process is 1024, of which folders and readers hold at most one part in kPartOfDescriptors each.
     static constexpr std::size_t kMostOpenFolders = 128;
     static constexpr std::size_t kPartOfDescriptors = 4;
     // A reader reports at least this often while it reads.
@@ -37,8 +37,8 @@ class ReaderPolicy {
     static constexpr unsigned kFastTimings = 16;
 
     // `fixedReaders` other than 0 is kept as it is. With 0 the policy starts with one reader per processor;
-    // `processors` 0 means unknown.
-    ReaderPolicy(unsigned fixedReaders, unsigned processors);
+    // `processors` 0 means unknown. It wants at most `mostReaders` then.
+    ReaderPolicy(unsigned fixedReaders, unsigned processors, unsigned mostReaders = kMostReaders);
 
     // Readers that may read at the same time.
     unsigned Wanted() const { return wanted_; }
@@ -47,7 +47,7 @@ class ReaderPolicy {
     // Files that a reader takes at a time.
     std::size_t FilesAtATime() const { return slowDisk_ ? kSlowFiles : kBatchFiles; }
 
-    // One reader more after each slow timing, up to kMostReaders, if `moreToRead`; one fewer after
+    // One reader more after each slow timing, up to the limit, if `moreToRead`; one fewer after
     // kFastTimings. Returns whether to wake or start a reader.
     bool Report(const ReadTiming& timing, bool moreToRead);
 
@@ -56,6 +56,7 @@ class ReaderPolicy {
     void AfterFast();
 
     bool fixed_;
+    unsigned most_;
     unsigned fewest_;
     unsigned wanted_;
     unsigned fastTimings_ = 0; // since the last slow one

@@ -1,5 +1,6 @@
 #include "ReaderPool.h"
 
+#include "DescriptorShare.h"
 #include "DiskWaits.h"
 
 #include <algorithm>
@@ -42,7 +43,10 @@ class ReadMeter {
 };
 
 ReaderPool::ReaderPool(unsigned readers, unsigned processors, TrackReader reader, ReadOptions options)
-    : reader_(std::move(reader)), options_(std::move(options)), policy_(readers, processors) {}
+    : reader_(std::move(reader)), options_(std::move(options)),
+      policy_(readers, processors,
+              static_cast<unsigned>(
+                  DescriptorShare(ReaderPolicy::kMostReaders, ReaderPolicy::kPartOfDescriptors))) {}
 
 ReaderPool::~ReaderPool() {
     const std::lock_guard lock(mutex_); // no reader starts another one from now on

@@ -61,6 +61,15 @@ TEST(ReaderPolicy, AddsAReaderAfterEachSlowTimingUpToTheLimit) {
     EXPECT_EQ(policy.Wanted(), kMost);
 }
 
+TEST(ReaderPolicy, StaysBelowALowerLimit) {
+    EXPECT_EQ(ReaderPolicy(0, 8, 6).Wanted(), 6U);
+    ReaderPolicy policy(0, 2, 6);
+    for (int i = 0; i < 20; ++i) {
+        policy.Report(kSlow, true);
+    }
+    EXPECT_EQ(policy.Wanted(), 6U);
+}
+
 TEST(ReaderPolicy, AddsNoReaderWhenNothingIsLeftToRead) {
     ReaderPolicy policy(0, 2);
     EXPECT_FALSE(policy.Report(kSlow, false));
