@@ -33,7 +33,8 @@ struct TrackRow : MovingPart {
     SharedText MpegType;
 };
 
-static_assert(sizeof(TrackRow) == 104, "a million rows are in memory at once");
+static_assert(sizeof(TrackRow) == sizeof(MovingPart) + 3 * sizeof(SharedText),
+              "TagType takes no memory of its own: a million rows are in memory at once");
 
 // Exchanges the moving parts of two rows.
 inline void SwapTracks(TrackRow& a, TrackRow& b) {
