@@ -23,6 +23,36 @@ std::u32string Remove(std::u32string_view list, std::u32string_view name) {
     return ReplaceEach(ReplaceEach(list, name, U""), U"||", U"|");
 }
 
+// "Album Artist" contains the names of two columns that a merge removes. While columns are merged, private
+// characters replace its own, one for one, so that positions stay the same.
+constexpr char32_t kFirstHidden = 0xF0000;
+constexpr char32_t kLastHidden = kFirstHidden + 0x7F;
+
+std::string HiddenAlbumArtist(const std::string& columnList) {
+    std::string list;
+    std::string_view separator;
+    for (const std::string& name : Split(columnList, "|")) {
+        list += separator;
+        separator = "|";
+        if (ColumnKeyOf(name, ColumnSet::Modern) != ColumnKey::AlbumArtist) {
+            list += name;
+            continue;
+        }
+        for (const char character : name) {
+            AppendUtf8(list, kFirstHidden + static_cast<unsigned char>(character));
+        }
+    }
+    return list;
+}
+
+std::string ShownAlbumArtist(const std::string& columnList) {
+    std::u32string list = Characters(columnList);
+    for (char32_t& character : list) {
+        character -= character >= kFirstHidden && character <= kLastHidden ? kFirstHidden : 0;
+    }
+    return FromCharacters(list);
+}
+
 std::u32string MergedName(std::int16_t merge) {
     if (merge == 1) {
         return Characters(KindOf(ColumnKey::ArtistTitle).name);
@@ -30,17 +60,7 @@ std::u32string MergedName(std::int16_t merge) {
     return merge == 2 ? Characters(KindOf(ColumnKey::ArtistAlbumTitle).name) : std::u32string();
 }
 
-} // namespace
-
-ColumnKey ColumnKeyOf(std::string_view name) {
-    const std::string key = UpperCase(name);
-    const auto* const found = std::find_if(kColumns.begin(), kColumns.end() - 1, [&](const ColumnKind& kind) {
-        return UpperCase(kind.name) == key;
-    });
-    return found->key; // the last row is Unknown
-}
-
-std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
+std::string MergedList(const std::string& activeColumns, std::int16_t merge) {
     // Positions and lengths count characters, a stray byte as one.
     const std::u32string active = Characters(activeColumns);
     const std::u32string upper = Characters(UpperCase(activeColumns));
@@ -72,10 +92,27 @@ std::string MergeColumns(const std::string& activeColumns, std::int16_t merge) {
     return FromCharacters(merged);
 }
 
-std::vector<Column> SplitColumns(const std::string& columnList) {
+} // namespace
+
+ColumnKey ColumnKeyOf(std::string_view name, ColumnSet set) {
+    const std::string key = UpperCase(name);
+    const auto* const found = std::find_if(kColumns.begin(), kColumns.end() - 1, [&](const ColumnKind& kind) {
+        return IsIn(set, kind.key) && UpperCase(kind.name) == key;
+    });
+    return found->key; // the last row is Unknown
+}
+
+std::string MergeColumns(const std::string& activeColumns, std::int16_t merge, ColumnSet set) {
+    if (set == ColumnSet::Modern) {
+        return ShownAlbumArtist(MergedList(HiddenAlbumArtist(activeColumns), merge));
+    }
+    return MergedList(activeColumns, merge);
+}
+
+std::vector<Column> SplitColumns(const std::string& columnList, ColumnSet set) {
     std::vector<Column> columns;
     for (const std::string& name : Split(columnList, "|")) {
-        columns.push_back({name, ColumnKeyOf(name)});
+        columns.push_back({name, ColumnKeyOf(name, set)});
     }
     return columns;
 }

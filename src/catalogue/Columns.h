@@ -29,6 +29,11 @@ enum class ColumnKey {
     Filename,
     FolderPath,
     FullPath,
+    Track,
+    Disc,
+    AlbumArtist,
+    Composer,
+    Comment,
     ArtistTitle,      // a merged column
     ArtistAlbumTitle, // a merged column
     Unknown,          // a name that no column has, from a hand-edited file: a header without cells
@@ -41,8 +46,12 @@ struct ColumnKind {
     bool leftHeader = false;    // header left-aligned; default centred
     bool rightCells = false;    // cells right-aligned; default left
     bool blankForEmpty = false; // an empty text becomes "&nbsp;" in pages: browsers do not draw empty cells
-    SharedText TrackRow::*text = {}; // the text it shows; null where the writers make it
-    std::string_view header = {};    // its header in listings; empty: the name in the settings
+    SharedText TrackRow::*text = {};    // the text it shows, or
+    SharedText ExtraTexts::*extra = {}; // one of these; both null where the writers make it
+    std::string_view header = {};       // its header in listings; empty: the name in the settings
+
+    // Whether it shows a text that only the modern readers fill. Classic listings do not know it.
+    constexpr bool IsModern() const { return extra != nullptr; }
 };
 
 // In the order of the keys. The columns that users choose come first, in the order in which a new user has
@@ -82,6 +91,31 @@ inline constexpr std::array kColumns = {
     ColumnKind{.key = ColumnKey::FolderPath, .name = "Folder Path", .leftHeader = true},
     ColumnKind{
         .key = ColumnKey::FullPath, .name = "Full Path", .leftHeader = true, .text = &TrackRow::FullPath},
+    ColumnKind{.key = ColumnKey::Track,
+               .name = "Track",
+               .rightCells = true,
+               .blankForEmpty = true,
+               .extra = &ExtraTexts::Track},
+    ColumnKind{.key = ColumnKey::Disc,
+               .name = "Disc",
+               .rightCells = true,
+               .blankForEmpty = true,
+               .extra = &ExtraTexts::Disc},
+    ColumnKind{.key = ColumnKey::AlbumArtist,
+               .name = "Album Artist",
+               .leftHeader = true,
+               .blankForEmpty = true,
+               .extra = &ExtraTexts::AlbumArtist},
+    ColumnKind{.key = ColumnKey::Composer,
+               .name = "Composer",
+               .leftHeader = true,
+               .blankForEmpty = true,
+               .extra = &ExtraTexts::Composer},
+    ColumnKind{.key = ColumnKey::Comment,
+               .name = "Comment",
+               .leftHeader = true,
+               .blankForEmpty = true,
+               .extra = &ExtraTexts::Comment},
     ColumnKind{
         .key = ColumnKey::ArtistTitle, .name = "ArtistTitle", .leftHeader = true, .header = "Artist: Title"},
     ColumnKind{.key = ColumnKey::ArtistAlbumTitle,
@@ -105,9 +139,16 @@ constexpr const ColumnKind& KindOf(ColumnKey key) {
     return kColumns[static_cast<std::size_t>(key)];
 }
 
+// The columns of a listing: all, or those that do not need the modern readers.
+enum class ColumnSet { Classic, Modern };
+
+constexpr bool IsIn(ColumnSet set, ColumnKey key) {
+    return set == ColumnSet::Modern || !KindOf(key).IsModern();
+}
+
 // Whether users can choose the column; they cannot choose merged and unknown ones.
-constexpr bool IsChoosable(ColumnKey key) {
-    return key < ColumnKey::ArtistTitle;
+constexpr bool IsChoosable(ColumnKey key, ColumnSet set = ColumnSet::Classic) {
+    return key < ColumnKey::ArtistTitle && IsIn(set, key);
 }
 
 struct Column {
@@ -116,14 +157,15 @@ struct Column {
 };
 
 // The key of a name, compared without regard to case; Unknown for any other.
-ColumnKey ColumnKeyOf(std::string_view name);
+ColumnKey ColumnKeyOf(std::string_view name, ColumnSet set = ColumnSet::Classic);
 
 // The columns of a listing: `activeColumns`, with artist and title (`merge` 1) or artist, album and title
 // (`merge` 2) merged into one column if artist and title are both active. Raises error 5 if, once merged
 // columns are removed, nothing is left after the merged one.
-std::string MergeColumns(const std::string& activeColumns, std::int16_t merge);
+std::string MergeColumns(const std::string& activeColumns, std::int16_t merge,
+                         ColumnSet set = ColumnSet::Classic);
 
-std::vector<Column> SplitColumns(const std::string& columnList);
+std::vector<Column> SplitColumns(const std::string& columnList, ColumnSet set = ColumnSet::Classic);
 
 std::string HeaderText(const Column& column);
 

@@ -5,8 +5,8 @@
 
 namespace tunedex {
 
-// Stores every default, overwriting all members. The column lists hold every column of kColumns that users
-// can choose, in table order.
+// Stores every default, overwriting all members. The column lists hold every classic column of
+// kColumns that users can choose, in table order.
 void SetDefaults(Settings& settings);
 
 // New settings with every default.

@@ -38,4 +38,18 @@ inline constexpr std::array kStoredTexts = {
     StoredText{&TrackInfo::Duration, &TrackRow::Duration, TextSharing::AllTracks},
 };
 
+// The texts that only the modern readers fill. The table stores each once.
+struct ExtraText {
+    std::string TrackInfo::*read;
+    SharedText ExtraTexts::*stored;
+};
+
+inline constexpr std::array kExtraTexts = {
+    ExtraText{&TrackInfo::Track, &ExtraTexts::Track},
+    ExtraText{&TrackInfo::Disc, &ExtraTexts::Disc},
+    ExtraText{&TrackInfo::AlbumArtist, &ExtraTexts::AlbumArtist},
+    ExtraText{&TrackInfo::Composer, &ExtraTexts::Composer},
+    ExtraText{&TrackInfo::Comment, &ExtraTexts::Comment},
+};
+
 } // namespace tunedex

@@ -3,20 +3,24 @@
 #include "StoredTexts.h"
 
 #include <cstddef>
+#include <span>
 
 namespace tunedex {
 
 void TrackInfo::Clear() {
     constexpr std::size_t kMostKept = 512;
-    for (const StoredText& text : kStoredTexts) {
-        if (text.read == &TrackInfo::FullPath) {
-            continue;
-        }
-        std::string& value = this->*text.read;
+    const auto clear = [this](std::string TrackInfo::*member) {
+        std::string& value = this->*member;
         if (value.capacity() > kMostKept) {
             value = std::string();
         }
         value.clear();
+    };
+    for (const StoredText& text : std::span(kStoredTexts).subspan<1>()) { // all but FullPath
+        clear(text.read);
+    }
+    for (const ExtraText& text : kExtraTexts) {
+        clear(text.read);
     }
     FileSize = 0;
     Seconds = 0;

@@ -11,7 +11,7 @@
 
 namespace tunedex {
 
-enum TagKind : std::int16_t { kNoTag = 0, kId3v1Tag = 1, kId3v2Tag = 2 };
+enum TagKind : std::int16_t { kNoTag = 0, kId3v1Tag = 1, kId3v2Tag = 2, kApeTag = 3 };
 
 struct TrackInfo;
 
@@ -39,9 +39,14 @@ struct TrackInfo {
     std::string Duration; // minutes:seconds
     std::int16_t TagType = kNoTag;
     std::int32_t Seconds = 0; // the playing time that Duration shows; meaningless without a Duration
-    // The long texts among Artist, Title, Album, Year and Genre, if read into a pool; those members are then
-    // empty.
+    // The long texts among those of the tag, if read into a pool; their members are then empty.
     std::vector<LongField> LongFields = {};
+    // Set by the modern readers only; Track and Disc as tagged: "3", "3/12".
+    std::string Track = {};
+    std::string Disc = {};
+    std::string AlbumArtist = {};
+    std::string Composer = {};
+    std::string Comment = {};
 
     bool operator==(const TrackInfo&) const = default;
 
@@ -49,7 +54,7 @@ struct TrackInfo {
     // of records are in flight.
     void Clear();
 
-    // Set one of the five texts to a long text; clear one.
+    // Set one of the texts of the tag to a long text; clear one.
     void Set(std::string TrackInfo::*field, LongTextHandle text) {
         Unset(field);
         LongFields.push_back({field, std::move(text)});

@@ -36,6 +36,15 @@ struct TrackRow : MovingPart {
 static_assert(sizeof(TrackRow) == sizeof(MovingPart) + 3 * sizeof(SharedText),
               "TagType takes no memory of its own: a million rows are in memory at once");
 
+// The texts of a track that only the modern readers fill. A table without any has no memory for them.
+struct ExtraTexts {
+    SharedText Track;
+    SharedText Disc;
+    SharedText AlbumArtist;
+    SharedText Composer;
+    SharedText Comment;
+};
+
 // Exchanges the moving parts of two rows.
 inline void SwapTracks(TrackRow& a, TrackRow& b) {
     std::swap<MovingPart>(a, b);

@@ -4,9 +4,14 @@
 
 namespace tunedex {
 
-std::optional<std::string_view> TrackText(ColumnKey key, const TrackRow& track, PathStyle pathStyle) {
+std::optional<std::string_view> TrackText(ColumnKey key, const TrackTable& tracks, std::size_t position,
+                                          PathStyle pathStyle) {
+    const TrackRow& track = tracks.At(position);
     if (const auto text = KindOf(key).text) {
         return std::string_view(track.*text);
+    }
+    if (const auto extra = KindOf(key).extra) {
+        return std::string_view(tracks.ExtrasAt(position).*extra);
     }
     switch (key) {
     case ColumnKey::Filename:
@@ -18,12 +23,13 @@ std::optional<std::string_view> TrackText(ColumnKey key, const TrackRow& track, 
     }
 }
 
-void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
+void PutCellText(PageBuffer& page, ColumnKey key, const TrackTable& tracks, std::size_t position,
                  const CellContext& context) {
-    if (const auto text = TrackText(key, track, context.pathStyle)) {
+    if (const auto text = TrackText(key, tracks, position, context.pathStyle)) {
         page.Put(*text);
         return;
     }
+    const TrackRow& track = tracks.At(position);
     switch (key) {
     case ColumnKey::Number:
         page.PutNumber(static_cast<std::int64_t>(position));

@@ -21,11 +21,13 @@ struct CellContext {
     PathStyle pathStyle;
 };
 
-// The text of a column that shows a stored text, or a part of one; none where the text is made.
-std::optional<std::string_view> TrackText(ColumnKey key, const TrackRow& track, PathStyle pathStyle);
+// The text of a column that shows a stored text, or a part of one, for track `position` (1-based); none where
+// the text is made.
+std::optional<std::string_view> TrackText(ColumnKey key, const TrackTable& tracks, std::size_t position,
+                                          PathStyle pathStyle);
 
 // Appends the text of column `key` for track `position` (1-based); nothing for ColumnKey::Unknown.
-void PutCellText(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position,
+void PutCellText(PageBuffer& page, ColumnKey key, const TrackTable& tracks, std::size_t position,
                  const CellContext& context);
 
 } // namespace tunedex

@@ -244,9 +244,8 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     return frame;
 }
 
-void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track,
-                             std::size_t position) const {
-    if (const auto text = TrackText(key, track, listing_.pathStyle)) {
+void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, std::size_t position) const {
+    if (const auto text = TrackText(key, listing_.tracks, position, listing_.pathStyle)) {
         if (text->empty() && KindOf(key).blankForEmpty) {
             page.Put("&nbsp;");
         } else {
@@ -254,6 +253,7 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
         }
         return;
     }
+    const TrackRow& track = listing_.tracks.At(position);
     switch (key) {
     case ColumnKey::ArtistTitle:
     case ColumnKey::ArtistAlbumTitle:
@@ -268,21 +268,20 @@ void TrackRowWriter::PutCell(PageBuffer& page, ColumnKey key, const TrackRow& tr
         escaper_.PutEscaped(page, track.Title);
         return;
     default: // Required: number and size are not escaped, nor is the locale's separator in the size.
-        PutCellText(page, key, track, position, listing_.Cells());
+        PutCellText(page, key, listing_.tracks, position, listing_.Cells());
         return;
     }
 }
 
 void TrackRowWriter::WriteTrackRow(PageBuffer& page, bool alternate, std::size_t position) const {
     const RowFrame& frame = frames_.at(alternate ? 1 : 0);
-    const TrackRow& track = listing_.tracks.At(position);
     for (std::size_t i = 0; i < listing_.columns.size(); ++i) {
         page.Put(frame.pieces[i]);
-        PutCell(page, listing_.columns[i].key, track, position);
+        PutCell(page, listing_.columns[i].key, position);
     }
     page.Put(frame.pieces.back());
     if (listing_.settings.DoLinks) {
-        page.Put(LinkTarget(listing_.settings, track, listing_.pathStyle));
+        page.Put(LinkTarget(listing_.settings, listing_.tracks.At(position), listing_.pathStyle));
         page.Put(frame.linkClose);
     }
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),

@@ -56,7 +56,7 @@ class TrackRowWriter {
     };
 
     RowFrame MakeFrame(bool alternate) const;
-    void PutCell(PageBuffer& page, ColumnKey key, const TrackRow& track, std::size_t position) const;
+    void PutCell(PageBuffer& page, ColumnKey key, std::size_t position) const;
 
     const Listing& listing_;
     const Escaper escaper_;

@@ -28,12 +28,11 @@ bool AbortedInLine(const Listing& listing) {
 }
 
 void PutLine(PageBuffer& text, const Listing& listing, std::size_t position) {
-    const TrackRow& track = listing.tracks.At(position);
     const CellContext cells = listing.Cells();
     bool anyColumn = false;
     for (const Column& column : listing.columns) {
         if (column.key != ColumnKey::Unknown) {
-            PutCellText(text, column.key, track, position, cells);
+            PutCellText(text, column.key, listing.tracks, position, cells);
             text.Put("\t");
             anyColumn = true;
         }

@@ -162,6 +162,10 @@ std::string ReferenceMerge(const std::string& columns, std::int16_t merge) {
     return list;
 }
 
+std::string MergeClassic(const std::string& columns, std::int16_t merge) {
+    return MergeColumns(columns, merge);
+}
+
 std::string Attempt(std::string (*merge)(const std::string&, std::int16_t), const std::string& columns,
                     std::int16_t kind) {
     try {
@@ -183,7 +187,7 @@ TEST(MergeColumns, AgreesWithTheReferenceOnEveryOrderOfSixColumns) {
             for (const std::int16_t merge : {0, 1, 2, 3}) {
                 const std::string expected = Attempt(ReferenceMerge, columns, merge);
                 errors += expected == "error 5" ? 1 : 0;
-                ASSERT_EQ(Attempt(MergeColumns, columns, merge), expected) << columns << " " << merge;
+                ASSERT_EQ(Attempt(MergeClassic, columns, merge), expected) << columns << " " << merge;
             }
         }
     } while (std::next_permutation(names.begin(), names.end()));
@@ -192,8 +196,39 @@ TEST(MergeColumns, AgreesWithTheReferenceOnEveryOrderOfSixColumns) {
 
 TEST(MergeColumns, RaisesError5IfNothingIsLeftAfterTheMergedColumn) {
     // The removal of Album takes away more than what followed Artist.
-    EXPECT_EQ(Attempt(MergeColumns, "Album|Album|Artist|Title", 2), "error 5");
+    EXPECT_EQ(Attempt(MergeClassic, "Album|Album|Artist|Title", 2), "error 5");
     EXPECT_EQ(MergeColumns("Album|Album|Artist|Title", 1), "Album|Album|ArtistTitle");
+}
+
+TEST(ColumnKeyOf, KnowsTheModernColumnsInTheModernSetOnly) {
+    for (const std::string_view name : {"Track", "Disc", "Album Artist", "Composer", "Comment"}) {
+        EXPECT_EQ(ColumnKeyOf(name), ColumnKey::Unknown) << name;
+        EXPECT_TRUE(KindOf(ColumnKeyOf(name, ColumnSet::Modern)).IsModern()) << name;
+    }
+    EXPECT_EQ(ColumnKeyOf("ALBUM artist", ColumnSet::Modern), ColumnKey::AlbumArtist);
+    EXPECT_EQ(ColumnKeyOf("Artist", ColumnSet::Modern), ColumnKey::Artist);
+}
+
+TEST(IsChoosable, OffersModernColumnsInTheModernSetOnly) {
+    EXPECT_FALSE(IsChoosable(ColumnKey::Track));
+    EXPECT_TRUE(IsChoosable(ColumnKey::Track, ColumnSet::Modern));
+    EXPECT_TRUE(IsChoosable(ColumnKey::FullPath, ColumnSet::Modern));
+    EXPECT_FALSE(IsChoosable(ColumnKey::ArtistTitle, ColumnSet::Modern));
+}
+
+TEST(MergeColumns, LeavesTheAlbumArtistAloneInTheModernSet) {
+    const MergeRow rows[] = {
+        {"Number|Artist|Album|Title|Album Artist", 2, "Number|ArtistAlbumTitle|Album Artist"},
+        {"Album Artist|Artist|Album|Title|Duration", 2, "Album Artist|ArtistAlbumTitle|Duration"},
+        {"album artist|Artist|Title", 1, "album artist|ArtistTitle"},
+        {"Album Artist|Title", 2, "Album Artist|Title"},
+        {"Number|Artist|Album|Title|Duration", 2, "Number|ArtistAlbumTitle|Duration"},
+    };
+    for (const MergeRow& row : rows) {
+        EXPECT_EQ(MergeColumns(row.columns, row.merge, ColumnSet::Modern), row.merged)
+            << row.columns << " " << row.merge;
+    }
+    EXPECT_EQ(MergeColumns("Artist|Album|Title|Album Artist", 2), "ArtistAlbumTitle| Artist");
 }
 
 TEST(SplitColumns, KeepsUnknownNamesAndReturnsNoneForAnEmptyList) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace tunedex {
 namespace {
@@ -60,6 +61,59 @@ TEST(TrackTable, ReusesTheLongTextsThatReadersShared) {
     EXPECT_TRUE(table.At(1).Artist.Empty());
     track.Clear();
     EXPECT_EQ(track, fresh);
+}
+
+TrackInfo Numbered(int number) {
+    TrackInfo track;
+    track.FullPath = "/music/" + std::to_string(number) + ".mp3";
+    track.Title = "title " + std::to_string(number);
+    track.Mode = "mode " + std::to_string(number);
+    track.TagType = kId3v2Tag;
+    return track;
+}
+
+TEST(TrackTable, KeepsTheTextsThatOnlySomeTracksHave) {
+    TrackTable table(4);
+    std::vector<TrackInfo> tracks;
+    for (int number = 1; number <= 4; ++number) {
+        TrackInfo track = Numbered(number);
+        if (number % 2 == 0) {
+            track.Track = std::to_string(number) + "/4";
+            track.Disc = "1";
+            track.AlbumArtist = "Various";
+            track.Composer = number == 2 ? "Composer" : "";
+            track.Comment = LettersOf(3000);
+        }
+        table.Append(track);
+        tracks.push_back(track);
+    }
+    for (std::size_t i = 0; i < tracks.size(); ++i) {
+        EXPECT_TRUE(table.Copy(i + 1) == tracks[i]) << i;
+    }
+    EXPECT_EQ(table.ExtrasAt(2).Comment.Identity(), table.ExtrasAt(4).Comment.Identity());
+    EXPECT_TRUE(table.ExtrasAt(3).Track.Empty());
+}
+
+TEST(TrackTable, KeepsALongCommentThatAReaderShared) {
+    TrackTable table(1);
+    TrackInfo track = Numbered(1);
+    const LongTextHandle text = table.LongTexts().Share(LettersOf(5000));
+    track.Set(&TrackInfo::Comment, text);
+    table.Append(track);
+    EXPECT_EQ(table.ExtrasAt(1).Comment.Identity(), text->Shared().Identity());
+}
+
+TEST(TrackTable, ReordersWholeTracks) {
+    TrackTable table(3);
+    std::vector<TrackInfo> tracks = {Numbered(1), Numbered(2), Numbered(3)};
+    tracks[1].Disc = "2";
+    for (const TrackInfo& track : tracks) {
+        table.Append(track);
+    }
+    table.Reorder({2, 0, 1});
+    EXPECT_TRUE(table.Copy(1) == tracks[2]);
+    EXPECT_TRUE(table.Copy(2) == tracks[0]);
+    EXPECT_TRUE(table.Copy(3) == tracks[1]);
 }
 
 TEST(TrackTable, KeepsTheLargestSizeAndTheLongestPlayingTime) {

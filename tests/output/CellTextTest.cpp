@@ -32,7 +32,7 @@ TEST(PutCellText, SplitsThePathOfATrack) {
         table.Append(track);
         const auto cell = [&](ColumnKey key) {
             PageBuffer text;
-            PutCellText(text, key, table.At(1), 1, {0, locale, row.style});
+            PutCellText(text, key, table, 1, {0, locale, row.style});
             return std::string(text.View());
         };
         EXPECT_EQ(cell(ColumnKey::Filename), row.name);
