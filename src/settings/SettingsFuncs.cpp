@@ -1,5 +1,6 @@
 #include "SettingsFuncs.h"
 
+#include "CodePages.h"
 #include "FaultyLine.h"
 #include "FileSystem.h"
 #include "Numbers.h"
@@ -27,11 +28,14 @@ struct Group {};
 struct Fonts {};
 struct Colours {};
 struct TableWidth {};
+struct CodePageSetting {};
 
 // The settings in file order.
 struct Row {
     std::string_view key;
-    std::variant<Group, Fonts, Colours, TableWidth, TextMember, FlagMember, NumberMember> value;
+    std::variant<Group, Fonts, Colours, TableWidth, CodePageSetting, TextMember, FlagMember, NumberMember>
+        value;
+    bool onlyWhenSet = false; // a file without the line means an empty text or no
 };
 
 template <typename... Functions> struct Overloaded : Functions... { using Functions::operator()...; };
@@ -75,6 +79,8 @@ constexpr std::array kRows = {
     Row{"TableWidth", TableWidth{}},
     Row{"TablePadding", &Settings::TablePadding},
     Row{"TableBorder", &Settings::TableBorder},
+    Row{"TagCodePage", CodePageSetting{}, true},
+    Row{"Modern", &Settings::Modern, true},
 };
 
 // Required: read from files, never written.
@@ -102,6 +108,14 @@ FontSetting ParseFont(std::string_view value) {
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
     }
     return {parts[0], parts[1], LeadingNumber(parts[2]) != 0, LeadingNumber(parts[3]) != 0};
+}
+
+std::string ParseCodePage(std::string_view value) {
+    std::string name(value);
+    if (!name.empty() && !IsCodePage(name)) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    return name;
 }
 
 void ParseTableWidth(Settings& settings, std::string_view value) {
@@ -136,6 +150,12 @@ void ApplyLine(Settings& settings, std::string_view line) {
     ParseSetting(settings, UpperCase(line.substr(0, bracket)), value, index);
 }
 
+// Of a row that is written only when set.
+bool IsSet(const Settings& settings, const Row& row) {
+    return std::holds_alternative<CodePageSetting>(row.value) ? !settings.TagCodePage.empty()
+                                                              : settings.Modern;
+}
+
 // Writes settings as lines and collects the keys of those that hold a line break.
 class SettingWriter {
   public:
@@ -162,6 +182,7 @@ class SettingWriter {
                            WriteValue(key, TableWidthText(settings.TableWidthUnit,
                                                           std::to_string(settings.TableWidth)));
                        },
+                       [&](CodePageSetting) { WriteValue(key, settings.TagCodePage); },
                        [&](TextMember text) { WriteValue(key, settings.*text); },
                        [&](FlagMember flag) { WriteValue(key, FlagText(settings.*flag)); },
                        [&](NumberMember number) { WriteValue(key, std::to_string(settings.*number)); },
@@ -213,6 +234,7 @@ void ParseSetting(Settings& settings, std::string_view key, std::string_view val
                    [&](Fonts) { settings.Font.at(CheckedIndex(index, kFontCount)) = ParseFont(value); },
                    [&](Colours) { settings.Colour.at(CheckedIndex(index, kColourCount)) = value; },
                    [&](TableWidth) { ParseTableWidth(settings, value); },
+                   [&](CodePageSetting) { settings.TagCodePage = ParseCodePage(value); },
                    [&](TextMember text) { settings.*text = value; },
                    [&](FlagMember flag) { settings.*flag = LeadingNumber(value) != 0; },
                    [&](NumberMember number) { settings.*number = ToInt16(LeadingNumber(value)); },
@@ -255,7 +277,10 @@ LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std:
         settings = defaults;
         return LoadOutcome::DefaultsApplied;
     }
-    ApplySettings(settings, ReadTextLines(file, StrayBytes::Escaped), file, faults);
+    const std::vector<std::string> lines = ReadTextLines(file, StrayBytes::Escaped);
+    settings.TagCodePage.clear();
+    settings.Modern = false;
+    ApplySettings(settings, lines, file, faults);
     return LoadOutcome::Loaded;
 }
 
@@ -275,7 +300,9 @@ std::vector<std::string> SaveSettings(const Settings& settings, const std::strin
     WriteFileHead(file, "Configuration File", stamp);
     SettingWriter writer(file);
     for (const Row& row : kRows) {
-        writer.Write(settings, row);
+        if (!row.onlyWhenSet || IsSet(settings, row)) {
+            writer.Write(settings, row);
+        }
     }
     file.Close();
     return writer.LeftOut();

@@ -28,7 +28,8 @@ enum class LoadOutcome {
     Missing,         // another file does not exist; the settings are unchanged
 };
 
-// Reads a settings or theme file over `settings`; members whose keys it lacks keep their values. An empty
+// Reads a settings or theme file over `settings`; members whose keys it lacks keep their values, except
+// TagCodePage and Modern, which become empty and false: a file names them only when they are set. An empty
 // path means the default file in `programFolder` (which ends in a separator); if that does not exist,
 // `settings` becomes `defaults`. An invalid line is skipped and reported on `faults`. Raises the error of a
 // file that cannot be read.

@@ -59,6 +59,16 @@ bool IsThemeName(const std::string& name) {
            name.find('\0') == std::string::npos;
 }
 
+LoadOutcome LoadThemeFile(Settings& settings, const std::string& path, const std::string& programFolder,
+                          std::ostream& faults) {
+    const std::string codePage = settings.TagCodePage;
+    const bool modern = settings.Modern;
+    const LoadOutcome outcome = LoadSettings(settings, path, programFolder, settings, faults);
+    settings.TagCodePage = codePage;
+    settings.Modern = modern;
+    return outcome;
+}
+
 void WriteThemeFile(const std::string& path, const ThemeContent& content, const FileStamp& stamp) {
     TextFile file(path, TextEncoding::SettingsLine);
     WriteFileHead(file, "Theme Definition File", stamp);

@@ -5,6 +5,7 @@
 #include "SettingsFuncs.h"
 
 #include <array>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,11 @@ struct ThemeContent {
     std::string tablePadding;
     std::string tableBorder;
 };
+
+// Reads a theme file over `settings`, as LoadSettings() does; the code page of tags and the modern mode stay
+// as they are.
+LoadOutcome LoadThemeFile(Settings& settings, const std::string& path, const std::string& programFolder,
+                          std::ostream& faults);
 
 // Creates or replaces the file. Raises the error of a file that cannot be written.
 void WriteThemeFile(const std::string& path, const ThemeContent& content, const FileStamp& stamp);

@@ -1,7 +1,6 @@
 #include "ThemePanel.h"
 
 #include "Controls.h"
-#include "DefaultSettings.h"
 #include "ErrorMessage.h"
 #include "FileSystem.h"
 #include "QtText.h"
@@ -105,9 +104,8 @@ void ThemePanel::LoadTheme(const std::string& name) {
     bool applied = false;
     Attempt([&] {
         const std::string path = StoredThemePath(application_.programFolder, name);
-        applied =
-            FileExists(path) && LoadSettings(application_.settings, path, application_.programFolder,
-                                             DefaultSettings(), application_.faults) == LoadOutcome::Loaded;
+        applied = FileExists(path) && LoadThemeFile(application_.settings, path, application_.programFolder,
+                                                    application_.faults) == LoadOutcome::Loaded;
     });
     if (applied) {
         emit ThemeLoaded();

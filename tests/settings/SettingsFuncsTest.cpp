@@ -435,6 +435,54 @@ TEST_F(SettingsFile, SkipsEachKindOfInvalidLine) {
     }
 }
 
+TEST_F(SettingsFile, EndsWithTheCodePageAndTheModernModeOnlyWhenTheyAreSet) {
+    struct Row {
+        const char* codePage;
+        bool modern;
+        const char* end;
+    };
+    const Row rows[] = {
+        {"", false, "TableBorder=1\r\n"},
+        {"", true, "TableBorder=1\r\nModern=1\r\n"},
+        {"windows-1251", false, "TableBorder=1\r\nTagCodePage=windows-1251\r\n"},
+        {"windows-1251", true, "TableBorder=1\r\nTagCodePage=windows-1251\r\nModern=1\r\n"},
+    };
+    for (const Row& row : rows) {
+        Settings settings = SampleSettings();
+        settings.TableBorder = 1;
+        settings.TagCodePage = row.codePage;
+        settings.Modern = row.modern;
+        const std::string saved = Saved(settings);
+        EXPECT_TRUE(saved.ends_with(row.end)) << row.end;
+        Settings before = SampleSettings();
+        before.TagCodePage = "KOI8-R";
+        before.Modern = !row.modern;
+        EXPECT_TRUE(Loaded(saved, before) == settings) << row.end;
+    }
+}
+
+TEST_F(SettingsFile, SkipsAnUnknownCodePage) {
+    struct Row {
+        const char* line;
+        const char* codePage;
+        bool faulty;
+    };
+    const Row rows[] = {
+        {"TagCodePage=KOI8-R", "KOI8-R", false},
+        {"tagcodepage=", "", false},
+        {"TagCodePage=klingon", "", true},
+        {"TagCodePage=UTF-8//IGNORE", "", true},
+        {"TagCodePage=ISO-8859-5", "ISO-8859-5", false},
+    };
+    for (const Row& row : rows) {
+        Settings settings;
+        std::ostringstream reports;
+        ApplySettings(settings, {row.line}, "a.cfg", reports);
+        EXPECT_EQ(settings.TagCodePage, row.codePage) << row.line;
+        EXPECT_EQ(!reports.str().empty(), row.faulty) << row.line;
+    }
+}
+
 TEST(ParseSetting, RaisesErrorsForValuesOutOfRange) {
     Settings settings;
     EXPECT_EQ(test::RaisedBy([&] { ParseSetting(settings, "SPANNING", "32768", 0); }), 6);

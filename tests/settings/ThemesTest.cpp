@@ -128,6 +128,19 @@ TEST(Themes, ReadingAFileRestoresItsSettingsAndNoOthers) {
     EXPECT_EQ(faults.str(), "");
 }
 
+TEST(Themes, ReadingAFileKeepsTheModernModeAndTheCodePageOfTags) {
+    const TestFolder folder;
+    folder.Write("a.thm", "Modern=0\r\nTagCodePage=KOI8-R\r\nAltRows=1\r\n");
+    Settings settings;
+    settings.Modern = true;
+    settings.TagCodePage = "CP932";
+    std::ostringstream faults;
+    EXPECT_EQ(LoadThemeFile(settings, folder / "a.thm", "", faults), LoadOutcome::Loaded);
+    EXPECT_TRUE(settings.Modern);
+    EXPECT_EQ(settings.TagCodePage, "CP932");
+    EXPECT_TRUE(settings.AltRows);
+}
+
 TEST(Themes, TheListHoldsFilesEndingInThmInAnyCaseAndNoFolders) {
     const TestFolder folder;
     folder.Write("Themes/Dark.THM", "");
