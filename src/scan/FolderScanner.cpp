@@ -15,34 +15,66 @@ namespace {
 constexpr std::string_view kWalkErrorTemplate = R"(scanning the directory: \n\n%D\n\n%N: %S)";
 constexpr std::string_view kDecodeErrorTemplate = R"(decoding the headers of: \n\n%F)";
 
-// A file whose size cannot be read; it ends the walk.
+// A file whose size cannot be read and which ends the walk.
 struct FileFailure {
     RunTimeError error;
     std::string folder;
 };
 
+// Reports and counts what the walk cannot read.
+class WalkReports {
+  public:
+    WalkReports(UnreadPaths& unread, ErrorReporter& reporter, WalkErrors walkErrors)
+        : unread_(unread), reporter_(reporter), walkErrors_(walkErrors) {}
+
+    // Of the error that ends a walk.
+    void Report(const std::string& folder, const RunTimeError& error) {
+        // Required: only this message shows the folder without its separator. Do not 'fix'.
+        reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
+    }
+    // Counts a folder, or a name in it, and reports it if the walk goes on without it.
+    bool Skips(UnreadKind kind, const std::string& folder, std::string_view name, const RunTimeError& error) {
+        const bool isNew = unread_.Add(kind, folder + std::string(name));
+        if (walkErrors_ == WalkErrors::Skip && isNew) {
+            Report(folder, error);
+        }
+        return walkErrors_ == WalkErrors::Skip;
+    }
+
+  private:
+    UnreadPaths& unread_;
+    ErrorReporter& reporter_;
+    WalkErrors walkErrors_;
+};
+
 class CountingVisitor final : public WalkVisitor {
   public:
-    CountingVisitor(RunTotals& totals, RunMonitor& monitor) : totals_(totals), monitor_(monitor) {}
+    CountingVisitor(RunTotals& totals, RunMonitor& monitor, WalkReports& reports)
+        : totals_(totals), monitor_(monitor), reports_(reports) {}
 
     void OnFile(const std::shared_ptr<OpenFolder>& /*folder*/, const char* /*name*/) override {
         totals_.FoundCount = CheckedAdd(totals_.FoundCount, 1);
     }
     bool AfterEntry() override { return !monitor_.AbortRequested(); }
+    bool SkipsUnread(UnreadKind kind, const std::string& folder, const char* name,
+                     const RunTimeError& error) override {
+        return reports_.Skips(kind, folder, name, error);
+    }
     bool ReleaseFolders() override { return false; }
 
   private:
     RunTotals& totals_;
     RunMonitor& monitor_;
+    WalkReports& reports_;
 };
 
 class CollectingVisitor final : public WalkVisitor {
   public:
     CollectingVisitor(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
-                      ReadOptions options, unsigned readers)
-        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
+                      WalkReports& reports, ReadOptions options, unsigned readers)
+        : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter), reports_(reports),
           queue_(
-              readers, std::move(options), [this](QueuedTrack& track) { Store(track); },
+              readers, std::move(options), [this](QueuedTrack& track) { Take(track); },
               [this] { return monitor_.AbortRequested(); }) {}
 
     void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) override {
@@ -54,6 +86,11 @@ class CollectingVisitor final : public WalkVisitor {
         }
     }
     bool AfterEntry() override { return !aborted_ && !monitor_.AbortRequested(); }
+    bool SkipsUnread(UnreadKind kind, const std::string& folder, const char* name,
+                     const RunTimeError& error) override {
+        // A failed queue stores nothing more: the error may be its own, and it ends the walk in any case.
+        return !failed_ && reports_.Skips(kind, folder, name, error);
+    }
     bool ReleaseFolders() override {
         const bool held = !queue_.Empty();
         aborted_ = !queue_.Drain() || aborted_;
@@ -63,10 +100,21 @@ class CollectingVisitor final : public WalkVisitor {
     bool Finish() { return queue_.Drain(); }
 
   private:
-    void Store(QueuedTrack& queued) {
-        if (queued.failure) {
+    // An exception leaves the queue failed.
+    void Take(QueuedTrack& queued) {
+        failed_ = true;
+        if (!queued.failure) {
+            Store(queued);
+        } else if (!reports_.Skips(UnreadKind::File, queued.folder->Path(), NameOf(queued),
+                                   *queued.failure)) {
             throw FileFailure{*queued.failure, queued.folder->Path()};
         }
+        failed_ = false;
+    }
+    static std::string_view NameOf(const QueuedTrack& queued) {
+        return std::string_view(queued.reading.track.FullPath).substr(queued.folder->Path().size());
+    }
+    void Store(QueuedTrack& queued) {
         ++totals_.StoredCount;
         TrackReading& reading = queued.reading;
         reading.track.BaseFolder = queued.folder->BaseFolder();
@@ -78,6 +126,7 @@ class CollectingVisitor final : public WalkVisitor {
             ++totals_.UntaggedCount;
         }
         table_.Append(reading.track);
+        CountReading(reading);
         if (reading.decodeError) {
             reporter_.Report(kDecodeErrorTemplate, reading.track.FullPath, "", *reading.decodeError);
         } else {
@@ -85,12 +134,21 @@ class CollectingVisitor final : public WalkVisitor {
         }
     }
 
+    void CountReading(const TrackReading& reading) {
+        totals_.ModernTagCount += reading.modernTag ? 1 : 0;
+        if (reading.unread) {
+            totals_.Unread.Add(UnreadKind::File, reading.track.FullPath);
+        }
+    }
+
     RunTotals& totals_;
     TrackTable& table_;
     RunMonitor& monitor_;
     ErrorReporter& reporter_;
+    WalkReports& reports_;
     std::int32_t submitted_ = 0;
     bool aborted_ = false;
+    bool failed_ = false;
     TrackQueue queue_; // last member: its readers must end before the members they use
 };
 
@@ -118,11 +176,12 @@ bool FolderScanner::ScanFolders(ScanMode mode, std::string_view folderValue, boo
 bool FolderScanner::CountTracks(const std::vector<StartFolder>& starts, bool recurse) {
     totals_.FoundCount = 0;
     FolderWalk walk(PreloadFor(readers_));
-    CountingVisitor visitor(totals_, monitor_);
+    WalkReports reports(totals_.Unread, reporter_, walkErrors_);
+    CountingVisitor visitor(totals_, monitor_, reports);
     try {
         return !WalkAll(starts, recurse, walk, visitor);
     } catch (const RunTimeError& error) {
-        ReportWalkError(walk.CurrentFolder(), error);
+        reports.Report(walk.CurrentFolder(), error);
     }
     return false;
 }
@@ -132,7 +191,8 @@ bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool r
     FolderWalk walk(PreloadFor(readers_));
     ReadOptions options = options_;
     options.longTexts = &table_.LongTexts();
-    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, std::move(options), readers_);
+    WalkReports reports(totals_.Unread, reporter_, walkErrors_);
+    CollectingVisitor visitor(totals_, table_, monitor_, reporter_, reports, std::move(options), readers_);
     bool aborted = false;
     std::optional<FileFailure> failure;
     // Files submitted before a walk error are stored before it is reported; if one of them fails, its error
@@ -148,14 +208,9 @@ bool FolderScanner::CollectTracks(const std::vector<StartFolder>& starts, bool r
         }
     }
     if (failure && !aborted) {
-        ReportWalkError(failure->folder, failure->error);
+        reports.Report(failure->folder, failure->error);
     }
     return aborted;
-}
-
-void FolderScanner::ReportWalkError(const std::string& folder, const RunTimeError& error) {
-    // Required: only this message shows the folder without its separator. Do not 'fix'.
-    reporter_.Report(kWalkErrorTemplate, "", WithoutSeparator(folder, PathStyle::Native()), error);
 }
 
 } // namespace tunedex

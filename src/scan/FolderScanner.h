@@ -32,30 +32,33 @@ class ErrorReporter {
 
 enum class ScanMode { Count, Collect };
 
+// After a folder or file that cannot be read.
+enum class WalkErrors { EndTheWalk, Skip };
+
 class FolderScanner {
   public:
     // `readers`: number of reader threads, as for TrackQueue.
     FolderScanner(RunTotals& totals, TrackTable& table, RunMonitor& monitor, ErrorReporter& reporter,
-                  ReadOptions options, unsigned readers = 0)
+                  ReadOptions options, unsigned readers = 0, WalkErrors walkErrors = WalkErrors::EndTheWalk)
         : totals_(totals), table_(table), monitor_(monitor), reporter_(reporter),
-          options_(std::move(options)), readers_(readers) {}
+          options_(std::move(options)), readers_(readers), walkErrors_(walkErrors) {}
 
     // Scans a folder setting: one folder, or a multi-folder value. Collecting stores at most FoundCount
-    // records. An error in the walk is reported and ends the walk; records stored before it are kept. Returns
-    // true if the user aborted.
+    // records. An error in the walk is reported and ends the walk; records stored before it are kept. With
+    // WalkErrors::Skip the walk goes on, and what is in `totals.Unread` already is not reported again.
+    // Returns true if the user aborted.
     bool ScanFolders(ScanMode mode, std::string_view folderValue, bool recurse);
 
   private:
     bool CountTracks(const std::vector<StartFolder>& starts, bool recurse);
     bool CollectTracks(const std::vector<StartFolder>& starts, bool recurse);
-    void ReportWalkError(const std::string& folder, const RunTimeError& error);
-
     RunTotals& totals_;
     TrackTable& table_;
     RunMonitor& monitor_;
     ErrorReporter& reporter_;
     ReadOptions options_;
     unsigned readers_;
+    WalkErrors walkErrors_;
 };
 
 } // namespace tunedex

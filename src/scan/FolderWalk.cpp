@@ -43,86 +43,144 @@ EntryKind KindOf(int folder, const FolderEntry& entry) {
     return S_ISDIR(*mode) ? EntryKind::Folder : S_ISREG(*mode) ? EntryKind::File : EntryKind::Neither;
 }
 
-// Without a free descriptor: closes folders listed ahead, then those of files in flight, and tries again.
-std::shared_ptr<OpenFolder> OpenForWalk(const std::string& path, std::string_view baseFolder,
-                                        WalkVisitor& visitor, FolderPreload& pendingFolders) {
-    while (true) {
-        try {
-            return std::make_shared<OpenFolder>(path, baseFolder);
-        } catch (const RunTimeError& error) {
-            if (!error.Is(ErrorNumber::TooManyFiles) ||
-                !(pendingFolders.Release() || visitor.ReleaseFolders())) {
-                throw;
+// The walk of one start folder.
+class Course {
+  public:
+    Course(const StartFolder& start, bool recurse, FolderWalk::Preload preload, std::string& currentFolder,
+           WalkVisitor& visitor)
+        : start_(start), recurse_(recurse), preload_(preload), currentFolder_(currentFolder),
+          visitor_(visitor), pending_(start.baseFolder) {}
+
+    // Returns false if the visitor stopped the walk.
+    bool Run() {
+        pending_.Push(start_.path);
+        if (preload_ == FolderWalk::Preload::AtOnce && recurse_) {
+            pending_.Start();
+        }
+        while (const auto next = pending_.Pop()) {
+            currentFolder_ = next->path;
+            if (!Visit(*next)) {
+                return false;
+            }
+            if (pending_.Running() && !pending_.Pays()) {
+                pending_.Stop();
+            }
+        }
+        return true;
+    }
+
+  private:
+    // Without a free descriptor: closes folders listed ahead, then those of files in flight, and tries again.
+    std::shared_ptr<OpenFolder> OpenForWalk() {
+        while (true) {
+            try {
+                return std::make_shared<OpenFolder>(currentFolder_, start_.baseFolder);
+            } catch (const RunTimeError& error) {
+                if (!error.Is(ErrorNumber::TooManyFiles) ||
+                    !(pending_.Release() || visitor_.ReleaseFolders())) {
+                    throw;
+                }
             }
         }
     }
-}
+
+    // Opens the current folder, unless it has been listed ahead.
+    std::shared_ptr<OpenFolder> Open(PendingFolder& next) {
+        if (next.folder) {
+            return std::move(next.folder);
+        }
+        const auto begun = std::chrono::steady_clock::now();
+        std::shared_ptr<OpenFolder> folder = OpenForWalk();
+        folder->ReadAhead(1); // the first read may block, too
+        if (detector_.AfterOpen(std::chrono::steady_clock::now() - begun) &&
+            preload_ == FolderWalk::Preload::WhenWaiting && recurse_) {
+            pending_.Start();
+        }
+        return folder;
+    }
+
+    // Whether the folder is visited for the first time.
+    bool IsNew(const OpenFolder& folder) {
+        struct stat status {};
+        if (Uninterrupted([&] { return fstat(folder.Descriptor(), &status); }) != 0) {
+            throw ErrorFromErrno(errno, FileTask::UseFolder);
+        }
+        return walked_.emplace(status.st_dev, status.st_ino).second;
+    }
+
+    // Calls `read`, which raises errors of the file system only. Returns nothing if it raised one and the
+    // visitor skips what could not be read.
+    template <typename Read>
+    auto Attempt(UnreadKind kind, const char* name, Read read) -> std::optional<decltype(read())> {
+        try {
+            return read();
+        } catch (const RunTimeError& error) {
+            if (!visitor_.SkipsUnread(kind, currentFolder_, name, error)) {
+                throw;
+            }
+        }
+        return std::nullopt;
+    }
+
+    bool Visit(PendingFolder& next) {
+        const auto folder = Attempt(UnreadKind::Folder, "", [&] {
+            std::shared_ptr<OpenFolder> opened = Open(next);
+            return IsNew(*opened) ? opened : nullptr;
+        });
+        return !folder || !*folder || VisitEntries(next, *folder);
+    }
+
+    bool VisitEntries(PendingFolder& next, const std::shared_ptr<OpenFolder>& folder) {
+        while (true) {
+            const auto entry = Attempt(UnreadKind::Folder, "", [&] { return folder->Next(); });
+            if (!entry || !*entry) {
+                return true;
+            }
+            const std::string_view name((*entry)->name);
+            if (name.starts_with('.')) {
+                continue; // hidden, ".", or ".."
+            }
+            VisitEntry(next, folder, **entry);
+            if (!visitor_.AfterEntry()) {
+                return false;
+            }
+        }
+    }
+
+    void VisitEntry(PendingFolder& next, const std::shared_ptr<OpenFolder>& folder,
+                    const FolderEntry& entry) {
+        const bool matches = EndsInIgnoringCase(entry.name, ".MP3");
+        const bool mayBeFolder = recurse_ && entry.type != DT_REG;
+        if (!matches && !mayBeFolder) {
+            return;
+        }
+        const EntryKind kind = Attempt(matches ? UnreadKind::File : UnreadKind::Folder, entry.name, [&] {
+                                   return KindOf(folder->Descriptor(), entry);
+                               }).value_or(EntryKind::Neither);
+        if (recurse_ && kind == EntryKind::Folder) {
+            // Required: a stack, so siblings come out in reverse listing order. Do not 'fix'.
+            pending_.Push(folder->Path() + entry.name + PathStyle::Native().separator, &next);
+        } else if (matches && kind != EntryKind::Neither) {
+            // Required: without recursion a folder named *.mp3 counts as a file; collecting it then fails. Do
+            // not 'fix'.
+            visitor_.OnFile(folder, entry.name);
+        }
+    }
+
+    const StartFolder& start_;
+    const bool recurse_;
+    const FolderWalk::Preload preload_;
+    std::string& currentFolder_;
+    WalkVisitor& visitor_;
+    FolderPreload pending_;
+    WaitDetector detector_;
+    std::set<std::pair<dev_t, ino_t>> walked_;
+};
 
 } // namespace
 
 bool FolderWalk::Run(const StartFolder& start, bool recurse, WalkVisitor& visitor) {
-    std::set<std::pair<dev_t, ino_t>> walked;
-    FolderPreload pendingFolders(start.baseFolder);
-    WaitDetector detector;
-    pendingFolders.Push(start.path);
-    if (preload_ == Preload::AtOnce && recurse) {
-        pendingFolders.Start();
-    }
-    while (const auto pending = pendingFolders.Pop()) {
-        currentFolder_ = pending->path;
-        std::shared_ptr<OpenFolder> folder = std::move(pending->folder);
-        if (!folder) {
-            const auto begun = std::chrono::steady_clock::now();
-            folder = OpenForWalk(currentFolder_, start.baseFolder, visitor, pendingFolders);
-            folder->ReadAhead(1); // the first read may block, too
-            if (detector.AfterOpen(std::chrono::steady_clock::now() - begun) &&
-                preload_ == Preload::WhenWaiting && recurse) {
-                pendingFolders.Start();
-            }
-        }
-        struct stat status {};
-        if (Uninterrupted([&] { return fstat(folder->Descriptor(), &status); }) != 0) {
-            throw ErrorFromErrno(errno, FileTask::UseFolder);
-        }
-        if (walked.emplace(status.st_dev, status.st_ino).second &&
-            !WalkOne(*pending, folder, recurse, pendingFolders, visitor)) {
-            return false;
-        }
-        if (pendingFolders.Running() && !pendingFolders.Pays()) {
-            pendingFolders.Stop();
-        }
-    }
-    return true;
-}
-
-bool FolderWalk::WalkOne(PendingFolder& pending, const std::shared_ptr<OpenFolder>& folder, bool recurse,
-                         FolderPreload& pendingFolders, WalkVisitor& visitor) {
-    while (true) {
-        const std::optional<FolderEntry> entry = folder->Next();
-        if (!entry) {
-            return true;
-        }
-        const std::string_view name(entry->name);
-        if (name.starts_with('.')) {
-            continue; // hidden, ".", or ".."
-        }
-        const bool matches = EndsInIgnoringCase(name, ".MP3");
-        const bool mayBeFolder = recurse && entry->type != DT_REG;
-        if (matches || mayBeFolder) {
-            const EntryKind kind = KindOf(folder->Descriptor(), *entry);
-            if (recurse && kind == EntryKind::Folder) {
-                // Required: a stack, so siblings come out in reverse listing order. Do not 'fix'.
-                pendingFolders.Push(folder->Path() + entry->name + PathStyle::Native().separator, &pending);
-            } else if (matches && kind != EntryKind::Neither) {
-                // Required: without recursion a folder named *.mp3 counts as a file; collecting it then
-                // fails. Do not 'fix'.
-                visitor.OnFile(folder, entry->name);
-            }
-        }
-        if (!visitor.AfterEntry()) {
-            return false;
-        }
-    }
+    return Course(start, recurse, preload_, currentFolder_, visitor).Run();
 }
 
 } // namespace tunedex

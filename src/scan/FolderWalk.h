@@ -3,14 +3,13 @@
 
 #include "FolderSetting.h"
 #include "OpenFolder.h"
+#include "RunTimeError.h"
+#include "RunTotals.h"
 
 #include <memory>
 #include <string>
 
 namespace tunedex {
-
-class FolderPreload;
-struct PendingFolder;
 
 class WalkVisitor {
   public:
@@ -23,6 +22,13 @@ class WalkVisitor {
     virtual void OnFile(const std::shared_ptr<OpenFolder>& folder, const char* name) = 0;
     // Called after each name, matching or not. Returns false to stop the walk.
     virtual bool AfterEntry() = 0;
+    // Called when `folder` cannot be listed, or not to its end (`name` is then empty), and when a name in it
+    // cannot be examined; `kind` is what the name may be. Returns whether the walk goes on without it;
+    // otherwise the walk raises the error.
+    virtual bool SkipsUnread(UnreadKind /*kind*/, const std::string& /*folder*/, const char* /*name*/,
+                             const RunTimeError& /*error*/) {
+        return false;
+    }
     // Called when no file descriptor is free for the next folder: close what can be closed. Returns whether
     // anything was.
     virtual bool ReleaseFolders() = 0;
@@ -39,16 +45,13 @@ class FolderWalk {
     // Visits the MP3 files of the folder in directory order, then with `recurse` its sub-folders, depth
     // first. Siblings are visited in the reverse of the order in which they were listed. A folder is walked
     // once, whatever links lead to it. Returns false if the visitor stopped the walk. Raises the error of a
-    // folder that cannot be listed; CurrentFolder() is then that folder.
+    // folder that cannot be listed, unless the visitor skips it; CurrentFolder() is then that folder.
     bool Run(const StartFolder& start, bool recurse, WalkVisitor& visitor);
 
     // The folder being walked.
     const std::string& CurrentFolder() const { return currentFolder_; }
 
   private:
-    bool WalkOne(PendingFolder& pending, const std::shared_ptr<OpenFolder>& folder, bool recurse,
-                 FolderPreload& pendingFolders, WalkVisitor& visitor);
-
     const Preload preload_;
     std::string currentFolder_;
 };

@@ -31,7 +31,8 @@ std::uint32_t FrameSize(std::span<const std::uint8_t, 4> bytes) {
 struct TagTarget {
     TrackInfo& track;
     bool moveTheArtists;
-    LongTextPool* longTexts; // null: long texts are set as the track's own fields
+    LongTextPool* longTexts;    // null: long texts are set as the track's own fields
+    bool otherEncoding = false; // of a frame that was read
 };
 
 using TextField = std::string TrackInfo::*;
@@ -53,9 +54,14 @@ TextField FieldOf(std::string_view frameId) {
     return frameId == "TCON" ? &TrackInfo::Genre : nullptr;
 }
 
+// Section 3.3 of ID3v2.3 and section 4 of ID3v2.4: 1 is UTF-16, 2 UTF-16BE, 3 UTF-8.
+bool IsOtherEncoding(char encoding) {
+    return encoding >= 1 && encoding <= 3;
+}
+
 // Reads and decodes a frame in pieces, so that memory is bounded by its text without NULs: a frame may
 // declare, and a sparse file contain, a gigabyte of them.
-LongText ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t size,
+LongText ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t size, TagTarget& target,
                          LongTextPool::Turn& turn) {
     constexpr std::uint32_t kPiece = 65536;
     std::string bytes;
@@ -64,6 +70,7 @@ LongText ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t s
     for (std::uint32_t done = 0; done < size;) {
         bytes.resize(std::min(kPiece, size - done));
         file.ReadExactly(offset + done, {reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size()});
+        target.otherEncoding |= done == 0 && IsOtherEncoding(bytes.front());
         SetTagText(text, bytes);
         content.Append(text);
         turn.Reach(content.View().size());
@@ -72,7 +79,7 @@ LongText ReadLongContent(ByteSource& file, std::uint64_t offset, std::uint32_t s
     return content;
 }
 
-void SetField(TextField field, std::string_view bytes, const TagTarget& target) {
+void SetField(TextField field, std::string_view bytes, TagTarget& target) {
     target.track.Unset(field);
     std::string& text = target.track.*field;
     SetTagText(text, bytes);
@@ -85,9 +92,9 @@ void SetField(TextField field, std::string_view bytes, const TagTarget& target) 
 
 // Sets a field from a frame read in pieces. The turn lasts until the text is shared.
 void ReadLongField(ByteSource& file, std::uint64_t offset, std::uint32_t size, TextField field,
-                   const TagTarget& target) {
+                   TagTarget& target) {
     LongTextPool::Turn turn(target.longTexts);
-    LongText text = ReadLongContent(file, offset, size, turn);
+    LongText text = ReadLongContent(file, offset, size, target, turn);
     if (text.View().empty()) {
         SetField(field, {}, target);
         return;
@@ -105,19 +112,20 @@ void ReadLongField(ByteSource& file, std::uint64_t offset, std::uint32_t size, T
 
 // Sets `field` from a frame; leaves it unchanged if the frame cannot be read.
 void ReadContent(ByteSource& file, std::uint64_t offset, std::uint32_t size, TextField field,
-                 const TagTarget& target) {
+                 TagTarget& target) {
     std::array<char, 512> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the read
     if (size > bytes.size()) {
         ReadLongField(file, offset, size, field, target);
         return;
     }
     file.ReadExactly(offset, {reinterpret_cast<std::uint8_t*>(bytes.data()), size});
+    target.otherEncoding |= size > 0 && IsOtherEncoding(bytes.front());
     SetField(field, {bytes.data(), size}, target);
 }
 
 // Reads the frame at `offset`. Returns the offset of the next frame, or nothing at padding or the end of the
 // file.
-std::optional<std::uint64_t> ReadFrame(ByteSource& file, std::uint64_t offset, const TagTarget& target) {
+std::optional<std::uint64_t> ReadFrame(ByteSource& file, std::uint64_t offset, TagTarget& target) {
     // Offset/width (ID3v2.3 section 3.3): ID 0/4, size 4/4, flags 8/2, content from 10.
     std::array<std::uint8_t, 8> header{};
     if (file.Read(offset, header) < header.size()) {
@@ -152,21 +160,23 @@ Id3v2Location DetectId3v2(ByteSource& file) {
         return {};
     }
     const std::span<const std::uint8_t> bytes(header);
-    return {true, kHeaderBytes + TagSize(bytes.subspan<6, 4>())};
+    constexpr unsigned kUnsynchronised = 0x80;
+    const bool otherLayout = header[3] == 2 || header[3] == 4 || (header[5] & kUnsynchronised) != 0;
+    return {true, kHeaderBytes + TagSize(bytes.subspan<6, 4>()), otherLayout};
 }
 
-void ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track,
+bool ReadId3v2(ByteSource& file, const Id3v2Location& location, bool moveTheArtists, TrackInfo& track,
                LongTextPool* longTexts) {
-    const TagTarget target{track, moveTheArtists, longTexts};
+    TagTarget target{track, moveTheArtists, longTexts};
     try {
         // Required: a tag of size 0 still reads one frame. Do not 'fix'.
         std::optional<std::uint64_t> offset = kHeaderBytes;
         do {
             offset = ReadFrame(file, *offset, target);
         } while (offset && *offset + 1 < location.searchPosition);
-    } catch (const RunTimeError&) {
-        return; // fields set so far are kept
+    } catch (const RunTimeError&) { //  fields set so far are kept
     }
+    return target.otherEncoding;
 }
 
 } // namespace tunedex

@@ -22,6 +22,15 @@ void StartAnew(TrackReading& reading) {
     reading.track.Clear();
     reading.decodeError.reset();
     reading.stopped = false;
+    reading.unread = false;
+    reading.modernTag = false;
+}
+
+// Why no audio header was decoded.
+void SetError(TrackReading& reading, const RunTimeError& error) {
+    reading.decodeError = error;
+    reading.unread = !error.Is(ErrorNumber::InputPastEnd) && !error.Is(ErrorNumber::DivisionByZero) &&
+                     !error.Is(ErrorNumber::Overflow);
 }
 
 void MarkUntagged(TrackInfo& track) {
@@ -51,7 +60,8 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
     const Id3v2Location id3v2 = DetectId3v2(file);
     const bool id3v1 = ReadId3v1(file, options.moveTheArtists, track);
     if (id3v2.present) {
-        ReadId3v2(file, id3v2, options.moveTheArtists, track, options.longTexts);
+        const bool otherEncoding = ReadId3v2(file, id3v2, options.moveTheArtists, track, options.longTexts);
+        reading.modernTag = id3v2.otherLayout || otherEncoding;
         track.TagType = kId3v2Tag;
     } else if (id3v1) {
         track.TagType = kId3v1Tag;
@@ -61,7 +71,7 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
     try {
         DecodeMpegHeader(file, id3v2.searchPosition, track);
     } catch (const RunTimeError& error) {
-        reading.decodeError = error;
+        SetError(reading, error);
     }
 }
 
@@ -73,7 +83,7 @@ void ReadTrackFile(int folder, const char* name, const ReadOptions& options, Tra
         StartAnew(reading);
         reading.track.FileSize = MeasureFile(folder, name);
         MarkUntagged(reading.track);
-        reading.decodeError = error;
+        SetError(reading, error);
         return;
     }
     ReadTrackInfo(*file, options, reading);

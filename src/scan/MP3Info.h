@@ -23,6 +23,8 @@ struct TrackReading {
     TrackInfo track;
     std::optional<RunTimeError> decodeError; // why no audio header was decoded; the track is kept
     bool stopped = false;                    // the stop test ended the reading; discard the rest
+    bool unread = false;    // the file could not be opened or read; it is a track without tags
+    bool modernTag = false; // read by the classic readers, but the modern ones would read its texts otherwise
 };
 
 // The largest file size a record holds, in bytes; longer files are recorded with it.

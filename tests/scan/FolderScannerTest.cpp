@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <sys/resource.h>
 #include <utility>
@@ -33,12 +34,12 @@ struct Scan {
         : readers(readerCount), options(std::move(readOptions)) {}
 
     bool Count(const std::string& folders, bool recurse = true) {
-        return FolderScanner(totals, table, monitor, reporter, options, readers)
+        return FolderScanner(totals, table, monitor, reporter, options, readers, walkErrors)
             .ScanFolders(ScanMode::Count, folders, recurse);
     }
     bool Collect(const std::string& folders, bool recurse = true) {
         table = TrackTable(static_cast<std::size_t>(totals.FoundCount));
-        return FolderScanner(totals, table, monitor, reporter, options, readers)
+        return FolderScanner(totals, table, monitor, reporter, options, readers, walkErrors)
             .ScanFolders(ScanMode::Collect, folders, recurse);
     }
     bool Run(const std::string& folders, bool recurse = true) {
@@ -54,6 +55,7 @@ struct Scan {
 
     unsigned readers;
     ReadOptions options;
+    WalkErrors walkErrors = WalkErrors::EndTheWalk;
     RunTotals totals;
     TrackTable table;
     FakeMonitor monitor;
@@ -227,6 +229,110 @@ TEST(ScanFolders, ListsAnUnreadableFileWithoutTags) {
     EXPECT_EQ(scan.totals.UntaggedCount, 1);
     EXPECT_EQ(scan.reporter.reports,
               (std::vector<FakeReporter::Reported>{{kDecodeError, folder / "a.mp3", "", 75}}));
+}
+
+// Eight albums of one track, a folder and a file that may not be read, and a folder named like a file.
+struct DamagedCollection {
+    DamagedCollection() {
+        for (int album = 1; album <= 8; ++album) {
+            folder.Write("album " + std::to_string(album) + "/a.mp3", Tagged("a"));
+        }
+        fs::create_directory(folder / "lost+found");
+        fs::create_directory(folder / "secret");
+        folder.Write("album 1/locked.mp3", Tagged("secret"));
+        fs::permissions(folder.Path(), fs::perms::all);
+        for (const char* name : {"lost+found", "secret", "album 1/locked.mp3"}) {
+            fs::permissions(folder / name, fs::perms::none);
+        }
+    }
+    DamagedCollection(const DamagedCollection&) = delete;
+    DamagedCollection& operator=(const DamagedCollection&) = delete;
+    ~DamagedCollection() {
+        fs::permissions(folder / "lost+found", fs::perms::owner_all);
+        fs::permissions(folder / "secret", fs::perms::owner_all);
+    }
+
+    const TestFolder folder;
+};
+
+TEST(ScanFolders, SkipsWhatItCannotReadAndReportsItOnce) {
+    const DamagedCollection collection;
+    const test::OrdinaryRights rights;
+    for (const unsigned readers : {1U, 3U}) {
+        Scan scan(readers);
+        scan.walkErrors = WalkErrors::Skip;
+        EXPECT_FALSE(
+            scan.Run("%MULT%" + (collection.folder / "missing") + "%||%" + collection.folder.Path()));
+        EXPECT_EQ(scan.table.Count(), 9U);
+        EXPECT_EQ(scan.totals.Unread.folders,
+                  (std::set<std::string>{collection.folder / "missing/", collection.folder / "lost+found/",
+                                         collection.folder / "secret/"}));
+        EXPECT_EQ(scan.totals.Unread.files,
+                  (std::set<std::string>{collection.folder / "album 1/locked.mp3"}));
+        EXPECT_EQ(scan.reporter.reports.size(), 4U);
+        const FakeReporter::Reported first{kWalkError, "", collection.folder / "missing", 76};
+        EXPECT_EQ(scan.reporter.reports.front(), first);
+    }
+}
+
+TEST(ScanFolders, CountsWhatEndsTheWalk) {
+    const DamagedCollection collection;
+    const test::OrdinaryRights rights;
+    Scan scan;
+    EXPECT_FALSE(scan.Run(collection.folder / "secret"));
+    EXPECT_EQ(scan.totals.Unread.folders, (std::set<std::string>{collection.folder / "secret/"}));
+    EXPECT_FALSE(scan.Run(collection.folder / "album 1"));
+    EXPECT_EQ(scan.totals.Unread.files, (std::set<std::string>{collection.folder / "album 1/locked.mp3"}));
+}
+
+TEST(ScanFolders, SkipsAFileWithoutASize) {
+    const TestFolder folder;
+    folder.Write("a.mp3", Tagged("a"));
+    folder.Write("Live.mp3/b.mp3", Tagged("b"));
+    for (const unsigned readers : {1U, 3U}) {
+        Scan scan(readers);
+        scan.walkErrors = WalkErrors::Skip;
+        EXPECT_FALSE(scan.Run(folder.Path(), false));
+        EXPECT_EQ(scan.totals.FoundCount, 2);
+        EXPECT_EQ(scan.totals.StoredCount, 1);
+        EXPECT_EQ(scan.table.Count(), 1U);
+        EXPECT_EQ(scan.totals.Unread.files, (std::set<std::string>{folder / "Live.mp3"}));
+        const std::string path = folder.Path().substr(0, folder.Path().find_last_not_of('/') + 1);
+        EXPECT_EQ(scan.reporter.reports, (std::vector<FakeReporter::Reported>{{kWalkError, "", path, 53}}));
+    }
+}
+
+TEST(ScanFolders, CountsTheTagsThatOnlyModernReadersUnderstand) {
+    const std::string latin = test::Id3v2Tag({{"TIT2", test::Latin1("a")}});
+    std::string version4 = latin;
+    version4[3] = 4;
+    std::string unsynchronised = latin;
+    unsynchronised[5] = static_cast<char>(0x80);
+    struct Row {
+        std::string tag;
+        int modern;
+    };
+    const Row rows[] = {
+        {latin, 0},
+        {version4, 1},
+        {unsynchronised, 1},
+        {test::Id3v2Tag({{"TIT2", std::string("\1\xff\xfe"
+                                              "a\0",
+                                              5)}}),
+         1},
+        {test::Id3v2Tag({{"TALB", "\3" + std::string(5000, 'a')}}), 1},
+        {test::Id3v2Tag({{"TIT2", "x"}, {"TXXX", "\3x"}}), 0},
+        {test::Id3v2Tag({{"TIT2", ""}}), 0},
+        {"", 0},
+    };
+    for (const Row& row : rows) {
+        const TestFolder folder;
+        folder.Write("a.mp3", row.tag + Audio(2000));
+        Scan scan;
+        EXPECT_FALSE(scan.Run(folder.Path()));
+        EXPECT_EQ(scan.totals.ModernTagCount, row.modern);
+        EXPECT_FALSE(scan.totals.Unread.Any());
+    }
 }
 
 TEST(ScanFolders, ReportsFoldersWithoutTheirSeparator) {
