@@ -6,6 +6,7 @@
 #include "Display.h"
 #include "ExitStatus.h"
 #include "QSettingsRegistry.h"
+#include "QtCollation.h"
 #include "RunTerminal.h"
 #include "RunTimeError.h"
 #include "RunWindows.h"
@@ -15,6 +16,7 @@
 #include <exception>
 #include <fcntl.h>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
 #include <unistd.h>
@@ -59,6 +61,7 @@ int Run(int argc, char** argv) {
     tunedex::SystemClock clock;
     tunedex::QSettingsRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
+    application.collation = std::make_shared<tunedex::QtCollation>(tunedex::CollationLanguage());
     if (const std::optional<std::string> path = tunedex::DefaultsFile(arguments)) {
         return WriteDefaults(application, *path);
     }

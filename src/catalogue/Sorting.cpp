@@ -1,5 +1,6 @@
 #include "Sorting.h"
 
+#include "AbortPoll.h"
 #include "Text.h"
 
 #include <algorithm>
@@ -13,30 +14,6 @@
 namespace tunedex {
 
 namespace {
-
-struct SortAborted {};
-
-// Polls for an abort at the first step and then every few thousand: responsive, at no measurable cost.
-class AbortPoll {
-  public:
-    explicit AbortPoll(RunMonitor& monitor) : monitor_(monitor) {}
-
-    void Step() {
-        if ((steps_++ & 0x1FFFU) == 0) {
-            Ask();
-        }
-    }
-    // For a step over a long text, which takes as long as many short ones.
-    void Ask() {
-        if (monitor_.AbortRequested()) {
-            throw SortAborted();
-        }
-    }
-
-  private:
-    RunMonitor& monitor_;
-    std::uint32_t steps_ = 0;
-};
 
 std::uint64_t PrefixOf(std::string_view text) {
     std::uint64_t prefix = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Clock.h"
+#include "Collation.h"
 #include "EntityTable.h"
 #include "Locale.h"
 #include "Registry.h"
@@ -9,6 +10,7 @@
 #include "SettingsFuncs.h"
 #include "Statistics.h"
 
+#include <memory>
 #include <ostream>
 #include <string>
 
@@ -30,7 +32,8 @@ struct Application {
     bool automaticMode = false;
     std::string errorTitle = "Error!"; // the title of every error message
     unsigned readers = 0;              // number of reader threads; 0: automatic. Not a user setting
-    bool abortRequested = false;       // set only by the Abort button, cleared when a run starts
+    std::shared_ptr<const Collation> collation = std::make_shared<CodeOrder>(); // of modern listings
+    bool abortRequested = false; // set only by the Abort button, cleared when a run starts
 };
 
 // Version, date and time for the header of a file written now.

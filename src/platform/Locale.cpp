@@ -12,22 +12,6 @@ namespace tunedex {
 
 namespace {
 
-// The locale name for one category, in POSIX order of precedence; empty for the neutral formats.
-std::string NameFor(const char* category) {
-    for (const char* variable : {"LC_ALL", category, "LANG"}) {
-        const char* value = std::getenv(variable);
-        if (value != nullptr && *value != '\0') {
-            const std::string_view name(value);
-            // "C.UTF-8" in any spelling: "C.utf8", "C.UTF8" and so on.
-            if (name == "C" || name == "POSIX" || name.starts_with("C.")) {
-                return {};
-            }
-            return std::string(name);
-        }
-    }
-    return {};
-}
-
 std::shared_ptr<void> OpenLocale(int mask, const std::string& name) {
     if (name.empty()) {
         return nullptr;
@@ -75,6 +59,21 @@ std::string InWindows1252(std::string separator) {
 
 } // namespace
 
+std::string LocaleNameFor(const char* category) {
+    for (const char* variable : {"LC_ALL", category, "LANG"}) {
+        const char* value = std::getenv(variable);
+        if (value != nullptr && *value != '\0') {
+            const std::string_view name(value);
+            // "C.UTF-8" in any spelling: "C.utf8", "C.UTF8" and so on.
+            if (name == "C" || name == "POSIX" || name.starts_with("C.")) {
+                return {};
+            }
+            return std::string(name);
+        }
+    }
+    return {};
+}
+
 bool IsTwelveHourFormat(std::string_view format) {
     for (std::size_t i = 0; i + 1 < format.size(); ++i) {
         if (format[i] != '%') {
@@ -95,13 +94,13 @@ Locale::Locale() = default;
 
 Locale Locale::FromEnvironment() {
     Locale formats;
-    formats.timeLocale_ = OpenLocale(LC_TIME_MASK | LC_CTYPE_MASK, NameFor("LC_TIME"));
+    formats.timeLocale_ = OpenLocale(LC_TIME_MASK | LC_CTYPE_MASK, LocaleNameFor("LC_TIME"));
     if (formats.timeLocale_) {
         auto* const opened = static_cast<locale_t>(formats.timeLocale_.get());
         formats.timeCharset_ = nl_langinfo_l(CODESET, opened);
         formats.twelveHours_ = IsTwelveHourFormat(nl_langinfo_l(T_FMT, opened));
     }
-    if (const auto numbers = OpenLocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, NameFor("LC_NUMERIC"))) {
+    if (const auto numbers = OpenLocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, LocaleNameFor("LC_NUMERIC"))) {
         auto* const opened = static_cast<locale_t>(numbers.get());
         const std::string charset = nl_langinfo_l(CODESET, opened);
         formats.thousands_ = InWindows1252(ToUtf8(nl_langinfo_l(THOUSEP, opened), charset));

@@ -32,6 +32,10 @@ class Locale {
     std::string decimal_ = ".";
 };
 
+// The name of the user's locale for a category such as "LC_TIME", by precedence: LC_ALL, the category, LANG.
+// Empty when that is unset, C, POSIX or C.UTF-8. The locale need not be installed.
+std::string LocaleNameFor(const char* category);
+
 // Whether a strftime time format (a locale's %X) uses a 12-hour clock.
 bool IsTwelveHourFormat(std::string_view format);
 
