@@ -14,6 +14,8 @@ namespace tunedex {
 
 struct Application;
 
+inline constexpr std::string_view kLogFileName = "Tunedex.log"; // in the program folder
+
 // Shows a message and returns the button pressed; an empty title becomes the program's name.
 int ShowMessage(UserInterface& ui, std::string_view text, int buttons, std::string_view title);
 

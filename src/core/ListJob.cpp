@@ -1,5 +1,6 @@
 #include "ListJob.h"
 
+#include "CodePages.h"
 #include "FileSystem.h"
 #include "FolderScanner.h"
 #include "FolderSetting.h"
@@ -7,7 +8,9 @@
 #include "Numbers.h"
 #include "OutputLink.h"
 #include "OutputList.h"
+#include "PageFiles.h"
 #include "Path.h"
+#include "SortByAlbum.h"
 #include "Sorting.h"
 #include "Startup.h"
 
@@ -19,8 +22,6 @@ namespace tunedex {
 
 namespace {
 
-constexpr std::string_view kLogFileName = "Tunedex.log";
-
 // One run, with its own table, totals, log and copy of the settings.
 class ListRun final : public ErrorReporter {
   public:
@@ -29,7 +30,7 @@ class ListRun final : public ErrorReporter {
     // Returns whether the run may start; if not, the user has been told why.
     bool Validate();
     void Work();
-    bool ListWritten() const { return listWritten_; }
+    RunOutcome Outcome() const;
 
     void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
                 const RunTimeError& error) override {
@@ -43,6 +44,7 @@ class ListRun final : public ErrorReporter {
     }
     bool ValidateInput();
     bool ValidateOutput();
+    ReadOptions OptionsOfReaders();
     bool Scan(RunMonitor& monitor, ScanMode mode);
     bool Read(RunMonitor& monitor);
     bool Sort(RunMonitor& monitor);
@@ -55,7 +57,8 @@ class ListRun final : public ErrorReporter {
     Settings settings_;
     RunTotals totals_;
     TrackTable table_;
-    RunMonitor* monitor_ = nullptr; // set once the progress window is shown
+    std::optional<CodePage> codePage_; // of tags, in a modern run
+    RunMonitor* monitor_ = nullptr;    // set once the progress window is shown
     std::optional<LogFile> log_;
     bool listWritten_ = false;
 };
@@ -105,9 +108,17 @@ bool ListRun::Validate() {
     return ValidateInput() && ValidateOutput();
 }
 
+ReadOptions ListRun::OptionsOfReaders() {
+    if (settings_.Modern && !codePage_) {
+        codePage_.emplace(settings_.TagCodePage.empty() ? kDefaultCodePage : settings_.TagCodePage);
+    }
+    return {.moveTheArtists = settings_.MoveTheArtists, .modern = codePage_ ? &*codePage_ : nullptr};
+}
+
 // One pass over the folders. Returns false on abort.
 bool ListRun::Scan(RunMonitor& monitor, ScanMode mode) {
-    FolderScanner scanner(totals_, table_, monitor, *this, {settings_.MoveTheArtists}, application_.readers);
+    FolderScanner scanner(totals_, table_, monitor, *this, OptionsOfReaders(), application_.readers,
+                          settings_.Modern ? WalkErrors::Skip : WalkErrors::EndTheWalk);
     const bool aborted = scanner.ScanFolders(mode, settings_.Directory, settings_.Recurse);
     if (aborted) {
         ui_.CloseProgress();
@@ -127,11 +138,13 @@ bool ListRun::Read(RunMonitor& monitor) {
 
 bool ListRun::Sort(RunMonitor& monitor) {
     monitor.SetStatus("Sorting information...");
-    if (settings_.SortOrder != kNoSorting && SortTracks(table_, settings_.SortOrder, monitor)) {
+    const bool aborted = settings_.Modern
+                             ? SortByAlbum(table_, settings_.SortOrder, *application_.collation, monitor)
+                             : SortTracks(table_, settings_.SortOrder, monitor);
+    if (aborted) {
         ui_.CloseProgress();
-        return false;
     }
-    return true;
+    return !aborted;
 }
 
 bool ListRun::Write(RunMonitor& monitor) {
@@ -184,6 +197,25 @@ void ListRun::Work() {
     }
 }
 
+RunOutcome ListRun::Outcome() const {
+    RunOutcome outcome;
+    outcome.written = listWritten_;
+    outcome.tracks = static_cast<std::int32_t>(table_.Count());
+    outcome.modern = settings_.Modern;
+    outcome.logged = settings_.ErrorLog;
+    outcome.unreadFolders = totals_.Unread.folders.size();
+    outcome.unreadFiles = totals_.Unread.files.size();
+    outcome.modernTags = totals_.ModernTagCount;
+    if (listWritten_) {
+        const bool paged = OutputTypeOf(settings_.OutputFile) == kHtmlOutput;
+        const PageFiles pages(settings_.OutputFile, paged ? settings_.Spanning : std::int16_t{0},
+                              table_.Count());
+        outcome.file = pages.PathOf(1);
+        outcome.pages = pages.Count();
+    }
+    return outcome;
+}
+
 std::string TrappedErrorText(const RunTimeError& error) {
     if (error.Is(ErrorNumber::BadFileName)) {
         return "An error occurred verifying your input directory.\r\n\r\n"
@@ -196,7 +228,7 @@ std::string TrappedErrorText(const RunTimeError& error) {
 
 } // namespace
 
-bool CreateList(Application& application, UserInterface& ui) {
+RunOutcome CreateList(Application& application, UserInterface& ui) {
     ListRun run(application, ui);
     try {
         if (run.Validate()) {
@@ -207,7 +239,7 @@ bool CreateList(Application& application, UserInterface& ui) {
         // "fix".
         ShowMessage(ui, TrappedErrorText(CaughtError()), kOkExclamation, "Error");
     }
-    return run.ListWritten();
+    return run.Outcome();
 }
 
 } // namespace tunedex

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "Application.h"
+#include "RunOutcome.h"
 #include "UserInterface.h"
 
 namespace tunedex {
 
 // Validates folder and output file (creating a missing output folder if the user agrees), searches, reads,
-// sorts and writes, and shows all messages of the run. Returns whether the listing was written completely.
-// Run-time errors are shown in a message and not raised.
-bool CreateList(Application& application, UserInterface& ui);
+// sorts and writes, and shows all messages of the run. Run-time errors are shown in a message and not raised.
+RunOutcome CreateList(Application& application, UserInterface& ui);
 
 } // namespace tunedex

@@ -5,7 +5,6 @@
 #include "FileSystem.h"
 #include "FolderSetting.h"
 #include "Functions.h"
-#include "ListJob.h"
 #include "ProgramFolder.h"
 #include "Version.h"
 
@@ -77,7 +76,7 @@ void TakeLayoutControls(Settings& settings) {
     settings.DocumentType = settings.DocumentType == "XHTML" ? "XHTML" : "HTML";
 }
 
-bool CreateListCommand(Application& application, UserInterface& ui) {
+RunOutcome CreateListCommand(Application& application, UserInterface& ui) {
     if (!IsMultiFolder(application.settings.Directory)) {
         application.settings.Directory = ui.Fields().inputFolder;
     }
@@ -86,7 +85,7 @@ bool CreateListCommand(Application& application, UserInterface& ui) {
                                   application.faults);
     } catch (const std::exception&) {
         ShowMessage(ui, UnexpectedErrorText(CaughtError()), kOkExclamation, "Error");
-        return false;
+        return {};
     }
     return CreateList(application, ui);
 }

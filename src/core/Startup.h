@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Application.h"
+#include "ListJob.h"
 #include "UserInterface.h"
 
 #include <span>
@@ -25,9 +26,8 @@ void TakeMainFields(Settings& settings, const MainFields& fields);
 // "XHTML" becomes "HTML".
 void TakeLayoutControls(Settings& settings);
 
-// The Create List command: takes the folder field, loads the entity table and runs the list job. Returns
-// whether the listing was written.
-bool CreateListCommand(Application& application, UserInterface& ui);
+// The Create List command: takes the folder field, loads the entity table and runs the list job.
+RunOutcome CreateListCommand(Application& application, UserInterface& ui);
 
 // Saves the settings to `path` with SaveSettings. Returns a message, titled kUnsavedSettingsTitle, that names
 // the settings that could not be saved; empty when all were.

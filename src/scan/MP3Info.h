@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ByteSource.h"
+#include "CodePages.h"
 #include "RunTimeError.h"
 #include "TrackInfo.h"
 
@@ -13,6 +14,8 @@ namespace tunedex {
 
 struct ReadOptions {
     bool moveTheArtists = false;
+    // The modern readers read, with this code page where a tag names no encoding; null: the classic readers.
+    const CodePage* modern = nullptr;
     ReadAhead readAhead = ReadAhead::AsUsual;
     StopTest stop = {}; // polled during files that take many reads, on the reading thread
     // Shares long tag texts; null: each track has its own copies.

@@ -8,7 +8,7 @@
 
 namespace tunedex {
 
-// Starts up and creates the list. Returns the exit status: 0 if the list was written, else 1. Raises the
+// Starts up and creates the list. Returns the exit status (ExitStatusOf). Raises the
 // error if start-up fails.
 int RunTerminal(Application& application, const std::vector<std::string>& arguments);
 

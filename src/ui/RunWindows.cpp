@@ -4,6 +4,7 @@
 #include "Display.h"
 #include "ErrorMessage.h"
 #include "ExitStatus.h"
+#include "Functions.h"
 #include "ProgramIcon.h"
 #include "Startup.h"
 #include "WindowsFrontEnd.h"
@@ -39,6 +40,15 @@ std::unique_ptr<QApplication> OpenDisplay(int& argc, char** argv) {
     return qtApplication;
 }
 
+int RunUnattended(const Application& application, WindowsFrontEnd& frontEnd) {
+    const RunOutcome outcome = frontEnd.CreateList();
+    const std::string line = UnreadLine(outcome, application.programFolder + std::string(kLogFileName));
+    if (!line.empty()) {
+        std::fputs((line + "\n").c_str(), stderr);
+    }
+    return ExitStatusOf(outcome);
+}
+
 int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
     frmMain& window = frontEnd.MainWindow();
     // Not QApplication's quitOnLastWindowClosed: the last window may be a message box.
@@ -72,7 +82,7 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
         return kExitCannotStart;
     }
     if (automatic) {
-        return frontEnd.CreateList() ? kExitSuccess : kExitFailure;
+        return RunUnattended(application, frontEnd);
     }
     return RunInteractively(application, frontEnd);
 }

@@ -46,17 +46,17 @@ WindowsFrontEnd::WindowsFrontEnd(Application& application, Dialogs& dialogs)
 
 WindowsFrontEnd::~WindowsFrontEnd() = default;
 
-bool WindowsFrontEnd::CreateList() {
+RunOutcome WindowsFrontEnd::CreateList() {
     if (running_) {
-        return false;
+        return {};
     }
     running_ = true;
-    const bool written = CreateListCommand(application_, *this);
+    RunOutcome outcome = CreateListCommand(application_, *this);
     running_ = false;
     if (progress_ != nullptr) {
         progress_->SetRunning(false); // the run left the window open; the user closes it
     }
-    return written;
+    return outcome;
 }
 
 MainFields WindowsFrontEnd::Fields() const {

@@ -4,6 +4,7 @@
 #include "Application.h"
 #include "Dialogs.h"
 #include "ProgressMonitor.h"
+#include "RunOutcome.h"
 #include "WindowInterface.h"
 #include "frmMain.h"
 
@@ -22,9 +23,8 @@ class WindowsFrontEnd final : public WindowInterface {
     ~WindowsFrontEnd() override;
 
     frmMain& MainWindow() { return main_; }
-    // The main window's Create List command. Returns whether the list was written; false while a run is
-    // active.
-    bool CreateList();
+    // The main window's Create List command. Does nothing while a run is active.
+    RunOutcome CreateList();
 
     MainFields Fields() const override;
     void FillFields(const MainFields& fields) override;

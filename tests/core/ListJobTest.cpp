@@ -58,7 +58,7 @@ class ListJob : public testing::Test {
             AddTrack("t" + std::to_string(i) + ".mp3", "Artist " + std::to_string(count - i));
         }
     }
-    bool Run() { return CreateList(application_, ui_); }
+    bool Run() { return CreateList(application_, ui_).written; }
     std::string List(const std::string& name = "out/list.txt") const {
         return test::ReadBytes(folder_ / name);
     }

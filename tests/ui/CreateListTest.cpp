@@ -294,7 +294,7 @@ class CreateListTest : public QObject {
         desk.fake.application.automaticMode = true;
         desk.fake.application.errorTitle = "Tunedex Error! (Automatic Mode)";
         desk.SetField("txtOutputFile", "");
-        QVERIFY(!desk.frontEnd.CreateList());
+        QVERIFY(!desk.frontEnd.CreateList().written);
         QVERIFY(desk.Said("No output file specified!", 48, "Tunedex Error! (Automatic Mode)"));
     }
 
@@ -321,7 +321,7 @@ class CreateListTest : public QObject {
         RunDesk desk;
         desk.folder.Write("music/empty.mp3", "");
         bool second = true;
-        desk.dialogs.whileMessageIsShown = [&] { second = desk.frontEnd.CreateList(); };
+        desk.dialogs.whileMessageIsShown = [&] { second = desk.frontEnd.CreateList().written; };
         desk.Run();
         QVERIFY(!second);
         QCOMPARE(desk.fake.application.statistics.ListsCreated, 1);

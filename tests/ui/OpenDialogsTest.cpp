@@ -352,7 +352,7 @@ class OpenDialogsTest : public QObject {
         frontEnd.OpenOptions();
         QVERIFY(QTest::qWaitForWindowActive(frontEnd.Options()));
         ConfirmNextMessage();
-        QVERIFY(!frontEnd.CreateList());
+        QVERIFY(!frontEnd.CreateList().written);
         QTRY_VERIFY(IsFocusedWithWholeText(field));
     }
 };
