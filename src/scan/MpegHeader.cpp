@@ -1,5 +1,6 @@
 #include "MpegHeader.h"
 
+#include "ByteWindow.h"
 #include "Numbers.h"
 #include "PlayTime.h"
 #include "RunTimeError.h"
@@ -21,53 +22,7 @@ constexpr std::string_view kXing = "Xing";
 constexpr std::size_t kXingCountAt = 8; // from the first byte of "Xing": after name and flags
 constexpr std::size_t kXingCountBytes = 8;
 
-// A sliding window over the file. The first read is small, since nearly every file has its header where the
-// search starts; later reads are large.
-class SearchWindow {
-  public:
-    explicit SearchWindow(ByteSource& file) : file_(file), size_(file.Size()) {}
-
-    // The bytes from `offset` on: at least `wanted`, fewer only at the end of the file. Valid until the next
-    // call.
-    std::span<const std::uint8_t> From(std::uint64_t offset, std::size_t wanted) {
-        const std::uint64_t left = offset < size_ ? size_ - offset : 0;
-        const std::size_t needed = std::min<std::uint64_t>(wanted, left);
-        const bool inside = offset >= start_ && offset - start_ <= bytes_.size() &&
-                            bytes_.size() - (offset - start_) >= needed;
-        if (!inside) {
-            Load(offset, left);
-        }
-        return bytes_.subspan(offset - start_);
-    }
-
-  private:
-    static constexpr std::size_t kFirstLook = 2048;
-    static constexpr std::size_t kLaterLook = 65536;
-
-    void Load(std::uint64_t offset, std::uint64_t left) {
-        std::span<std::uint8_t> buffer = first_;
-        if (looked_) {
-            later_.resize(kLaterLook);
-            buffer = later_;
-        }
-        looked_ = true;
-        buffer = buffer.first(std::min<std::uint64_t>(left, buffer.size()));
-        const std::size_t got = file_.Read(offset, buffer);
-        start_ = offset;
-        bytes_ = buffer.first(got);
-        if (got < buffer.size()) {
-            size_ = offset + got; // the file was truncated after it was opened
-        }
-    }
-
-    ByteSource& file_;
-    std::uint64_t size_;
-    std::uint64_t start_ = 0;
-    std::span<const std::uint8_t> bytes_; // from start_ on; points into one of the two buffers
-    std::array<std::uint8_t, kFirstLook> first_;
-    std::vector<std::uint8_t> later_;
-    bool looked_ = false;
-};
+using SearchWindow = ByteWindow<2048>;
 
 // Finds "Xing" after each candidate in time linear in the file's size, however many candidates there are.
 class XingSearch {
@@ -157,13 +112,18 @@ std::int32_t XingBitrate(std::int32_t fileSize, const MpegHeader& header) {
                    (static_cast<double>(header.frameCount) * 144000.0));
 }
 
-std::string_view TypeText(MpegVersion version, MpegLayer layer) {
+} // namespace
+
+std::string_view MpegTypeText(MpegVersion version, MpegLayer layer) {
     constexpr std::array<std::array<std::string_view, 3>, 3> kTypes = {
         {{"1.0 I", "1.0 II", "1.0 III"}, {"2.0 I", "2.0 II", "2.0 III"}, {"2.5 I", "2.5 II", "2.5 III"}}};
     return kTypes.at(static_cast<std::size_t>(version)).at(static_cast<std::size_t>(layer));
 }
 
-} // namespace
+std::string_view MpegModeText(std::uint8_t mode) {
+    constexpr std::array<std::string_view, 4> kModes = {"Stereo", "Joint Stereo", "Dual Channel", "Mono"};
+    return kModes.at(mode);
+}
 
 std::int32_t TableBitrate(MpegVersion version, MpegLayer layer, unsigned bitrateIndex) {
     if (version == MpegVersion::V25) {
@@ -183,7 +143,7 @@ MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition) {
     constexpr std::uint8_t kSync = 0xFF;
     constexpr std::uint8_t kLeastSecond = 0xE1; // required: E0 is refused, do not 'fix'
     constexpr std::uint8_t kLeastBadThird = 0xEC;
-    SearchWindow window(file);
+    SearchWindow window(file, file.Size());
     XingSearch xing(window);
     MpegHeader header;
     std::uint64_t offset = searchPosition - 1;
@@ -241,11 +201,10 @@ void DecodeMpegHeader(ByteSource& file, std::uint64_t searchPosition, TrackInfo&
     // bits / (kbit/s) = milliseconds. Both divisions truncate.
     const std::int64_t seconds = static_cast<std::int64_t>(track.FileSize) * 8 / bitrate / 1000;
 
-    constexpr std::array<std::string_view, 4> kModes = {"Stereo", "Joint Stereo", "Dual Channel", "Mono"};
     track.Bitrate = std::to_string(bitrate);
     track.Frequency = std::to_string(header.frequency);
-    track.Mode = kModes.at(header.mode);
-    track.MpegType = TypeText(header.version, header.layer);
+    track.Mode = MpegModeText(header.mode);
+    track.MpegType = MpegTypeText(header.version, header.layer);
     track.Duration = MinutesAndSeconds(seconds);
     track.Seconds = static_cast<std::int32_t>(seconds);
 }

@@ -23,6 +23,10 @@ struct MpegHeader {
     std::uint32_t frameCount = 0;  // from the "Xing" header
 };
 
+// As listings show them: "1.0 III"; and "Stereo" and so on for a mode from 0 to 3.
+std::string_view MpegTypeText(MpegVersion version, MpegLayer layer);
+std::string_view MpegModeText(std::uint8_t mode);
+
 // The first acceptable header at or after `searchPosition` (counted from 1). Raises error 62 if the file ends
 // before one is found, or within the eight bytes after the "Xing" flags.
 MpegHeader FindMpegHeader(ByteSource& file, std::uint64_t searchPosition);
