@@ -1,0 +1,156 @@
+#include "AudioStream.h"
+
+#include "FrameSearch.h"
+#include "PlayTime.h"
+#include "RunTimeError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace tunedex {
+
+namespace {
+
+constexpr int kFramesCompared = 4;
+constexpr int kFramesAveraged = 256;
+
+// The first offset behind the tags at the start of the file.
+std::uint64_t AudioStart(AudioWindow& window, const TagLayout& layout) {
+    std::uint64_t offset = layout.id3v2 ? layout.id3v2->tagBytes : 0;
+    for (int tags = 0; tags < 32 && offset < layout.audioEnd; ++tags) {
+        const std::uint64_t bytes = LeadingTagBytes(window.From(offset, kTagStartBytes));
+        if (bytes == 0 || bytes > layout.audioEnd - offset) {
+            break;
+        }
+        offset += bytes;
+    }
+    return offset;
+}
+
+std::optional<FoundFrame> FindAudio(AudioWindow& window, ByteSource& file, const TagLayout& layout) {
+    const std::uint64_t start = AudioStart(window, layout);
+    if (const auto frame = FindFirstFrame(window, start, layout.audioEnd)) {
+        return frame;
+    }
+    // A tag may declare more bytes than the file has.
+    const bool cut = layout.id3v2 && layout.id3v2->tagBytes > file.Size();
+    return cut ? FindFirstFrame(window, kId3v2HeaderBytes, layout.audioEnd) : std::nullopt;
+}
+
+double SecondsOf(double frames, const FrameHead& head) {
+    return frames * head.Samples() / head.frequency;
+}
+
+double KbitsPerSecond(double bytes, double seconds) {
+    constexpr double kBytesOfKbit = 125;
+    return bytes / kBytesOfKbit / seconds;
+}
+
+// Lengths and bitrates of the frames from `offset` on.
+class FirstFrames {
+  public:
+    FirstFrames(AudioWindow& window, std::uint64_t offset, const FrameHead& head)
+        : window_(window), offset_(offset), stream_(head) {}
+
+    // Goes on until that many frames are counted or no other follows.
+    void CountUpTo(int frames) {
+        while (count_ < frames && !ended_) {
+            const auto head = ParseFrameHead(window_.From(offset_, kFrameHeadBytes));
+            ended_ = !head || !head->Matches(stream_);
+            if (!ended_) {
+                varies_ = varies_ || (count_ > 0 && head->bitrate != bitrate_);
+                bitrate_ = head->bitrate;
+                bytes_ += static_cast<double>(head->Length());
+                offset_ += head->Length();
+                ++count_;
+            }
+        }
+    }
+    bool Varies() const { return varies_; }
+    std::int32_t Bitrate() const { return bitrate_; }
+    double MeanLength() const { return bytes_ / count_; }
+
+  private:
+    AudioWindow& window_;
+    std::uint64_t offset_;
+    FrameHead stream_;
+    int count_ = 0;
+    std::int32_t bitrate_ = 0;
+    double bytes_ = 0;
+    bool varies_ = false;
+    bool ended_ = false;
+};
+
+// Bitrate and seconds from the bytes from `offset` on and the first frames there.
+void Estimate(AudioWindow& window, std::uint64_t offset, const FrameHead& head, double bytes,
+              AudioStream& stream) {
+    FirstFrames frames(window, offset, head);
+    frames.CountUpTo(kFramesCompared);
+    stream.bitrate = frames.Bitrate();
+    if (frames.Varies()) {
+        frames.CountUpTo(kFramesAveraged);
+        stream.bitrate = KbitsPerSecond(frames.MeanLength(), SecondsOf(1, head));
+    }
+    stream.seconds = bytes / 125 / stream.bitrate;
+}
+
+// Whether the number of frames in a header can be true.
+bool IsUsable(const std::optional<VbrHeader>& vbr, const FrameHead& head) {
+    return vbr && vbr->frameCount > 0 && SecondsOf(vbr->frameCount, head) <= kLongestSeconds;
+}
+
+void MeasureTime(AudioWindow& window, const FoundFrame& frame, std::uint64_t end, AudioStream& stream) {
+    const auto bytes = static_cast<double>(end - frame.offset);
+    if (frame.head.bitrate == 0) {
+        stream.seconds = SecondsOf(bytes / static_cast<double>(frame.length), frame.head);
+        return;
+    }
+    const auto vbr = FindVbrHeader(window, frame.offset, frame.head);
+    if (IsUsable(vbr, frame.head)) {
+        stream.seconds = SecondsOf(vbr->frameCount, frame.head);
+        // An Info header may be in a frame of another bitrate than the audio behind it.
+        const FrameHead& audio = frame.nextHead ? *frame.nextHead : frame.head;
+        stream.bitrate = vbr->variable ? KbitsPerSecond(bytes, stream.seconds) : audio.bitrate;
+    } else if (vbr && frame.nextHead) {
+        Estimate(window, frame.offset + frame.length, frame.head, bytes - static_cast<double>(frame.length),
+                 stream);
+    } else {
+        Estimate(window, frame.offset, frame.head, bytes, stream);
+    }
+    stream.seconds = std::min(stream.seconds, kLongestSeconds);
+}
+
+std::string BitrateText(double bitrate) {
+    return bitrate == 0 ? "free" : std::to_string(std::llround(bitrate));
+}
+
+} // namespace
+
+AudioStream MeasureAudio(ByteSource& file, const TagLayout& layout) {
+    AudioWindow window(file, layout.audioEnd);
+    const auto frame = FindAudio(window, file, layout);
+    if (!frame) {
+        throw RunTimeError(ErrorNumber::InputPastEnd);
+    }
+    AudioStream stream;
+    stream.version = frame->head.version;
+    stream.layer = frame->head.layer;
+    stream.mode = frame->head.mode;
+    stream.frequency = frame->head.frequency;
+    MeasureTime(window, *frame, layout.audioEnd, stream);
+    return stream;
+}
+
+void ReadAudioStream(ByteSource& file, const TagLayout& layout, TrackInfo& track) {
+    const AudioStream stream = MeasureAudio(file, layout);
+    const auto seconds = static_cast<std::int32_t>(stream.seconds);
+    track.Bitrate = BitrateText(stream.bitrate);
+    track.Frequency = std::to_string(stream.frequency);
+    track.Mode = MpegModeText(stream.mode);
+    track.MpegType = MpegTypeText(stream.version, stream.layer);
+    track.Duration = MinutesAndSeconds(seconds);
+    track.Seconds = seconds;
+}
+
+} // namespace tunedex
