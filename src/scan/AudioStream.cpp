@@ -118,7 +118,6 @@ void MeasureTime(AudioWindow& window, const FoundFrame& frame, std::uint64_t end
     } else {
         Estimate(window, frame.offset, frame.head, bytes, stream);
     }
-    stream.seconds = std::min(stream.seconds, kLongestSeconds);
 }
 
 std::string BitrateText(double bitrate) {
@@ -139,6 +138,7 @@ AudioStream MeasureAudio(ByteSource& file, const TagLayout& layout) {
     stream.mode = frame->head.mode;
     stream.frequency = frame->head.frequency;
     MeasureTime(window, *frame, layout.audioEnd, stream);
+    stream.seconds = std::min(stream.seconds, kLongestSeconds);
     return stream;
 }
 

@@ -1,7 +1,9 @@
 #include "MP3Info.h"
 
+#include "AudioStream.h"
 #include "Id3v1.h"
 #include "Id3v2.h"
+#include "ModernTags.h"
 #include "MpegHeader.h"
 #include "Uninterrupted.h"
 
@@ -50,13 +52,8 @@ std::int32_t MeasureFile(int folder, const char* name) {
     return HeldSize(static_cast<std::uint64_t>(status.st_size));
 }
 
-} // namespace
-
-void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& reading) {
-    StartAnew(reading);
+void ReadClassic(ByteSource& file, const ReadOptions& options, TrackReading& reading) {
     TrackInfo& track = reading.track;
-    track.FileSize = HeldSize(file.Size());
-
     const Id3v2Location id3v2 = DetectId3v2(file);
     const bool id3v1 = ReadId3v1(file, options.moveTheArtists, track);
     if (id3v2.present) {
@@ -73,6 +70,29 @@ void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& r
     } catch (const RunTimeError& error) {
         SetError(reading, error);
     }
+}
+
+void ReadModern(ByteSource& file, const ReadOptions& options, TrackReading& reading) {
+    TrackInfo& track = reading.track;
+    const TagLayout layout = FindTags(file);
+    track.TagType =
+        ReadModernTags(file, layout, {*options.modern, options.moveTheArtists, options.longTexts}, track);
+    if (track.TagType == kNoTag) {
+        MarkUntagged(track);
+    }
+    try {
+        ReadAudioStream(file, layout, track);
+    } catch (const RunTimeError& error) {
+        SetError(reading, error);
+    }
+}
+
+} // namespace
+
+void ReadTrackInfo(ByteSource& file, const ReadOptions& options, TrackReading& reading) {
+    StartAnew(reading);
+    reading.track.FileSize = HeldSize(file.Size());
+    options.modern != nullptr ? ReadModern(file, options, reading) : ReadClassic(file, options, reading);
 }
 
 void ReadTrackFile(int folder, const char* name, const ReadOptions& options, TrackReading& reading) {

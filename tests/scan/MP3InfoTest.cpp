@@ -190,6 +190,56 @@ void ExpectCutFile(const std::string& bytes, std::uint64_t tagEnd, const std::ve
     EXPECT_EQ(reading.decodeError.has_value(), !header || noBitrate);
 }
 
+TEST(ReadTrackInfo, ReadsWithTheModernReadersWhenGivenACodePage) {
+    const CodePage codePage("windows-1251");
+    const std::string tag = Id3v2Tag({{"TIT2", "\3T\xC3\xADtulo"}, {"TRCK", Latin1("3/9")}});
+    FailingByteSource file(tag + Audio(417) + Audio(417) +
+                           Id3v1Tag({"", "\xCC\xF3\xEC\xE8\xE9", "", "", "", 255}));
+    TrackReading reading;
+    reading.track.FullPath = kPath;
+    ReadTrackInfo(file, {.modern = &codePage}, reading);
+    EXPECT_EQ(reading.track.Title, "Título");
+    EXPECT_EQ(reading.track.Artist, "Мумий");
+    EXPECT_EQ(reading.track.Track, "3/9");
+    EXPECT_EQ(reading.track.TagType, kId3v2Tag);
+    EXPECT_FALSE(reading.modernTag);
+    EXPECT_FALSE(reading.decodeError);
+}
+
+TEST(ReadTrackInfo, ListsAFileWithoutAnyModernTagAsAnUntaggedOne) {
+    const CodePage codePage("windows-1252");
+    FailingByteSource file("no audio");
+    TrackReading reading;
+    reading.track.FullPath = kPath;
+    reading.track.Comment = "of the file before";
+    ReadTrackInfo(file, {.modern = &codePage}, reading);
+    EXPECT_EQ(reading.track.Artist, kPath);
+    EXPECT_EQ(reading.track.Title, "No ID3 Tags!");
+    EXPECT_EQ(reading.track.Comment, "");
+    EXPECT_EQ(reading.track.TagType, kNoTag);
+    ASSERT_TRUE(reading.decodeError);
+    EXPECT_TRUE(reading.decodeError->Is(ErrorNumber::InputPastEnd));
+    EXPECT_FALSE(reading.unread);
+}
+
+class BrokenByteSource final : public ByteSource {
+  public:
+    std::uint64_t Size() const override { return 16000; }
+    std::size_t Read(std::uint64_t /*offset*/, std::span<std::uint8_t> /*buffer*/) override {
+        throw RunTimeError(ErrorNumber::DeviceInputOutput);
+    }
+};
+
+TEST(ReadTrackInfo, TellsAFileThatCannotBeReadFromOneWithoutAudio) {
+    const CodePage codePage("windows-1252");
+    for (const CodePage* const modern : {static_cast<const CodePage*>(nullptr), &codePage}) {
+        BrokenByteSource file;
+        TrackReading reading;
+        ReadTrackInfo(file, {.modern = modern}, reading);
+        EXPECT_TRUE(reading.unread);
+    }
+}
+
 TEST(ReadTrackInfo, ReadsTheCompletePartsOfAFileTruncatedAtAnyByte) {
     const std::string title = test::Frame({"TIT2", Latin1("new title")});
     const std::string album = test::Frame({"TALB", Latin1("new album")});
