@@ -5,7 +5,6 @@ usage: ProgramTest.py --list                 prints the names of the tests
        ProgramTest.py PROGRAM [TEST...]      runs the tests; exit status 77 if all were skipped
 """
 
-import contextlib
 import datetime
 import fcntl
 import os
@@ -17,16 +16,12 @@ import stat
 import struct
 import subprocess
 import sys
-import tempfile
 import termios
-import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-import surroundings  # noqa: E402
+import runs
+from runs import audio, id3v1
 
-PROGRAM = None
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
-NOBODY = 65534
 ALL_COLUMNS = ("Number|Artist|Album|Title|Year|Genre|MPEG Type|Mode|Bitrate|Frequency|Duration|File Size|"
                "Filename|Folder Path|Full Path")
 STATUSES = [b"Searching for MP3 files...", b"Retrieving MPEG/ID3 information...", b"Sorting information...",
@@ -34,103 +29,12 @@ STATUSES = [b"Searching for MP3 files...", b"Retrieving MPEG/ID3 information..."
 AUTOMATIC = b"Tunedex Error! (Automatic Mode)\n"
 
 
-def audio(size=8192):
-    """A frame header (MPEG-1 layer III, 128 kbit/s, 44,100 Hz) and zeros."""
-    return b"\xff\xfb\x90\x64" + bytes(size - 4)
-
-
-def id3v1(title=b"", artist=b""):
-    return b"TAG" + title.ljust(30, b"\0") + artist.ljust(30, b"\0") + bytes(64) + b"\xff"
-
-
 def locale_installed(name):
     names = subprocess.run(["locale", "-a"], capture_output=True, check=True).stdout.decode("latin-1").lower()
     return name.lower().replace("-", "") in names.replace("-", "").split()
 
 
-class ProgramTest(unittest.TestCase):
-    def setUp(self):
-        # Outside the build folder, which an ordinary user may not be able to enter.
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tunedex-test-"))
-        self.addCleanup(self.remove)
-        self.folder.chmod(0o755)
-        self.installation = self.folder / "program"
-        self.music = self.folder / "music"
-        self.out = self.folder / "out"
-        self.list = self.out / "list.txt"
-        for path in (self.installation, self.music, self.out, self.folder / "home", self.folder / "config",
-                     self.folder / "etc"):
-            path.mkdir()
-        self.register(self.folder / "config")
-        self.settings = {"Directory": str(self.music), "OutputFile": str(self.list), "Recurse": 1, "SizeType": 0,
-                         "SortOrder": 1, "ErrorWarnings": 1, "ErrorLog": 0, "ActiveColumns": "Artist|Title",
-                         "Merge": 0}
-
-    def remove(self):
-        for path in [self.folder, *self.folder.rglob("*")]:
-            if path.is_dir() and not path.is_symlink():
-                with contextlib.suppress(OSError):
-                    path.chmod(0o755)
-        shutil.rmtree(self.folder)
-
-    def register(self, folder, installation=None):
-        """Writes a registry with the installation path into `folder`."""
-        (folder / "Corvale Works").mkdir(parents=True)
-        (folder / "Corvale Works/Tunedex.conf").write_text(
-            f'[General]\nInstallationPath="{installation or self.installation}"\n', encoding="utf-8")
-
-    def track(self, name, artist="Artist", title="Title"):
-        path = self.music / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(audio() + id3v1(title.encode("cp1252"), artist.encode("cp1252")))
-        return path
-
-    def write_settings(self, folder=None):
-        lines = "".join(f"{key}={value}\r\n" for key, value in self.settings.items())
-        ((folder or self.installation) / "Tunedex.cfg").write_bytes(lines.encode("utf-8", "surrogateescape"))
-
-    def environment(self, ordinary=False, **variables):
-        environment = {"PATH": os.environ["PATH"], "HOME": str(self.folder / "home"),
-                       "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_CONFIG_DIRS": str(self.folder / "etc")}
-        return environment | surroundings.kept(ordinary) | variables
-
-    def run_program(self, *arguments, answers=b"", program=None, ordinary=False, settings=True, preexec_fn=None,
-                    **variables):
-        if settings:
-            self.write_settings()
-        options = {"preexec_fn": preexec_fn}
-        if ordinary and os.geteuid() == 0:
-            for path in [self.folder, *self.folder.rglob("*")]:
-                os.lchown(path, NOBODY, NOBODY)
-            options |= {"user": NOBODY, "group": NOBODY, "extra_groups": []}
-        given = {"input": answers} if isinstance(answers, bytes) else {"stdin": answers}
-        return subprocess.run([program or self.program(), *(arguments or ["/AUTO"])], **given,
-                              capture_output=True, timeout=240, check=False, cwd=self.folder,
-                              env=self.environment("user" in options, **variables), **options)
-
-    def program(self):
-        """A copy of the program that an ordinary user can start."""
-        copy = self.folder / "bin/tunedex"
-        if not copy.exists():
-            copy.parent.mkdir()
-            shutil.copy(PROGRAM, copy)
-        return copy
-
-    def expect(self, result, status, *parts):
-        self.assertEqual(result.returncode, status, result.stderr.decode("utf-8", "replace"))
-        self.assertEqual(result.stdout, b"")
-        position = 0
-        for part in parts:
-            found = result.stderr.find(part, position)
-            self.assertGreaterEqual(found, 0, f"{part!r} is not (or too early) in {result.stderr!r}")
-            position = found + len(part)
-
-    def rows(self, path=None):
-        """The lines of the listing without its header."""
-        lines = (path or self.list).read_bytes().split(b"\r\n")
-        self.assertEqual(lines.pop(), b"", "a listing ends with a line end")
-        return lines[1:]
-
+class ProgramTest(runs.ProgramRun):
     # Results of a run
 
     def test_writes_the_list_and_reports_only_on_standard_error(self):
@@ -175,7 +79,8 @@ class ProgramTest(unittest.TestCase):
         self.program()
         before = self.paths()
         nowhere = {"DISPLAY": ":65535", "WAYLAND_DISPLAY": "nowhere", "QT_QPA_PLATFORM": "nonsense"}
-        for names in (["DISPLAY"], ["WAYLAND_DISPLAY"], ["QT_QPA_PLATFORM"], ["DISPLAY", "WAYLAND_DISPLAY"], list(nowhere)):
+        for names in (["DISPLAY"], ["WAYLAND_DISPLAY"], ["QT_QPA_PLATFORM"], ["DISPLAY", "WAYLAND_DISPLAY"],
+                      list(nowhere)):
             variables = {name: nowhere[name] for name in names}
             expected = "Tunedex could not open the display.\n" + "".join(
                 f'{name} is "{value}".\n' for name, value in variables.items())
@@ -275,7 +180,7 @@ class ProgramTest(unittest.TestCase):
             self.assertEqual((self.out / "list.htm").read_bytes(), b"old")
 
     def test_reports_error_7_if_the_entity_table_exceeds_memory(self):
-        if surroundings.sanitizer_of(PROGRAM):
+        if runs.surroundings.sanitizer_of(self.built):
             self.skipTest("a sanitizer needs more address space than this test allows")
         self.track("a.mp3")
         with open(self.installation / "html_entities.lst", "wb") as table:
@@ -604,7 +509,7 @@ class ProgramTest(unittest.TestCase):
         self.track("a.mp3", "Abba")
         elsewhere = self.folder / "else where"
         elsewhere.mkdir()
-        shutil.copy(PROGRAM, elsewhere / "renamed")
+        shutil.copy(self.built, elsewhere / "renamed")
         self.settings.update(ErrorLog=1)
         self.write_settings(elsewhere)
         shutil.rmtree(self.folder / "config")
@@ -655,19 +560,5 @@ class ProgramTest(unittest.TestCase):
         self.expect(self.run_program(), 1, b"No input directory specified!")
 
 
-def main():
-    global PROGRAM
-    names = unittest.TestLoader().getTestCaseNames(ProgramTest)
-    if sys.argv[1:] == ["--list"]:
-        print("\n".join(names))
-        return 0
-    PROGRAM = pathlib.Path(sys.argv[1]).resolve(strict=True)
-    suite = unittest.TestSuite(ProgramTest(name) for name in sys.argv[2:] or names)
-    result = unittest.TextTestRunner(verbosity=2).run(suite)
-    if not result.wasSuccessful():
-        return 1
-    return 77 if result.testsRun > 0 and len(result.skipped) == result.testsRun else 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(runs.main(ProgramTest))
