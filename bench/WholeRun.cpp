@@ -1,7 +1,7 @@
 // whole_run: one unattended run with the program's own code, from folders to the finished listing. Its clock
 // does not sleep, which leaves out the pause of one second at the end of a run.
 //
-// usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--entities FILE]
+// usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--modern 1] [--entities FILE]
 // Prints the time of each phase, then files listed, total time and peak memory.
 
 #include "Application.h"
@@ -9,12 +9,16 @@
 #include "ListJob.h"
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
+#ifdef TUNEDEX_HAS_QT
+#include "QtCollation.h"
+#endif
 
 #include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <iomanip>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <sys/resource.h>
 
@@ -96,14 +100,17 @@ class BenchFrontEnd final : public tunedex::UserInterface {
 
 int main(int argc, char** argv) {
     if (argc < 3) {
-        std::cerr
-            << "usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--entities FILE]\n";
+        std::cerr << "usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--modern 1] "
+                     "[--entities FILE]\n";
         return 2;
     }
     const auto begun = std::chrono::steady_clock::now();
     NoPause clock;
     NoRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
+#ifdef TUNEDEX_HAS_QT
+    application.collation = std::make_shared<tunedex::QtCollation>(tunedex::CollationLanguage());
+#endif
     tunedex::Settings& settings = application.settings;
     settings = tunedex::DefaultSettings();
     settings.Directory = argv[1];
@@ -118,6 +125,8 @@ int main(int argc, char** argv) {
             settings.SortOrder = static_cast<std::int16_t>(std::atoi(argv[i + 1])); // NOLINT(cert-err34-c)
         } else if (option == "--spanning") {
             settings.Spanning = static_cast<std::int16_t>(std::atoi(argv[i + 1])); // NOLINT(cert-err34-c)
+        } else if (option == "--modern") {
+            settings.Modern = std::atoi(argv[i + 1]) != 0; // NOLINT(cert-err34-c)
         } else if (option == "--entities") {
             application.entities.Load(argv[i + 1], std::cerr);
         }

@@ -92,6 +92,51 @@ class ListJob : public testing::Test {
     bool begun_ = false; // whether Abort has been pressed
 };
 
+TEST_F(ListJob, ReturnsTheFirstPageAndWhatItWrote) {
+    AddTracks(5);
+    application_.settings.Spanning = 2;
+    ui_.fields.outputFile = folder_ / "out/list";
+    const RunOutcome pages = CreateList(application_, ui_);
+    EXPECT_TRUE(pages.written);
+    EXPECT_EQ(pages.tracks, 5);
+    EXPECT_EQ(pages.pages, 3);
+    EXPECT_EQ(pages.file, folder_ / "out/list.001.htm");
+    EXPECT_FALSE(pages.Incomplete());
+    ui_.fields.outputFile = folder_ / "out/list.txt";
+    const RunOutcome text = CreateList(application_, ui_);
+    EXPECT_EQ(text.pages, 1);
+    EXPECT_EQ(text.file, folder_ / "out/list.txt");
+}
+
+TEST_F(ListJob, ReturnsWhatItDidNotReadAndHowManyTagsAreModern) {
+    AddTracks(2);
+    folder_.Write("music/b.mp3", test::Id3v2Tag({{"TIT2", "\3title"}}) + test::Audio(8192));
+    fs::create_directory(folder_ / "music/Live.mp3");
+    application_.settings.Recurse = false;
+    application_.settings.Modern = true;
+    const RunOutcome modern = CreateList(application_, ui_);
+    EXPECT_TRUE(modern.written);
+    EXPECT_TRUE(modern.modern);
+    EXPECT_EQ(modern.tracks, 3);
+    EXPECT_EQ(modern.unreadFiles, 1U);
+    EXPECT_EQ(modern.unreadFolders, 0U);
+    EXPECT_EQ(modern.modernTags, 0);
+    fs::remove(folder_ / "music/Live.mp3");
+    application_.settings.Modern = false;
+    const RunOutcome classic = CreateList(application_, ui_);
+    EXPECT_EQ(classic.modernTags, 1);
+    EXPECT_FALSE(classic.Incomplete());
+}
+
+TEST_F(ListJob, ReturnsNoFileOfARunThatWroteNone) {
+    EXPECT_EQ(CreateList(application_, ui_).file, "");
+    AddTracks(2);
+    AbortFrom("Sorting information...");
+    const RunOutcome aborted = CreateList(application_, ui_);
+    EXPECT_FALSE(aborted.written);
+    EXPECT_EQ(aborted.file, "");
+}
+
 TEST_F(ListJob, ShowsItsPhasesInOrderAndWritesTheList) {
     AddTrack("a.mp3", "Zappa");
     AddTrack("b.MP3", "Abba");
