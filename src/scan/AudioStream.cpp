@@ -42,8 +42,10 @@ double SecondsOf(double frames, const FrameHead& head) {
     return frames * head.Samples() / head.frequency;
 }
 
+constexpr double kMostKbits = 640;
+constexpr double kBytesOfKbit = 125;
+
 double KbitsPerSecond(double bytes, double seconds) {
-    constexpr double kBytesOfKbit = 125;
     return bytes / kBytesOfKbit / seconds;
 }
 
@@ -92,7 +94,7 @@ void Estimate(AudioWindow& window, std::uint64_t offset, const FrameHead& head, 
         frames.CountUpTo(kFramesAveraged);
         stream.bitrate = KbitsPerSecond(frames.MeanLength(), SecondsOf(1, head));
     }
-    stream.seconds = bytes / 125 / stream.bitrate;
+    stream.seconds = bytes / kBytesOfKbit / stream.bitrate;
 }
 
 // Whether the number of frames in a header can be true.
@@ -100,10 +102,19 @@ bool IsUsable(const std::optional<VbrHeader>& vbr, const FrameHead& head) {
     return vbr && vbr->frameCount > 0 && SecondsOf(vbr->frameCount, head) <= kLongestSeconds;
 }
 
+// The mean bitrate of a stream with a usable header. If the file was cut off, its header still tells the
+// bytes of all the frames that it counts.
+double MeanBitrate(const VbrHeader& vbr, double bytes, double seconds) {
+    const double declared = KbitsPerSecond(vbr.byteCount, seconds);
+    const double measured = KbitsPerSecond(bytes, seconds);
+    return declared > measured && declared <= kMostKbits ? declared : measured;
+}
+
 void MeasureTime(AudioWindow& window, const FoundFrame& frame, std::uint64_t end, AudioStream& stream) {
     const auto bytes = static_cast<double>(end - frame.offset);
     if (frame.head.bitrate == 0) {
         stream.seconds = SecondsOf(bytes / static_cast<double>(frame.length), frame.head);
+        stream.seconds = std::min(stream.seconds, kLongestSeconds);
         return;
     }
     const auto vbr = FindVbrHeader(window, frame.offset, frame.head);
@@ -111,7 +122,7 @@ void MeasureTime(AudioWindow& window, const FoundFrame& frame, std::uint64_t end
         stream.seconds = SecondsOf(vbr->frameCount, frame.head);
         // An Info header may be in a frame of another bitrate than the audio behind it.
         const FrameHead& audio = frame.nextHead ? *frame.nextHead : frame.head;
-        stream.bitrate = vbr->variable ? KbitsPerSecond(bytes, stream.seconds) : audio.bitrate;
+        stream.bitrate = vbr->variable ? MeanBitrate(*vbr, bytes, stream.seconds) : audio.bitrate;
     } else if (vbr && frame.nextHead) {
         Estimate(window, frame.offset + frame.length, frame.head, bytes - static_cast<double>(frame.length),
                  stream);

@@ -1,7 +1,9 @@
 #include "FrameSearch.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace tunedex {
 
@@ -29,29 +31,39 @@ class FirstFrameSearch {
     FirstFrameSearch(AudioWindow& window, std::uint64_t end) : window_(window), end_(end) {}
 
     std::optional<FoundFrame> Run(std::uint64_t offset) {
+        bool onlyZeros = true; // between the start and `offset`
         while (offset < end_) {
             const auto bytes = window_.From(offset, 1);
             if (bytes.empty()) {
                 break;
             }
             const void* sync = std::memchr(bytes.data(), 0xFF, bytes.size());
+            const std::size_t skipped =
+                sync == nullptr
+                    ? bytes.size()
+                    : static_cast<std::size_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
+            onlyZeros = onlyZeros && IsZero(bytes.first(skipped));
+            offset += skipped;
             if (sync == nullptr) {
-                offset += bytes.size();
                 continue;
             }
-            offset += static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
-            const auto frame = FrameAt(offset);
+            const auto frame = FrameAt(offset, onlyZeros);
             if (frame && frame->nextHead) {
                 return frame;
             }
+            onlyZeros = false;
             ++offset;
         }
         return unconfirmed_;
     }
 
   private:
+    static bool IsZero(std::span<const std::uint8_t> bytes) {
+        return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte == 0; });
+    }
+
     // The frame at `offset`, with its follower if that is of the same stream.
-    std::optional<FoundFrame> FrameAt(std::uint64_t offset) {
+    std::optional<FoundFrame> FrameAt(std::uint64_t offset, bool first) {
         const auto head = ParseFrameHead(window_.From(offset, kLongestFrame + kFrameHeadBytes));
         if (!head) {
             return std::nullopt;
@@ -62,14 +74,17 @@ class FirstFrameSearch {
             return frame;
         }
         frame.nextHead = FollowerAt(frame, frame.length);
-        if (!frame.nextHead && !unconfirmed_ && (EndsAudio(frame) || FindVbrHeader(window_, offset, *head))) {
+        if (!frame.nextHead && !unconfirmed_ &&
+            (EndsAudio(frame, first) || FindVbrHeader(window_, offset, *head))) {
             unconfirmed_ = frame;
         }
         return frame;
     }
 
-    bool EndsAudio(const FoundFrame& frame) const {
-        return end_ - frame.offset < frame.length + kFrameHeadBytes;
+    // Whether the audio ends with the frame or, if it is the first one, within it or the header behind it.
+    bool EndsAudio(const FoundFrame& frame, bool first) const {
+        const std::uint64_t left = end_ - frame.offset;
+        return left == frame.length || (first && left < frame.length + kFrameHeadBytes);
     }
 
     // The header `distance` behind the frame, if it is of the same stream.
@@ -121,14 +136,24 @@ std::size_t SideInformationBytes(const FrameHead& head) {
     return mono ? 9 : 17;
 }
 
-// Xing and Info. Offset/width: mark 0/4, flags 4/4, number of frames 8/4 if flag 1 is set.
+// Xing and Info. Offset/width: mark 0/4, flags 4/4, then, each if its flag is set, number of frames /4 (flag
+// 1) and of bytes /4 (flag 2).
 std::optional<VbrHeader> XingAt(std::span<const std::uint8_t> bytes, std::size_t at) {
     const bool variable = HasMark(bytes, at, "Xing");
     if (!variable && !HasMark(bytes, at, "Info")) {
         return std::nullopt;
     }
-    const bool counted = bytes.size() >= at + 12 && (BigEndianAt(bytes, at + 4) & 1U) != 0;
-    return VbrHeader{variable, counted ? BigEndianAt(bytes, at + 8) : 0};
+    VbrHeader header{variable};
+    std::size_t field = at + 8;
+    const unsigned flags = bytes.size() >= field ? BigEndianAt(bytes, at + 4) : 0;
+    for (const auto& [flag, number] :
+         {std::pair(1U, &VbrHeader::frameCount), std::pair(2U, &VbrHeader::byteCount)}) {
+        if ((flags & flag) != 0 && bytes.size() >= field + 4) {
+            header.*number = BigEndianAt(bytes, field);
+            field += 4;
+        }
+    }
+    return header;
 }
 
 } // namespace
@@ -151,7 +176,7 @@ std::optional<VbrHeader> FindVbrHeader(AudioWindow& window, std::uint64_t offset
     }
     // VBRI. Offset/width: mark 0/4, version 4/2, delay 6/2, quality 8/2, bytes 10/4, number of frames 14/4.
     if (HasMark(bytes, kVbriAt, "VBRI") && bytes.size() >= kVbriAt + 18) {
-        return VbrHeader{true, BigEndianAt(bytes, kVbriAt + 14)};
+        return VbrHeader{true, BigEndianAt(bytes, kVbriAt + 14), BigEndianAt(bytes, kVbriAt + 10)};
     }
     return std::nullopt;
 }

@@ -20,14 +20,15 @@ struct FoundFrame {
 };
 
 // The first frame from `start` to `end` behind which, where its length says, another of the same stream
-// follows. Without one, the first frame that ends with the audio, is cut off by its end, or has a Xing, Info
-// or VBRI header. Takes time linear in the bytes searched.
+// follows. Without one, the first frame with which the audio ends or that has a Xing, Info or VBRI header; a
+// frame at the start, apart from zeros, may be cut off. Takes time linear in the bytes searched.
 std::optional<FoundFrame> FindFirstFrame(AudioWindow& window, std::uint64_t start, std::uint64_t end);
 
 // A Xing, Info or VBRI header in a frame.
 struct VbrHeader {
     bool variable = true;         // false: "Info", at a constant bitrate
     std::uint32_t frameCount = 0; // 0: not given
+    std::uint32_t byteCount = 0;  // 0: not given
 };
 
 std::optional<VbrHeader> FindVbrHeader(AudioWindow& window, std::uint64_t offset, const FrameHead& head);
