@@ -48,6 +48,36 @@ std::size_t AsciiRun(std::string_view text, std::size_t position) {
     return position - start;
 }
 
+// ASCII that a document may hold: printable characters, TAB, CR and LF. Without branches, so that the
+// compiler vectorises the loop below.
+constexpr bool IsDocumentByte(unsigned char byte) {
+    const bool printable = static_cast<unsigned char>(byte - 0x20U) < 0x5F;
+    const bool space = (byte == '\t') | (byte == '\n') | (byte == '\r');
+    return printable | space;
+}
+
+// The number of such bytes from `position` on.
+std::size_t DocumentRun(std::string_view text, std::size_t position) {
+    constexpr std::size_t kBlock = 64;
+    const std::size_t start = position;
+    while (text.size() - position >= kBlock) {
+        bool all = true;
+        for (std::size_t i = 0; i < kBlock; ++i) {
+            all &= IsDocumentByte(ByteAt(text, position + i));
+        }
+        if (!all) {
+            break;
+        }
+        position += kBlock;
+    }
+    while (position < text.size() && IsDocumentByte(ByteAt(text, position))) {
+        ++position;
+    }
+    return position - start;
+}
+
+constexpr char32_t kReplacementCharacter = 0xFFFD;
+
 char32_t UpperCaseOf(char32_t character) {
     if ((character >= 0xE0 && character <= 0xF6) || (character >= 0xF8 && character <= 0xFE)) {
         return character - 0x20;
@@ -66,8 +96,13 @@ char32_t UpperCaseOf(char32_t character) {
 
 // HTML and XML forbid U+FFFE and U+FFFF, even as references.
 char32_t InDocument(char32_t character) {
-    constexpr char32_t kReplacementCharacter = 0xFFFD;
     return character == 0xFFFE || character == 0xFFFF ? kReplacementCharacter : character;
+}
+
+void AppendReference(std::string& bytes, char32_t character) {
+    bytes += "&#";
+    bytes += std::to_string(static_cast<std::uint32_t>(character));
+    bytes += ';';
 }
 
 // A stray byte xx (80 to FF) is represented by the lone surrogate U+DCxx.
@@ -273,11 +308,32 @@ void AppendWindows1252(std::string& bytes, std::string_view text, Substitute sub
         } else if (substitute == Substitute::QuestionMark) {
             bytes += '?';
         } else {
-            bytes += "&#";
-            bytes += std::to_string(static_cast<std::uint32_t>(InDocument(step.character)));
-            bytes += ';';
+            AppendReference(bytes, InDocument(step.character));
         }
     }
+}
+
+void AppendLatin1References(std::string& bytes, std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t run = DocumentRun(text, i);
+        bytes.append(text, i, run);
+        i += run;
+        if (i == text.size()) {
+            return;
+        }
+        const TextStep step = StepAt(text, i);
+        i += step.length;
+        if (step.character >= 0xA0 && step.character <= 0xFF) {
+            bytes += static_cast<char>(step.character);
+        } else {
+            AppendReference(bytes,
+                            step.character < 0xA0 ? kReplacementCharacter : InDocument(step.character));
+        }
+    }
+}
+
+bool IsDocumentAscii(std::string_view text) {
+    return DocumentRun(text, 0) == text.size();
 }
 
 std::string UpperCase(std::string_view text) {

@@ -45,6 +45,13 @@ enum class Substitute { QuestionMark, DecimalReference };
 // forbid, become references to U+FFFD.
 void AppendWindows1252(std::string& bytes, std::string_view text, Substitute substitute);
 
+// Appends the text as part of a document in ISO-8859-1: decimal character references for what that code page
+// lacks. References to U+FFFD replace what neither HTML 4.01 nor XML 1.0 permits: control characters other
+// than TAB, CR and LF, U+FFFE, U+FFFF, and the stray bytes 80 to 9F. Other stray bytes are unchanged.
+void AppendLatin1References(std::string& bytes, std::string_view text);
+// Whether AppendLatin1References leaves the text as it is, and all of it is ASCII.
+bool IsDocumentAscii(std::string_view text);
+
 // Upper case of a-z and of every Windows-1252 letter whose upper case is in Windows-1252. Required: other
 // scripts stay unchanged. The length in bytes never changes.
 std::string UpperCase(std::string_view text);

@@ -12,6 +12,18 @@ namespace {
 constexpr std::size_t kBufferBytes = 65536;
 constexpr std::size_t kDirectBytes = 16384;
 
+// Whether the bytes of the file are those of the text.
+bool NeedsNoEncoding(TextEncoding encoding, std::string_view text) {
+    switch (encoding) {
+    case TextEncoding::Utf8:
+        return true;
+    case TextEncoding::Latin1References:
+        return IsDocumentAscii(text);
+    default:
+        return IsAscii(text);
+    }
+}
+
 } // namespace
 
 TextFile::TextFile(const std::string& path, TextEncoding encoding, StopTest stop, CleanedFolders* cleaned)
@@ -19,7 +31,7 @@ TextFile::TextFile(const std::string& path, TextEncoding encoding, StopTest stop
 
 void TextFile::Write(std::string_view text) {
     // Pass a large piece that needs no encoding to write() without a copy.
-    if (text.size() >= kDirectBytes && (encoding_ == TextEncoding::Utf8 || IsAscii(text))) {
+    if (text.size() >= kDirectBytes && NeedsNoEncoding(encoding_, text)) {
         Flush();
         Send(text);
         return;
@@ -27,6 +39,9 @@ void TextFile::Write(std::string_view text) {
     switch (encoding_) {
     case TextEncoding::Windows1252References:
         AppendWindows1252(buffer_, text, Substitute::DecimalReference);
+        break;
+    case TextEncoding::Latin1References:
+        AppendLatin1References(buffer_, text);
         break;
     case TextEncoding::Windows1252Questions:
         AppendWindows1252(buffer_, text, Substitute::QuestionMark);

@@ -10,9 +10,11 @@
 
 namespace tunedex {
 
-// The encoding of a file. Stray bytes are written unchanged, except by SettingsLine.
+// The encoding of a file. Stray bytes are written unchanged, except by SettingsLine and, in part,
+// Latin1References.
 enum class TextEncoding {
     Windows1252References, // decimal character references for what Windows-1252 lacks: HTML, XHTML
+    Latin1References,      // pages that hold no byte of Windows-1252 either; see AppendLatin1References
     Windows1252Questions,  // "?" for what Windows-1252 lacks
     Utf8,
     FileLine,     // EncodeFileLine for each line

@@ -99,6 +99,7 @@ TEST(TextFile, EncodesTextInTheGivenEncoding) {
     };
     const std::vector<Row> rows = {
         {TextEncoding::Windows1252References, "Caf\xE9 \x80 &#12354; \xFF\r\n"},
+        {TextEncoding::Latin1References, "Caf\xE9 &#8364; &#12354; \xFF\r\n"},
         {TextEncoding::Windows1252Questions, "Caf\xE9 \x80 ? \xFF\r\n"},
         {TextEncoding::Utf8, "Café € あ \xFF\r\n"},
         {TextEncoding::FileLine, "Café € あ \xFF\r\n"},
@@ -119,13 +120,26 @@ TEST(TextFile, EncodesTextInTheGivenEncoding) {
 
 TEST(TextFile, WritesRawBytesUnchangedInEveryEncoding) {
     const test::TestFolder folder;
-    for (const TextEncoding encoding :
-         {TextEncoding::Windows1252References, TextEncoding::Windows1252Questions, TextEncoding::Utf8,
-          TextEncoding::FileLine, TextEncoding::SettingsLine}) {
+    for (const TextEncoding encoding : {TextEncoding::Windows1252References, TextEncoding::Latin1References,
+                                        TextEncoding::Windows1252Questions, TextEncoding::Utf8,
+                                        TextEncoding::FileLine, TextEncoding::SettingsLine}) {
         TextFile file(folder / "f", encoding);
         file.WriteRaw("あé\xFF\n");
         file.Close();
         EXPECT_EQ(test::ReadBytes(folder / "f"), "あé\xFF\n");
+    }
+}
+
+TEST(TextFile, ReplacesControlCharactersOfADocumentInPiecesOfAnySize) {
+    const test::TestFolder folder;
+    for (const std::size_t size : {std::size_t{1}, std::size_t{63}, std::size_t{100'000}}) {
+        TextFile file(folder / "f", TextEncoding::Latin1References);
+        const std::string plain(size, 'a');
+        file.Write(plain);
+        file.Write(plain + "\x01");
+        file.Write("\x7F" + plain);
+        file.Close();
+        EXPECT_EQ(test::ReadBytes(folder / "f"), plain + plain + "&#65533;&#65533;" + plain);
     }
 }
 

@@ -98,6 +98,50 @@ TEST(Windows1252, WritesNoReferenceThatHtmlForbids) {
     EXPECT_EQ(bytes, "&#65533;&#65533;&#65533;&#65536;");
 }
 
+std::string InLatin1(std::string_view text) {
+    std::string bytes;
+    AppendLatin1References(bytes, text);
+    return bytes;
+}
+
+TEST(Latin1References, WriteEveryCharacterThatADocumentMayHold) {
+    for (char32_t character = 0; character <= 0x10FFFF; ++character) {
+        if (character >= 0xD800 && character <= 0xDFFF) {
+            continue;
+        }
+        const bool space = character == '\t' || character == '\n' || character == '\r';
+        const bool control = character < 0x20 || (character >= 0x7F && character <= 0x9F);
+        std::string expected;
+        if ((control && !space) || character == 0xFFFE || character == 0xFFFF) {
+            expected = "&#65533;";
+        } else if (character <= 0xFF) {
+            expected = std::string(1, static_cast<char>(character));
+        } else {
+            expected = "&#" + std::to_string(static_cast<unsigned>(character)) + ";";
+        }
+        ASSERT_EQ(InLatin1(Utf8(character)), expected) << static_cast<unsigned>(character);
+    }
+}
+
+TEST(Latin1References, KeepOnlyTheStrayBytesThatAreCharacters) {
+    for (int byte = 0x80; byte <= 0xFF; ++byte) {
+        const std::string stray(1, static_cast<char>(byte));
+        EXPECT_EQ(InLatin1(stray), byte < 0xA0 ? "&#65533;" : stray) << byte;
+    }
+}
+
+TEST(Latin1References, FindTheCharactersToReplaceAnywhereInALongText) {
+    // Blocks of 64 bytes are tested at once.
+    for (std::size_t length = 0; length < 150; ++length) {
+        const std::string plain(length, '~');
+        EXPECT_TRUE(IsDocumentAscii(plain));
+        EXPECT_EQ(InLatin1(plain + "\x7F" + plain), plain + "&#65533;" + plain);
+        EXPECT_FALSE(IsDocumentAscii(plain + "\x7F" + plain));
+        EXPECT_FALSE(IsDocumentAscii(plain + "\xC3\xA9" + plain));
+    }
+    EXPECT_TRUE(IsDocumentAscii("\t\r\n "));
+}
+
 TEST(Windows1252, WritesStrayBytesUnchanged) {
     for (const Substitute substitute : {Substitute::QuestionMark, Substitute::DecimalReference}) {
         EXPECT_EQ(InWindows1252("a\xFF"
