@@ -11,6 +11,9 @@
 
 namespace tunedex {
 
+// U+FEFF in UTF-8: begins a text file to say that it is UTF-8.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 // One decoding step: a character of `length` bytes, or one stray byte.
 struct TextStep {
     char32_t character;

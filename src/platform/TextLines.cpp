@@ -8,7 +8,6 @@
 namespace tunedex {
 
 std::vector<std::string> SplitTextLines(std::string_view bytes, StrayBytes strayBytes) {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (bytes.starts_with(kByteOrderMark)) {
         bytes.remove_prefix(kByteOrderMark.size());
     }
