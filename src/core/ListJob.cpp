@@ -90,7 +90,8 @@ bool ListRun::ValidateOutput() {
     const std::string outputFile = ui_.Fields().outputFile;
     const std::string folder(FolderPrefixOf(outputFile, PathStyle::Native()));
     if (FolderExists(folder)) {
-        CheckOutputLink(ListingPath(OutputTypeOf(outputFile), outputFile));
+        const ListingStyle style = StyleOf(application_.settings);
+        CheckOutputLink(ListingPath(OutputTypeOf(outputFile, style), outputFile, style));
         return true;
     }
     const int answer =
@@ -151,7 +152,7 @@ bool ListRun::Write(RunMonitor& monitor) {
     monitor.SetStatus("Writing information...");
     Listing listing{settings_,          table_, totals_, application_.entities, application_.locale,
                     application_.clock, monitor};
-    listWritten_ = !WriteListing(OutputTypeOf(settings_.OutputFile), listing);
+    listWritten_ = !WriteListing(OutputTypeOf(settings_.OutputFile, StyleOf(settings_)), listing);
     if (!listWritten_) {
         ui_.CloseProgress();
     }
@@ -207,7 +208,7 @@ RunOutcome ListRun::Outcome() const {
     outcome.unreadFiles = totals_.Unread.files.size();
     outcome.modernTags = totals_.ModernTagCount;
     if (listWritten_) {
-        const bool paged = OutputTypeOf(settings_.OutputFile) == kHtmlOutput;
+        const bool paged = OutputTypeOf(settings_.OutputFile, StyleOf(settings_)) == kHtmlOutput;
         const PageFiles pages(settings_.OutputFile, paged ? settings_.Spanning : std::int16_t{0},
                               table_.Count());
         outcome.file = pages.PathOf(1);

@@ -2,7 +2,6 @@
 
 #include "Product.h"
 #include "RunTimeError.h"
-#include "StyleSheet.h"
 #include "Text.h"
 #include "Version.h"
 
@@ -95,24 +94,23 @@ void WriteHeadStart(std::string& page, const Settings& settings) {
     page += Indent(2) + "<title>";
 }
 
-void WriteHeadRest(std::string& page, const Settings& settings) {
+void WriteHeadRest(std::string& page, const Settings& settings, std::string_view styleBlock) {
     const std::string end = settings.DocumentType == "XHTML" ? " />\r\n" : ">\r\n";
     page += "</title>\r\n";
     // Required: declared as ISO-8859-1, although the bytes are Windows-1252.
     page += Indent(2) + R"(<meta http-equiv="Content-Type" content="text/html; charset=iso-8859-1")" + end;
     page += Indent(2) + "<meta name=\"generator\" content=\"Tunedex v" + kVersionText + " by Orvando (" +
             kHomePage + ")\"" + end;
-    if (settings.FontCSS || settings.ColourCSS) {
-        WriteStyleBlock(page, settings);
-    }
+    page += styleBlock;
     page += Indent(1) + "</head>\r\n";
     page += Indent(1) + "<body bgcolor=\"#" + settings.Colour[kPageBackground] + "\" text=\"#" +
             settings.Colour[kPageText] + "\" link=\"#" + settings.Colour[kLinkText] + "\">\r\n";
 }
 
-void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style) {
+void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style,
+                     const PagePolicy& policy) {
     const auto link = [&](std::int32_t target, const std::string& label) {
-        return "<a href=\"" + files.LinkTo(target, style) + "\">" + label + "</a>";
+        return "<a href=\"" + policy.pageReference(files.LinkTo(target, style)) + "\">" + label + "</a>";
     };
     const std::string previous = "&lt;&lt; Previous Page";
     const std::string next = "Next Page &gt;&gt;";
@@ -176,10 +174,9 @@ void WriteTableFoot(std::string& page, const Settings& settings, std::size_t col
     page += Indent(2) + "</table>\r\n";
 }
 
-std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style) {
+std::string LinkPath(const Settings& settings, const TrackRow& track, PathStyle style) {
     const std::string_view path = track.FullPath;
     std::string target;
-    // Required: links are neither escaped nor percent-encoded.
     switch (settings.LinkType) {
     case 0:
         target = path;
@@ -201,11 +198,17 @@ std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyl
     if (style.separator != '/') {
         target = ReplaceAll(target, std::string(1, style.separator), "/");
     }
-    return settings.LinkPrefix + target;
+    return target;
 }
 
-TrackRowWriter::TrackRowWriter(const Listing& listing)
-    : listing_(listing), escaper_(listing.entities), frames_{MakeFrame(false), MakeFrame(true)} {}
+// Required: classic links are neither escaped nor percent-encoded.
+std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style) {
+    return settings.LinkPrefix + LinkPath(settings, track, style);
+}
+
+TrackRowWriter::TrackRowWriter(const Listing& listing, const PagePolicy& policy)
+    : listing_(listing), policy_(policy),
+      escaper_(listing.entities), frames_{MakeFrame(false), MakeFrame(true)} {}
 
 TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     const Settings& settings = listing_.settings;
@@ -225,9 +228,10 @@ TrackRowWriter::RowFrame TrackRowWriter::MakeFrame(bool alternate) const {
     }
     piece += ">";
     for (const Column& column : listing_.columns) {
-        // Required: the cell of an unknown column is "<td</td>", its start tag unfinished. Do not "fix".
+        // Required: the classic cell of an unknown column is "<td</td>", its start tag unfinished. Do not
+        // "fix".
         piece += "<td";
-        if (column.key != ColumnKey::Unknown) {
+        if (column.key != ColumnKey::Unknown || policy_.wholeUnknownCells) {
             piece += KindOf(column.key).rightCells ? R"( align="right">)" : ">";
             piece += fontOpen;
         }
@@ -281,7 +285,7 @@ void TrackRowWriter::WriteTrackRow(PageBuffer& page, bool alternate, std::size_t
     }
     page.Put(frame.pieces.back());
     if (listing_.settings.DoLinks) {
-        page.Put(LinkTarget(listing_.settings, listing_.tracks.At(position), listing_.pathStyle));
+        page.Put(policy_.linkTarget(listing_.settings, listing_.tracks.At(position), listing_.pathStyle));
         page.Put(frame.linkClose);
     }
     listing_.monitor.SetCountedStatus("Writing entry for file ", static_cast<std::int32_t>(position),

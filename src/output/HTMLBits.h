@@ -5,6 +5,7 @@
 #include "OutputList.h"
 #include "PageBuffer.h"
 #include "PageFiles.h"
+#include "PagePolicy.h"
 
 #include <array>
 #include <cstdint>
@@ -27,12 +28,13 @@ std::string FontClose(const Settings& settings);
 std::string StrengthOpen(const Settings& settings, std::size_t fontIndex);
 std::string StrengthClose(const Settings& settings, std::size_t fontIndex);
 
-// The head of a page up to "<title>", and from "</title>" to the body tag.
+// The head of a page up to "<title>", and from "</title>" to the body tag with the style block, if any.
 void WriteHeadStart(std::string& page, const Settings& settings);
-void WriteHeadRest(std::string& page, const Settings& settings);
+void WriteHeadRest(std::string& page, const Settings& settings, std::string_view styleBlock);
 
 // Page numbers count from 1.
-void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style);
+void WriteNavigation(std::string& page, std::int32_t number, const PageFiles& files, PathStyle style,
+                     const PagePolicy& policy = kClassicPages);
 void WritePageHeading(std::string& page, const Settings& settings, std::int32_t number, std::int32_t count);
 void WriteTableHead(std::string& page, const Settings& settings, const std::vector<Column>& columns);
 void WriteTableFoot(std::string& page, const Settings& settings, std::size_t columnCount);
@@ -43,7 +45,7 @@ void WriteEnd(std::string& page, const Settings& settings);
 // Writes table rows. The markup around the cells is built once per listing.
 class TrackRowWriter {
   public:
-    explicit TrackRowWriter(const Listing& listing);
+    TrackRowWriter(const Listing& listing, const PagePolicy& policy);
 
     // `alternate` selects the alternate colours; `position` counts from 1.
     void WriteTrackRow(PageBuffer& page, bool alternate, std::size_t position) const;
@@ -59,11 +61,14 @@ class TrackRowWriter {
     void PutCell(PageBuffer& page, ColumnKey key, std::size_t position) const;
 
     const Listing& listing_;
+    const PagePolicy& policy_;
     const Escaper escaper_;
     std::array<RowFrame, 2> frames_; // normal, alternate
 };
 
-// The link of a track: `LinkPrefix` and the path in the form of `LinkType`, not escaped.
+// The path of a link to a track in the form of `LinkType`, and the whole link: `LinkPrefix` and that path.
+// Not escaped.
+std::string LinkPath(const Settings& settings, const TrackRow& track, PathStyle style);
 std::string LinkTarget(const Settings& settings, const TrackRow& track, PathStyle style);
 
 } // namespace tunedex

@@ -5,6 +5,7 @@
 #include "PageBuffer.h"
 #include "PageFiles.h"
 #include "Placeholders.h"
+#include "StyleSheet.h"
 
 #include <string>
 #include <string_view>
@@ -15,18 +16,21 @@ namespace {
 
 class HtmlPages {
   public:
-    explicit HtmlPages(Listing& listing)
-        : listing_(listing), settings_(listing.settings),
+    HtmlPages(Listing& listing, const PagePolicy& policy)
+        : listing_(listing), policy_(policy), settings_(listing.settings),
           files_(settings_.OutputFile, settings_.Spanning, listing.tracks.Count()) {}
 
     bool Write() {
         ExpandTitlePlaceholders(listing_, LineBreak(settings_));
+        std::string styleBlock;
+        WriteStyleBlock(styleBlock, policy_.forStyleSheet(settings_), policy_);
+        policy_.forMarkup(listing_);
         WriteHeadStart(headStart_, settings_);
-        WriteHeadRest(headRest_, settings_);
+        WriteHeadRest(headRest_, settings_, styleBlock);
         WriteTableHead(tableHead_, settings_, listing_.columns);
         WriteTableFoot(tableFoot_, settings_, listing_.columns.size());
         WriteEnd(end_, settings_);
-        const TrackRowWriter rows(listing_);
+        const TrackRowWriter rows(listing_, policy_);
         for (std::int32_t number = 1; number <= files_.Count(); ++number) {
             // Required: an abort after the last page counts too.
             if (!WritePage(number, rows) || listing_.monitor.AbortRequested()) {
@@ -39,8 +43,7 @@ class HtmlPages {
   private:
     // Returns false when the user aborted.
     bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
-        ListingFile file(page_, files_.PathOf(number), TextEncoding::Windows1252References, listing_.monitor,
-                         &cleaned_);
+        ListingFile file(page_, files_.PathOf(number), policy_.encoding, listing_.monitor, &cleaned_);
         std::string navigation;
         std::string heading;
         page_.Put(headStart_);
@@ -51,7 +54,7 @@ class HtmlPages {
             page_.PutNumber(number);
             page_.Put(" of ");
             page_.PutNumber(files_.Count());
-            WriteNavigation(navigation, number, files_, listing_.pathStyle);
+            WriteNavigation(navigation, number, files_, listing_.pathStyle, policy_);
         }
         page_.Put(headRest_);
         page_.Put(navigation);
@@ -81,6 +84,7 @@ class HtmlPages {
     }
 
     Listing& listing_;
+    const PagePolicy& policy_;
     Settings& settings_;
     PageFiles files_;
     // Identical on every page.
@@ -95,10 +99,10 @@ class HtmlPages {
 
 } // namespace
 
-bool WriteHtmlListing(Listing& listing) {
+bool WriteHtmlListing(Listing& listing, const PagePolicy& policy) {
     std::string& path = listing.settings.OutputFile;
-    path = ListingPath(kHtmlOutput, path);
-    return HtmlPages(listing).Write();
+    path = ListingPath(kHtmlOutput, path, StyleOf(listing.settings));
+    return HtmlPages(listing, policy).Write();
 }
 
 } // namespace tunedex

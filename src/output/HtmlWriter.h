@@ -2,10 +2,11 @@
 #pragma once
 
 #include "OutputList.h"
+#include "PagePolicy.h"
 
 namespace tunedex {
 
 // Returns true when the user aborted; finished pages and the rows written of the current one are kept.
-bool WriteHtmlListing(Listing& listing);
+bool WriteHtmlListing(Listing& listing, const PagePolicy& policy);
 
 } // namespace tunedex

@@ -9,4 +9,8 @@ namespace tunedex {
 // duration raises error 5, which fails the whole playlist.
 bool WriteM3uListing(Listing& listing);
 
+// The same in UTF-8, with a length of -1 for a track without a duration. A path that players could misread is
+// a "file" URI.
+bool WriteModernM3uListing(Listing& listing);
+
 } // namespace tunedex

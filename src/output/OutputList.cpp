@@ -1,5 +1,6 @@
 #include "OutputList.h"
 
+#include "CsvWriter.h"
 #include "HtmlWriter.h"
 #include "M3uWriter.h"
 #include "Text.h"
@@ -7,41 +8,72 @@
 
 namespace tunedex {
 
-OutputType OutputTypeOf(std::string_view outputFile) {
-    const std::size_t stop = outputFile.rfind('.');
-    if (stop == std::string_view::npos) {
-        return kHtmlOutput;
-    }
-    const std::string extension = UpperCase(outputFile.substr(stop));
-    if (extension == ".TXT" || extension == ".TEXT") {
-        return kTextOutput;
-    }
-    return extension == ".M3U" ? kPlaylistOutput : kHtmlOutput;
-}
+namespace {
 
-std::string ListingPath(int outputType, std::string outputFile) {
-    const auto ends = [&](std::string_view extension) { return EndsInIgnoringCase(outputFile, extension); };
-    switch (outputType) {
-    case kTextOutput:
-        // Required: "a.text" selects this writer, but its file is "a.text.txt".
-        return ends(".TXT") ? outputFile : outputFile + ".txt";
-    case kPlaylistOutput:
-        return ends(".M3U") ? outputFile : outputFile + ".m3u";
-    default:
-        return ends(".HTML") || ends(".HTM") ? outputFile : outputFile + ".htm";
-    }
-}
-
-bool WriteListing(int outputType, Listing& listing) {
-    listing.columns = SplitColumns(MergeColumns(listing.settings.ActiveColumns, listing.settings.Merge));
+bool WriteClassicListing(int outputType, Listing& listing) {
     switch (outputType) {
     case kTextOutput:
         return WriteTextListing(listing);
     case kPlaylistOutput:
         return WriteM3uListing(listing);
     default:
-        return WriteHtmlListing(listing);
+        return WriteHtmlListing(listing, kClassicPages);
     }
+}
+
+bool WriteModernListing(int outputType, Listing& listing) {
+    switch (outputType) {
+    case kTextOutput:
+        return WriteModernTextListing(listing);
+    case kPlaylistOutput:
+        return WriteModernM3uListing(listing);
+    case kCsvOutput:
+        return WriteCsvListing(listing);
+    default:
+        return WriteHtmlListing(listing, kModernPages);
+    }
+}
+
+} // namespace
+
+OutputType OutputTypeOf(std::string_view outputFile, ListingStyle style) {
+    const std::size_t stop = outputFile.rfind('.');
+    if (stop == std::string_view::npos) {
+        return kHtmlOutput;
+    }
+    const bool modern = style == ListingStyle::Modern;
+    const std::string extension = UpperCase(outputFile.substr(stop));
+    if (extension == ".TXT" || extension == ".TEXT") {
+        return kTextOutput;
+    }
+    if (extension == ".M3U" || (modern && extension == ".M3U8")) {
+        return kPlaylistOutput;
+    }
+    return modern && extension == ".CSV" ? kCsvOutput : kHtmlOutput;
+}
+
+std::string ListingPath(int outputType, std::string outputFile, ListingStyle style) {
+    const bool modern = style == ListingStyle::Modern;
+    const auto ends = [&](std::string_view extension) { return EndsInIgnoringCase(outputFile, extension); };
+    if (outputType == kTextOutput) {
+        // Required: "a.text" selects this writer, but its file is "a.text.txt".
+        return ends(".TXT") ? outputFile : outputFile + ".txt";
+    }
+    if (outputType == kPlaylistOutput) {
+        return ends(".M3U") || (modern && ends(".M3U8")) ? outputFile : outputFile + ".m3u";
+    }
+    if (modern && outputType == kCsvOutput) {
+        return ends(".CSV") ? outputFile : outputFile + ".csv";
+    }
+    return ends(".HTML") || ends(".HTM") ? outputFile : outputFile + ".htm";
+}
+
+bool WriteListing(int outputType, Listing& listing) {
+    const Settings& settings = listing.settings;
+    const bool modern = StyleOf(settings) == ListingStyle::Modern;
+    const ColumnSet set = modern ? ColumnSet::Modern : ColumnSet::Classic;
+    listing.columns = SplitColumns(MergeColumns(settings.ActiveColumns, settings.Merge, set), set);
+    return modern ? WriteModernListing(outputType, listing) : WriteClassicListing(outputType, listing);
 }
 
 } // namespace tunedex

@@ -41,6 +41,19 @@ std::string Finished(std::string rule) {
     return rule;
 }
 
+// What hides the rules from a reader of the document type that takes them for markup.
+struct Marks {
+    std::string_view start;
+    std::string_view end;
+};
+
+Marks MarksOf(std::string_view documentType, const PagePolicy& policy) {
+    if (documentType == "HTML") {
+        return {"<!--", "//-->"};
+    }
+    return documentType == "XHTML" ? Marks{policy.cdataStart, policy.cdataEnd} : Marks{};
+}
+
 } // namespace
 
 std::string_view CssSizeName(std::string_view size) {
@@ -52,7 +65,10 @@ std::string_view CssSizeName(std::string_view size) {
     return "small";
 }
 
-void WriteStyleBlock(std::string& page, const Settings& settings) {
+void WriteStyleBlock(std::string& page, const Settings& settings, const PagePolicy& policy) {
+    if (!settings.FontCSS && !settings.ColourCSS) {
+        return;
+    }
     const std::string indent = Indent(3);
     std::string body = indent + "body {";
     std::string tr = indent + "tr {";
@@ -78,17 +94,16 @@ void WriteStyleBlock(std::string& page, const Settings& settings) {
         AddProperty(td, "font-weight", cell.bold ? "bold" : "normal");
         AddProperty(td, "font-style", cell.italic ? "italic" : "normal");
     }
-    const bool html = settings.DocumentType == "HTML";
-    const bool xhtml = settings.DocumentType == "XHTML";
+    const Marks marks = MarksOf(settings.DocumentType, policy);
     page += Indent(2) + "<style type=\"text/css\">\r\n";
-    page += Indent(2) + (html ? "<!--" : xhtml ? "<![CDATA[" : "") + "\r\n";
+    page += Indent(2).append(marks.start) + "\r\n";
     for (const std::string* rule : {&body, &tr, &alternate, &th, &td}) {
         page += Finished(*rule) + "\r\n";
     }
     if (settings.ColourCSS) {
         page += Finished(a) + "\r\n";
     }
-    page += Indent(2) + (html ? "//-->" : xhtml ? "]]>" : "") + "\r\n";
+    page += Indent(2).append(marks.end) + "\r\n";
     page += Indent(2) + "</style>\r\n";
 }
 

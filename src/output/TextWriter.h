@@ -9,4 +9,7 @@ namespace tunedex {
 // columns.
 bool WriteTextListing(Listing& listing);
 
+// The same in UTF-8 with a byte-order mark, with a blank for each TAB, CR and LF in a field.
+bool WriteModernTextListing(Listing& listing);
+
 } // namespace tunedex

@@ -137,5 +137,69 @@ TEST_F(M3uWriterTest, StopsOnAnAbortBeforeItHasCheckedEveryPath) {
     EXPECT_EQ(monitor.asked, 2) << "once while checking paths, once after the track";
 }
 
+class ModernM3uTest : public ListingTest {
+  protected:
+    ModernM3uTest() {
+        settings.Modern = true;
+        settings.OutputFile = folder / "list.m3u8";
+    }
+    std::string Entry(const TrackInfo& track) {
+        Use({track});
+        EXPECT_FALSE(Write(kPlaylistOutput));
+        const std::string written = Written("list.m3u8");
+        EXPECT_TRUE(written.starts_with("#EXTM3U\r\n"));
+        return written.substr(std::string("#EXTM3U\r\n").size());
+    }
+};
+
+TEST_F(ModernM3uTest, NamesArtistAndTitleInUtf8) {
+    auto tracks = SevenTracks();
+    EXPECT_EQ(Entry(tracks[0]), "#EXTINF:250,Abba - Waterloo\r\n/music/Abba/01 Waterloo.mp3\r\n");
+    EXPECT_EQ(Entry(tracks[5]), "#EXTINF:1568,日本 - あ € 5\r\n/music/日本/あ.mp3\r\n");
+    tracks[5].FullPath = "/music/a.mp3";
+    EXPECT_EQ(Entry(tracks[5]), "#EXTINF:1568,日本 - あ € 5\r\n/music/a.mp3\r\n");
+}
+
+TEST_F(ModernM3uTest, HasALengthOfMinusOneWithoutADuration) {
+    EXPECT_EQ(Entry(SevenTracks()[4]),
+              "#EXTINF:-1,/music/untagged.mp3 - No ID3 Tags!\r\n/music/untagged.mp3\r\n");
+}
+
+TEST_F(ModernM3uTest, KeepsANameOnItsLine) {
+    TrackInfo track = SevenTracks()[0];
+    track.Artist = "a\nb\r";
+    track.Title = "c\td\r\n";
+    EXPECT_EQ(Entry(track), "#EXTINF:250,a b  - c\td  \r\n/music/Abba/01 Waterloo.mp3\r\n");
+    track.Artist = "/music/\xE3\x81\xFF.mp3"; // a file without a tag
+    EXPECT_EQ(Entry(track),
+              "#EXTINF:250,/music/\uFFFD\uFFFD.mp3 - c\td  \r\n/music/Abba/01 Waterloo.mp3\r\n");
+}
+
+TEST_F(ModernM3uTest, WritesAPathThatPlayersCouldMisreadAsAUri) {
+    const PlaylistName rows[] = {
+        {"/music/ a&b;'\"[1]\\.mp3", "/music/ a&b;'\"[1]\\.mp3"},
+        {"/music/花\t.mp3", "/music/花\t.mp3"},
+        {"/music/a\nb c.mp3", "file:///music/a%0Ab%20c.mp3"},
+        {"/music/a\r.mp3", "file:///music/a%0D.mp3"},
+        {"/music/#1.mp3", "file:///music/%231.mp3"},
+        {"/music/Who?.mp3", "file:///music/Who%3F.mp3"},
+        {"/music/50%.mp3", "file:///music/50%25.mp3"},
+        {"/music/J\xF3ga.mp3", "file:///music/J%F3ga.mp3"},
+        {"/music/花#[1].mp3", "file:///music/%E8%8A%B1%23%5B1%5D.mp3"},
+    };
+    TrackInfo track = SevenTracks()[0];
+    for (const PlaylistName& row : rows) {
+        track.FullPath = row.name;
+        EXPECT_EQ(Entry(track), std::string("#EXTINF:250,Abba - Waterloo\r\n") + row.written + "\r\n");
+    }
+}
+
+TEST_F(ModernM3uTest, KeepsTheTracksBeforeAnAbort) {
+    UseMany(5);
+    monitor.abortAtQuestion = 2;
+    EXPECT_TRUE(Write(kPlaylistOutput));
+    EXPECT_EQ(CountOf(Written("list.m3u8"), "#EXTINF"), 2U);
+}
+
 } // namespace
 } // namespace tunedex

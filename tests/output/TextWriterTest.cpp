@@ -171,5 +171,53 @@ TEST_F(TextWriterTest, WritesNoPartOfAnAbortedLongLine) {
     EXPECT_EQ(Written("list.txt"), "Title\tYear\r\nWaterloo\t1974\r\n");
 }
 
+class ModernTextTest : public ListingTest {
+  protected:
+    ModernTextTest() {
+        settings.Modern = true;
+        settings.Merge = 0;
+        settings.OutputFile = folder / "list.txt";
+    }
+};
+
+TEST_F(ModernTextTest, IsUtf8WithAByteOrderMark) {
+    TrackInfo track = SevenTracks()[5];
+    track.Composer = "Вяч. Бутусов";
+    Use({track});
+    settings.ActiveColumns = "Artist|Title|Duration|File Size|Full Path|Composer|Comment";
+    EXPECT_FALSE(Write(kTextOutput));
+    EXPECT_EQ(Written("list.txt"),
+              "\xEF\xBB\xBF"
+              "Artist\tTitle\tDuration\tFile Size\tFull Path\tComposer\tComment\r\n"
+              "日本\tあ € 5\t26:08\t2,048.00 MB\t/music/日本/あ.mp3\tВяч. Бутусов\t\r\n");
+}
+
+TEST_F(ModernTextTest, HasABlankForEachTabAndLineBreakInAField) {
+    TrackInfo track = SevenTracks()[0];
+    track.Artist = "\tA";
+    track.Title = "a\tb\r\nc\n";
+    track.FullPath = "/music/\n\v\xFF.mp3";
+    Use({track});
+    settings.ActiveColumns = "Tab\tled|Title|Filename";
+    EXPECT_FALSE(Write(kTextOutput));
+    EXPECT_EQ(Written("list.txt"), "\xEF\xBB\xBFTab led\tTitle\tFilename\r\n"
+                                   "a b  c \t \v\xFF.mp3\r\n");
+    settings.ActiveColumns = "Artist|Title";
+    settings.Merge = 1;
+    EXPECT_FALSE(Write(kTextOutput));
+    EXPECT_EQ(Written("list.txt"), "\xEF\xBB\xBF"
+                                   "Artist: Title\r\n A: a b  c \r\n");
+}
+
+TEST_F(ModernTextTest, WritesLongTextsInPieces) {
+    TrackInfo track = SevenTracks()[0];
+    track.Title = std::string(TextFile::kPieceBytes, 't') + "\t" + std::string(TextFile::kPieceBytes, 'u');
+    Use({track});
+    settings.ActiveColumns = "Title";
+    EXPECT_FALSE(Write(kTextOutput));
+    track.Title[TextFile::kPieceBytes] = ' ';
+    EXPECT_TRUE(Written("list.txt") == "\xEF\xBB\xBFTitle\r\n" + track.Title + "\r\n");
+}
+
 } // namespace
 } // namespace tunedex

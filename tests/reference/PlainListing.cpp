@@ -327,7 +327,9 @@ std::map<std::string, std::string> Pages(const Settings& settings, const std::ve
         }
         WriteHeadStart(page, settings);
         page += title;
-        WriteHeadRest(page, settings);
+        std::string styleBlock;
+        WriteStyleBlock(styleBlock, settings);
+        WriteHeadRest(page, settings, styleBlock);
         page += navigation;
         WritePageHeading(page, settings, page32, static_cast<std::int32_t>(count));
         std::vector<Column> heads;
