@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Worked examples for the model, so that the model and the program are less likely to share an error.
 
 usage: ModelTest.py [TEST...]

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Runs the program and its model on random collections and settings and compares the results.
 
     compare.py PROGRAM                 60 cases, from seed 1
@@ -31,6 +31,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 import surroundings  # noqa: E402
 from generator import Case  # noqa: E402
 from model import Model, Region, program_folder, to_disk  # noqa: E402
+from modern_order import language_of  # noqa: E402
 
 NO_SLEEP = """
 #include <time.h>
@@ -116,6 +117,8 @@ def printed(events):
             _, title, text, buttons, answered = event
             out += to_disk(title + "\n" + text.replace("\r\n", "\n")) + b"\n" + PROMPTS[buttons]
             out += b"" if answered else b"\n"
+        elif event[0] == "line":
+            out += to_disk(event[1]) + b"\n"
         else:
             out += to_disk(event[1]) + b":%d: line skipped: " % event[2] + REASON + b"\n"
     return error_lines(out)
@@ -176,7 +179,8 @@ def region(settings):
 
 
 def model_outcome(case, before, now, folder, shipped):
-    result = Model(folder, now, case.root, case.answers, shipped).run()
+    language = language_of(case.locale)
+    result = Model(folder, now, case.root, case.answers, shipped, language).run()
     files = dict(before)
     for path, data in result.files.items():
         old = before.get(path)

@@ -5,6 +5,8 @@ import random
 import struct
 import time
 
+from modern_files import CODE_PAGES, ModernFiles
+
 LARGEST_NAME = 255
 BYTE_ORDER_MARK = b"\xef\xbb\xbf"
 HOUR = 60 * 60  # seconds
@@ -56,11 +58,21 @@ UNKNOWN_COLUMNS = ["ÄÖÜäöüß", "日本", "é", "🎵x", "Foo", "\udce9\udc
 FACES = ["Arial", "Tahoma, Arial, sans-serif", "", "Times New Roman, serif", "é", "日本", '"Q"', "a|b", "%", "a=b(c)"]
 
 
+MODERN_COLUMNS = ["Track", "Disc", "Album Artist", "Composer", "Comment"]
+LANGUAGES = [
+    "de_DE.UTF-8", "sv_SE.UTF-8", "fr_CA", "cs_CZ.UTF-8", "de_DE@euro", "ja_JP.UTF-8", "xx_YY.UTF-8", "C", "C.UTF-8", "POSIX",
+    "", "",
+]  # fmt: skip
+
+
 class Case:
     """Writes one case into `root`: the program folder, the collection `music`, and other files the settings name."""
 
     def __init__(self, seed, root):
         self.random = random.Random(seed)
+        # Decided apart from `random`, so that cases with Modern off do not depend on it.
+        self.apart = random.Random(f"modern {seed}")
+        self.modern = ModernFiles(self.apart) if self.apart.random() < 1 / 3 else None
         self.root = root
         self.large_files = 0
         self.folders = []
@@ -167,6 +179,10 @@ class Case:
                      ""]  # fmt: skip
             self.locale = {name: self.pick(names) for name in ("LC_ALL", "LC_TIME", "LC_NUMERIC",
             "LANG") if self.chance(0.5)}
+        if self.modern:
+            for name in ("LC_ALL", "LC_COLLATE", "LANG"):
+                if self.modern.chance(0.5):
+                    self.locale[name] = self.modern.pick(LANGUAGES)
 
     def _locks(self):
         """Removes permissions from files and folders. Without effect for the superuser."""
@@ -266,6 +282,9 @@ class Case:
         if self.breaks and self.chance(0.5):
             self.write(path, b"no audio")
             return
+        if self.modern and self.modern.chance(0.8):
+            self._modern_file(path)
+            return
         parts = []
         if self.chance(0.4):
             parts.append(self.id3v2())
@@ -293,6 +312,18 @@ class Case:
                     if self.chance(0.5):
                         file.seek(0, os.SEEK_END)
                         file.write(self.id3v1())
+
+    def _modern_file(self, path):
+        data = self.modern.file()
+        self.write(path, data)
+        if self.modern.chance(0.1):
+            # A sparse file, which plays for long.
+            size = len(data) + self.modern.random.randrange(1, self.modern.pick([10_000, 50_000_000, 400_000_000]))
+            with open(path, "r+b") as file:
+                file.truncate(size)
+                if self.modern.chance(0.5):
+                    file.seek(0, os.SEEK_END)
+                    file.write(self.modern.id3v1())
 
     def _large_file(self, path):
         size = self.pick([268_435_455, 268_435_456, 268_435_457, 300_000_000, 2**31 - 1, 2**31, 2**31 + 5, 2**32,
@@ -437,6 +468,8 @@ class Case:
         if self.leading_album or kind == 4:
             return self.columns_behind_an_album()
         columns = list(ACTIVE)
+        if self.modern:
+            columns += MODERN_COLUMNS
         self.random.shuffle(columns)
         columns = columns[: self.random.randrange(1, 16)]
         if self.chance(0.5):
@@ -446,6 +479,9 @@ class Case:
         if kind == 1:
             columns.insert(self.random.randrange(len(columns) + 1), self.pick(["Foo", "", "artist", "Album", "日",
             "Number "]))
+        if self.modern and self.modern.chance(0.3) and "Album Artist" not in columns:
+            name = self.modern.pick(["Album Artist", "Album Artist", "album artist", "ALBUM ARTIST", "Old Album Artist"])
+            columns.insert(self.modern.random.randrange(len(columns) + 1), name)
         if kind == 2:
             columns = [self.pick([name.upper(), name.lower(), name]) for name in columns]
         text = "|".join(columns)
@@ -500,6 +536,9 @@ class Case:
             "x.y/list", ".htm", ".txt", "a b.htm", "tab\t.m3u", "é日.html", "list.", "list.txt.", '"q".htm', "a=b.txt",
             "caf\udce9.htm", "\udcff.m3u", "\udce9.b.html",
         ])  # fmt: skip
+        if self.modern and self.modern.chance(0.35):
+            name = self.modern.pick(["list.csv", "list.csv", "list.CSV", "list.m3u8", "list.m3u", "list.M3U8", "a.b.csv", "csv",
+                                     "#1 50%.htm", "q?.html", ".csv", "list.txt", "é 日.csv"])  # fmt: skip
         if self.chance(0.02):
             name = "n" * self.pick([247, 251, 252, 255, 256]) + self.pick([".htm", ".txt", ".m3u", ""])
         if self.chance(0.01):
@@ -655,6 +694,14 @@ class Case:
             optional["LinkType"] = lambda: "2"
         for index in range(10):
             optional[f"Colour({index})"] = lambda: self.pick(COLOURS)
+        if self.modern:
+            add("Modern", self.modern.pick(["1", "1", "1", "1", "2", "-1", "1"]))
+            if self.modern.code_page:
+                add("TagCodePage", self.modern.code_page)
+            if self.modern.chance(0.05):
+                add("TagCodePage", self.modern.pick(["", "no such", "é", *CODE_PAGES]))
+        elif self.apart.random() < 0.1:
+            add(*self.apart.choice([("Modern", "0"), ("Modern", ""), ("Modern", "no"), ("TagCodePage", "KOI8-R")]))
         for key, value in optional.items():
             if self.chance(presence):
                 add(key, value())

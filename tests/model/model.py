@@ -15,262 +15,30 @@ import re
 import stat
 import time
 from collections import Counter
-from decimal import ROUND_HALF_EVEN, Decimal
-from fractions import Fraction
 
-ERRORS = {
-    5: "Invalid procedure call or argument",
-    6: "Overflow",
-    7: "Out of memory",
-    9: "Subscript out of range",
-    11: "Division by zero",
-    13: "Type mismatch",
-    52: "Bad file name or number",
-    53: "File not found",
-    57: "Device I/O error",
-    61: "Disk full",
-    62: "Input past end of file",
-    67: "Too many files",
-    75: "Path/File access error",
-    76: "Path not found",
-}
+import modern_listings
+import modern_order
+from basics import (  # noqa: F401
+    CODE_PAGE, FaultyLine, Region, RunTimeError, decode_own_line, decode_settings_line, encode_own_line, encode_page,
+    encode_text_listing, file_error, from_disk, leading_number, left, own_lines, right, rounded, settled, size_text,
+    to_disk, two_digits, upper, whole_number,
+)  # fmt: skip
+from modern_audio import decode_audio
+from modern_tags import read_tags
+from modern_text import is_code_page
+from tracks import Bytes, Track, decode_header, detect_id3v2, read_id3v1, read_id3v2
 
 OK_EXCLAMATION = 48
 YES_NO_EXCLAMATION = 52
 OK_INFORMATION = 64
-
 HOME_PAGE = "https://tunedex.example/"
 VERSION = "1.0"
 ERROR_TITLE = "Tunedex Error! (Automatic Mode)"
 MULT = "%MULT%"
 BETWEEN = "%||%"
-BYTE_ORDER_MARK = b"\xef\xbb\xbf"
 LARGEST_EXPANSION = 1 << 20  # bytes of UTF-8
 DAY = 24 * 60 * 60  # seconds
 TEMPORARY_NAME = re.compile(rb"\.tunedex-[0-9]+-[0-9]+\.tmp")
-
-
-class RunTimeError(Exception):
-    def __init__(self, number):
-        super().__init__(number)
-        self.number = number
-        self.description = ERRORS[number]
-
-
-def file_error(error):
-    number = 57
-    if error.errno in (errno.EINVAL, errno.ENAMETOOLONG, errno.ELOOP):
-        number = 52
-    if error.errno == errno.ENOENT:
-        number = 53
-    if error.errno in (errno.ENOSPC, errno.EDQUOT):
-        number = 61
-    if error.errno in (errno.EMFILE, errno.ENFILE):
-        number = 67
-    if error.errno in (errno.EACCES, errno.EPERM, errno.EROFS, errno.EISDIR):
-        number = 75
-    if error.errno == errno.ENOTDIR:
-        number = 76
-    return RunTimeError(number)
-
-
-class FaultyLine(Exception):
-    """An invalid line of a settings or entity file, which is skipped."""
-
-
-# ---------------------------------------------------------------------------------------------------------- text
-
-
-def _code_page():
-    table = {}
-    for byte in range(256):
-        try:
-            table[byte] = bytes([byte]).decode("cp1252")
-        except UnicodeDecodeError:
-            table[byte] = chr(byte)
-    return table
-
-
-CODE_PAGE = _code_page()
-TO_CODE_PAGE = {character: byte for byte, character in CODE_PAGE.items()}
-
-
-def from_code_page(data):
-    return "".join(CODE_PAGE[byte] for byte in data)
-
-
-def to_disk(text):
-    return text.encode("utf-8", "surrogateescape")
-
-
-def from_disk(data):
-    return data.decode("utf-8", "surrogateescape")
-
-
-def settled(text):
-    """Decodes the text again, because adjacent stray bytes may form a character."""
-    return from_disk(to_disk(text))
-
-
-def _upper_map():
-    pairs = {chr(code): chr(code - 32) for code in range(ord("a"), ord("z") + 1)}
-    for character in TO_CODE_PAGE:
-        if ord(character) < 128 or not character.isalpha():
-            continue
-        partner = character.upper()
-        if partner != character and len(partner) == 1 and partner in TO_CODE_PAGE:
-            pairs[character] = partner
-    return str.maketrans(pairs)
-
-
-UPPER = _upper_map()
-
-
-def upper(text):
-    return text.translate(UPPER)
-
-
-def is_stray(character):
-    return 0xDC80 <= ord(character) <= 0xDCFF
-
-
-def encode_listing(text, missing):
-    """Windows-1252; `missing` returns the text for a character outside it."""
-    out = bytearray()
-    for character in settled(text):
-        if is_stray(character):
-            out.append(ord(character) - 0xDC00)
-        elif character in TO_CODE_PAGE:
-            out.append(TO_CODE_PAGE[character])
-        else:
-            out += missing(character).encode("ascii")
-    return bytes(out)
-
-
-def encode_page(text):
-    def reference(character):
-        # No document may hold U+FFFE or U+FFFF, not even as a reference.
-        code = 0xFFFD if ord(character) in (0xFFFE, 0xFFFF) else ord(character)
-        return f"&#{code};"
-
-    return encode_listing(text, reference)
-
-
-def encode_text_listing(text):
-    return encode_listing(text, lambda character: "?")
-
-
-def encode_own_line(text):
-    """Encodes a line of one of the program's own files, such as the log."""
-    text = settled(text)
-    if all(character in TO_CODE_PAGE for character in text):
-        data = bytes(TO_CODE_PAGE[character] for character in text)
-        if all(byte < 128 for byte in data):
-            return data
-        try:
-            data.decode("utf-8")
-        except UnicodeDecodeError:
-            return data
-    return to_disk(text)
-
-
-def decode_own_line(line):
-    try:
-        return line.decode("utf-8")
-    except UnicodeDecodeError:
-        return from_code_page(line)
-
-
-def decode_settings_line(line):
-    """Settings files hold stray bytes as the lone surrogates U+DC80 to U+DCFF."""
-    try:
-        text = line.decode("utf-8", "surrogatepass")
-    except UnicodeDecodeError:
-        return from_code_page(line)
-    if any(0xD800 <= ord(character) <= 0xDFFF and not is_stray(character) for character in text):
-        return from_code_page(line)
-    return settled(text)
-
-
-def own_lines(data, decode=decode_own_line):
-    lines = re.split(b"\r\n|\n|\r", data.removeprefix(BYTE_ORDER_MARK))
-    if lines[-1] == b"":
-        lines.pop()
-    return [decode(line) for line in lines]
-
-
-# ------------------------------------------------------------------------------------------------------- numbers
-
-NUMBER = r"[+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?"
-LEADING = re.compile(r" *(" + NUMBER + ")")
-WHOLLY = re.compile(r" *(" + NUMBER + r") *\Z")
-
-
-def leading_number(text):
-    match = LEADING.match(text)
-    return Decimal(match.group(1)) if match else Decimal(0)
-
-
-def whole_number(text):
-    """The number that the whole text is; anything else is a type mismatch."""
-    match = WHOLLY.match(text)
-    if not match:
-        raise RunTimeError(13)
-    return Decimal(match.group(1))
-
-
-def rounded(number, bits):
-    if abs(number) > 10**12:
-        raise RunTimeError(6)
-    value = int(number.to_integral_value(rounding=ROUND_HALF_EVEN))
-    if not -(2 ** (bits - 1)) <= value < 2 ** (bits - 1):
-        raise RunTimeError(6)
-    return value
-
-
-def two_digits(number):
-    return f"{number:02d}"
-
-
-class Region:
-    """Dates, times and number formats of the environment's locale."""
-
-    def __init__(self, date="", time="", thousands=",", point="."):
-        self.date = date
-        self.time = time
-        self.thousands = thousands
-        self.point = point
-
-    def grouped(self, number):
-        # A separator outside Windows-1252, such as U+202F in French, becomes a no-break space.
-        sound = all(character in TO_CODE_PAGE for character in self.thousands)
-        return f"{number:,}".replace(",", self.thousands if sound else "\u00a0")
-
-
-def size_text(size, size_type, region):
-    if size_type == 0:
-        return region.grouped(size) + " b."
-    if size_type not in (1, 2):
-        return ""
-    value = Fraction(size) / 1024
-    unit = "kB"
-    if size_type == 2:
-        value /= 1024
-        unit = "MB"
-    hundredths = int(value * 100 + Fraction(1, 2))
-    return region.grouped(hundredths // 100) + f"{region.point}{hundredths % 100:02d} {unit}"
-
-
-def left(text, count):
-    if count < 0:
-        raise RunTimeError(5)
-    return text[:count]
-
-
-def right(text, count):
-    if count < 0:
-        raise RunTimeError(5)
-    return text[len(text) - count :] if count < len(text) else text
 
 
 # ------------------------------------------------------------------------------------------------------ settings
@@ -283,7 +51,7 @@ class Settings:
     ]
     FLAGS = [
         "Recurse", "ErrorWarnings", "ErrorLog", "ConfirmQuit", "DoLinks", "MoveTheArtists", "FontCSS", "FontHTML",
-        "AltRows", "ColourCSS", "ColourHTML",
+        "AltRows", "ColourCSS", "ColourHTML", "Modern",
     ]
     INTEGERS = [
         "Spanning", "SizeType", "SortOrder", "LinkType", "Merge", "TablePadding", "TableBorder", "TableSpacing",
@@ -296,6 +64,7 @@ class Settings:
             setattr(self, name, False)
         for name in self.INTEGERS:
             setattr(self, name, 0)
+        self.TagCodePage = ""
         self.Font = [("", "", False, False)] * 3
         self.Colour = [""] * 10
         self.TableWidth = (0, 0)
@@ -360,6 +129,10 @@ class Settings:
         for name in self.INTEGERS:
             if upper(name) == key:
                 setattr(self, name, rounded(leading_number(value), 16))
+        if key == "TAGCODEPAGE":
+            if value != "" and not is_code_page(to_disk(value)):
+                raise FaultyLine
+            self.TagCodePage = value
         if key == "TABLEWIDTH":
             if len(value) < 2:
                 raise FaultyLine
@@ -375,244 +148,6 @@ class Settings:
             self.Font[int(index)] = (
                 parts[0], parts[1], leading_number(parts[2]) != 0, leading_number(parts[3]) != 0,
             )
-
-
-# -------------------------------------------------------------------------------------------------------- tracks
-
-GENRES = [
-    "Blues", "Classic Rock", "Country", "Dance", "Disco", "Funk", "Grunge", "Hip-Hop", "Jazz", "Metal", "New Age",
-    "Oldies", "Other", "Pop", "R&B", "Rap", "Reggae", "Rock", "Techno", "Industrial", "Alternative", "Ska",
-    "Death Metal", "Pranks", "Soundtrack", "Euro-Techno", "Ambient", "Trip Hop", "Vocal", "Jazz+Funk", "Fusion",
-    "Trance", "Classical", "Instrumental", "Acid", "House", "Game", "Sound Clip", "Gospel", "Noise", "Alt. Rock",
-    "Bass", "Soul", "Punk", "Space", "Meditative", "Instrumental Pop", "Instrumental Rock", "Ethnic", "Gothic",
-    "Darkwave", "Techno-Industrial", "Electronic", "Pop-Folk", "Eurodance", "Dream", "Southern Rock", "Comedy",
-    "Cult", "Gangsta Rap", "Top 40", "Christian Rap", "Pop/Punk", "Jungle", "Native American", "Cabaret", "New Wave",
-    "Psychedelic", "Rave", "Showtunes", "Trailer", "Lo-Fi", "Tribal", "Acid Punk", "Acid Jazz", "Polka", "Retro",
-    "Musical", "Rock & Roll", "Hard Rock", "Folk", "Folk/Rock", "National Folk", "Swing", "Fast-Fusion", "Bebob",
-    "Latin", "Revival", "Celtic", "Blue Grass", "Avantegarde", "Gothic Rock", "Progressive Rock", "Psychedelic Rock",
-    "Symphonic Rock", "Slow Rock", "Big Band", "Chorus", "Easy Listening", "Acoustic", "Humour", "Speech", "Chanson",
-    "Opera", "Chamber Music", "Sonata", "Symphony", "Booty Bass", "Primus", "Porn Groove", "Satire", "Slow Jam",
-    "Club", "Tango", "Samba", "Folklore", "Ballard", "Power Ballard", "Rhythmic Soul", "Freestyle", "Duet",
-    "Punk Rock", "Drum Solo", "A Cappella", "Euro-House", "Dance Hall", "Goa", "Drum & Bass", "Club House",
-    "Hardcore", "Terror", "Indie", "BritPop", "Negerpunk", "Polsk Punk", "Beat", "Christian Gangster", "Heavy Metal",
-    "Black Metal", "Crossover", "Contemporary Club", "Christian Rock", "Merengue", "Salsa", "Thrash Metal", "Anime",
-    "JPop", "Synthpop",
-]  # fmt: skip
-
-BITRATES_A = {"0001": 32, "0010": 40, "0011": 48, "0100": 56, "0101": 64, "0110": 80, "0111": 96, "1000": 112,
-              "1001": 128, "1010": 160, "1011": 192, "1100": 224, "1101": 256, "1110": 320}  # fmt: skip
-BITRATES_B = {"0001": 32, "0010": 48, "0011": 56, "0100": 64, "0101": 80, "0110": 96, "0111": 112, "1000": 128,
-              "1001": 160, "1010": 192, "1011": 224, "1100": 256, "1101": 320, "1110": 384}  # fmt: skip
-BITRATES_C = {"0001": 32, "0010": 64, "0011": 96, "0100": 128, "0101": 160, "0110": 192, "0111": 224, "1000": 256,
-              "1001": 288, "1010": 320, "1011": 352, "1100": 384, "1101": 416, "1110": 448}  # fmt: skip
-BITRATES_D = {"0001": 8, "0011": 24, "0100": 16, "0101": 64, "0110": 80, "0111": 56, "1000": 64,
-              "1001": 128, "1010": 160, "1011": 112, "1100": 128, "1101": 256, "1110": 320}  # fmt: skip
-BITRATES_E = {"0001": 8, "0010": 16, "0011": 24, "0100": 32, "0101": 64, "0110": 80, "0111": 56, "1000": 64,
-              "1001": 128, "1010": 160, "1011": 112, "1100": 128, "1101": 256, "1110": 320}  # fmt: skip
-
-VERSIONS = {"00": "2.5", "10": "2.0", "11": "1.0"}
-LAYERS = {"01": ("3", "III"), "10": ("2", "II"), "11": ("1", "I")}
-FREQUENCIES = {
-    "00": {"1.0": 44100, "2.0": 22050, "2.5": 11025},
-    "01": {"1.0": 48000, "2.0": 24000, "2.5": 12000},
-    "10": {"1.0": 32000, "2.0": 16000, "2.5": 8000},
-}
-MODES = {"00": "Stereo", "01": "Joint Stereo", "10": "Dual Channel", "11": "Mono"}
-
-
-class Track:
-    SWAPPED = [
-        "full_path", "file_size", "artist", "title", "album", "year", "genre", "bitrate", "frequency", "duration",
-    ]
-
-    def __init__(self):
-        self.full_path = self.base_folder = self.artist = self.title = self.album = self.year = self.genre = ""
-        self.bitrate = self.frequency = self.mode = self.mpeg_type = self.duration = ""
-        self.file_size = 0
-        self.tag_type = 0
-
-
-class Bytes:
-    """A file read by 1-based positions; every read past the end fails."""
-
-    def __init__(self, path):
-        try:
-            self.handle = os.open(to_disk(path), os.O_RDONLY)
-        except OSError as error:
-            raise file_error(error) from error
-        self.length = os.fstat(self.handle).st_size
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        os.close(self.handle)
-
-    def at_most(self, position, count):
-        return os.pread(self.handle, count, int(position) - 1)
-
-    def read(self, position, count):
-        if position - 1 + count > self.length:
-            raise RunTimeError(62)
-        return self.at_most(position, count)
-
-    def byte(self, position):
-        return self.read(position, 1)[0]
-
-    def find_ff(self, position):
-        """The position of the first FF at or after `position`, 0 when there is none."""
-        offset = position - 1
-        while offset < self.length:
-            try:
-                offset = os.lseek(self.handle, offset, os.SEEK_DATA)
-            except OSError:
-                return 0
-            chunk = os.pread(self.handle, 1 << 20, offset)
-            found = chunk.find(b"\xff")
-            if found >= 0:
-                return offset + found + 1
-            offset += len(chunk)
-        return 0
-
-
-def move_the(artist, settings):
-    if settings.MoveTheArtists and upper(artist[:4]) == "THE ":
-        return artist[4:] + ", The"
-    return artist
-
-
-def read_id3v1(track, settings):
-    try:
-        with Bytes(track.full_path) as file:
-            if file.length < 128:
-                return False
-            tag = from_code_page(file.read(file.length - 127, 128))
-    except RunTimeError:
-        return False
-    if tag[0:3] != "TAG":
-        return False
-
-    def clean(text):
-        return text.rstrip(" ").replace("\0", "")
-
-    number = TO_CODE_PAGE[tag[127]]
-    track.artist = move_the(clean(tag[33:63]) or "Unknown Artist", settings)
-    track.title = clean(tag[3:33]) or "Unknown Title"
-    track.album = clean(tag[63:93])
-    track.year = clean(tag[93:97])
-    track.genre = GENRES[number] if number < len(GENRES) else ""
-    return True
-
-
-def detect_id3v2(track):
-    """Returns whether there is a tag, and the position where the search for a frame header starts."""
-    try:
-        with Bytes(track.full_path) as file:
-            if file.read(1, 3) != b"ID3":
-                return False, 1
-            b10, b9, b8, b7 = (file.byte(position) for position in (10, 9, 8, 7))
-            size = ((b7 & 127) << 21) + ((b8 & 127) << 14) + ((b9 & 127) << 7) + b10
-            return True, size + 10
-    except RunTimeError:
-        return False, 1
-
-
-def read_id3v2(track, search_position, settings):
-    with Bytes(track.full_path) as file:
-        position = 11
-        try:
-            while True:
-                frame = file.read(position, 4)
-                if 0 in frame:
-                    return
-                size = int.from_bytes(file.read(position + 4, 4), "big") & 0x7FFFFFFF
-                content = file.read(position + 10, size) if size else b""
-                text = from_code_page(content.replace(b"\0", b""))
-                if frame == b"TIT2":
-                    track.title = text or "Unknown Title"
-                elif frame == b"TPE1":
-                    track.artist = move_the(text or "Unknown Artist", settings)
-                elif frame == b"TALB":
-                    track.album = text
-                elif frame == b"TYER":
-                    track.year = text
-                elif frame == b"TCON":
-                    track.genre = text
-                position += 10 + size
-                if position >= search_position:
-                    return
-        except RunTimeError:
-            return
-
-
-def decode_header(track, search_position):
-    """Fills the five audio fields and returns the duration in seconds."""
-    with Bytes(track.full_path) as file:
-        position = search_position
-        while True:
-            found = file.find_ff(position)
-            if found == 0:
-                raise RunTimeError(62)
-            position = found + 1
-            b2 = file.byte(position)
-            if b2 < 225:
-                continue
-            position += 1
-            b3 = file.byte(position)
-            if b3 >= 236:
-                position -= 1
-                continue
-            position += 1
-            b4 = file.byte(position)
-            header_offset = position - 4
-            buffer = file.at_most(header_offset + 1, 1400)
-            x = buffer.find(b"Xing") + 1
-            vbr = x > 0
-            frames = 0
-            if vbr:
-                digits = ""
-                for place in range(8, 16):
-                    digits += f"{file.byte(header_offset + x + place):02X}"
-                for digit in digits[:8]:
-                    frames = frames * 16 + "0123456789ABCDEF".index(digit)
-            bits = "".join(f"{byte:08b}" for byte in (255, b2, b3, b4))
-            version = VERSIONS.get(bits[11:13])
-            layer = LAYERS.get(bits[13:15])
-            rates = FREQUENCIES.get(bits[20:22])
-            if version is None or layer is None or rates is None or (not vbr and bits[16:20] == "1111"):
-                position = header_offset + 2
-                continue
-            break
-        frequency = rates[version]
-        mode = MODES[bits[24:26]]
-        index = bits[16:20]
-        if vbr:
-            if frames == 0:
-                raise RunTimeError(11)
-            bitrate = round(track.file_size * frequency / (frames * 144000))
-        else:
-            if version == "1.0" and layer[0] == "3":
-                bitrate = BITRATES_A.get(index, 128)
-            elif layer[0] == "2":
-                bitrate = BITRATES_B.get(index, 128)
-            elif layer[0] == "1":
-                bitrate = BITRATES_C.get(index, 128)
-            elif version == "2.0" and layer[0] == "3":
-                bitrate = BITRATES_D.get(index, 128)
-            if version == "2.5":
-                bitrate = BITRATES_E.get(index, 128)
-        bits_long = track.file_size * 8
-        if bits_long > 2147483647:
-            raise RunTimeError(6)
-        if bitrate == 0:
-            raise RunTimeError(11)
-        seconds = int(bits_long / bitrate / 1000)
-        track.bitrate = str(bitrate)
-        track.frequency = str(frequency)
-        track.mode = mode
-        track.mpeg_type = version + " " + layer[1]
-        track.duration = str(seconds // 60) + ":" + two_digits(seconds % 60)
-        return seconds
 
 
 # ------------------------------------------------------------------------------------------------------- the run
@@ -642,10 +177,11 @@ def program_folder(installation_path, executable, environment):
 class Model:
     """One unattended run in `current_folder`. The first `answers` messages are answered, with Yes if they offer it.
 
-    `shipped` is the folder of the files that are copied to a new program folder; empty if none are.
+    `shipped` is the folder of the files that are copied to a new program folder; empty if none are. `language` is the
+    locale name by which tracks are ordered with Modern on.
     """
 
-    def __init__(self, folder, region, current_folder, answers=0, shipped=""):
+    def __init__(self, folder, region, current_folder, answers=0, shipped="", language=""):
         self.app_folder = folder if folder.endswith("/") else folder + "/"
         self.shipped = shipped
         self.region = region
@@ -663,6 +199,8 @@ class Model:
         self.total_seconds = 0
         self.lists_created = 0
         self.files_handled = 0
+        self.language = language
+        self.unread = {}  # path -> "folder" or "file", of what could not be read with Modern on
 
     def run(self):
         here = os.getcwd()
@@ -673,6 +211,7 @@ class Model:
             self._load_settings()
             self._load_entities()
             self._create_list()
+            self._say_what_could_not_be_read()
         finally:
             os.chdir(here)
         if self.log is not None:
@@ -776,6 +315,16 @@ class Model:
             if not os.access(parent, os.W_OK | os.X_OK):
                 raise RunTimeError(75)
         self.result.folders.append(whole)
+
+    def _say_what_could_not_be_read(self):
+        if self.result.exit_status != 0 or not self.unread:
+            return
+        self.result.exit_status = 3
+        kinds = list(self.unread.values())
+        line = modern_listings.could_not_be_read(
+            kinds.count("folder"), kinds.count("file"), self.settings.ErrorLog, self.app_folder + "Tunedex.log"
+        )
+        self.result.events.append(("line", line))
 
     def _folder_exists(self, path):
         if path == "" or self._absolute(path) in self.result.folders:
@@ -953,7 +502,9 @@ class Model:
                     self._create_folder(path)
         extension = "." + upper(s.OutputFile.split(".")[-1]) if "." in s.OutputFile else ""
         output_type = {".HTM": 0, ".HTML": 0, ".TXT": 1, ".TEXT": 1, ".M3U": 2}.get(extension, 0)
-        self._refuse_link_to_music(self._with_extension(s.OutputFile, output_type))
+        if s.Modern:
+            output_type = {".M3U8": 2, ".CSV": 3}.get(extension, output_type)
+        self._refuse_link_to_music(self._with_extension(s.OutputFile, output_type, s.Modern))
         if s.ErrorLog:
             self._check_writable(self.app_folder + "Tunedex.log")
             self.log = []
@@ -965,7 +516,9 @@ class Model:
         self._status("Retrieving MPEG/ID3 information...")
         self._scan(True)
         self._status("Sorting information...")
-        if s.SortOrder != 0:
+        if s.Modern:
+            self.tracks = modern_order.in_order(self.tracks, s.SortOrder, self.language)
+        elif s.SortOrder != 0:
             self._sort()
         self._status("Writing information...")
         self._write_listing(output_type)
@@ -990,15 +543,74 @@ class Model:
         return [(entry, entry) for entry, before in zip(entries, judged) if before != ""]
 
     def _scan(self, collect):
+        if self.settings.Modern:
+            for start, base in self._start_folders():
+                self._walk_on(start, base, collect)
+            return
         state = {"folder": ""}
         try:
             for start, base in self._start_folders():
                 self._walk(start, base, collect, state)
         except RunTimeError as error:
-            folder = state["folder"]
-            if len(folder) > 1 and folder.endswith("/"):
-                folder = folder[:-1]
-            self._report("scanning the directory: \\n\\n%D\\n\\n%N: %S", None, folder, error)
+            self._report_folder(state["folder"], error)
+
+    def _report_folder(self, folder, error):
+        if len(folder) > 1 and folder.endswith("/"):
+            folder = folder[:-1]
+        self._report("scanning the directory: \\n\\n%D\\n\\n%N: %S", None, folder, error)
+
+    def _could_not_read(self, kind, path, folder, error):
+        """Each failure is reported and counted once, although there are two passes."""
+        if path not in self.unread:
+            self.unread[path] = kind
+            self._report_folder(folder, error)
+
+    def _walk_on(self, start, base, collect):
+        """The walk with Modern on, which no failure ends."""
+        seen = set()
+        pending = [start]
+        while pending:
+            current = pending.pop(0)
+            if not current.endswith("/"):
+                current += "/"
+            if self._absolute(current) in self.result.folders:
+                continue
+            try:
+                what = os.stat(to_disk(current))
+                if (what.st_dev, what.st_ino) in seen:
+                    continue
+                seen.add((what.st_dev, what.st_ino))
+                names = [from_disk(entry.name) for entry in os.scandir(to_disk(current))]
+            except OSError as error:
+                number = RunTimeError(76) if isinstance(error, FileNotFoundError) else file_error(error)
+                self._could_not_read("folder", current, current, number)
+                continue
+            for name in names:
+                self._entry(current, name, base, collect, pending)
+
+    def _entry(self, current, name, base, collect, pending):
+        if name.startswith("."):
+            return
+        is_music = upper(name).endswith(".MP3")
+        try:
+            mode = os.stat(to_disk(current + name)).st_mode
+        except OSError as error:
+            if error.errno in (errno.ENOENT, errno.ELOOP):
+                return  # a link that leads nowhere
+            if is_music or self.settings.Recurse:
+                kind = "file" if is_music else "folder"
+                self._could_not_read(kind, current + name, current, file_error(error))
+            return
+        if not stat.S_ISDIR(mode) and not stat.S_ISREG(mode):
+            return
+        if self.settings.Recurse and stat.S_ISDIR(mode):
+            pending.insert(0, current + name + "/")
+        elif is_music and not collect:
+            self.found_count += 1
+        elif is_music and stat.S_ISDIR(mode):
+            self._could_not_read("file", current + name, current, RunTimeError(53))
+        elif is_music:
+            self._add_track(current + name, base)
 
     def _walk(self, start, base, collect, state):
         seen = set()
@@ -1035,16 +647,40 @@ class Model:
                         continue
                     if stat.S_ISDIR(mode):
                         raise RunTimeError(53)
-                    track = Track()
-                    track.full_path = current + name
-                    track.base_folder = base
-                    track.file_size = min(os.stat(to_disk(track.full_path)).st_size, 2147483647)
-                    self.total_bytes += track.file_size
-                    self.tracks.append(track)
-                    self._read_track(track)
+                    self._add_track(current + name, base)
+
+    def _add_track(self, path, base):
+        track = Track()
+        track.full_path = path
+        track.base_folder = base
+        track.file_size = min(os.stat(to_disk(path)).st_size, 2147483647)
+        self.total_bytes += track.file_size
+        self.tracks.append(track)
+        self._status(f"Retrieving MPEG/ID3 information ({len(self.tracks)}/{self.found_count})...")
+        if self.settings.Modern:
+            self._read_modern_track(track)
+        else:
+            self._read_track(track)
+
+    def _read_modern_track(self, track):
+        tagged, start, end = read_tags(track, self.settings)
+        if not tagged:
+            track.artist = track.full_path
+            track.title = "No ID3 Tags!"
+            self.untagged_count += 1
+        try:
+            Bytes(track.full_path).__exit__()
+        except RunTimeError as error:
+            if track.full_path not in self.unread:
+                self.unread[track.full_path] = "file"
+                self._report("decoding the headers of: \\n\\n%F", track, "", error)
+            return
+        try:
+            self.total_seconds += decode_audio(track, start, end)
+        except RunTimeError as error:
+            self._report("decoding the headers of: \\n\\n%F", track, "", error)
 
     def _read_track(self, track):
-        self._status(f"Retrieving MPEG/ID3 information ({len(self.tracks)}/{self.found_count})...")
         first = read_id3v1(track, self.settings)
         second, search_position = detect_id3v2(track)
         if second:
@@ -1093,8 +729,13 @@ class Model:
     # -- listings
 
     def _working_columns(self):
+        if not self.settings.Modern:
+            return self._merged(self.settings.ActiveColumns)
+        columns, hidden = modern_listings.hide_album_artist(self.settings.ActiveColumns)
+        return [modern_listings.show_album_artist(column, hidden) for column in self._merged(columns)]
+
+    def _merged(self, columns):
         s = self.settings
-        columns = s.ActiveColumns
         position_artist = upper(columns).find("ARTIST") + 1
         position_title = upper(columns).find("TITLE") + 1
         if s.Merge > 0 and position_artist > 0 and position_title > 0:
@@ -1118,7 +759,9 @@ class Model:
 
     def _write_listing(self, output_type):
         columns = self._working_columns()
-        if output_type == 1:
+        if output_type in (1, 3) and self.settings.Modern:
+            self._write_modern_table(columns, output_type)
+        elif output_type == 1:
             self._write_text(columns)
         elif output_type == 2:
             self._write_playlist()
@@ -1126,8 +769,12 @@ class Model:
             self._write_html(columns)
 
     @staticmethod
-    def _with_extension(path, output_type):
-        endings, added = [((".HTML", ".HTM"), ".htm"), ((".TXT",), ".txt"), ((".M3U",), ".m3u")][output_type]
+    def _with_extension(path, output_type, modern=False):
+        endings, added = [
+            ((".HTML", ".HTM"), ".htm"), ((".TXT",), ".txt"), ((".M3U",), ".m3u"), ((".CSV",), ".csv"),
+        ][output_type]  # fmt: skip
+        if modern and output_type == 2:
+            endings += (".M3U8",)
         return path if upper(path).endswith(endings) else path + added
 
     @staticmethod
@@ -1155,7 +802,32 @@ class Model:
             finish(line)
         self._store(s.OutputFile, b"".join(encode_text_listing(line) + b"\r\n" for line in lines))
 
+    def _write_modern_table(self, columns, output_type):
+        s = self.settings
+        s.OutputFile = self._with_extension(s.OutputFile, output_type)
+        self._open_listing(s.OutputFile)
+        header = [self._header_text(column) for column in columns]
+        rows = []
+        for i, track in enumerate(self.tracks, 1):
+            cells = [self._table_cell(upper(column), track, i, output_type) for column in columns]
+            rows.append([cell for cell in cells if cell is not None])
+        if [] in [header, *rows]:
+            raise RunTimeError(5)
+        write = modern_listings.csv_listing if output_type == 3 else modern_listings.text_listing
+        self._store(s.OutputFile, write(header, rows))
+
+    def _table_cell(self, key, track, i, output_type):
+        if output_type == 3 and key == "DURATION":
+            return modern_listings.hours(track.duration)
+        if output_type == 3 and key == "FILE SIZE":
+            return str(track.file_size)
+        cell = self._text_cell(key, track, i)
+        # Every line of a .csv file has the same number of fields.
+        return "" if cell is None and output_type == 3 else cell
+
     def _text_cell(self, key, track, i):
+        if self.settings.Modern and key in modern_listings.COLUMNS:
+            return getattr(track, modern_listings.COLUMNS[key])
         pieces = track.full_path.split("/")
         with_album = f"{track.artist} ({track.album})" if track.album != "" else track.artist
         return {
@@ -1180,8 +852,11 @@ class Model:
 
     def _write_playlist(self):
         s = self.settings
-        s.OutputFile = self._with_extension(s.OutputFile, 2)
+        s.OutputFile = self._with_extension(s.OutputFile, 2, s.Modern)
         self._open_listing(s.OutputFile)
+        if s.Modern:
+            self._store(s.OutputFile, modern_listings.playlist(self.tracks, self.current_folder))
+            return
         ascii_only = all(all(ord(character) < 128 for character in track.full_path) for track in self.tracks)
         encode = encode_text_listing if ascii_only else to_disk
         data = b"#EXTM3U\r\n"
@@ -1261,7 +936,8 @@ class Model:
             if pages > 1:
                 lines.append(self._navigation(page, pages, base_name, extension))
             lines += self._end(line_break)
-            self._store(name, b"".join(encode_page(line) + b"\r\n" for line in lines))
+            encode = modern_listings.encode_page if s.Modern else encode_page
+            self._store(name, b"".join(encode(line) + b"\r\n" for line in lines))
 
     def _head(self, title):
         s = self.settings
@@ -1318,6 +994,9 @@ class Model:
             td += "font-style: italic; " if s.Font[2][3] else "font-style: normal; "
         body, tr, tr2, th, td, a = (rule[:-1] + "}" for rule in (body, tr, tr2, th, td, a))
         opener, closer = ("<![CDATA[", "]]>") if s.DocumentType == "XHTML" else ("<!--", "//-->")
+        if s.Modern and s.DocumentType == "XHTML":
+            # Comments for browsers that read the page as HTML; a CDATA section for XML parsers.
+            opener, closer = "/*<![CDATA[*/", "/*]]>*/"
         lines = ['\t\t<style type="text/css">', "\t\t" + opener, body, tr, tr2, th, td]
         if s.ColourCSS:
             lines.append(a)
@@ -1346,9 +1025,11 @@ class Model:
             ("</i>" if italic else "") + ("</b>" if bold else ""),
         )
 
-    @staticmethod
-    def _navigation(page, pages, base_name, extension):
+    def _navigation(self, page, pages, base_name, extension):
         base = base_name.split("/")[-1]
+        if self.settings.Modern:
+            base = modern_listings.percent_encoded(base)
+            extension = modern_listings.percent_encoded(extension)
         line = '\t\t<p align="center"><font size="2">'
         if page == 1:
             line += "&lt;&lt; Previous Page"
@@ -1387,6 +1068,8 @@ class Model:
             if upper(column) in ("ARTIST", "ARTISTTITLE", "ARTISTALBUMTITLE", "ALBUM", "TITLE", "FOLDER PATH",
                                  "FULL PATH", "FILENAME"):  # fmt: skip
                 row += ' align="left"'
+            if s.Modern and upper(column) in ("ALBUM ARTIST", "COMPOSER", "COMMENT"):
+                row += ' align="left"'
             row += ">" + self._font_open(1, 2) + opening + self._header_text(column) + closing + self._font_close()
             row += "</th>"
         if s.DoLinks:
@@ -1409,11 +1092,18 @@ class Model:
             if cell is not None:
                 if key in ("NUMBER", "BITRATE", "FREQUENCY", "DURATION", "FILE SIZE"):
                     row += ' align="right"'
+                if s.Modern and key in ("TRACK", "DISC"):
+                    row += ' align="right"'
                 row += ">" + self._font_open(2, colour) + opening + cell
+            elif s.Modern:
+                row += ">" + self._font_open(2, colour) + opening
             row += closing + self._font_close() + "</td>"
         if s.DoLinks:
             row += '<td align="center">' + self._font_open(2, colour) + opening
-            row += '<a href="' + s.LinkPrefix + self._link(track) + '">Link</a>'
+            target = s.LinkPrefix + self._link(track)
+            if s.Modern:
+                target = modern_listings.attribute(s.LinkPrefix + modern_listings.percent_encoded(self._link(track)))
+            row += '<a href="' + target + '">Link</a>'
             row += closing + self._font_close() + "</td>"
         return row + "</tr>"
 
@@ -1426,7 +1116,8 @@ class Model:
         text = self._text_cell(key, track, i)
         if text is None or key in ("NUMBER", "FILE SIZE"):
             return text
-        if key in ("ALBUM", "YEAR", "GENRE") and text == "":
+        empty_columns = ["ALBUM", "YEAR", "GENRE"] + (list(modern_listings.COLUMNS) if self.settings.Modern else [])
+        if key in empty_columns and text == "":
             return "&nbsp;"
         return self._escape(text)
 

@@ -1,0 +1,43 @@
+"""The order of the tracks with Modern on."""
+
+import icu
+
+from basics import leading_number, to_disk
+
+
+def collator(language):
+    """The Unicode collation of a locale name such as de_DE.UTF-8; the root order without a language."""
+    name = language.split(".")[0].split("@")[0]
+    locale = icu.Locale.getRoot() if name in ("", "C", "POSIX") else icu.Locale(name)
+    found = icu.Collator.createInstance(locale)
+    found.setStrength(icu.Collator.TERTIARY)
+    found.setAttribute(icu.UCollAttribute.NORMALIZATION_MODE, icu.UCollAttributeValue.ON)
+    return found
+
+
+def language_of(environment):
+    for name in ("LC_ALL", "LC_COLLATE", "LANG"):
+        if environment.get(name):
+            return environment[name]
+    return ""
+
+
+def in_order(tracks, order, language):
+    collation = collator(language)
+
+    def key(text):
+        return collation.getSortKey(to_disk(text).decode("utf-8", "replace"))
+
+    def by_path(track):
+        return key(track.full_path), to_disk(track.full_path)
+
+    def by_tags(track):
+        return (
+            key(track.album_artist or track.artist), key(track.album), leading_number(track.disc),
+            leading_number(track.track), key(track.title), *by_path(track),
+        )  # fmt: skip
+
+    if order not in (1, 2):
+        return sorted(tracks, key=by_path)
+    ascending = sorted(tracks, key=by_tags)
+    return ascending if order == 1 else ascending[::-1]

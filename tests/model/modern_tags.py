@@ -1,0 +1,386 @@
+"""Tags as they are read with Modern on: ID3v2.2 to 2.4, APEv2 and ID3v1, and where the audio lies between them."""
+
+import re
+
+from basics import RunTimeError, upper
+from modern_text import (
+    decode, field_values, from_code_page, from_utf8, joined, split_at_nul, trimmed, width_of,
+)  # fmt: skip
+from tracks import GENRES, Bytes
+
+# The list ends at 147 in the classic table; these are 148 to 191.
+MORE_GENRES = [
+    "Abstract", "Art Rock", "Baroque", "Bhangra", "Big Beat", "Breakbeat", "Chillout", "Downtempo", "Dub", "EBM",
+    "Eclectic", "Electro", "Electroclash", "Emo", "Experimental", "Garage", "Global", "IDM", "Illbient",
+    "Industro-Goth", "Jam Band", "Krautrock", "Leftfield", "Lounge", "Math Rock", "New Romantic", "Nu-Breakz",
+    "Post-Punk", "Post-Rock", "Psytrance", "Shoegaze", "Space Rock", "Trop Rock", "World Music", "Neoclassical",
+    "Audiobook", "Audio Theatre", "Neue Deutsche Welle", "Podcast", "Indie Rock", "G-Funk", "Dubstep", "Garage Rock",
+    "Psybient",
+]  # fmt: skip
+
+FIELDS = ["title", "artist", "album", "year", "genre", "track", "disc", "album_artist", "composer", "comment"]
+FRAMES = {
+    "title": ("TIT2", "TT2"), "artist": ("TPE1", "TP1"), "album": ("TALB", "TAL"), "genre": ("TCON", "TCO"),
+    "track": ("TRCK", "TRK"), "disc": ("TPOS", "TPA"), "album_artist": ("TPE2", "TP2"), "composer": ("TCOM", "TCM"),
+    "written_year": ("TYER", "TYE"), "recorded": ("TDRC",), "released": ("TDRL",), "first_released": ("TDOR",),
+}  # fmt: skip
+APE_KEYS = {
+    "TITLE": "title", "ARTIST": "artist", "ALBUM": "album", "YEAR": "year", "GENRE": "genre", "TRACK": "track",
+    "DISC": "disc", "ALBUM ARTIST": "album_artist", "ALBUMARTIST": "album_artist", "COMPOSER": "composer",
+    "COMMENT": "comment",
+}  # fmt: skip
+
+
+def genre_name(number):
+    names = GENRES + MORE_GENRES
+    return names[number] if number < len(names) else "Unknown"
+
+
+def is_number(text):
+    return re.fullmatch("[0-9]+", text) is not None
+
+
+# ------------------------------------------------------------------------------------------------ where tags lie
+
+
+class Place:
+    """A tag in a file: `start` of its bytes, `end` behind them."""
+
+    def __init__(self, kind, start, end):
+        self.kind = kind  # "ID3v2", "APEv2", "Lyrics3" or "ID3v1"
+        self.start = start
+        self.end = end
+
+
+def bytes_at(file, start, count):
+    """Up to `count` bytes; fewer at the end of the file."""
+    start = min(start, file.length)
+    count = max(0, min(count, file.length - start))
+    data = b""
+    while len(data) < count:
+        more = file.at_most(start + len(data) + 1, count - len(data))
+        if more == b"":
+            break
+        data += more
+    return data
+
+
+def synchsafe(data):
+    number = 0
+    for byte in data:
+        number = number << 7 | byte & 127
+    return number
+
+
+def id3v2_length(head):
+    """The length of the whole tag whose header is `head`, 0 if it cannot be made out."""
+    if len(head) < 10 or head[:3] != b"ID3" or head[3] not in (2, 3, 4) or head[4] == 255:
+        return 0
+    if any(byte >= 128 for byte in head[6:10]):
+        return 0
+    footer = 10 if head[3] == 4 and head[5] & 0x10 else 0
+    return 10 + synchsafe(head[6:10]) + footer
+
+
+def ape_fields(block):
+    """(size, flags, item count) of a header or footer of 32 bytes; None if it is none."""
+    if len(block) < 32 or block[:8] != b"APETAGEX" or int.from_bytes(block[8:12], "little") != 2000:
+        return None
+    size, count, flags = (int.from_bytes(block[i : i + 4], "little") for i in (12, 16, 20))
+    return (size, flags, count) if size >= 32 else None
+
+
+def leading_tags(file):
+    places = []
+    position = 0
+    while True:
+        head = bytes_at(file, position, 32)
+        length = id3v2_length(head)
+        kind = "ID3v2"
+        if length == 0:
+            kind = "APEv2"
+            fields = ape_fields(head)
+            if fields is None or not fields[1] & 1 << 29:
+                return places, min(position, file.length)
+            length = 32 + fields[0]
+        places.append(Place(kind, position, position + length))
+        position += length
+
+
+def lyrics_start(file, end):
+    """Where a Lyrics3 tag starts that ends at `end`; `end` if there is none."""
+    mark = bytes_at(file, end - 9, 9) if end >= 9 else b""
+    if mark == b"LYRICS200" and end >= 15:
+        digits = bytes_at(file, end - 15, 6)
+        if re.fullmatch(b"[0-9]{6}", digits):
+            start = end - 15 - int(digits)
+            if start >= 0 and bytes_at(file, start, 11) == b"LYRICSBEGIN":
+                return start
+    if mark == b"LYRICSEND":
+        first = max(0, end - 9 - 5100 - 11)
+        found = bytes_at(file, first, end - 9 - first).rfind(b"LYRICSBEGIN")
+        if found >= 0:
+            return first + found
+    return end
+
+
+def ape_start(file, end):
+    """Where an APEv2 tag starts that ends at `end`; `end` if there is none."""
+    fields = ape_fields(bytes_at(file, end - 32, 32)) if end >= 32 else None
+    if fields is None or fields[1] & 1 << 29:
+        return end
+    start = end - fields[0] - (32 if fields[1] & 1 << 31 else 0)
+    return start if start >= 0 else end
+
+
+def trailing_tags(file):
+    places = []
+    end = file.length
+    if end >= 128 and bytes_at(file, end - 128, 3) == b"TAG":
+        places.append(Place("ID3v1", end - 128, end))
+        end -= 128
+    while True:
+        for kind, start in (("Lyrics3", lyrics_start(file, end)), ("APEv2", ape_start(file, end))):
+            if start < end:
+                places.append(Place(kind, start, end))
+                end = start
+                break
+        else:
+            return places, end
+
+
+# ---------------------------------------------------------------------------------------------------------- ID3v2
+
+
+def deunsynchronised(data):
+    return data.replace(b"\xff\x00", b"\xff")
+
+
+def is_unsynchronised(data):
+    """Unsynchronised data has no FF followed by E0 to FF."""
+    return re.search(b"\xff[\xe0-\xff]", data) is None
+
+
+def without_extended_header(body, version):
+    if version == 3:
+        return body[4 + int.from_bytes(body[:4], "big") :]
+    return body[synchsafe(body[:4]) :]
+
+
+def is_frame_name(name, width):
+    return re.fullmatch(b"[A-Z0-9]{%d}" % width, name) is not None
+
+
+def leads_on(body, position):
+    """Whether a frame of ID3v2.4, padding or the tag's end is at the position."""
+    if position == len(body):
+        return True
+    return position < len(body) and (body[position] == 0 or is_frame_name(body[position : position + 4], 4))
+
+
+def frame_size_of_24(body, position):
+    """Some writers give plain 32-bit numbers where ID3v2.4 asks for 7 bits in each byte."""
+    field = body[position + 4 : position + 8]
+    plain = int.from_bytes(field, "big")
+    if any(byte >= 128 for byte in field):
+        return plain
+    if not leads_on(body, position + 10 + synchsafe(field)) and leads_on(body, position + 10 + plain):
+        return plain
+    return synchsafe(field)
+
+
+def content_of_23(content, flags):
+    """None for a frame that is skipped."""
+    if flags & 0xC0:
+        return None  # compressed or encrypted
+    return content[1:] if flags & 0x20 else content
+
+
+def content_of_24(content, flags, whole_tag):
+    if flags & 0x0C:
+        return None
+    if (flags & 0x02 or whole_tag) and is_unsynchronised(content):
+        content = deunsynchronised(content)
+    if flags & 0x40:
+        content = content[1:]
+    return content[4:] if flags & 0x01 else content
+
+
+def id3v2_frames(tag):
+    """(name, content) of each frame, in order, of a whole tag with its header."""
+    version, flags = tag[3], tag[5]
+    body = tag[10 : 10 + synchsafe(tag[6:10])]
+    if version < 4 and flags & 0x80:
+        body = deunsynchronised(body)
+    if version == 2 and flags & 0x40:
+        return []  # compressed by a method that was never defined
+    if version > 2 and flags & 0x40:
+        body = without_extended_header(body, version)
+    width, header = (3, 6) if version == 2 else (4, 10)
+    frames = []
+    position = 0
+    while position + header <= len(body):
+        name = body[position : position + width]
+        if not is_frame_name(name, width):
+            break
+        if version == 4:
+            size = frame_size_of_24(body, position)
+        else:
+            size = int.from_bytes(body[position + width : position + 2 * width], "big")
+        content = body[position + header : position + header + size]
+        if len(content) < size:
+            break
+        if version == 3:
+            content = content_of_23(content, body[position + 9])
+        elif version == 4:
+            content = content_of_24(content, body[position + 9], flags & 0x80)
+        if content is not None:
+            frames.append((name.decode("ascii"), content))
+        position += header + size
+    return frames
+
+
+def genres_of(value):
+    """The names that one value of TCON stands for."""
+    special = {"RX": "Remix", "CR": "Cover"}
+    if is_number(value) and int(value) < 256:
+        return [genre_name(int(value))]
+    if value in special:
+        return [special[value]]
+    names = []
+    while True:
+        match = re.match(r"\(([0-9]+|RX|CR)\)", value)
+        if not match:
+            break
+        names.append(special.get(match[1]) or genre_name(int(match[1])))
+        value = value[match.end() :]
+    if value.startswith("(("):
+        value = value[1:]
+    if value != "" and value not in names:
+        names.append(value)
+    return names
+
+
+def comment_of(content, code_page):
+    """(description, text) of a comment frame; None if it cannot be read."""
+    if len(content) < 4 or content[0] > 3:
+        return None
+    encoding = content[0]
+    pieces = split_at_nul(content[4:], width_of(encoding))
+    description = trimmed(decode(pieces[0], encoding, code_page))
+    values = [trimmed(decode(piece, encoding, code_page)) for piece in pieces[1:]]
+    return description, joined([value for value in values if value != ""])
+
+
+def four_digits(text):
+    match = re.search("[0-9]{4}", text)
+    return match[0] if match else ""
+
+
+def read_id3v2(tag, code_page):
+    values = {field: [] for field in FRAMES}
+    comment = None
+    for name, content in id3v2_frames(tag):
+        if name in ("COMM", "COM") and comment is None:
+            found = comment_of(content, code_page)
+            if found is not None and found[0] == "":
+                comment = found[1]
+        for field, names in FRAMES.items():
+            if name in names and content and content[0] <= 3:
+                known = values[field]
+                more = field_values(content[1:], content[0], code_page)
+                values[field] = known + [value for value in more if not known or value not in known]
+    values["genre"] = [name for value in values["genre"] for name in genres_of(value)]
+    texts = {field: joined(found) for field, found in values.items()}
+    texts["year"] = texts["written_year"] or next(
+        filter(None, (four_digits(texts[field]) for field in ("recorded", "released", "first_released"))), ""
+    )
+    texts["comment"] = comment or ""
+    return {field: texts[field] for field in FIELDS}
+
+
+# ------------------------------------------------------------------------------------------------ APEv2 and ID3v1
+
+
+def read_ape(tag, at_the_start):
+    """Only text items count; a key that is there twice keeps its first text."""
+    if at_the_start:
+        size, _, count = ape_fields(tag[:32])
+        items = tag[32:]
+    else:
+        size, _, count = ape_fields(tag[-32:])
+        items = tag[len(tag) - size : -32]
+    texts = dict.fromkeys(FIELDS, "")
+    position = 0
+    for _ in range(count):
+        end = items.find(b"\0", position + 8)
+        if end < 0:
+            break
+        length, flags = (int.from_bytes(items[i : i + 4], "little") for i in (position, position + 4))
+        key = items[position + 8 : end].decode("latin-1")
+        value = items[end + 1 : end + 1 + length]
+        if len(value) < length:
+            break
+        field = APE_KEYS.get(re.sub("[a-z]+", lambda match: match[0].upper(), key))
+        if field is not None and flags & 6 == 0 and texts[field] == "":
+            texts[field] = joined(field_values(value, 3, ""))
+        position = end + 1 + length
+    return texts
+
+
+def read_id3v1(tag, code_page):
+    def text(start, width):
+        return from_code_page(tag[start : start + width].split(b"\0")[0].rstrip(b" "), code_page)
+
+    texts = dict.fromkeys(FIELDS, "")
+    texts |= {"title": text(3, 30), "artist": text(33, 30), "album": text(63, 30), "year": text(93, 4)}
+    texts["comment"] = text(97, 30)
+    if tag[125] == 0 and tag[126] != 0:
+        texts["comment"] = text(97, 28)
+        texts["track"] = str(tag[126])
+    texts["genre"] = (GENRES + MORE_GENRES)[tag[127]] if tag[127] < len(GENRES + MORE_GENRES) else ""
+    return texts
+
+
+# --------------------------------------------------------------------------------------------------------- a file
+
+
+def move_the(name, settings):
+    if settings.MoveTheArtists and upper(name[:4]) == "THE ":
+        return name[4:] + ", The"
+    return name
+
+
+def read_tags(track, settings):
+    """Fills the record's texts. Returns whether the file has a tag, and where its audio starts and ends."""
+    code_page = settings.TagCodePage
+    kinds = []
+    try:
+        with Bytes(track.full_path) as file:
+            before, start = leading_tags(file)
+            behind, end = trailing_tags(file)
+
+            def whole(place):
+                return bytes_at(file, place.start, place.end - place.start)
+
+            for place in before:
+                if place.kind == "ID3v2":
+                    kinds.append(read_id3v2(whole(place), code_page))
+                    break
+            ape_behind = [place for place in behind if place.kind == "APEv2"]
+            ape_before = [place for place in before if place.kind == "APEv2"]
+            if ape_behind:
+                kinds.append(read_ape(whole(ape_behind[0]), False))
+            elif ape_before:
+                kinds.append(read_ape(whole(ape_before[0]), True))
+            for place in behind:
+                if place.kind == "ID3v1":
+                    kinds.append(read_id3v1(whole(place), code_page))
+    except RunTimeError:
+        return False, 0, 0
+    for field in FIELDS:
+        setattr(track, field, next(filter(None, (kind[field] for kind in kinds)), ""))
+    track.artist = move_the(track.artist or "Unknown Artist", settings)
+    track.album_artist = move_the(track.album_artist, settings)
+    track.title = track.title or "Unknown Title"
+    return bool(kinds), start, end
