@@ -8,13 +8,13 @@ import fcntl
 import os
 import pathlib
 import sys
-import tempfile
 import time
 import unittest
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 
+from examples import Examples, id3v1  # noqa: E402
 from model import Model, Region, encode_own_line, encode_page, own_lines, program_folder, size_text  # noqa: E402
 
 UNEXPECTED = "An unexpected error occurred. The error was: \r\n\r\nError number "
@@ -23,37 +23,7 @@ ERROR_75 = ("message", "Error", UNEXPECTED + "75 - Path/File access error", 48, 
 AUDIO = b"\xff\xfb\x90\x64" + bytes(4092)
 
 
-def id3v1(title=b"", artist=b""):
-    return b"TAG" + title.ljust(30, b"\0") + artist.ljust(30, b"\0") + bytes(64) + b"\xff"
-
-
-class ModelTest(unittest.TestCase):
-    def setUp(self):
-        scratch = tempfile.TemporaryDirectory(prefix="tunedex-model-test-")
-        self.addCleanup(scratch.cleanup)
-        self.folder = os.path.realpath(scratch.name)
-        for name in ("prog", "music", "out"):
-            os.mkdir(self.path(name))
-        self.region = Region("2026-11-21", "14:05")
-
-    def path(self, name):
-        return os.path.join(os.fsencode(self.folder), os.fsencode(name))
-
-    def write(self, name, data):
-        with open(self.path(name), "wb") as file:
-            file.write(data)
-        return self.path(name)
-
-    def run_model(self, *lines, start=b""):
-        """Runs the model on the folder `music` with these settings."""
-        lines = [b"Directory=music", b"OutputFile=out/list.txt", b"ActiveColumns=Filename", *lines]
-        self.write("prog/Tunedex.cfg", start + b"\r\n".join(lines))
-        return Model(os.path.join(self.folder, "prog"), self.region, self.folder).run()
-
-    def listing(self, result, name="out/list.txt"):
-        self.assertIn(self.path(name), result.files, result.events)
-        return result.files[self.path(name)]
-
+class ModelTest(Examples):
     # -- columns and values
 
     def test_MergeOfColumnsCountsCharacters(self):

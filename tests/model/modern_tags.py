@@ -162,9 +162,9 @@ def is_unsynchronised(data):
 
 
 def without_extended_header(body, version):
-    if version == 3:
-        return body[4 + int.from_bytes(body[:4], "big") :]
-    return body[synchsafe(body[:4]) :]
+    """Some writers set the flag without an extended header; its size then runs past the tag."""
+    size = 4 + int.from_bytes(body[:4], "big") if version == 3 else synchsafe(body[:4])
+    return body[size:] if size <= len(body) else body
 
 
 def is_frame_name(name, width):
