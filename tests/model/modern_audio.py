@@ -127,6 +127,15 @@ def mean_bitrate(file, position, header, end):
     return Fraction(sum(found), len(found))
 
 
+def bitrate_behind(file, position, header, end):
+    """The frame of an Info header may have a higher bitrate than the audio, which follows it."""
+    place = position + header.length()
+    following = header_at(file, place, end)
+    if following is None or not header.continues(following) or following.bitrate == 0:
+        return header.bitrate
+    return mean_bitrate(file, place, following, end)
+
+
 def nearest(number):
     return int(number + Fraction(1, 2))
 
@@ -146,7 +155,7 @@ def decode_audio(track, start, end):
                 distance = free_format_distance(file, position, header, end)
                 seconds = Fraction(size * header.samples(), distance * header.frequency)
         elif frames:
-            bitrate = str(nearest(size * 8 / seconds / 1000) if varies else header.bitrate)
+            bitrate = str(nearest(size * 8 / seconds / 1000 if varies else bitrate_behind(file, position, header, end)))
         else:
             mean = mean_bitrate(file, position, header, end)
             bitrate = str(nearest(mean))
