@@ -3,13 +3,16 @@
 usage: BrowserTest.py PROGRAM DATA-FOLDER MAKE-SAMPLE TAGGER SAMPLE-FOLDER WORK-FOLDER
 """
 
+import itertools
 import pathlib
 import re
 import shutil
 import sys
+import time
 import unittest
 import urllib.parse
 
+import hostile
 from listings import Program, make_sample
 from webdriver import Browser, file_url
 
@@ -136,6 +139,93 @@ class Listing(unittest.TestCase):
         # Links are not encoded, so names with these characters cannot be linked to.
         self.assertEqual({path for path in lost if not set("#?%&\"") & set(path)}, set())
         self.assertLess(len(lost), len(links) // 4)
+
+
+class ModernPages(unittest.TestCase):
+    """Links to files of any name, and what such names, tags and settings must not do."""
+
+    @classmethod
+    def setUpClass(cls):
+        work = pathlib.Path(WORK) / "modern"
+        cls.program = Program(PROGRAM, DATA, work)
+        cls.folder = work / "hostile"
+        cls.files = hostile.make(cls.folder, TAGGER)
+        cls.browser = Browser()
+        cls.addClassCleanup(cls.browser.close)
+
+    def list(self, **settings):
+        return self.program.list([self.folder], **{"Modern": "1", "Spanning": "0", "DoLinks": "1", **settings})
+
+    def expect_every_link_opens(self, page, files):
+        opened = []
+        for number in range(len(files)):
+            self.browser.get(file_url(page))
+            self.browser.run("document.querySelectorAll('table table a')[arguments[0]].click()", number)
+            # The browser shows an MP3 file as a document that holds a player, and no such document if there is no file.
+            self.wait_for("return document.contentType === 'audio/mpeg' && document.querySelector('video').readyState > 0")
+            url = urllib.parse.urlsplit(self.browser.url())
+            self.assertEqual((url.scheme, url.query, url.fragment), ("file", "", ""))
+            opened.append(urllib.parse.unquote_to_bytes(url.path).replace(b"//", b"/"))
+        self.assertEqual(sorted(opened), sorted(files))
+
+    def wait_for(self, script):
+        end = time.monotonic() + 20
+        while not self.browser.run(script):
+            self.assertLess(time.monotonic(), end, script)
+
+    def expect_no_scripts(self):
+        self.assertEqual(self.browser.run("return document.scripts.length"), 0)
+        self.assertEqual(self.browser.run("""return Array.from(document.querySelectorAll("*")).flatMap(
+            element => element.getAttributeNames()).filter(name => name.startsWith("on"))"""), [])
+        # The title shows whether one has run; an open dialog would fail the calls above.
+        self.assertIn("MP3 List", self.browser.run("return document.title"))
+
+    def test_every_link_opens_its_file(self):
+        self.expect_every_link_opens(self.list(LinkType="0")[0], self.files)
+
+    def test_every_relative_link_opens_its_file(self):
+        page = self.list(LinkType="2", LinkPrefix="", DocumentType="XHTML")[0]
+        beside = pathlib.Path(WORK) / "modern" / "beside"
+        shutil.copytree(self.folder, beside)
+        copy = beside / "list.htm"
+        copy.write_bytes(page.read_bytes())
+        files = [path.replace(bytes(self.folder), bytes(beside)) for path in self.files]
+        self.expect_every_link_opens(copy, files)
+
+    def test_pages_of_any_name_link_in_both_directions(self):
+        pages = self.list(Spanning="10", output="my & \"list\" <1>#?%41é.日本.htm")
+        self.assertEqual(len(pages), 2)
+        self.browser.get(file_url(pages[0]))
+        self.assertTrue(self.browser.click("Next Page >>"))
+        self.assertEqual(pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(self.browser.url()).path)), pages[1])
+        self.assertTrue(self.browser.click("<< Previous Page"))
+        self.assertEqual(pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(self.browser.url()).path)), pages[0])
+
+    def test_no_name_tag_or_setting_runs_a_script(self):
+        evil = "\"'></td></style><script>document.title=1;alert(1)</script><img src=x onerror=alert(2)>{}]]>--&gt;"
+        settings = {f"Font{i}": f"{evil}%|%{evil}%|%1%|%1" for i in range(3)} | {f"Colour{i}": evil for i in range(10)}
+        for document_type, html in itertools.product(("HTML", "XHTML", ""), "01"):
+            with self.subTest(type=document_type, html=html):
+                page = self.list(DocumentType=document_type, FontHTML=html, ColourHTML=html, LinkPrefix=evil,
+                                 ActiveColumns=f"Artist|Title|Filename|{evil}", Merge="0", **settings)[0]
+                self.browser.get(file_url(page))
+                self.expect_no_scripts()
+                rows = self.browser.run(ROWS)
+                self.assertEqual(rows[0], ["Artist", "Title", "Filename", evil, "Link"])
+                self.assertEqual({len(row) for row in rows[1:-1]}, {5})
+                self.assertEqual(len(rows), len(self.files) + 2)
+
+    def test_the_style_sheet_of_xhtml_works_as_html_and_as_xml(self):
+        page = self.list(DocumentType="XHTML", Colour5="A0B0C0", Font2="Tahoma%|%3%|%0%|%1",
+                         ActiveColumns="Number", Merge="0")[0]
+        xml = page.with_suffix(".xhtml")
+        shutil.copy(page, xml)
+        for file, content_type in ((page, "text/html"), (xml, "application/xhtml+xml")):
+            self.browser.get(file_url(file))
+            self.assertEqual(self.browser.run("return document.contentType"), content_type)
+            self.assertEqual(self.browser.run(COLOURS, 1)[:2], ["rgb(160, 176, 192)", "rgb(0, 0, 0)"])
+            style = "return getComputedStyle(document.querySelectorAll('table table td')[0]).fontStyle"
+            self.assertEqual(self.browser.run(style), "italic")
 
 
 WANTED_TEXTS = ["Åsa Löfgren", "Snö på ängen", "Cœur d'août", "Größenwahn", "Façade – 2 € a Dance…", "\"Quoted\" & Unquoted", "<3",

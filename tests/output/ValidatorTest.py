@@ -17,7 +17,8 @@ import subprocess
 import sys
 import unittest
 
-from listings import ALL_COLUMNS, Program, make_sample
+import hostile
+from listings import ALL_COLUMNS, MODERN_COLUMNS, Program, make_sample
 
 PROGRAM, DATA, MAKE_SAMPLE, TAGGER, SAMPLE, WORK = sys.argv[1:7]
 WITH_CORPUS = sys.argv[7:] == ["--corpus"]
@@ -126,8 +127,45 @@ class LinkedPagesAreValid(Validity):
                            for link_type, prefix in (("0", "file:///"), ("1", "file:///"), ("2", ""))])
 
 
+class ModernPagesAreValid(Validity):
+    """With Modern, any settings, names and tags make valid pages."""
+
+    # Ends an attribute, an element, a comment, a CDATA section, a style sheet, a rule and a declaration.
+    HOSTILE = "'\"></td></style></title>]]>--><script>alert(1)</script><!--&x;&#0;{};\\\t\x01\x7f\x80–€日"
+
+    @classmethod
+    def setUpClass(cls):
+        work = pathlib.Path(WORK) / "hostile"
+        hostile.make(work / "hostile", TAGGER)
+        sample = make_sample(MAKE_SAMPLE, TAGGER, SAMPLE)
+        cls.folders = [work / "hostile", sample]
+
+    def expect_valid(self, variants):
+        super().expect_valid([{"Modern": "1", "Spanning": "0", "DoLinks": "1", **settings} for settings in variants])
+
+    def test_with_links(self):
+        self.expect_valid([{"LinkType": link_type, "LinkPrefix": prefix, "FontHTML": "1"} for link_type, prefix in (
+            ("0", "file:///"), ("1", "file:///"), ("2", ""), ("3", ""), ("0", self.HOSTILE))])
+
+    def test_with_any_columns(self):
+        unknown = f"Number|Foo||{self.HOSTILE.replace('|', '')}"
+        self.expect_valid([{"ActiveColumns": columns, "Merge": "0", "FontHTML": html, "DoLinks": links}
+                           for columns in ("", "Foo", unknown, MODERN_COLUMNS)
+                           for html, links in (("0", "0"), ("1", "1"))])
+
+    def test_with_any_fonts_and_colours(self):
+        fonts = {f"Font{i}": f"{self.HOSTILE}%|%{self.HOSTILE}%|%1%|%1" for i in range(3)}
+        colours = {f"Colour{i}": self.HOSTILE for i in range(10)}
+        switches = ("FontCSS", "ColourCSS", "FontHTML", "ColourHTML")
+        self.expect_valid([{**fonts, **colours, **dict(zip(switches, values))}
+                           for values in ("0000", "1000", "0100", "1111")])
+
+    def test_on_several_pages_of_any_name(self):
+        self.expect_valid([{"Spanning": "20", "output": "my & \"list\" <1>#?%41é.日本.htm"}])
+
+
 class WhatCannotBeValid(unittest.TestCase):
-    """Required markup that no document type allows: the validators report exactly these errors."""
+    """Required classic markup that no document type allows: the validators report exactly these errors."""
 
     maxDiff = None
 

@@ -53,6 +53,7 @@ DEFAULTS = {
 }
 ALL_COLUMNS = ("Number|Artist|Album|Title|Year|Genre|MPEG Type|Mode|Bitrate|Frequency|Duration|File Size|Filename|"
                "Folder Path|Full Path")
+MODERN_COLUMNS = ALL_COLUMNS + "|Track|Disc|Album Artist|Composer|Comment"
 
 
 class Program:
@@ -73,7 +74,8 @@ class Program:
                                                   "XDG_CONFIG_HOME": str(self.work / "registry")}
 
     def list(self, folders, output="list.htm", **changes):
-        """Lists the folders and returns the pages in order. Indexed settings are passed as Font0, Colour9."""
+        """Lists the folders and returns the pages in order. Indexed settings are passed as Font0, Colour9. Modern,
+        which is off by default, becomes the last line of the settings file."""
         pages = self.work / "pages"
         shutil.rmtree(pages, ignore_errors=True)
         folders = [str(folder) for folder in folders]
@@ -81,8 +83,9 @@ class Program:
         settings = dict(DEFAULTS, Directory=directory, OutputFile=str(pages / output))
         pages.mkdir()
         for name, value in changes.items():
-            name = name if name in settings else f"{name[:-1]}({name[-1]})"
-            assert name in settings, name
+            if name not in settings and name != "Modern":
+                name = f"{name[:-1]}({name[-1]})"
+                assert name in settings, name
             settings[name] = value
         lines = "".join(f"{name}={value}\r\n" for name, value in settings.items())
         (self.folder / "Tunedex.cfg").write_bytes(lines.encode())
