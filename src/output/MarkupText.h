@@ -13,10 +13,8 @@ std::string ElementText(std::string_view text);
 // For an attribute value between double quotes: references for & < > and ".
 std::string AttributeText(std::string_view text);
 
-// For the value of a property in a style sheet: names, numbers, commas, blanks and strings are unchanged, any
-// other character becomes a CSS escape (CSS 2.1 section 4.1.3). The result cannot end the declaration, the
-// rule, a string that encloses it, the style element or its CDATA section, and is ISO-8859-1 without control
-// characters.
+// For a style sheet: CSS escapes for < and > (CSS 2.1 section 4.1.3), so that the text cannot end the style
+// element or its CDATA section.
 std::string CssText(std::string_view text);
 
 } // namespace tunedex

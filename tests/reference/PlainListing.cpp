@@ -6,6 +6,7 @@
 #include "PlainReader.h"
 #include "PlainSort.h"
 #include "SizeText.h"
+#include "StyleSheet.h"
 #include "Text.h"
 
 #include <algorithm>
