@@ -15,17 +15,20 @@ BITRATES = {
     ("2.0", "3"): [8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160],
 }  # fmt: skip
 MOST_SECONDS = 33_554_431
-FIRST_FRAMES = 4  # whose bitrates are averaged
+COMPARED_FRAMES = 4  # by which a bitrate that varies is noticed
+AVERAGED_FRAMES = 256
+LONGEST_FREE_FRAME = 4608  # bytes
 
 
 class Header:
-    def __init__(self, version, layer, bitrate, frequency, padding, mode):
+    def __init__(self, version, layer, bitrate, frequency, padding, mode, protected):
         self.version = version
         self.layer = layer
         self.bitrate = bitrate  # kbit/s, 0 for free format
         self.frequency = frequency
         self.padding = padding
         self.mode = mode
+        self.protected = protected  # by a checksum of two bytes behind the header
 
     def samples(self):
         if self.layer[0] == "1":
@@ -54,43 +57,54 @@ def header_at(file, position, end):
         return None
     table = BITRATES["1.0" if version == "1.0" else "2.0", layer[0]]
     bitrate = table[index - 1] if index else 0
-    return Header(version, layer, bitrate, rates[version], int(bits[22]), MODES[bits[24:26]])
+    return Header(version, layer, bitrate, rates[version], int(bits[22]), MODES[bits[24:26]], bits[15] == "0")
+
+
+def is_free_frame(file, place, header, end):
+    other = header_at(file, place, end)
+    return other is not None and other.bitrate == 0 and header.continues(other)
 
 
 def free_format_distance(file, position, header, end):
-    """The distance to the next header of the same free format; 0 if there is none."""
+    """The distance to the next header of the same free format; 0 if there is none, or if no third one confirms it."""
     place = position + 4
     while True:
         place = file.find_ff(place + 1) - 1
-        if place < 0 or place + 4 > end:
+        if place < 0 or place + 4 > end or place - position > LONGEST_FREE_FRAME:
             return 0
-        other = header_at(file, place, end)
-        if other is not None and other.bitrate == 0 and header.continues(other):
-            return place - position
+        if is_free_frame(file, place, header, end):
+            break
         place += 1
+    slot = 4 if header.layer[0] == "1" else 1
+    without_padding = place - position - header.padding * slot
+    third = place + without_padding + header_at(file, place, end).padding * slot
+    return place - position if third + 4 > end or is_free_frame(file, third, header, end) else 0
 
 
-def counts(file, position, header, end):
-    """Whether the next frame, where the length says, is of the same kind, or the file ends there."""
+def is_confirmed(file, position, header, end):
+    """Whether the next frame, where the length says, is of the same kind."""
     if header.bitrate == 0:
         return free_format_distance(file, position, header, end) > 0
-    following = position + header.length()
-    if following + 4 > end:
-        return True
-    other = header_at(file, following, end)
-    return other is not None and header.continues(other)
+    return following_header(file, position, header, end) is not None
+
+
+def reaches_the_end(_, position, header, end):
+    return header.bitrate != 0 and position + header.length() + 4 > end
 
 
 def first_frame(file, start, end):
-    position = start
-    while True:
-        position = file.find_ff(position + 1) - 1
-        if position < 0 or position >= end:
-            raise RunTimeError(62)
-        header = header_at(file, position, end)
-        if header is not None and counts(file, position, header, end):
-            return position, header
-        position += 1
+    """A frame that another one follows; if there is none, one that the file ends with."""
+    for counts in (is_confirmed, reaches_the_end):
+        position = start
+        while True:
+            position = file.find_ff(position + 1) - 1
+            if position < 0 or position >= end:
+                break
+            header = header_at(file, position, end)
+            if header is not None and counts(file, position, header, end):
+                return position, header
+            position += 1
+    raise RunTimeError(62)
 
 
 def number_at(file, position, end):
@@ -102,38 +116,45 @@ def bytes_at(file, position, count, end):
 
 
 def frames_by_header(file, position, header, end):
-    """(frames, whether the bitrate varies) by a Xing, Info or VBRI header in the frame; 0 frames without one."""
+    """(frames, the mark) of a Xing, Info or VBRI header in the frame; 0 frames if it gives none."""
     if header.layer[0] != "3":
-        return 0, False
+        return 0, b""
     mono = header.mode == "Mono"
     place = position + 4 + ((17 if mono else 32) if header.version == "1.0" else (9 if mono else 17))
-    mark = bytes_at(file, place, 4, end)
-    if mark in (b"Xing", b"Info"):
-        flags = number_at(file, place + 4, end)
-        return (number_at(file, place + 8, end) if flags & 1 else 0), mark == b"Xing"
+    for place in [place, place + 2] if header.protected else [place]:
+        mark = bytes_at(file, place, 4, end)
+        if mark in (b"Xing", b"Info"):
+            flags = number_at(file, place + 4, end)
+            return (number_at(file, place + 8, end) if flags & 1 else 0), mark
     if bytes_at(file, position + 36, 4, end) == b"VBRI":
-        return number_at(file, position + 36 + 14, end), True
-    return 0, False
+        return number_at(file, position + 36 + 14, end), b"VBRI"
+    return 0, b""
+
+
+def following_header(file, position, header, end):
+    """The next header of the same kind where the length says; None if there is none, or one of free format."""
+    other = header_at(file, position + header.length(), end)
+    return other if other is not None and header.continues(other) and other.bitrate else None
 
 
 def mean_bitrate(file, position, header, end):
-    """Of the first frames, in kbit/s."""
+    """In kbit/s: the first frame's, or the mean of the first frames if the first few differ."""
     found = []
-    while len(found) < FIRST_FRAMES and header is not None and header.bitrate:
-        found.append(header.bitrate)
+    while header is not None and len(found) < AVERAGED_FRAMES:
+        found.append(header)
+        following = following_header(file, position, header, end)
         position += header.length()
-        following = header_at(file, position, end)
-        header = following if following is not None and header.continues(following) else None
-    return Fraction(sum(found), len(found))
+        header = following
+    if len({frame.bitrate for frame in found[:COMPARED_FRAMES]}) == 1:
+        return Fraction(found[0].bitrate)
+    seconds = Fraction(len(found) * found[0].samples(), found[0].frequency)
+    return sum(frame.length() for frame in found) * 8 / seconds / 1000
 
 
 def bitrate_behind(file, position, header, end):
     """The frame of an Info header may have a higher bitrate than the audio, which follows it."""
-    place = position + header.length()
-    following = header_at(file, place, end)
-    if following is None or not header.continues(following) or following.bitrate == 0:
-        return header.bitrate
-    return mean_bitrate(file, place, following, end)
+    following = following_header(file, position, header, end)
+    return following.bitrate if following is not None else header.bitrate
 
 
 def nearest(number):
@@ -144,8 +165,8 @@ def decode_audio(track, start, end):
     """Fills the five audio fields and returns the duration in seconds."""
     with Bytes(track.full_path) as file:
         position, header = first_frame(file, start, end)
-        size = end - start
-        frames, varies = frames_by_header(file, position, header, end)
+        size = end - position
+        frames, mark = frames_by_header(file, position, header, end)
         seconds = Fraction(frames * header.samples(), header.frequency)
         if seconds > MOST_SECONDS:
             frames = 0
@@ -155,9 +176,11 @@ def decode_audio(track, start, end):
                 distance = free_format_distance(file, position, header, end)
                 seconds = Fraction(size * header.samples(), distance * header.frequency)
         elif frames:
-            bitrate = str(nearest(size * 8 / seconds / 1000 if varies else bitrate_behind(file, position, header, end)))
+            bitrate = str(nearest(size * 8 / seconds / 1000 if mark != b"Info" else bitrate_behind(file, position, header, end)))
         else:
-            mean = mean_bitrate(file, position, header, end)
+            behind = following_header(file, position, header, end) if mark else None
+            place = position + header.length() if behind else position
+            mean = mean_bitrate(file, place, behind or header, end)
             bitrate = str(nearest(mean))
             seconds = size * 8 / (mean * 1000)
         whole = min(int(seconds), MOST_SECONDS)

@@ -162,7 +162,7 @@ class ModernFiles:
         if flags & 0x01:
             data = synchsafe(original) + data
         if flags & 0x40:
-            data = self.pick([b"\x01", b"\x80", b"\xff"]) + data
+            data = self.pick([b"\x80", b"\xf0"]) + data
         if (flags & 0x02 or self.whole_tag) and self.chance(0.9):
             data = unsynchronised(data)
         size = len(data).to_bytes(4, "big") if self.plain_sizes else synchsafe(len(data))
@@ -192,8 +192,7 @@ class ModernFiles:
             flags |= 0x10
             footer = b"3DI" + bytes([version, 0, flags]) + size
         if self.chance(0.03):
-            size = self.pick([synchsafe(len(body) + 20), synchsafe(max(0, len(body) - 5)), b"\0\0\x80\x10",
-                synchsafe(0), b"\x7f\x7f\x7f\x7f"])
+            size = synchsafe(self.pick([len(body) + 20, max(0, len(body) - 5), 0, 2**28 - 1]))
         head = b"ID3" + bytes([self.pick([version] * 30 + [5, 1, 255]), self.pick([0] * 20 + [1, 255]), flags])
         return head + size + body + footer
 
@@ -259,7 +258,8 @@ class ModernFiles:
     def filler(self, count):
         if self.chance(0.8):
             return bytes(count)
-        return bytes(self.random.choices([0xFF, 0xFB, 0xE3, 0x90, 0, 1, 2, 0x64], k=count))
+        # Headers, but none of free format.
+        return bytes(self.random.choices([0xFF, 0xFB, 0xE3, 0x90, 0x10, 0x20, 0x42, 0x64], k=count))
 
     def audio(self):
         version, layer, rate = self.pick([3, 3, 3, 2, 0]), self.pick([1, 1, 1, 2, 3]), self.random.randrange(3)

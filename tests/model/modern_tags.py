@@ -3,9 +3,7 @@
 import re
 
 from basics import RunTimeError, upper
-from modern_text import (
-    decode, field_values, from_code_page, from_utf8, joined, split_at_nul, trimmed, width_of,
-)  # fmt: skip
+from modern_text import field_values, from_code_page, joined, pieces_of
 from tracks import GENRES, Bytes
 
 # The list ends at 147 in the classic table; these are 148 to 191.
@@ -73,21 +71,20 @@ def synchsafe(data):
 
 
 def id3v2_length(head):
-    """The length of the whole tag whose header is `head`, 0 if it cannot be made out."""
-    if len(head) < 10 or head[:3] != b"ID3" or head[3] not in (2, 3, 4) or head[4] == 255:
-        return 0
-    if any(byte >= 128 for byte in head[6:10]):
+    """The length of the whole tag whose header is `head`, 0 if there is none. No version or revision is 255 (ID3v2.4
+    structure section 3.1)."""
+    if len(head) < 10 or head[:3] != b"ID3" or 255 in head[3:5]:
         return 0
     footer = 10 if head[3] == 4 and head[5] & 0x10 else 0
     return 10 + synchsafe(head[6:10]) + footer
 
 
 def ape_fields(block):
-    """(size, flags, item count) of a header or footer of 32 bytes; None if it is none."""
-    if len(block) < 32 or block[:8] != b"APETAGEX" or int.from_bytes(block[8:12], "little") != 2000:
+    """(size, flags) of a header or footer of 32 bytes; None if it is none."""
+    if len(block) < 32 or block[:8] != b"APETAGEX":
         return None
-    size, count, flags = (int.from_bytes(block[i : i + 4], "little") for i in (12, 16, 20))
-    return (size, flags, count) if size >= 32 else None
+    size, flags = (int.from_bytes(block[i : i + 4], "little") for i in (12, 20))
+    return (size, flags) if size >= 32 else None
 
 
 def leading_tags(file):
@@ -103,6 +100,10 @@ def leading_tags(file):
             if fields is None or not fields[1] & 1 << 29:
                 return places, min(position, file.length)
             length = 32 + fields[0]
+        if position + length > file.length:
+            # The tag is cut, or its size is wrong: what is there is read, and the audio is searched from its start.
+            places.append(Place(kind, position, file.length))
+            return places, position
         places.append(Place(kind, position, position + length))
         position += length
 
@@ -136,7 +137,8 @@ def ape_start(file, end):
 def trailing_tags(file):
     places = []
     end = file.length
-    if end >= 128 and bytes_at(file, end - 128, 3) == b"TAG":
+    # The name of an APEv2 tag holds the mark of ID3v1.
+    if end >= 128 and bytes_at(file, end - 128, 3) == b"TAG" and bytes_at(file, max(0, end - 131), 8) != b"APETAGEX":
         places.append(Place("ID3v1", end - 128, end))
         end -= 128
     while True:
@@ -206,14 +208,17 @@ def content_of_24(content, flags, whole_tag):
     return content[4:] if flags & 0x01 else content
 
 
+def can_be_made_out(tag):
+    """The compression of ID3v2.2 was never defined."""
+    return tag[3] in (2, 3, 4) and not (tag[3] == 2 and tag[5] & 0x40)
+
+
 def id3v2_frames(tag):
     """(name, content) of each frame, in order, of a whole tag with its header."""
     version, flags = tag[3], tag[5]
     body = tag[10 : 10 + synchsafe(tag[6:10])]
-    if version < 4 and flags & 0x80:
+    if version < 4 and flags & 0x80 and is_unsynchronised(body):
         body = deunsynchronised(body)
-    if version == 2 and flags & 0x40:
-        return []  # compressed by a method that was never defined
     if version > 2 and flags & 0x40:
         body = without_extended_header(body, version)
     width, header = (3, 6) if version == 2 else (4, 10)
@@ -227,9 +232,8 @@ def id3v2_frames(tag):
             size = frame_size_of_24(body, position)
         else:
             size = int.from_bytes(body[position + width : position + 2 * width], "big")
+        # The last frame of a tag that is cut is read as far as it goes.
         content = body[position + header : position + header + size]
-        if len(content) < size:
-            break
         if version == 3:
             content = content_of_23(content, body[position + 9])
         elif version == 4:
@@ -265,16 +269,23 @@ def comment_of(content, code_page):
     """(description, text) of a comment frame; None if it cannot be read."""
     if len(content) < 4 or content[0] > 3:
         return None
-    encoding = content[0]
-    pieces = split_at_nul(content[4:], width_of(encoding))
-    description = trimmed(decode(pieces[0], encoding, code_page))
-    values = [trimmed(decode(piece, encoding, code_page)) for piece in pieces[1:]]
+    description, *values = pieces_of(content[4:], content[0], code_page)
     return description, joined([value for value in values if value != ""])
 
 
 def four_digits(text):
     match = re.search("[0-9]{4}", text)
     return match[0] if match else ""
+
+
+def with_more(values, more):
+    """A repeated frame adds the values that are not there yet."""
+    if not values:
+        return more
+    for value in more:
+        if value not in values:
+            values = [*values, value]
+    return values
 
 
 def read_id3v2(tag, code_page):
@@ -287,10 +298,10 @@ def read_id3v2(tag, code_page):
                 comment = found[1]
         for field, names in FRAMES.items():
             if name in names and content and content[0] <= 3:
-                known = values[field]
                 more = field_values(content[1:], content[0], code_page)
-                values[field] = known + [value for value in more if not known or value not in known]
-    values["genre"] = [name for value in values["genre"] for name in genres_of(value)]
+                if field == "genre":
+                    more = [genre for value in more for genre in genres_of(value)]
+                values[field] = with_more(values[field], more)
     texts = {field: joined(found) for field, found in values.items()}
     texts["year"] = texts["written_year"] or next(
         filter(None, (four_digits(texts[field]) for field in ("recorded", "released", "first_released"))), ""
@@ -305,14 +316,12 @@ def read_id3v2(tag, code_page):
 def read_ape(tag, at_the_start):
     """Only text items count; a key that is there twice keeps its first text."""
     if at_the_start:
-        size, _, count = ape_fields(tag[:32])
-        items = tag[32:]
+        items = tag[32:-32]
     else:
-        size, _, count = ape_fields(tag[-32:])
-        items = tag[len(tag) - size : -32]
+        items = tag[len(tag) - ape_fields(tag[-32:])[0] : -32]
     texts = dict.fromkeys(FIELDS, "")
     position = 0
-    for _ in range(count):
+    while True:
         end = items.find(b"\0", position + 8)
         if end < 0:
             break
@@ -363,16 +372,14 @@ def read_tags(track, settings):
             def whole(place):
                 return bytes_at(file, place.start, place.end - place.start)
 
-            for place in before:
-                if place.kind == "ID3v2":
-                    kinds.append(read_id3v2(whole(place), code_page))
-                    break
+            at_start = before[0].kind if before else ""
+            if at_start == "ID3v2" and can_be_made_out(whole(before[0])):
+                kinds.append(read_id3v2(whole(before[0]), code_page))
             ape_behind = [place for place in behind if place.kind == "APEv2"]
-            ape_before = [place for place in before if place.kind == "APEv2"]
             if ape_behind:
                 kinds.append(read_ape(whole(ape_behind[0]), False))
-            elif ape_before:
-                kinds.append(read_ape(whole(ape_before[0]), True))
+            elif at_start == "APEv2":
+                kinds.append(read_ape(whole(before[0]), True))
             for place in behind:
                 if place.kind == "ID3v1":
                     kinds.append(read_id3v1(whole(place), code_page))

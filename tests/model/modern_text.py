@@ -2,6 +2,7 @@
 
 import ctypes
 import errno
+import re
 
 WESTERN = "windows-1252"
 REPLACEMENT = "\ufffd"
@@ -17,7 +18,8 @@ FAILED = ctypes.c_void_p(-1).value
 
 def is_code_page(name):
     """Whether iconv knows the name (bytes)."""
-    if b"\0" in name:
+    # iconv ignores most characters that no name has; it takes a name that has nothing else for the locale's charset.
+    if b"\0" in name or not re.search(b"[A-Za-z0-9]", name):
         return False
     handle = LIBC.iconv_open(b"UTF-8", name)
     if handle == FAILED:
@@ -100,13 +102,15 @@ def utf16(data, big_endian):
     return from_units([int.from_bytes(data[i : i + 2], order) for i in range(0, len(data) - 1, 2)])
 
 
-def marked_utf16(data):
-    """The mark at the start decides the byte order; without one it is little-endian."""
-    if data[:2] == b"\xfe\xff":
-        return utf16(data[2:], True)
-    if data[:2] == b"\xff\xfe":
-        return utf16(data[2:], False)
-    return utf16(data, False)
+def utf16_values(pieces, big_endian):
+    """A mark at the start of a piece sets the byte order for it and for those behind it."""
+    texts = []
+    for piece in pieces:
+        if piece[:2] in (b"\xfe\xff", b"\xff\xfe"):
+            big_endian = piece[:2] == b"\xfe\xff"
+            piece = piece[2:]
+        texts.append(utf16(piece, big_endian))
+    return texts
 
 
 def split_at_nul(data, width):
@@ -121,28 +125,25 @@ def split_at_nul(data, width):
     return pieces
 
 
-def decode(piece, encoding, code_page):
-    if encoding == 0:
-        return from_code_page(piece, code_page)
-    if encoding == 1:
-        return marked_utf16(piece)
-    if encoding == 2:
-        return utf16(piece, True)
-    return from_utf8(piece)
-
-
-def width_of(encoding):
-    return 2 if encoding in (1, 2) else 1
-
-
 def trimmed(text):
     return text.rstrip("\0 ")
 
 
+def pieces_of(data, encoding, code_page):
+    """The texts between NULs, without trailing blanks."""
+    pieces = split_at_nul(data, 2 if encoding in (1, 2) else 1)
+    if encoding == 0:
+        texts = [from_code_page(piece, code_page) for piece in pieces]
+    elif encoding == 3:
+        texts = [from_utf8(piece) for piece in pieces]
+    else:
+        texts = utf16_values(pieces, encoding == 2)
+    return [trimmed(text) for text in texts]
+
+
 def field_values(data, encoding, code_page):
-    """The values of a field without their trailing blanks; empty ones are left out."""
-    values = [trimmed(decode(piece, encoding, code_page)) for piece in split_at_nul(data, width_of(encoding))]
-    return [value for value in values if value != ""]
+    """The values of a field; empty ones are left out."""
+    return [text for text in pieces_of(data, encoding, code_page) if text != ""]
 
 
 def joined(values):
