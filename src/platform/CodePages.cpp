@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <iconv.h>
+#include <iterator>
 #include <optional>
 
 namespace tunedex {
@@ -215,6 +216,42 @@ void CodePage::AppendDecoded(std::string& text, std::string_view bytes) const {
     } else {
         AppendConverted(text, bytes, name_);
     }
+}
+
+std::size_t CodePage::PieceOf(std::string_view bytes, std::size_t most) const {
+    if (bytes.size() <= most || kind_ == Kind::Table) {
+        return std::min(bytes.size(), most);
+    }
+    if (kind_ == Kind::Utf8) {
+        return Utf8PieceOf(bytes, most);
+    }
+    if (!asciiAsIs_) {
+        return bytes.size();
+    }
+    // Control characters, blanks and some punctuation are no part of a longer character in any page that
+    // leaves ASCII as it is.
+    const auto isAlone = [](char c) { return c >= 0 && c < 0x30; };
+    const auto middle = bytes.begin() + static_cast<std::ptrdiff_t>(most);
+    const auto before = std::find_if(std::make_reverse_iterator(middle), bytes.rend(), isAlone);
+    if (before != bytes.rend()) {
+        return static_cast<std::size_t>(bytes.rend() - before);
+    }
+    const auto behind = std::find_if(middle, bytes.end(), isAlone);
+    return behind == bytes.end() ? bytes.size() : static_cast<std::size_t>(behind - bytes.begin()) + 1;
+}
+
+std::size_t Utf8PieceOf(std::string_view bytes, std::size_t most) {
+    if (bytes.size() <= most) {
+        return bytes.size();
+    }
+    // Only a sequence that begins in the last three bytes can go on behind them.
+    constexpr std::size_t kLongestStart = 3;
+    for (std::size_t before = 1; before <= kLongestStart; ++before) {
+        if (Utf8StepAt(bytes, most - before).length > before) {
+            return most - before;
+        }
+    }
+    return most;
 }
 
 void AppendDecodedUtf8(std::string& text, std::string_view bytes) {

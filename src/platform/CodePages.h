@@ -49,6 +49,10 @@ class CodePage {
 
     void AppendDecoded(std::string& text, std::string_view bytes) const;
 
+    // The length of a prefix that splits no character, for decoding a long text in pieces: at most `most`
+    // bytes, or more in a page of several bytes a character where no boundary is certain before.
+    std::size_t PieceOf(std::string_view bytes, std::size_t most) const;
+
   private:
     enum class Kind { Table, Utf8, Iconv };
     // What one byte becomes: UTF-8, `length` bytes.
@@ -67,6 +71,9 @@ class CodePage {
 
 // One U+FFFD for each maximal subpart of an ill-formed sequence (Unicode Standard, section 3.9).
 void AppendDecodedUtf8(std::string& text, std::string_view bytes);
+
+// The same of a UTF-8 text, with at most `most` bytes; `most` is at least 4.
+std::size_t Utf8PieceOf(std::string_view bytes, std::size_t most);
 
 enum class ByteOrder { LittleEndian, BigEndian };
 

@@ -59,16 +59,19 @@ class TagWalk {
   private:
     std::size_t HeaderBytes() const { return header_.version == 2 ? kFrameHeaderBytes22 : kFrameHeaderBytes; }
 
-    // Whether a frame, padding or the end of the tag is `ahead` of the position.
-    bool LeadsToFrame(std::uint64_t ahead) {
-        std::array<std::uint8_t, kFrameHeaderBytes> next{};
+    enum class Ahead { Nothing, End, Frame }; // the better, the larger
+
+    // What is `ahead` of the position: a frame, or padding or the end of the tag.
+    Ahead WhatIs(std::uint64_t ahead) {
         if (ahead >= bytes_.Left()) {
-            return ahead == bytes_.Left();
+            return ahead == bytes_.Left() ? Ahead::End : Ahead::Nothing;
         }
+        std::array<std::uint8_t, kFrameHeaderBytes> next{};
         const std::size_t got = bytes_.Peek(ahead, next);
-        const bool padding =
-            std::all_of(next.begin(), next.begin() + 4, [](std::uint8_t b) { return b == 0; });
-        return padding || (got == next.size() && IsFrameId(std::span(next).first<4>()));
+        if (std::all_of(next.begin(), next.begin() + 4, [](std::uint8_t byte) { return byte == 0; })) {
+            return Ahead::End;
+        }
+        return got == next.size() && IsFrameId(std::span(next).first<4>()) ? Ahead::Frame : Ahead::Nothing;
     }
 
     // The offset behind an extended header that begins with the four bytes `start`. Writers do not agree on
@@ -78,14 +81,18 @@ class TagWalk {
         const std::uint64_t size = header_.version == 4 ? SynchsafeSize(start) : PlainSize(start);
         const std::uint64_t standard = header_.version == 4 ? size : size + 4;
         const std::uint64_t other = header_.version == 4 ? size + 4 : size;
+        std::uint64_t best = standard;
+        Ahead found = Ahead::Nothing;
         for (const std::uint64_t bytes :
              {standard, other, std::uint64_t{10}, std::uint64_t{14}, std::uint64_t{6}}) {
             const bool visible = bytes_.SeesAll() || bytes + kFrameHeaderBytes <= TagBytes::kSmallPeek;
-            if (bytes >= 4 && visible && LeadsToFrame(bytes)) {
-                return bytes;
+            const Ahead ahead = bytes >= 4 && visible ? WhatIs(bytes) : Ahead::Nothing;
+            if (ahead > found) {
+                best = bytes;
+                found = ahead;
             }
         }
-        return standard;
+        return best;
     }
 
     void SkipExtendedHeader() {
@@ -110,14 +117,16 @@ class TagWalk {
         const std::uint64_t synchsafe = SynchsafeSize(bytes);
         const std::uint64_t declared = header_.version == 4 ? synchsafe : plain;
         const std::uint64_t other = header_.version == 4 ? plain : synchsafe;
-        if (declared == other || !bytes_.SeesAll() || LeadsToFrame(kFrameHeaderBytes + declared)) {
+        const Ahead ahead =
+            declared == other || !bytes_.SeesAll() ? Ahead::Frame : WhatIs(kFrameHeaderBytes + declared);
+        // What looks like padding may be the inside of a frame that is longer. A smaller size may lead to
+        // capital letters inside the frame.
+        if (ahead == Ahead::Frame || (ahead == Ahead::End && other < declared)) {
             return declared;
         }
         const bool fits = kFrameHeaderBytes + declared <= bytes_.Left();
-        return LeadsToFrame(kFrameHeaderBytes + other) ||
-                       (!fits && kFrameHeaderBytes + other <= bytes_.Left())
-                   ? other
-                   : declared;
+        const bool otherFits = kFrameHeaderBytes + other <= bytes_.Left();
+        return WhatIs(kFrameHeaderBytes + other) > ahead || (!fits && otherFits) ? other : declared;
     }
 
     // The header at the position; nothing at padding or the end.

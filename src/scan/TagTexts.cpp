@@ -44,23 +44,12 @@ bool IsHighSurrogate(std::string_view unit, ByteOrder order) {
     return high >= 0xD8 && high <= 0xDB;
 }
 
-// The length of the first piece of a value, such that no character is split.
-std::size_t PieceOf(const TagValue& value) {
-    const std::string_view bytes = value.bytes;
+// The same as CodePage::PieceOf() for UTF-16.
+std::size_t Utf16PieceOf(std::string_view bytes, ByteOrder order) {
     if (bytes.size() <= kPieceBytes) {
         return bytes.size();
     }
-    if (IsUtf16(value.encoding)) {
-        const bool split = IsHighSurrogate(bytes.substr(kPieceBytes - 2, 2), value.order);
-        return split ? kPieceBytes - 2 : kPieceBytes;
-    }
-    // No byte below 30 is a part of a longer character in any code page.
-    for (std::size_t length = kPieceBytes; length > kPieceBytes / 2; --length) {
-        if (static_cast<unsigned char>(bytes[length - 1]) < 0x30) {
-            return length;
-        }
-    }
-    return WholeCharacters(bytes, kPieceBytes);
+    return IsHighSurrogate(bytes.substr(kPieceBytes - 2, 2), order) ? kPieceBytes - 2 : kPieceBytes;
 }
 
 // Whether one of the values joined in `text` is `value`.
@@ -153,7 +142,7 @@ class TagTexts::Builder {
     void Settle() {
         if (text_.size() >= kLongTextBytes) {
             long_.Append(text_);
-            text_ = std::string();
+            std::string().swap(text_); // assigning an empty string would keep the memory
         }
     }
 
@@ -192,6 +181,14 @@ std::string TagTexts::Decoded(const TagValue& value) const {
     std::string text;
     AppendDecoded(text, value);
     return text;
+}
+
+std::size_t TagTexts::PieceOf(const TagValue& value) const {
+    if (value.encoding == TagEncoding::CodePage) {
+        return codePage_.PieceOf(value.bytes, kPieceBytes);
+    }
+    return value.encoding == TagEncoding::Utf8 ? Utf8PieceOf(value.bytes, kPieceBytes)
+                                               : Utf16PieceOf(value.bytes, value.order);
 }
 
 void TagTexts::AddValue(Builder& text, const TagValue& value, ValueKind kind) const {

@@ -79,6 +79,7 @@ class TagTexts {
 
     bool IsLong(TagField field) const;
     void AppendDecoded(std::string& text, const TagValue& value) const;
+    std::size_t PieceOf(const TagValue& value) const;
     void AddValue(Builder& text, const TagValue& value, ValueKind kind) const;
     bool MovesThe(TagField field) const;
     void Store(TagField field, LongText text);

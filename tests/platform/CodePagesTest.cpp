@@ -166,6 +166,31 @@ TEST(IsCodePage, KnowsTheNamesOfIconvAndNothingElse) {
     }
 }
 
+TEST(PieceOf, SplitsNoCharacter) {
+    struct PieceRow {
+        const char* page;
+        std::string bytes;
+        std::size_t piece;
+    };
+    const PieceRow rows[] = {
+        {"windows-1252", "abcdefgh", 8},
+        {"windows-1252", "abcdefghi", 8},
+        {"UTF-8", "abcdefghi", 8},
+        {"UTF-8", "abcdefg\xC3\xA9", 7},
+        {"UTF-8", "abcdef\xE2\x82\xAC", 6},
+        {"UTF-8", "abcdef\xE2\x82z", 6}, // the ill-formed sequence is one character
+        {"UTF-8", "abcde\xF0\x9F\x98\x80", 5},
+        {"UTF-8", "abcdefgh\xC3\xA9", 8},
+        {"CP932", "a \x93\xFA\x93\xFA\x93\xFA\x93\xFA", 2},
+        {"CP932", "aa\x93\xFA\x93\xFA\x93\xFA\x93\xFA.a", 11},
+        {"CP932", "aa\x93\xFA\x93\xFA\x93\xFA\x93\xFA", 10},
+        {"UTF-7", "abcdefg +AOk-", 13},
+    };
+    for (const PieceRow& row : rows) {
+        EXPECT_EQ(CodePage(row.page).PieceOf(row.bytes, 8), row.piece) << row.page << " " << row.bytes;
+    }
+}
+
 struct BytesRow {
     std::string bytes;
     const char* text;
