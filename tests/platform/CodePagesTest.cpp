@@ -178,7 +178,8 @@ TEST(PieceOf, SplitsNoCharacter) {
         {"UTF-8", "abcdefghi", 8},
         {"UTF-8", "abcdefg\xC3\xA9", 7},
         {"UTF-8", "abcdef\xE2\x82\xAC", 6},
-        {"UTF-8", "abcdef\xE2\x82z", 6}, // the ill-formed sequence is one character
+        {"UTF-8", "abcdef\xE2\x82z", 8},
+        {"UTF-8", "abcdef\xF0\x9F\x98z", 6}, // the ill-formed sequence is one character
         {"UTF-8", "abcde\xF0\x9F\x98\x80", 5},
         {"UTF-8", "abcdefgh\xC3\xA9", 8},
         {"CP932", "a \x93\xFA\x93\xFA\x93\xFA\x93\xFA", 2},
