@@ -5,6 +5,7 @@
 #include "RunTimeError.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 
@@ -16,11 +17,13 @@ constexpr int kFramesCompared = 4;
 constexpr int kFramesAveraged = 256;
 
 // The first offset behind the tags at the start of the file.
-std::uint64_t AudioStart(AudioWindow& window, const TagLayout& layout) {
+std::uint64_t AudioStart(const AudioBytes& audio, const TagLayout& layout) {
+    constexpr int kMostTags = 32;
     std::uint64_t offset = layout.id3v2 ? layout.id3v2->tagBytes : 0;
-    for (int tags = 0; tags < 32 && offset < layout.audioEnd; ++tags) {
-        const std::uint64_t bytes = LeadingTagBytes(window.From(offset, kTagStartBytes));
-        if (bytes == 0 || bytes > layout.audioEnd - offset) {
+    for (int tags = 0; tags < kMostTags && offset < audio.end; ++tags) {
+        std::array<std::uint8_t, kTagStartBytes> start{};
+        const std::uint64_t bytes = LeadingTagBytes(audio.Read(offset, start));
+        if (bytes == 0 || bytes > audio.end - offset) {
             break;
         }
         offset += bytes;
@@ -28,14 +31,13 @@ std::uint64_t AudioStart(AudioWindow& window, const TagLayout& layout) {
     return offset;
 }
 
-std::optional<FoundFrame> FindAudio(AudioWindow& window, ByteSource& file, const TagLayout& layout) {
-    const std::uint64_t start = AudioStart(window, layout);
-    if (const auto frame = FindFirstFrame(window, start, layout.audioEnd)) {
+std::optional<FoundFrame> FindAudio(const AudioBytes& audio, const TagLayout& layout) {
+    if (const auto frame = FindFirstFrame(audio, AudioStart(audio, layout))) {
         return frame;
     }
     // A tag may declare more bytes than the file has.
-    const bool cut = layout.id3v2 && layout.id3v2->tagBytes > file.Size();
-    return cut ? FindFirstFrame(window, kId3v2HeaderBytes, layout.audioEnd) : std::nullopt;
+    const bool cut = layout.id3v2 && layout.id3v2->tagBytes > audio.file.Size();
+    return cut ? FindFirstFrame(audio, kId3v2HeaderBytes) : std::nullopt;
 }
 
 double SecondsOf(double frames, const FrameHead& head) {
@@ -52,13 +54,13 @@ double KbitsPerSecond(double bytes, double seconds) {
 // Lengths and bitrates of the frames from `offset` on.
 class FirstFrames {
   public:
-    FirstFrames(AudioWindow& window, std::uint64_t offset, const FrameHead& head)
-        : window_(window), offset_(offset), stream_(head) {}
+    FirstFrames(const AudioBytes& audio, std::uint64_t offset, const FrameHead& head)
+        : audio_(audio), offset_(offset), stream_(head) {}
 
     // Goes on until that many frames are counted or no other follows.
     void CountUpTo(int frames) {
         while (count_ < frames && !ended_) {
-            const auto head = ParseFrameHead(window_.From(offset_, kFrameHeadBytes));
+            const auto head = FrameHeadAt(audio_, offset_);
             ended_ = !head || !head->Matches(stream_);
             if (!ended_) {
                 varies_ = varies_ || (count_ > 0 && head->bitrate != bitrate_);
@@ -74,7 +76,7 @@ class FirstFrames {
     double MeanLength() const { return bytes_ / count_; }
 
   private:
-    AudioWindow& window_;
+    const AudioBytes& audio_;
     std::uint64_t offset_;
     FrameHead stream_;
     int count_ = 0;
@@ -85,9 +87,9 @@ class FirstFrames {
 };
 
 // Bitrate and seconds from the bytes from `offset` on and the first frames there.
-void Estimate(AudioWindow& window, std::uint64_t offset, const FrameHead& head, double bytes,
+void Estimate(const AudioBytes& audio, std::uint64_t offset, const FrameHead& head, double bytes,
               AudioStream& stream) {
-    FirstFrames frames(window, offset, head);
+    FirstFrames frames(audio, offset, head);
     frames.CountUpTo(kFramesCompared);
     stream.bitrate = frames.Bitrate();
     if (frames.Varies()) {
@@ -110,24 +112,24 @@ double MeanBitrate(const VbrHeader& vbr, double bytes, double seconds) {
     return declared > measured && declared <= kMostKbits ? declared : measured;
 }
 
-void MeasureTime(AudioWindow& window, const FoundFrame& frame, std::uint64_t end, AudioStream& stream) {
-    const auto bytes = static_cast<double>(end - frame.offset);
+void MeasureTime(const AudioBytes& audio, const FoundFrame& frame, AudioStream& stream) {
+    const auto bytes = static_cast<double>(audio.end - frame.offset);
     if (frame.head.bitrate == 0) {
         stream.seconds = SecondsOf(bytes / static_cast<double>(frame.length), frame.head);
         stream.seconds = std::min(stream.seconds, kLongestSeconds);
         return;
     }
-    const auto vbr = FindVbrHeader(window, frame.offset, frame.head);
+    const auto vbr = FindVbrHeader(audio, frame);
     if (IsUsable(vbr, frame.head)) {
         stream.seconds = SecondsOf(vbr->frameCount, frame.head);
         // An Info header may be in a frame of another bitrate than the audio behind it.
         const FrameHead& audio = frame.nextHead ? *frame.nextHead : frame.head;
         stream.bitrate = vbr->variable ? MeanBitrate(*vbr, bytes, stream.seconds) : audio.bitrate;
     } else if (vbr && frame.nextHead) {
-        Estimate(window, frame.offset + frame.length, frame.head, bytes - static_cast<double>(frame.length),
+        Estimate(audio, frame.offset + frame.length, frame.head, bytes - static_cast<double>(frame.length),
                  stream);
     } else {
-        Estimate(window, frame.offset, frame.head, bytes, stream);
+        Estimate(audio, frame.offset, frame.head, bytes, stream);
     }
 }
 
@@ -138,8 +140,8 @@ std::string BitrateText(double bitrate) {
 } // namespace
 
 AudioStream MeasureAudio(ByteSource& file, const TagLayout& layout) {
-    AudioWindow window(file, layout.audioEnd);
-    const auto frame = FindAudio(window, file, layout);
+    const AudioBytes audio{file, layout.audioEnd};
+    const auto frame = FindAudio(audio, layout);
     if (!frame) {
         throw RunTimeError(ErrorNumber::InputPastEnd);
     }
@@ -148,7 +150,7 @@ AudioStream MeasureAudio(ByteSource& file, const TagLayout& layout) {
     stream.layer = frame->head.layer;
     stream.mode = frame->head.mode;
     stream.frequency = frame->head.frequency;
-    MeasureTime(window, *frame, layout.audioEnd, stream);
+    MeasureTime(audio, *frame, stream);
     stream.seconds = std::min(stream.seconds, kLongestSeconds);
     return stream;
 }

@@ -8,26 +8,41 @@ namespace tunedex {
 
 namespace {
 
+// An ID as a number, so that it compares in one step.
+constexpr std::uint32_t CodeOf(char a, char b, char c, char d) {
+    return static_cast<std::uint32_t>(static_cast<unsigned char>(a)) << 24U |
+           static_cast<std::uint32_t>(static_cast<unsigned char>(b)) << 16U |
+           static_cast<std::uint32_t>(static_cast<unsigned char>(c)) << 8U | static_cast<unsigned char>(d);
+}
+
 struct KnownFrame {
-    std::string_view longId;  // ID3v2.3 and 2.4
-    std::string_view shortId; // ID3v2.2; empty where it has no such frame
+    std::uint32_t longCode;  // of the ID in ID3v2.3 and 2.4
+    std::uint32_t shortCode; // of the ID in ID3v2.2 and a NUL
     FrameUse use;
 };
 
+constexpr KnownFrame Known(const char (&longId)[5], const char (&shortId)[4], FrameUse use) {
+    return {CodeOf(longId[0], longId[1], longId[2], longId[3]),
+            CodeOf(shortId[0], shortId[1], shortId[2], '\0'), use};
+}
+
+// ID3v2.2 has no dates.
+constexpr const char kNone[4] = {};
+
 constexpr std::array kKnownFrames = {
-    KnownFrame{"TIT2", "TT2", {FrameContent::Text, &TrackInfo::Title}},
-    KnownFrame{"TPE1", "TP1", {FrameContent::Text, &TrackInfo::Artist}},
-    KnownFrame{"TALB", "TAL", {FrameContent::Text, &TrackInfo::Album}},
-    KnownFrame{"TYER", "TYE", {FrameContent::Text, &TrackInfo::Year}},
-    KnownFrame{"TCON", "TCO", {FrameContent::Genre, &TrackInfo::Genre}},
-    KnownFrame{"TRCK", "TRK", {FrameContent::Text, &TrackInfo::Track}},
-    KnownFrame{"TPOS", "TPA", {FrameContent::Text, &TrackInfo::Disc}},
-    KnownFrame{"TPE2", "TP2", {FrameContent::Text, &TrackInfo::AlbumArtist}},
-    KnownFrame{"TCOM", "TCM", {FrameContent::Text, &TrackInfo::Composer}},
-    KnownFrame{"COMM", "COM", {FrameContent::Comment, &TrackInfo::Comment}},
-    KnownFrame{"TDRC", "", {FrameContent::Date, &TrackInfo::Year, 0}},
-    KnownFrame{"TDRL", "", {FrameContent::Date, &TrackInfo::Year, 1}},
-    KnownFrame{"TDOR", "", {FrameContent::Date, &TrackInfo::Year, 2}},
+    Known("TIT2", "TT2", {FrameContent::Text, &TrackInfo::Title}),
+    Known("TPE1", "TP1", {FrameContent::Text, &TrackInfo::Artist}),
+    Known("TALB", "TAL", {FrameContent::Text, &TrackInfo::Album}),
+    Known("TYER", "TYE", {FrameContent::Text, &TrackInfo::Year}),
+    Known("TCON", "TCO", {FrameContent::Genre, &TrackInfo::Genre}),
+    Known("TRCK", "TRK", {FrameContent::Text, &TrackInfo::Track}),
+    Known("TPOS", "TPA", {FrameContent::Text, &TrackInfo::Disc}),
+    Known("TPE2", "TP2", {FrameContent::Text, &TrackInfo::AlbumArtist}),
+    Known("TCOM", "TCM", {FrameContent::Text, &TrackInfo::Composer}),
+    Known("COMM", "COM", {FrameContent::Comment, &TrackInfo::Comment}),
+    Known("TDRC", kNone, {FrameContent::Date, &TrackInfo::Year, 0}),
+    Known("TDRL", kNone, {FrameContent::Date, &TrackInfo::Year, 1}),
+    Known("TDOR", kNone, {FrameContent::Date, &TrackInfo::Year, 2}),
 };
 
 // A frame of version 2.2 in a tag of 2.3, as some writers leave it, has a fourth byte that is no letter.
@@ -42,10 +57,12 @@ FrameUse UseOfFrame(std::span<const std::uint8_t, 4> id) {
     if (id[0] != 'T' && id[0] != 'C') {
         return {};
     }
-    const std::string_view text = TextOfId(id);
+    const char last = id[3] == ' ' ? '\0' : static_cast<char>(id[3]);
+    const std::uint32_t code =
+        CodeOf(static_cast<char>(id[0]), static_cast<char>(id[1]), static_cast<char>(id[2]), last);
     const auto* const found =
         std::find_if(kKnownFrames.begin(), kKnownFrames.end(),
-                     [text](const auto& frame) { return frame.longId == text || frame.shortId == text; });
+                     [code](const auto& frame) { return frame.longCode == code || frame.shortCode == code; });
     return found == kKnownFrames.end() ? FrameUse() : found->use;
 }
 

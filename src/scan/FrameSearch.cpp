@@ -1,6 +1,9 @@
 #include "FrameSearch.h"
 
+#include "ByteWindow.h"
+
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -12,6 +15,9 @@ namespace {
 // A frame in the free format is at most this long: 640 kbit/s at 32,000 Hz in layer III are 2880 bytes, in
 // layer II as many.
 constexpr std::size_t kLongestFreeFrame = 4608;
+
+// A Xing, Info or VBRI header ends within this many bytes of its frame.
+constexpr std::size_t kVbrReach = 64;
 
 // Measuring a frame in the free format takes a search; this bounds those of a file that is no audio.
 constexpr int kMostMeasured = 64;
@@ -26,9 +32,11 @@ bool HasMark(std::span<const std::uint8_t> bytes, std::size_t at, std::string_vi
     return bytes.size() >= at + mark.size() && std::memcmp(bytes.data() + at, mark.data(), mark.size()) == 0;
 }
 
+std::optional<VbrHeader> VbrHeaderIn(std::span<const std::uint8_t> bytes, const FrameHead& head);
+
 class FirstFrameSearch {
   public:
-    FirstFrameSearch(AudioWindow& window, std::uint64_t end) : window_(window), end_(end) {}
+    explicit FirstFrameSearch(const AudioBytes& audio) : window_(audio.file, audio.end), end_(audio.end) {}
 
     std::optional<FoundFrame> Run(std::uint64_t offset) {
         bool onlyZeros = true; // between the start and `offset`
@@ -75,7 +83,7 @@ class FirstFrameSearch {
         }
         frame.nextHead = FollowerAt(frame, frame.length);
         if (!frame.nextHead && !unconfirmed_ &&
-            (EndsAudio(frame, first) || FindVbrHeader(window_, offset, *head))) {
+            (EndsAudio(frame, first) || VbrHeaderIn(window_.From(offset, kVbrReach), *head))) {
             unconfirmed_ = frame;
         }
         return frame;
@@ -121,7 +129,7 @@ class FirstFrameSearch {
                FollowerAt(frame, first + second).has_value();
     }
 
-    AudioWindow& window_;
+    ByteWindow<4096> window_;
     std::uint64_t end_;
     std::optional<FoundFrame> unconfirmed_;
     int measured_ = 0;
@@ -156,16 +164,12 @@ std::optional<VbrHeader> XingAt(std::span<const std::uint8_t> bytes, std::size_t
     return header;
 }
 
-} // namespace
-
-std::optional<VbrHeader> FindVbrHeader(AudioWindow& window, std::uint64_t offset, const FrameHead& head) {
-    constexpr std::size_t kReach = 64;
+std::optional<VbrHeader> VbrHeaderIn(std::span<const std::uint8_t> bytes, const FrameHead& head) {
     constexpr std::size_t kChecksumBytes = 2;
     constexpr std::size_t kVbriAt = kFrameHeadBytes + 32; // whatever the version and the mode
     if (head.layer != MpegLayer::III) {
         return std::nullopt;
     }
-    const auto bytes = window.From(offset, kReach);
     const std::size_t at = kFrameHeadBytes + SideInformationBytes(head);
     if (const auto xing = XingAt(bytes, at)) {
         return xing;
@@ -181,8 +185,33 @@ std::optional<VbrHeader> FindVbrHeader(AudioWindow& window, std::uint64_t offset
     return std::nullopt;
 }
 
-std::optional<FoundFrame> FindFirstFrame(AudioWindow& window, std::uint64_t start, std::uint64_t end) {
-    return FirstFrameSearch(window, end).Run(start);
+// The frame at `start`, where nearly every file has its first one, if another of the stream follows.
+std::optional<FoundFrame> FrameAtStart(const AudioBytes& audio, std::uint64_t start) {
+    const auto head = FrameHeadAt(audio, start);
+    if (!head || head->bitrate == 0) {
+        return std::nullopt;
+    }
+    FoundFrame frame{start, *head, head->Length(), FrameHeadAt(audio, start + head->Length())};
+    return frame.nextHead && frame.nextHead->Matches(*head) ? std::optional(frame) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<FrameHead> FrameHeadAt(const AudioBytes& audio, std::uint64_t offset) {
+    std::array<std::uint8_t, kFrameHeadBytes> bytes{};
+    return ParseFrameHead(audio.Read(offset, bytes));
+}
+
+std::optional<VbrHeader> FindVbrHeader(const AudioBytes& audio, const FoundFrame& frame) {
+    std::array<std::uint8_t, kVbrReach> bytes{};
+    return VbrHeaderIn(audio.Read(frame.offset, bytes), frame.head);
+}
+
+std::optional<FoundFrame> FindFirstFrame(const AudioBytes& audio, std::uint64_t start) {
+    if (const auto frame = FrameAtStart(audio, start)) {
+        return frame;
+    }
+    return FirstFrameSearch(audio).Run(start);
 }
 
 } // namespace tunedex

@@ -2,8 +2,6 @@
 
 #include "TagGenres.h"
 
-#include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -19,9 +17,7 @@ void Fill(TagTexts& texts, TagField field, std::string_view bytes, TagEncoding e
 
 } // namespace
 
-void ReadId3v1Texts(ByteSource& file, std::uint64_t offset, TagTexts& texts) {
-    std::array<std::uint8_t, 128> bytes{};
-    file.ReadExactly(offset, bytes);
+void ReadId3v1Texts(const Id3v1Bytes& bytes, TagTexts& texts) {
     const std::string_view tag(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     // Offset/width: marker 0/3, title 3/30, artist 33/30, album 63/30, year 93/4, comment 97/30, genre 127/1.
     // ID3v1.1: the comment ends with a NUL and the number of the track.

@@ -42,7 +42,7 @@ TagKind ReadModernTags(ByteSource& file, const TagLayout& layout, const ModernTa
         ReadWhatCanBeRead([&] { ReadApev2(file, *layout.apev2, texts); });
     }
     if (layout.id3v1) {
-        ReadWhatCanBeRead([&] { ReadId3v1Texts(file, *layout.id3v1, texts); });
+        ReadId3v1Texts(*layout.id3v1, texts);
     }
     texts.Finish();
     return kind;

@@ -95,20 +95,23 @@ std::optional<std::string_view> TakeReference(std::string_view& text) {
     return reference;
 }
 
-// Whether `text` repeats the name of a reference in front of it.
-bool Repeats(std::string_view text, std::string_view reference, std::string_view name) {
-    const auto isPublished = [&](const PublishedGenre& genre) {
-        return GenreNumber(reference) == genre.number && text == genre.name;
-    };
-    return text == name || std::any_of(kPublishedGenres.begin(), kPublishedGenres.end(), isPublished);
-}
-
 std::string_view NameOfReference(std::string_view reference) {
     if (const std::string_view name = NameOfLetters(reference); !name.empty()) {
         return name;
     }
     const auto number = GenreNumber(reference);
     return number ? NameOrUnknown(*number) : kUnknownGenre;
+}
+
+// Whether `text` repeats the name of a reference in front of it.
+bool Repeats(std::string_view text, std::string_view reference) {
+    if (text == NameOfReference(reference)) {
+        return true;
+    }
+    const auto number = GenreNumber(reference);
+    return number && std::any_of(kPublishedGenres.begin(), kPublishedGenres.end(), [&](const auto& genre) {
+               return genre.number == number && genre.name == text;
+           });
 }
 
 } // namespace
@@ -121,27 +124,28 @@ std::string_view ExtendedGenreName(unsigned number) {
     return index < kExtendedGenres.size() ? kExtendedGenres.at(index) : std::string_view();
 }
 
-std::vector<std::string> GenresOf(std::string_view value) {
+std::vector<std::string_view> GenresOf(std::string_view value) {
     if (const auto number = GenreNumber(value)) {
-        return {std::string(NameOrUnknown(*number))};
+        return {NameOrUnknown(*number)};
     }
     if (const std::string_view name = NameOfLetters(value); !name.empty()) {
-        return {std::string(name)};
+        return {name};
     }
-    std::vector<std::string> genres;
+    std::vector<std::string_view> genres;
     std::string_view text = value;
-    bool repeated = false;
     while (const auto reference = TakeReference(text)) {
-        genres.emplace_back(NameOfReference(*reference));
+        genres.push_back(NameOfReference(*reference));
     }
     if (text.starts_with("((")) {
         text.remove_prefix(1);
     }
-    for (std::string_view rest = value; const auto reference = TakeReference(rest);) {
-        repeated = repeated || Repeats(text, *reference, NameOfReference(*reference));
+    bool repeated = text.empty();
+    for (std::string_view rest = value;
+         const auto reference = repeated ? std::nullopt : TakeReference(rest);) {
+        repeated = Repeats(text, *reference);
     }
-    if (!text.empty() && !repeated) {
-        genres.emplace_back(text);
+    if (!repeated) {
+        genres.push_back(text);
     }
     return genres;
 }

@@ -11,7 +11,7 @@ namespace tunedex {
 
 namespace {
 
-constexpr std::uint64_t kId3v1Bytes = 128;
+constexpr std::uint64_t kId3v1Bytes = sizeof(Id3v1Bytes);
 constexpr std::uint64_t kApeHeaderBytes = 32; // and of the footer
 constexpr std::string_view kApeMark = "APETAGEX";
 constexpr std::string_view kLyricsBegin = "LYRICSBEGIN";
@@ -71,7 +71,8 @@ class FileEnd {
     ByteSource& file_;
     std::uint64_t blockStart_;
     std::size_t blockBytes_ = 0;
-    std::array<std::uint8_t, 512> block_; // filled in the constructor
+    // ID3v1 and what may show another tag before it. Filled in the constructor.
+    std::array<std::uint8_t, 2 * kId3v1Bytes + kApeHeaderBytes> block_;
     std::string other_;
 };
 
@@ -90,19 +91,20 @@ class EndTags {
 
   private:
     bool RemoveId3v1() {
-        const std::string_view tag = bytes_.Before(end_, kId3v1Bytes);
+        std::string_view tag = bytes_.Before(end_, kId3v1Bytes);
         if (!tag.starts_with("TAG")) {
             return false;
         }
-        // "TAG" may be the middle of "APETAGEX".
-        if (tag.starts_with("TAGEX") && bytes_.Before(end_, kId3v1Bytes + 3).starts_with("APE")) {
-            return false;
+        if (tag.starts_with("TAGEX")) { // perhaps the middle of "APETAGEX"
+            if (bytes_.Before(end_, kId3v1Bytes + 3).starts_with("APE")) {
+                return false;
+            }
+            tag = bytes_.Before(end_, kId3v1Bytes);
         }
-        const bool last = end_ == layout_.audioEnd;
+        if (end_ == layout_.audioEnd) { // the last tag of the file
+            std::copy(tag.begin(), tag.end(), layout_.id3v1.emplace().begin());
+        }
         end_ -= kId3v1Bytes;
-        if (last) {
-            layout_.id3v1 = end_;
-        }
         return true;
     }
 

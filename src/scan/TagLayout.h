@@ -4,6 +4,7 @@
 #include "ByteSource.h"
 #include "Id3v2Frames.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 
@@ -15,11 +16,13 @@ struct ApeItems {
     std::uint64_t end = 0;
 };
 
+using Id3v1Bytes = std::array<std::uint8_t, 128>;
+
 struct TagLayout {
-    std::optional<Id3v2Header> id3v2;   // at the start of the file, of any version
-    std::optional<ApeItems> apev2;      // before ID3v1 and Lyrics3, else at the start of the file
-    std::optional<std::uint64_t> id3v1; // its offset: it is the last 128 bytes
-    std::uint64_t audioEnd = 0;         // where the tags at the end start
+    std::optional<Id3v2Header> id3v2; // at the start of the file, of any version
+    std::optional<ApeItems> apev2;    // before ID3v1 and Lyrics3, else at the start of the file
+    std::optional<Id3v1Bytes> id3v1;  // all of the tag: the last 128 bytes
+    std::uint64_t audioEnd = 0;       // where the tags at the end start
 };
 
 // Tags that a failed read hides are absent.

@@ -194,7 +194,8 @@ std::size_t TagTexts::PieceOf(const TagValue& value) const {
 void TagTexts::AddValue(Builder& text, const TagValue& value, ValueKind kind) const {
     const bool isShort = value.bytes.size() < kLongTextBytes;
     if (isShort && kind == ValueKind::Genre) {
-        for (const std::string& genre : GenresOf(Decoded(value))) {
+        const std::string decoded = Decoded(value);
+        for (const std::string_view genre : GenresOf(decoded)) {
             if (!text.Repeats() || !HasValue(text.Short(), genre)) {
                 text.Separate();
                 text.Append(genre);

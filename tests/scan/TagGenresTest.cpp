@@ -4,13 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace tunedex {
 namespace {
 
-using Genres = std::vector<std::string>;
+using Genres = std::vector<std::string_view>;
 
 TEST(ExtendedGenreName, KnowsTheExtensionTo191) {
     for (unsigned number = 0; number < 148; ++number) {

@@ -76,7 +76,7 @@ TEST(FindTags, RemovesTagsOfEveryKindFromTheEnd) {
         EXPECT_EQ(layout.apev2.has_value(), row.apev2) << row.what;
         EXPECT_EQ(layout.id3v1.has_value(), row.id3v1) << row.what;
         if (layout.id3v1) {
-            EXPECT_EQ(*layout.id3v1, file.size() - 128) << row.what;
+            EXPECT_EQ(std::string(layout.id3v1->begin(), layout.id3v1->end()), OldTag()) << row.what;
         }
         if (layout.apev2) {
             EXPECT_EQ(file.substr(layout.apev2->end, 8), "APETAGEX") << row.what;
@@ -122,8 +122,7 @@ TEST(FindTags, FindsNothingInFilesThatAreTooShortOrCannotBeRead) {
 }
 
 TEST(FindTags, ReadsTheHeadAndOneBlockAtTheEndOfAnOrdinaryFile) {
-    FailingByteSource file(TagOf(3, std::string(100, '\0')) + std::string(5000, 'a') + Lyrics3v2("IND") +
-                           ApeTag({{"Title", "T"}}) + OldTag());
+    FailingByteSource file(TagOf(3, std::string(100, '\0')) + std::string(5000, 'a') + OldTag());
     FindTags(file);
     EXPECT_EQ(file.Reads(), 3);
 }
