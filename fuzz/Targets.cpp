@@ -19,6 +19,10 @@ std::span<const Target> Targets() {
         Target{"commandline", RunCommandLine},
         Target{"sorting", RunSorting},
         Target{"parallelread", RunParallelRead},
+        Target{"id3v2frames", RunId3v2Frames},
+        Target{"apev2", RunApev2},
+        Target{"audiostream", RunAudioStream},
+        Target{"moderntags", RunModernTags},
     };
     return kTargets;
 }

@@ -18,5 +18,9 @@ void RunMultiFolder(Bytes bytes);
 void RunCommandLine(Bytes bytes);
 void RunSorting(Bytes bytes);
 void RunParallelRead(Bytes bytes);
+void RunId3v2Frames(Bytes bytes);
+void RunApev2(Bytes bytes);
+void RunAudioStream(Bytes bytes);
+void RunModernTags(Bytes bytes);
 
 } // namespace tunedex::fuzz

@@ -154,8 +154,9 @@ class TagTexts::Builder {
 
 void TagTexts::Clear() {
     for (const TagField field : kTagFields) {
-        track_.Unset(field);
+        (track_.*field).clear();
     }
+    track_.LongFields.clear(); // only these texts can be long
 }
 
 bool TagTexts::IsLong(TagField field) const {
