@@ -52,6 +52,9 @@ std::size_t Utf16PieceOf(std::string_view bytes, ByteOrder order) {
     return IsHighSurrogate(bytes.substr(kPieceBytes - 2, 2), order) ? kPieceBytes - 2 : kPieceBytes;
 }
 
+// A longer value is no list of genres; resolving takes its memory several times.
+constexpr std::size_t kLongestGenre = 65536;
+
 // Whether one of the values joined in `text` is `value`.
 bool HasValue(std::string_view text, std::string_view value) {
     for (std::size_t at = text.find(value); at != std::string_view::npos; at = text.find(value, at + 1)) {
@@ -193,8 +196,7 @@ std::size_t TagTexts::PieceOf(const TagValue& value) const {
 }
 
 void TagTexts::AddValue(Builder& text, const TagValue& value, ValueKind kind) const {
-    const bool isShort = value.bytes.size() < kLongTextBytes;
-    if (isShort && kind == ValueKind::Genre) {
+    if (kind == ValueKind::Genre && value.bytes.size() <= kLongestGenre) {
         const std::string decoded = Decoded(value);
         for (const std::string_view genre : GenresOf(decoded)) {
             if (!text.Repeats() || !HasValue(text.Short(), genre)) {
@@ -204,6 +206,7 @@ void TagTexts::AddValue(Builder& text, const TagValue& value, ValueKind kind) co
         }
         return;
     }
+    const bool isShort = value.bytes.size() < kLongTextBytes;
     if (isShort && text.Repeats() && !text.IsLong() && HasValue(text.Short(), Decoded(value))) {
         return;
     }

@@ -111,6 +111,10 @@ TEST_F(TagTextsTest, ResolveGenres) {
     EXPECT_EQ(track_.Genre, "Disco; X; Rock; Remix");
     texts.Add(&TrackInfo::Genre, TagValues("17\0Own"s, TagEncoding::CodePage), ValueKind::Genre);
     EXPECT_EQ(track_.Genre, "Disco; X; Rock; Remix; Own");
+    texts.Clear();
+    texts.Add(&TrackInfo::Genre, TagValues("(4)" + std::string(2000, 'x'), TagEncoding::CodePage),
+              ValueKind::Genre);
+    EXPECT_EQ(track_.Genre, "Disco; " + std::string(2000, 'x')) << "also in a long text";
     texts.Add(&TrackInfo::Title, TagValues("17", TagEncoding::CodePage));
     EXPECT_EQ(track_.Title, "17") << "only a genre is resolved";
 }
