@@ -7,8 +7,6 @@ import shutil
 import subprocess
 import wave
 
-SECONDS = 2
-
 # A name cannot hold "/", so the folder of one ends where "</script>" has it.
 NAMES = [os.fsencode(name) for name in (
     "with blank.mp3", "a&b&amp;.mp3", "a#b.mp3", "a?b=c.mp3", "a%41.mp3", "a[1].mp3", "it's.mp3", 'say "hello".mp3',
@@ -21,13 +19,13 @@ TITLE = "{number} \"title\" </title></td><script>alert('tag')</script>&amp;, tab
 ARTIST = "' onmouseover=\"alert('artist')\" x=\""
 
 
-def make(folder, tagger):
+def make(folder, tagger, seconds=1):
     """Fills the folder and returns the paths of its files, as bytes, in the order of the names."""
     folder = pathlib.Path(folder)
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     frames = folder.parent / "frames"
-    frames.write_bytes(silence())
+    frames.write_bytes(silence(seconds))
     paths = []
     for number, name in enumerate(NAMES, 1):
         path = os.path.join(os.fsencode(folder), name)
@@ -40,12 +38,12 @@ def make(folder, tagger):
     return paths
 
 
-def silence():
-    """MP3 frames that last SECONDS."""
-    rate = 22050
+def silence(seconds):
+    """MP3 frames of MPEG-1."""
+    rate = 44100
     sound = io.BytesIO()
     with wave.open(sound, "wb") as file:
         file.setparams((1, 2, rate, 0, "NONE", ""))
-        file.writeframes(bytes(2 * rate * SECONDS))
-    return subprocess.run(["lame", "--quiet", "-b", "32", "-", "-"], input=sound.getvalue(), check=True,
-                          stdout=subprocess.PIPE).stdout
+        file.writeframes(bytes(2 * int(rate * seconds)))
+    return subprocess.run(["lame", "--quiet", "-b", "32", "--resample", "44.1", "-", "-"], input=sound.getvalue(),
+                          check=True, stdout=subprocess.PIPE).stdout
