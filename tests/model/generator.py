@@ -631,6 +631,8 @@ class Case:
     def font(self):
         parts = [self.pick(FACES), self.pick(list("1234567") + ["9", "", "x", "12", " 3"]), self.flag(), self.flag()]
         text = "%|%".join(parts)
+        if self.modern and self.modern.chance(0.1):
+            text = self.modern.pick(["</style><b>", "<!-- x", "a>b"]) + text
         if self.chance(0.05):
             text = self.pick([text + "%|%extra", "%|%".join(parts[:3]), "", "%|%%|%%|%", "%|%|%|%%|%"])
         return text

@@ -965,8 +965,12 @@ class Model:
         if s.FontCSS or s.ColourCSS:
             lines += self._style()
         lines.append("\t</head>")
-        lines.append(f'\t<body bgcolor="#{s.Colour[1]}" text="#{s.Colour[0]}" link="#{s.Colour[8]}">')
+        lines.append(f'\t<body bgcolor="#{self._value(s.Colour[1])}" text="#{self._value(s.Colour[0])}" link="#{self._value(s.Colour[8])}">')
         return lines
+
+    def _value(self, text):
+        """A text of the settings inside an attribute."""
+        return modern_listings.attribute(text) if self.settings.Modern else text
 
     def _style(self):
         s = self.settings
@@ -997,9 +1001,10 @@ class Model:
         if s.Modern and s.DocumentType == "XHTML":
             # Comments for browsers that read the page as HTML; a CDATA section for XML parsers.
             opener, closer = "/*<![CDATA[*/", "/*]]>*/"
-        lines = ['\t\t<style type="text/css">', "\t\t" + opener, body, tr, tr2, th, td]
-        if s.ColourCSS:
-            lines.append(a)
+        rules = [body, tr, tr2, th, td] + ([a] if s.ColourCSS else [])
+        if s.Modern:
+            rules = [rule.replace("<", "\\3c ").replace(">", "\\3e ") for rule in rules]
+        lines = ['\t\t<style type="text/css">', "\t\t" + opener, *rules]
         return lines + ["\t\t" + closer, "\t\t</style>"]
 
     def _font_open(self, font, colour):
@@ -1008,9 +1013,9 @@ class Model:
         if s.FontHTML or s.ColourHTML:
             text = "<font "
         if s.FontHTML:
-            text += f'face="{s.Font[font][0]}" size="{s.Font[font][1]}" '
+            text += f'face="{self._value(s.Font[font][0])}" size="{self._value(s.Font[font][1])}" '
         if s.ColourHTML:
-            text += f'color="#{s.Colour[colour]}" '
+            text += f'color="#{self._value(s.Colour[colour])}" '
         return text[:-1] + ">" if text else ""
 
     def _font_close(self):
@@ -1058,11 +1063,11 @@ class Model:
             f'\t\t<table width="{width}{percent}" border="0" cellspacing="0" cellpadding="0" align="center">',
             "\t\t\t<tr>",
             "\t\t\t\t<td>",
-            f'\t\t\t\t\t<table width="100%" border="0" bgcolor="#{s.Colour[9]}" '
+            f'\t\t\t\t\t<table width="100%" border="0" bgcolor="#{self._value(s.Colour[9])}" '
             f'cellspacing="{s.TableBorder}" cellpadding="{s.TablePadding}">',
         ]
         opening, closing = self._emphasis(1)
-        row = f'\t\t\t\t\t\t<tr bgcolor="#{s.Colour[3]}">'
+        row = f'\t\t\t\t\t\t<tr bgcolor="#{self._value(s.Colour[3])}">'
         for column in columns:
             row += "<th"
             if upper(column) in ("ARTIST", "ARTISTTITLE", "ARTISTALBUMTITLE", "ALBUM", "TITLE", "FOLDER PATH",
@@ -1072,6 +1077,9 @@ class Model:
                 row += ' align="left"'
             row += ">" + self._font_open(1, 2) + opening + self._header_text(column) + closing + self._font_close()
             row += "</th>"
+        if s.Modern and not columns and not s.DoLinks:
+            # A row without a cell is not valid.
+            row += "<th>" + self._font_open(1, 2) + opening + closing + self._font_close() + "</th>"
         if s.DoLinks:
             row += "<th>" + self._font_open(1, 2) + "Link" + self._font_close() + "</th>"
         return lines + [row + "</tr>"]
@@ -1081,7 +1089,7 @@ class Model:
         track = self.tracks[i - 1]
         background, colour = (7, 6) if kind == 2 else (5, 4)
         opening, closing = self._emphasis(2)
-        row = f'\t\t\t\t\t\t<tr bgcolor="#{s.Colour[background]}"'
+        row = f'\t\t\t\t\t\t<tr bgcolor="#{self._value(s.Colour[background])}"'
         if kind == 2 and s.FontCSS:
             row += ' class="r2"'
         row += ">"
@@ -1098,6 +1106,8 @@ class Model:
             elif s.Modern:
                 row += ">" + self._font_open(2, colour) + opening
             row += closing + self._font_close() + "</td>"
+        if s.Modern and not columns and not s.DoLinks:
+            row += "<td>" + self._font_open(2, colour) + opening + closing + self._font_close() + "</td>"
         if s.DoLinks:
             row += '<td align="center">' + self._font_open(2, colour) + opening
             target = s.LinkPrefix + self._link(track)
@@ -1136,8 +1146,10 @@ class Model:
     def _table_foot(self, last_column):
         s = self.settings
         span = last_column + 1 + (1 if s.DoLinks else 0)
+        if s.Modern:
+            span = max(span, 1)
         return [
-            f'\t\t\t\t\t\t<tr bgcolor="#{s.Colour[3]}"><th colspan="{span}">' + self._font_open(1, 2)
+            f'\t\t\t\t\t\t<tr bgcolor="#{self._value(s.Colour[3])}"><th colspan="{span}">' + self._font_open(1, 2)
             + f"Created with Tunedex v{VERSION} by Orvando" + self._font_close() + "</th></tr>",
             "\t\t\t\t\t</table>",
             "\t\t\t\t</td>",

@@ -66,19 +66,19 @@ def is_free_frame(file, place, header, end):
 
 
 def free_format_distance(file, position, header, end):
-    """The distance to the next header of the same free format; 0 if there is none, or if no third one confirms it."""
+    """The distance to a header of the same free format that a third one, or the end, confirms; 0 if there is none."""
+    slot = 4 if header.layer[0] == "1" else 1
     place = position + 4
     while True:
         place = file.find_ff(place + 1) - 1
         if place < 0 or place + 4 > end or place - position > LONGEST_FREE_FRAME:
             return 0
         if is_free_frame(file, place, header, end):
-            break
+            without_padding = place - position - header.padding * slot
+            third = place + without_padding + header_at(file, place, end).padding * slot
+            if third + 4 > end or is_free_frame(file, third, header, end):
+                return place - position
         place += 1
-    slot = 4 if header.layer[0] == "1" else 1
-    without_padding = place - position - header.padding * slot
-    third = place + without_padding + header_at(file, place, end).padding * slot
-    return place - position if third + 4 > end or is_free_frame(file, third, header, end) else 0
 
 
 def is_confirmed(file, position, header, end):
@@ -88,13 +88,20 @@ def is_confirmed(file, position, header, end):
     return following_header(file, position, header, end) is not None
 
 
-def reaches_the_end(_, position, header, end):
-    return header.bitrate != 0 and position + header.length() + 4 > end
+def stands_alone(file, position, header, end, start):
+    """A frame that no other one follows: the file ends with it, or it is cut off and nothing but zeros is before it, or
+    it holds a header that only encoders write."""
+    if header.bitrate == 0:
+        return False
+    following = position + header.length()
+    if following == end or frames_by_header(file, position, header, end)[1]:
+        return True
+    return following + 4 > end and file.read(start + 1, position - start).strip(b"\0") == b""
 
 
 def first_frame(file, start, end):
-    """A frame that another one follows; if there is none, one that the file ends with."""
-    for counts in (is_confirmed, reaches_the_end):
+    """A frame that another one follows; if there is none, one that stands alone."""
+    for counts in (is_confirmed, lambda *frame: stands_alone(*frame, start)):
         position = start
         while True:
             position = file.find_ff(position + 1) - 1
@@ -179,10 +186,12 @@ def decode_audio(track, start, end):
             bitrate = str(nearest(size * 8 / seconds / 1000 if mark != b"Info" else bitrate_behind(file, position, header, end)))
         else:
             behind = following_header(file, position, header, end) if mark else None
-            place = position + header.length() if behind else position
-            mean = mean_bitrate(file, place, behind or header, end)
+            if behind:
+                # The frame of a Xing header without a count is no audio.
+                position, header = position + header.length(), behind
+            mean = mean_bitrate(file, position, header, end)
             bitrate = str(nearest(mean))
-            seconds = size * 8 / (mean * 1000)
+            seconds = (end - position) * 8 / (mean * 1000)
         whole = min(int(seconds), MOST_SECONDS)
         track.bitrate = bitrate
         track.frequency = str(header.frequency)

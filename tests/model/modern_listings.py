@@ -1,9 +1,8 @@
 """How listings differ with Modern on: encodings, links, columns, .csv and playlists."""
 
 import os
-import re
 
-from basics import BYTE_ORDER_MARK, is_stray, leading_number, settled, to_disk
+from basics import BYTE_ORDER_MARK, is_stray, leading_number, settled, to_disk, upper
 
 UNRESERVED = b"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~"
 COLUMNS = {
@@ -48,15 +47,14 @@ def attribute(text):
 
 
 def hide_album_artist(columns):
-    """Puts private characters in the place of "Album Artist", which a merge must never take for Album or Artist."""
+    """Puts private characters in the place of the column Album Artist, which a merge must never take for another."""
     hidden = []
-
-    def hide(match):
-        start = HIDDEN + len(hidden)
-        hidden.extend(match[0])
-        return "".join(chr(start + i) for i in range(len(match[0])))
-
-    return re.sub("[Aa][Ll][Bb][Uu][Mm] [Aa][Rr][Tt][Ii][Ss][Tt]", hide, columns), hidden
+    names = columns.split("|")
+    for i, name in enumerate(names):
+        if upper(name) == "ALBUM ARTIST":
+            names[i] = "".join(chr(HIDDEN + len(hidden) + place) for place in range(len(name)))
+            hidden.extend(name)
+    return "|".join(names), hidden
 
 
 def show_album_artist(columns, hidden):
@@ -119,7 +117,8 @@ def playlist(tracks, current_folder):
             seconds = int(leading_number(minutes) * 60 + leading_number(rest))
         lines.append(f"#EXTINF:{seconds}," + blanks(f"{track.artist} - {track.title}", "\r\n"))
         lines.append(playlist_path(track.full_path, current_folder))
-    return b"".join(to_disk(line) + b"\r\n" for line in lines)
+    # Every line is UTF-8; only a path could be none, and it is a URL then.
+    return "".join(to_disk(line).decode("utf-8", "replace") + "\r\n" for line in lines).encode()
 
 
 def could_not_be_read(folders, files, logged, log_path):

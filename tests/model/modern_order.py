@@ -2,7 +2,7 @@
 
 import icu
 
-from basics import leading_number, to_disk
+from basics import is_stray, leading_number, settled, to_disk
 
 
 def collator(language):
@@ -26,7 +26,8 @@ def in_order(tracks, order, language):
     collation = collator(language)
 
     def key(text):
-        return collation.getSortKey(to_disk(text).decode("utf-8", "replace"))
+        # Each byte of a path that is no UTF-8 is one U+FFFD.
+        return collation.getSortKey("".join("\ufffd" if is_stray(each) else each for each in settled(text)))
 
     def by_path(track):
         return key(track.full_path), to_disk(track.full_path)

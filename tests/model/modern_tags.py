@@ -3,7 +3,7 @@
 import re
 
 from basics import RunTimeError, upper
-from modern_text import field_values, from_code_page, joined, pieces_of
+from modern_text import field_values, from_code_page, joined, pieces_of, split_at_nul
 from tracks import GENRES, Bytes
 
 # The list ends at 147 in the classic table; these are 148 to 191.
@@ -76,7 +76,12 @@ def id3v2_length(head):
     if len(head) < 10 or head[:3] != b"ID3" or 255 in head[3:5]:
         return 0
     footer = 10 if head[3] == 4 and head[5] & 0x10 else 0
-    return 10 + synchsafe(head[6:10]) + footer
+    return 10 + tag_size(head[6:10]) + footer
+
+
+def tag_size(field):
+    """A size that cannot be synchsafe is a plain number."""
+    return int.from_bytes(field, "big") if any(byte >= 128 for byte in field) else synchsafe(field)
 
 
 def ape_fields(block):
@@ -216,7 +221,7 @@ def can_be_made_out(tag):
 def id3v2_frames(tag):
     """(name, content) of each frame, in order, of a whole tag with its header."""
     version, flags = tag[3], tag[5]
-    body = tag[10 : 10 + synchsafe(tag[6:10])]
+    body = tag[10 : 10 + tag_size(tag[6:10])]
     if version < 4 and flags & 0x80 and is_unsynchronised(body):
         body = deunsynchronised(body)
     if version > 2 and flags & 0x40:
@@ -226,7 +231,7 @@ def id3v2_frames(tag):
     position = 0
     while position + header <= len(body):
         name = body[position : position + width]
-        if not is_frame_name(name, width):
+        if name[0] == 0:
             break
         if version == 4:
             size = frame_size_of_24(body, position)
@@ -238,8 +243,9 @@ def id3v2_frames(tag):
             content = content_of_23(content, body[position + 9])
         elif version == 4:
             content = content_of_24(content, body[position + 9], flags & 0x80)
-        if content is not None:
-            frames.append((name.decode("ascii"), content))
+        # Some writers put the names of ID3v2.2, filled with a NUL, into later versions.
+        if content is not None and (is_frame_name(name, width) or (is_frame_name(name[:3], 3) and name[3:] == b"\0")):
+            frames.append((name.rstrip(b"\0").decode("ascii"), content))
         position += header + size
     return frames
 
@@ -269,8 +275,11 @@ def comment_of(content, code_page):
     """(description, text) of a comment frame; None if it cannot be read."""
     if len(content) < 4 or content[0] > 3:
         return None
-    description, *values = pieces_of(content[4:], content[0], code_page)
-    return description, joined([value for value in values if value != ""])
+    encoding, data = content[0], content[4:]
+    description = pieces_of(data, encoding, code_page)[0]
+    width = 2 if encoding in (1, 2) else 1
+    end = len(split_at_nul(data, width)[0]) + width
+    return description, joined(field_values(data[end:], encoding, code_page))
 
 
 def four_digits(text):
@@ -290,9 +299,9 @@ def with_more(values, more):
 
 def read_id3v2(tag, code_page):
     values = {field: [] for field in FRAMES}
-    comment = None
+    comment = ""
     for name, content in id3v2_frames(tag):
-        if name in ("COMM", "COM") and comment is None:
+        if name in ("COMM", "COM") and comment == "":
             found = comment_of(content, code_page)
             if found is not None and found[0] == "":
                 comment = found[1]
@@ -306,7 +315,7 @@ def read_id3v2(tag, code_page):
     texts["year"] = texts["written_year"] or next(
         filter(None, (four_digits(texts[field]) for field in ("recorded", "released", "first_released"))), ""
     )
-    texts["comment"] = comment or ""
+    texts["comment"] = comment
     return {field: texts[field] for field in FIELDS}
 
 
