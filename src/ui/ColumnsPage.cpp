@@ -2,6 +2,7 @@
 
 #include "ColumnList.h"
 #include "Controls.h"
+#include "ModernColumns.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -131,12 +132,37 @@ void ColumnsPage::SetTabOrder() {
 }
 
 void ColumnsPage::LoadControls(const Settings& settings) {
-    lstActiveColumns_->SetColumns(settings.ActiveColumns);
-    lstInactiveColumns_->SetColumns(settings.InactiveColumns);
+    Settings offered = settings;
+    if (settings.Modern) {
+        tunedex::OfferModernColumns(offered);
+    }
+    ShowColumns(offered);
     chkArtistTitleMerge_->setChecked(settings.Merge == 1 || settings.Merge == 2);
     chkAlbumMerge_->setChecked(settings.Merge == 2);
     chkTheSubstitution_->setChecked(settings.MoveTheArtists);
     UpdateColumnLists();
+}
+
+void ColumnsPage::OfferModernColumns(bool offer) {
+    Settings settings;
+    StoreControls(settings);
+    if (offer) {
+        tunedex::OfferModernColumns(settings);
+    } else {
+        RemoveModernColumns(settings);
+    }
+    ShowColumns(settings);
+    UpdateColumnLists();
+}
+
+// Keeps the selection of a list that does not change.
+void ColumnsPage::ShowColumns(const Settings& settings) {
+    for (const auto& [list, columns] : {std::pair(lstActiveColumns_, settings.ActiveColumns),
+                                        std::pair(lstInactiveColumns_, settings.InactiveColumns)}) {
+        if (list->Columns() != columns || columns.empty()) {
+            list->SetColumns(columns);
+        }
+    }
 }
 
 void ColumnsPage::StoreControls(Settings& settings) const {

@@ -20,7 +20,10 @@ class ColumnsPage : public QFrame {
   public:
     explicit ColumnsPage(QWidget* parent = nullptr);
 
+    // Offers the columns of modern listings if the settings ask for them.
     void LoadControls(const Settings& settings);
+    // Adds those that are in neither list to the hidden columns, or removes them from both lists.
+    void OfferModernColumns(bool offer);
     // Stores ActiveColumns, InactiveColumns, Merge and MoveTheArtists.
     void StoreControls(Settings& settings) const;
     bool MovesTheArtists() const;
@@ -40,6 +43,7 @@ class ColumnsPage : public QFrame {
     void Reorder(int row);
     void Drop(ColumnList* source, int sourceRow, ColumnList* target, int row);
 
+    void ShowColumns(const Settings& settings);
     void UpdateColumnLists();
     void EnableCommands();
 

@@ -3,6 +3,7 @@
 #include "ByteSource.h"
 #include "OutputList.h"
 #include "PlayTime.h"
+#include "SortByAlbum.h"
 #include "Sorting.h"
 #include "TagText.h"
 #include "Text.h"
@@ -27,6 +28,7 @@ struct Sample {
     const char* artist;
     const char* album;
     const char* title;
+    const char* track;
     const char* year;
     const char* genre;
     const char* bitrate;
@@ -36,12 +38,13 @@ struct Sample {
 
 // Fictitious. One track has no album and year, to show empty cells.
 constexpr std::array kSamples = {
-    Sample{"Amber Lantern", "Harbour Lights", "First Ferry Home", "1998", "Folk", "192", 221, 5306412},
-    Sample{"Amber Lantern", "Harbour Lights", "Salt & Rope", "1998", "Folk", "192", 187, 4489021},
-    Sample{"The Clockmakers", "Nine Small Hours", "Quarter Past", "2003", "Rock", "128", 245, 3921408},
-    Sample{"The Clockmakers", "", "Pendulum (live)", "", "Rock", "128", 402, 6433280},
-    Sample{"Marisol Ferreira", "Caf\u00E9 Central", "A Pequena Valsa", "2001", "Jazz", "256", 312, 9985123},
-    Sample{"North by Night", "Signals", "Long Wave", "2005", "Electronic", "160", 364, 7281664},
+    Sample{"Amber Lantern", "Harbour Lights", "First Ferry Home", "1/9", "1998", "Folk", "192", 221, 5306412},
+    Sample{"Amber Lantern", "Harbour Lights", "Salt & Rope", "2/9", "1998", "Folk", "192", 187, 4489021},
+    Sample{"The Clockmakers", "Nine Small Hours", "Quarter Past", "4", "2003", "Rock", "128", 245, 3921408},
+    Sample{"The Clockmakers", "", "Pendulum (live)", "", "", "Rock", "128", 402, 6433280},
+    Sample{"Marisol Ferreira", "Caf\u00E9 Central", "A Pequena Valsa", "3/12", "2001", "Jazz", "256", 312,
+           9985123},
+    Sample{"North by Night", "Signals", "Long Wave", "7", "2005", "Electronic", "160", 364, 7281664},
 };
 
 constexpr const char* kFolder = "/home/music/";
@@ -64,7 +67,21 @@ TrackInfo TrackOf(const Sample& sample, bool moveTheArtists) {
     track.Duration = MinutesAndSeconds(sample.seconds);
     track.Seconds = sample.seconds;
     track.TagType = kId3v1Tag;
+    track.Track = sample.track;
+    track.Disc = *sample.track != '\0' ? "1" : "";
+    track.AlbumArtist = track.Artist;
+    track.Composer = *sample.album != '\0' ? "Trad." : "";
+    track.Comment = *sample.album != '\0' ? "" : "Live recording";
     return track;
+}
+
+void SortSamples(TrackTable& tracks, const Settings& settings, const Application& application) {
+    SilentMonitor monitor;
+    if (settings.Modern) {
+        SortByAlbum(tracks, settings.SortOrder, *application.collation, monitor);
+    } else if (settings.SortOrder != 0) {
+        SortTracks(tracks, settings.SortOrder, monitor);
+    }
 }
 
 } // namespace
@@ -81,9 +98,7 @@ std::string WriteSamplePage(Settings settings, const Application& application, c
     }
     totals.FoundCount = static_cast<std::int32_t>(kSamples.size());
     totals.StoredCount = totals.FoundCount;
-    if (settings.SortOrder != 0) {
-        SortTracks(tracks, settings.SortOrder, monitor);
-    }
+    SortSamples(tracks, settings, application);
     settings.OutputFile = folder + "preview.htm";
     settings.Spanning = 0;
     Listing listing{settings, tracks, totals, entities, application.locale, application.clock, monitor};

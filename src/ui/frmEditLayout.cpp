@@ -116,6 +116,10 @@ void frmEditLayout::LoadControls() {
     document_->LoadControls(settings);
 }
 
+void frmEditLayout::OfferModernColumns(bool offer) {
+    columns_->OfferModernColumns(offer);
+}
+
 // A theme file may set any setting, so all windows are reloaded.
 void frmEditLayout::FollowTheme() {
     LoadControls();

@@ -36,6 +36,9 @@ class frmEditLayout : public QDialog {
     // Sets every control from the settings.
     void LoadControls();
 
+    // Whether the columns of modern listings are on offer; LoadControls() takes it from the settings.
+    void OfferModernColumns(bool offer);
+
     // Stores what a run takes from an open editor: MoveTheArtists and DocumentType.
     void StoreRunControls(Settings& settings) const;
     // Stores all controls. Leaves a number setting unchanged if its box does not hold a number in range.

@@ -1,7 +1,9 @@
 #include "frmOptions.h"
 
+#include "CodePageBox.h"
 #include "Controls.h"
 #include "ErrorMessage.h"
+#include "ModernColumns.h"
 #include "NumberBox.h"
 #include "OpenHelp.h"
 #include "OptionGroup.h"
@@ -58,8 +60,9 @@ frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* p
     grid->addWidget(BuildListGroup(), 0, 0, 1, 2);
     grid->addWidget(BuildSizeGroup(), 1, 0);
     grid->addWidget(BuildSortGroup(), 1, 1);
-    grid->addWidget(BuildErrorGroup(), 2, 0, 1, 2);
-    grid->addWidget(BuildLinkGroup(), 3, 0, 1, 2);
+    grid->addWidget(BuildErrorGroup(), 2, 0);
+    grid->addWidget(BuildLinkGroup(), 2, 1);
+    grid->addWidget(BuildModernGroup(), 3, 0, 1, 2);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid);
     layout->addStretch();
@@ -107,15 +110,15 @@ QGroupBox* frmOptions::BuildSizeGroup() {
 }
 
 QGroupBox* frmOptions::BuildSortGroup() {
-    auto* group = new QGroupBox(tr("Sort by artist, album and title"));
-    group->setObjectName(u"fraSortOrder"_s);
+    fraSortOrder_ = new QGroupBox(tr("Sort by artist, album and title"));
+    fraSortOrder_->setObjectName(u"fraSortOrder"_s);
     auto* layout = new QVBoxLayout;
     AddOptions(*sortOrder_, *layout,
                {{u"optNoSort"_s, tr("&No sorting"), tr("List files in the order they are found")},
                 {u"optAscSort"_s, tr("&Ascending"), tr("A to Z")},
                 {u"optDescSort"_s, tr("&Descending"), tr("Z to A")}});
-    group->setLayout(layout);
-    return group;
+    fraSortOrder_->setLayout(layout);
+    return fraSortOrder_;
 }
 
 QGroupBox* frmOptions::BuildErrorGroup() {
@@ -157,6 +160,29 @@ QGroupBox* frmOptions::BuildLinkGroup() {
     layout->addWidget(chkLinks_);
     layout->addLayout(options);
     layout->addLayout(prefix);
+    return group;
+}
+
+QGroupBox* frmOptions::BuildModernGroup() {
+    const QString effect =
+        tr("Reads tags in every encoding, skips what cannot be read, and sorts by album and track.");
+    chkModern_ = MakeCheckBox(u"chkModern"_s, tr("Modern &tags and lists"), effect);
+    cmbTagCodePage_ = new CodePageBox;
+    NameControl(*cmbTagCodePage_, u"cmbTagCodePage"_s, tr("Code page of old tags"),
+                tr("The code page of ID3v1 tags, and of ID3v2 texts that are not Unicode"));
+    lblTagCodePage_ = MakeLabelFor(*cmbTagCodePage_, tr("Code pa&ge of old tags:"));
+    connect(chkModern_, &QCheckBox::toggled, this, &frmOptions::FollowModern);
+
+    auto* group = new QGroupBox(tr("Tags and lists"));
+    group->setObjectName(u"fraModern"_s);
+    auto* top = new QHBoxLayout;
+    top->addWidget(chkModern_);
+    top->addStretch();
+    top->addWidget(lblTagCodePage_);
+    top->addWidget(cmbTagCodePage_);
+    auto* layout = new QVBoxLayout(group);
+    layout->addLayout(top);
+    layout->addWidget(new QLabel(effect));
     return group;
 }
 
@@ -202,7 +228,8 @@ void frmOptions::SetTabOrder() {
     for (QAbstractButton* option : linkType_->buttons()) {
         order << option;
     }
-    order << txtLinkPrefix_ << cmdEditLayout_ << cmdUse_ << cmdSave_ << cmdCancel_;
+    order << txtLinkPrefix_ << chkModern_ << cmbTagCodePage_ << cmdEditLayout_ << cmdUse_ << cmdSave_
+          << cmdCancel_;
     SetTabOrders(order);
 }
 
@@ -225,8 +252,11 @@ void frmOptions::LoadControls() {
     chkLinks_->setChecked(settings.DoLinks);
     linkType_->Select(settings.LinkType);
     txtLinkPrefix_->setText(ToQt(settings.LinkPrefix));
+    chkModern_->setChecked(settings.Modern);
+    cmbTagCodePage_->Select(settings.TagCodePage);
     EnableSpanning();
     EnableLinks();
+    FollowModern();
     GreyDisabledFields();
     if (editor_ != nullptr) {
         editor_->LoadControls();
@@ -243,6 +273,21 @@ void frmOptions::EnableLinks() {
         option->setEnabled(links);
     }
     txtLinkPrefix_->setEnabled(links);
+}
+
+void frmOptions::SwitchModernOn() {
+    chkModern_->setChecked(true);
+}
+
+void frmOptions::FollowModern() {
+    const bool modern = chkModern_->isChecked();
+    lblTagCodePage_->setEnabled(modern);
+    cmbTagCodePage_->setEnabled(modern);
+    fraSortOrder_->setTitle(modern ? tr("Sort by artist, album, disc and track")
+                                   : tr("Sort by artist, album and title"));
+    if (editor_ != nullptr) {
+        editor_->OfferModernColumns(modern);
+    }
 }
 
 // Not every style greys a disabled text box, so its background is set to the button colour.
@@ -274,6 +319,9 @@ void frmOptions::done(int result) {
     if (editor_ != nullptr) {
         editor_->reject();
     }
+    if (result == QDialog::Rejected) {
+        DiscardModernColumns();
+    }
     SaveWindowGeometry(*this);
     QDialog::done(result);
 }
@@ -303,6 +351,25 @@ void frmOptions::StoreOwnControls(Settings& settings) const {
     // Required: stored even if links are off. Do not "fix".
     linkType_->Store(settings.LinkType);
     settings.LinkPrefix = FromQt(txtLinkPrefix_->text());
+    StoreModern(settings);
+}
+
+// A classic list keeps the names that a hand-edited file gave it: they are removed only from lists that the
+// modern editor may have filled.
+void frmOptions::StoreModern(Settings& settings) const {
+    const bool modern = chkModern_->isChecked();
+    if (!modern && (settings.Modern || modernColumnsStored_)) {
+        RemoveModernColumns(settings);
+    }
+    settings.Modern = modern;
+    settings.TagCodePage = cmbTagCodePage_->Name();
+}
+
+// The editor stores columns at once, the tick that put modern ones on offer is discarded.
+void frmOptions::DiscardModernColumns() {
+    if (modernColumnsStored_ && !application_.settings.Modern) {
+        RemoveModernColumns(application_.settings);
+    }
 }
 
 void frmOptions::StoreControls(Settings& settings) const {
@@ -339,6 +406,11 @@ void frmOptions::Save() {
 
 void frmOptions::EditLayout() {
     editor_ = new frmEditLayout(application_, ui_, this);
+    if (chkModern_->isChecked() != application_.settings.Modern) {
+        editor_->OfferModernColumns(chkModern_->isChecked());
+    }
+    connect(editor_, &QDialog::accepted, this,
+            [this] { modernColumnsStored_ = modernColumnsStored_ || chkModern_->isChecked(); });
     connect(editor_, &QDialog::finished, this, &frmOptions::ReleaseEditor);
     editor_->SetPreviewBase([this] {
         Settings settings = application_.settings;

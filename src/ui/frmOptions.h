@@ -10,12 +10,14 @@
 class QCheckBox;
 class QGroupBox;
 class QLayout;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
 namespace tunedex {
 
+class CodePageBox;
 class NumberBox;
 class OptionGroup;
 class frmEditLayout;
@@ -33,6 +35,9 @@ class frmOptions : public QDialog {
     // Stores the controls, and MoveTheArtists and DocumentType of the layout editor. If page splitting is on
     // and files per page is not numeric (out of range), raises error 13 (6) and stores nothing.
     void StoreControls(Settings& settings) const;
+
+    // Ticks "Modern tags and lists"; the other controls keep what the user has set.
+    void SwitchModernOn();
 
     // Null while the layout editor is closed.
     frmEditLayout* Editor() const;
@@ -52,17 +57,21 @@ class frmOptions : public QDialog {
     QGroupBox* BuildSortGroup();
     QGroupBox* BuildErrorGroup();
     QGroupBox* BuildLinkGroup();
+    QGroupBox* BuildModernGroup();
     QLayout* BuildButtons();
     void BuildMenu();
     void SetTabOrder();
 
     void EnableSpanning();
     void EnableLinks();
+    void FollowModern();
     void GreyDisabledFields();
 
     // Shows a message if files per page is not a number in range. Returns whether it is.
     bool Validate();
     void StoreOwnControls(Settings& settings) const;
+    void StoreModern(Settings& settings) const;
+    void DiscardModernColumns();
     void Use();
     void Save();
     void EditLayout();
@@ -85,6 +94,13 @@ class frmOptions : public QDialog {
     QCheckBox* chkLinks_ = nullptr;
     OptionGroup* linkType_ = nullptr;
     QLineEdit* txtLinkPrefix_ = nullptr;
+    QGroupBox* fraSortOrder_ = nullptr;
+    QCheckBox* chkModern_ = nullptr;
+    QLabel* lblTagCodePage_ = nullptr;
+    CodePageBox* cmbTagCodePage_ = nullptr;
+    // Whether the editor has stored columns while the box was ticked, so that the settings can name modern
+    // columns before they are modern.
+    bool modernColumnsStored_ = false;
     QPushButton* cmdEditLayout_ = nullptr;
     QPushButton* cmdUse_ = nullptr;
     QPushButton* cmdSave_ = nullptr;

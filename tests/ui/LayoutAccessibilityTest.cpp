@@ -60,6 +60,7 @@ QList<QWidget*> VisibleControls(const QWidget& window) {
 void ForEveryPage(const std::function<void(QWidget&, const QString&)>& check) {
     LayoutFixture with;
     with.settings.DoLinks = true;
+    with.settings.Modern = true;
     with.settings.ActiveColumns = "Artist|Title|Album";
     with.folder.Write("Themes/Blue.thm", "");
     frmOptions options(with.application, with.ui);

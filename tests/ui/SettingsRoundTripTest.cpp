@@ -1,4 +1,5 @@
 #include "LayoutFixture.h"
+#include "ModernColumns.h"
 #include "TestClasses.h"
 
 #include <random>
@@ -45,6 +46,8 @@ class RandomSettings {
             *number = Number();
         }
         settings.Merge = static_cast<std::int16_t>(Below(3));
+        settings.Modern = Coin();
+        settings.TagCodePage = Coin() ? "" : "windows-1251";
         settings.TableWidthUnit = static_cast<std::int16_t>(Below(10)); // one digit in the file
         settings.DocumentType = Coin() ? "HTML" : "XHTML";
         settings.ActiveColumns = Columns();
@@ -54,6 +57,9 @@ class RandomSettings {
         }
         for (std::string& colour : settings.Colour) {
             colour = Text();
+        }
+        if (settings.Modern) {
+            OfferModernColumns(settings); // as the editor stores them
         }
         return settings;
     }
