@@ -1,12 +1,14 @@
 #include "OpenHelp.h"
 
 #include "QtText.h"
+#include "TerminalText.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
 
 #include <filesystem>
+#include <system_error>
 
 namespace tunedex {
 namespace {
@@ -19,6 +21,12 @@ void OpenUrl(const QUrl& url, const Application& application, WindowInterface& u
     }
 }
 
+// Percent-encodes the bytes: QUrl::fromLocalFile() loses bytes that are not UTF-8.
+QUrl UrlOf(const std::string& path) {
+    const std::string absolute = std::filesystem::absolute(path).string();
+    return QUrl::fromEncoded("file://" + QByteArray::fromStdString(absolute).toPercentEncoding("/"));
+}
+
 } // namespace
 
 void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owner) {
@@ -28,10 +36,19 @@ void OpenHelp(const Application& application, WindowInterface& ui, QWidget& owne
                        kOkExclamation, ToQt(application.errorTitle));
         return;
     }
-    // Percent-encodes the bytes: QUrl::fromLocalFile() loses bytes that are not UTF-8.
-    const std::string absolute = std::filesystem::absolute(application.helpFile).string();
-    const QByteArray path = QByteArray::fromStdString(absolute).toPercentEncoding("/");
-    OpenUrl(QUrl::fromEncoded("file://" + path), application, ui, owner);
+    OpenUrl(UrlOf(application.helpFile), application, ui, owner);
+}
+
+void OpenPath(const std::string& path, const Application& application, WindowInterface& ui, QWidget& owner) {
+    std::error_code error;
+    if (!std::filesystem::exists(path, error)) {
+        const QString text =
+            QCoreApplication::translate("tunedex::OpenHelp", "%1\r\ndoes not exist any more!");
+        ui.ShowMessage(owner, text.arg(ToQtDisplay(TerminalText(path))), kOkExclamation,
+                       ToQt(application.errorTitle));
+        return;
+    }
+    OpenUrl(UrlOf(path), application, ui, owner);
 }
 
 void OpenAddress(const QString& address, const Application& application, WindowInterface& ui,

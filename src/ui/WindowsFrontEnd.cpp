@@ -41,6 +41,7 @@ WindowsFrontEnd::WindowsFrontEnd(Application& application, Dialogs& dialogs)
       main_(application, *this, dialogs) {
     QObject::connect(&main_, &frmMain::CreateListRequested, &main_, [this] { CreateList(); });
     QObject::connect(&main_, &frmMain::OptionsRequested, &main_, [this] { OpenOptions(); });
+    QObject::connect(&main_, &frmMain::SwitchModernRequested, &main_, [this] { SwitchModernOn(); });
     QObject::connect(&main_, &frmMain::Closed, &main_, [this] { CloseOptions(); });
 }
 
@@ -51,10 +52,14 @@ RunOutcome WindowsFrontEnd::CreateList() {
         return {};
     }
     running_ = true;
+    main_.ShowResult({});
     RunOutcome outcome = CreateListCommand(application_, *this);
     running_ = false;
     if (progress_ != nullptr) {
         progress_->SetRunning(false); // the run left the window open; the user closes it
+    }
+    if (!application_.automaticMode) {
+        main_.ShowResult(outcome);
     }
     return outcome;
 }
@@ -65,6 +70,7 @@ MainFields WindowsFrontEnd::Fields() const {
 
 void WindowsFrontEnd::FillFields(const MainFields& fields) {
     main_.FillFields(fields);
+    main_.FollowModern();
     if (options_ != nullptr) {
         options_->LoadControls();
     }
@@ -78,6 +84,7 @@ void WindowsFrontEnd::OpenOptions() {
     if (options_ == nullptr) {
         options_ = new frmOptions(application_, *this, &main_);
         options_->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(options_, &QDialog::finished, &main_, [this] { main_.FollowModern(); });
     }
     options_->show();
     QWidget* front = options_;
@@ -86,6 +93,15 @@ void WindowsFrontEnd::OpenOptions() {
     }
     front->raise();
     front->activateWindow();
+}
+
+// An open options dialog shows the setting too, and keeps what the user has changed in it.
+void WindowsFrontEnd::SwitchModernOn() {
+    application_.settings.Modern = true;
+    if (options_ != nullptr) {
+        options_->SwitchModernOn();
+    }
+    main_.FollowModern();
 }
 
 // reject(), not close(): QCoreApplication::quit() fails if any window ignores its close event, and the

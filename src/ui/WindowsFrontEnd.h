@@ -44,6 +44,7 @@ class WindowsFrontEnd final : public WindowInterface {
 
   private:
     void CloseOptions();
+    void SwitchModernOn();
 
     Application& application_;
     Dialogs& dialogs_;

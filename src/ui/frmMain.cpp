@@ -9,6 +9,7 @@
 #include "PlaceholderMenu.h"
 #include "Product.h"
 #include "QtText.h"
+#include "ResultPanel.h"
 #include "SettingsFuncs.h"
 #include "Startup.h"
 #include "TitleField.h"
@@ -31,6 +32,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -84,6 +87,8 @@ frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs
     layout->addWidget(BuildOutputGroup());
     layout->addWidget(BuildTitleGroup());
     layout->addStretch(1);
+    BuildResultPanel();
+    layout->addWidget(fraResult_);
     layout->addWidget(BuildCommandRow());
     setCentralWidget(centre);
     OrderControls();
@@ -247,6 +252,13 @@ QGroupBox* frmMain::BuildTitleGroup() {
     return group;
 }
 
+void frmMain::BuildResultPanel() {
+    fraResult_ = new ResultPanel(application_.locale);
+    connect(fraResult_, &ResultPanel::OpenRequested, this, &frmMain::OpenResult);
+    connect(fraResult_, &ResultPanel::FolderRequested, this, &frmMain::ShowResultFolder);
+    connect(fraResult_, &ResultPanel::SwitchModernRequested, this, &frmMain::SwitchModernRequested);
+}
+
 QWidget* frmMain::BuildCommandRow() {
     cmdOptions_ = MakeButton(u"cmdOptions"_s, tr("Option&s..."), tr("Contents and layout of the list"));
     cmdAbout_ =
@@ -272,10 +284,15 @@ QWidget* frmMain::BuildCommandRow() {
 }
 
 void frmMain::OrderControls() {
-    SetTabOrders({txtInputDir_, cmdSelectDir_, chkMultipleDirs_, cmdSelectDirs_, txtOutputFile_,
-                  cmdSelectOutputFile_, txtWindowTitle_, cmdWindowTitlePlaceHolders_, txtPageTitle_,
-                  cmdPageTitlePlaceHolders_, txtPageFooter_, cmdPageFooterPlaceHolders_, cmdCreateList_,
-                  cmdOptions_, cmdAbout_, cmdQuit_});
+    QList<QWidget*> order{txtInputDir_,     cmdSelectDir_,
+                          chkMultipleDirs_, cmdSelectDirs_,
+                          txtOutputFile_,   cmdSelectOutputFile_,
+                          txtWindowTitle_,  cmdWindowTitlePlaceHolders_,
+                          txtPageTitle_,    cmdPageTitlePlaceHolders_,
+                          txtPageFooter_,   cmdPageFooterPlaceHolders_};
+    order << fraResult_->Controls();
+    order << cmdCreateList_ << cmdOptions_ << cmdAbout_ << cmdQuit_;
+    SetTabOrders(order);
 }
 
 MainFields frmMain::Fields() const {
@@ -307,6 +324,23 @@ void frmMain::FillFields(const MainFields& fields) {
 
 QLineEdit& frmMain::Field(MainField field) const {
     return field == MainField::InputFolder ? *txtInputDir_ : *txtOutputFile_;
+}
+
+void frmMain::ShowResult(const RunOutcome& outcome) {
+    fraResult_->ShowOutcome(outcome, application_.settings.Modern);
+}
+
+void frmMain::FollowModern() {
+    fraResult_->FollowModern(application_.settings.Modern);
+}
+
+void frmMain::OpenResult() {
+    OpenPath(fraResult_->Outcome().file, application_, ui_, *this);
+}
+
+void frmMain::ShowResultFolder() {
+    const std::filesystem::path file = std::filesystem::absolute(fraResult_->Outcome().file);
+    OpenPath(file.parent_path().string(), application_, ui_, *this);
 }
 
 void frmMain::MultipleDirsToggled() {

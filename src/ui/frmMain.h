@@ -3,6 +3,7 @@
 
 #include "Application.h"
 #include "Dialogs.h"
+#include "RunOutcome.h"
 #include "WindowInterface.h"
 
 #include <QMainWindow>
@@ -19,6 +20,7 @@ class QPushButton;
 
 namespace tunedex {
 
+class ResultPanel;
 class TitleField;
 
 class frmMain final : public QMainWindow {
@@ -32,12 +34,18 @@ class frmMain final : public QMainWindow {
     void FillFields(const MainFields& fields);
     QLineEdit& Field(MainField field) const;
 
+    // Shows the result of a run; hides it if the run has written no list.
+    void ShowResult(const RunOutcome& outcome);
+    // Updates the hint in the result after a change of the setting Modern.
+    void FollowModern();
+
   public slots:
     void ShowTipOfTheDay();
 
   signals:
     void CreateListRequested();
     void OptionsRequested();
+    void SwitchModernRequested();
     // The user has quit, and confirmed it if ConfirmQuit is set.
     void Closed();
 
@@ -51,6 +59,7 @@ class frmMain final : public QMainWindow {
     QGroupBox* BuildFolderGroup();
     QGroupBox* BuildOutputGroup();
     QGroupBox* BuildTitleGroup();
+    void BuildResultPanel();
     QWidget* BuildCommandRow();
     int LabelWidth() const; // of the longest label; aligns the fields of all groups
     void OrderControls();
@@ -62,6 +71,9 @@ class frmMain final : public QMainWindow {
     void MultipleDirsToggled();
     void UpdateFolderControls();
     void OpenPlaceholderMenu(TitleField& field, QPushButton& button);
+
+    void OpenResult();
+    void ShowResultFolder();
 
     void OpenSettings();
     void SaveSettings();
@@ -91,6 +103,7 @@ class frmMain final : public QMainWindow {
     QPushButton* cmdWindowTitlePlaceHolders_ = nullptr;
     QPushButton* cmdPageTitlePlaceHolders_ = nullptr;
     QPushButton* cmdPageFooterPlaceHolders_ = nullptr;
+    ResultPanel* fraResult_ = nullptr;
     QPushButton* cmdOptions_ = nullptr;
     QPushButton* cmdAbout_ = nullptr;
     QPushButton* cmdQuit_ = nullptr;

@@ -67,6 +67,8 @@ QString NameOf(const QObject& object) {
     return QString::fromLatin1(object.metaObject()->className()) + u' ' + object.objectName();
 }
 
+const QString kMainAfterRun = u"frmMain after a run"_s;
+
 // All windows, filled and with every control enabled where possible.
 struct AllWindows : Desk {
     AllWindows() {
@@ -86,14 +88,23 @@ struct AllWindows : Desk {
     }
 
     QWidget& Window(const QString& name) {
-        const std::map<QString, QWidget*> windows{{u"frmMain"_s, &Main()},
-                                                  {u"frmDirSelection"_s, folders.get()},
-                                                  {u"frmTip"_s, tip.get()},
-                                                  {u"frmAbout"_s, about.get()},
-                                                  {u"frmProgress"_s, progress.get()}};
+        const std::map<QString, QWidget*> windows{
+            {u"frmMain"_s, &Main()},      {u"frmDirSelection"_s, folders.get()}, {u"frmTip"_s, tip.get()},
+            {u"frmAbout"_s, about.get()}, {u"frmProgress"_s, progress.get()},    {kMainAfterRun, &Main()}};
         QWidget& window = *windows.at(name);
-        if (window.objectName() != name) {
+        if (!name.startsWith(window.objectName())) {
             qFatal("a window has another name");
+        }
+        if (name == kMainAfterRun) {
+            RunOutcome outcome;
+            outcome.written = true;
+            outcome.file = "/lists/" + std::string(200, 'w') + ".001.htm";
+            outcome.tracks = 1234567;
+            outcome.pages = 12346;
+            outcome.unreadFolders = 12345;
+            outcome.unreadFiles = 12345;
+            outcome.modernTags = 1234567;
+            Main().ShowResult(outcome);
         }
         window.show();
         window.activateWindow();
@@ -110,7 +121,8 @@ struct AllWindows : Desk {
     std::unique_ptr<frmProgress> progress;
 };
 
-const QStringList kWindows{u"frmMain"_s, u"frmDirSelection"_s, u"frmTip"_s, u"frmAbout"_s, u"frmProgress"_s};
+const QStringList kWindows{u"frmMain"_s,  u"frmDirSelection"_s, u"frmTip"_s,
+                           u"frmAbout"_s, u"frmProgress"_s,     kMainAfterRun};
 
 void AddWindowRows() {
     QTest::addColumn<QString>("name");
@@ -132,11 +144,19 @@ QChar MnemonicOf(const QString& text) {
     return {};
 }
 
+// The caption then needs no mnemonic.
+bool HasKeysOfItsOwn(const QAbstractButton& button) {
+    const QKeySequence keys = button.shortcut();
+    return !keys.isEmpty() && keys != QKeySequence::mnemonic(button.text());
+}
+
 // The captions in the window that need a mnemonic.
 QStringList TextsWithMnemonics(QWidget& window) {
     QStringList texts;
     for (const auto* button : window.findChildren<QAbstractButton*>()) {
-        texts.append(button->text());
+        if (!HasKeysOfItsOwn(*button)) {
+            texts.append(button->text());
+        }
     }
     for (const auto* label : window.findChildren<QLabel*>()) {
         if (label->buddy() != nullptr) {
@@ -211,7 +231,7 @@ class AccessibilityTest : public QObject {
         // Every focusable widget must be interactive.
         for (const auto* widget : window.findChildren<QWidget*>()) {
             if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->isWindow() &&
-                widget->objectName() != u"TipPanel"_s) {
+                widget->objectName() != u"TipPanel"_s && widget->objectName() != u"lblResult"_s) {
                 QVERIFY2(seen.contains(NameOf(*widget)), qPrintable(NameOf(*widget)));
             }
         }

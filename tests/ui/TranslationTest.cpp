@@ -139,6 +139,29 @@ class TranslationTest : public QObject {
         QVERIFY(IsMarked(TextOf(desk.Main(), "lblFolderCount")));
     }
 
+    void TheResultOfARunIsTranslated() {
+        Desk desk;
+        RunOutcome outcome;
+        outcome.written = true;
+        outcome.file = "/lists/list.htm";
+        outcome.tracks = 2;
+        outcome.unreadFolders = 1;
+        outcome.modernTags = 1;
+        desk.Main().ShowResult(outcome);
+        const QStringList path{u"/lists/list.htm"_s, Find<QLabel>(desk.Main(), "lblResult").toolTip()};
+        QCOMPARE(Untranslated(desk.Main(), path), QStringList());
+        const QStringList lines = Find<QLabel>(desk.Main(), "lblResult").text().split(u'\n');
+        QCOMPARE(lines.size(), 3);
+        for (const QString& line : lines) {
+            QVERIFY2(line.contains(kMark), qPrintable(line));
+        }
+        desk.TheSettings().Modern = true;
+        desk.Main().FollowModern();
+        QVERIFY(Find<QLabel>(desk.Main(), "lblResult").text().split(u'\n').value(2).startsWith(kMark));
+        Click(desk.Main(), "cmdOpenResult");
+        QVERIFY(IsMarked(desk.dialogs.messages.back().text));
+    }
+
     void TheTextsOfTheSmallWindowsAreTranslated() {
         Desk desk;
         desk.fake.application.statistics = {"2026-11-21", 12345, 2345, 1234567};
@@ -161,6 +184,8 @@ class TranslationTest : public QObject {
         OpenDesk desk;
         QCOMPARE(Untranslated(desk.Options()), QStringList());
         QCOMPARE(Untranslated(desk.Editor()), QStringList());
+        desk.Options().SwitchModernOn();
+        QCOMPARE(Untranslated(desk.Options()), QStringList());
     }
 
     void TheQuestionsOfTheMainWindowAreTranslated() {

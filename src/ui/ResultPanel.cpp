@@ -1,0 +1,104 @@
+#include "ResultPanel.h"
+
+#include "Controls.h"
+#include "QtText.h"
+#include "ResultText.h"
+#include "TerminalText.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace tunedex {
+namespace {
+
+constexpr int kNameWidthInCharacters = 40; // of the file name; longer ones are elided
+
+// All letters of the captions are mnemonics of the main window, so these buttons have other shortcuts.
+QPushButton* MakeResultButton(const QString& objectName, const QString& text, const QString& description,
+                              const QKeySequence& shortcut, const QString& accessibleName) {
+    QPushButton* button = MakeButton(objectName, text, description, accessibleName);
+    button->setShortcut(shortcut);
+    return button;
+}
+
+} // namespace
+
+ResultPanel::ResultPanel(Locale locale, QWidget* parent)
+    : QGroupBox(tr("Result"), parent), locale_(std::move(locale)), lblResult_(new QLabel) {
+    setObjectName(u"fraResult"_s);
+    BuildControls();
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdOpenResult_);
+    buttons->addWidget(cmdShowFolder_);
+    buttons->addStretch();
+    buttons->addWidget(cmdSwitchModern_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblResult_);
+    layout->addLayout(buttons);
+    hide();
+}
+
+void ResultPanel::BuildControls() {
+    NameControl(*lblResult_, u"lblResult"_s, {}, {});
+    lblResult_->setTextFormat(Qt::PlainText);
+    lblResult_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    lblResult_->setFocusPolicy(Qt::StrongFocus);
+    cmdOpenResult_ = MakeResultButton(u"cmdOpenResult"_s, tr("Open"), tr("Open the list (Ctrl+L)"),
+                                      Qt::CTRL | Qt::Key_L, tr("Open the list"));
+    cmdShowFolder_ =
+        MakeResultButton(u"cmdShowFolder"_s, tr("Show folder"), tr("Open the list's folder (Ctrl+Shift+L)"),
+                         Qt::CTRL | Qt::SHIFT | Qt::Key_L, tr("Show the list's folder"));
+    cmdSwitchModern_ = MakeResultButton(u"cmdSwitchModern"_s, tr("Switch on"),
+                                        tr("Switch on \u201CModern tags and lists\u201D (Ctrl+M)"),
+                                        Qt::CTRL | Qt::Key_M, tr("Switch on Modern tags and lists"));
+    connect(cmdOpenResult_, &QPushButton::clicked, this, &ResultPanel::OpenRequested);
+    connect(cmdShowFolder_, &QPushButton::clicked, this, &ResultPanel::FolderRequested);
+    connect(cmdSwitchModern_, &QPushButton::clicked, this, &ResultPanel::SwitchModernRequested);
+}
+
+QList<QWidget*> ResultPanel::Controls() const {
+    return {lblResult_, cmdOpenResult_, cmdShowFolder_, cmdSwitchModern_};
+}
+
+void ResultPanel::ShowOutcome(const RunOutcome& outcome, bool modern) {
+    outcome_ = outcome;
+    if (outcome_.written) {
+        ShowText(modern);
+    }
+    setVisible(outcome_.written);
+}
+
+void ResultPanel::FollowModern(bool modern) {
+    if (outcome_.written) {
+        ShowText(modern);
+    }
+}
+
+void ResultPanel::ShowText(bool modern) {
+    const int width = fontMetrics().averageCharWidth() * kNameWidthInCharacters;
+    const QString name = fontMetrics().elidedText(ListName(outcome_), Qt::ElideMiddle, width);
+    const QString text = ResultText(outcome_, name, modern, locale_);
+    const bool changed = text != lblResult_->text();
+    const QString path = Isolated(ToQtDisplay(TerminalText(outcome_.file)));
+    lblResult_->setText(text);
+    lblResult_->setAccessibleName(QString(text).replace(u'\n', u' '));
+    lblResult_->setAccessibleDescription(path);
+    lblResult_->setToolTip(Qt::convertFromPlainText(path)); // a path can look like markup
+    if (cmdSwitchModern_->hasFocus()) {
+        focusNextChild(); // hiding it leaves the focus where it is
+    }
+    cmdSwitchModern_->setVisible(OffersModern(outcome_, modern));
+    if (changed) {
+        QAccessibleEvent announcement(lblResult_, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announcement);
+    }
+}
+
+} // namespace tunedex
