@@ -162,6 +162,31 @@ void TakeMain(Pictures& pictures, Application& application) {
     window.hide();
 }
 
+// The main window after a run, with everything that it can say.
+void TakeResult(Pictures& pictures, Application& application) {
+    FillSample(application);
+    Dialogs dialogs;
+    WindowsFrontEnd frontEnd(application, dialogs);
+    frontEnd.FillFields(FieldsFor(application.settings));
+    frmMain& window = frontEnd.MainWindow();
+    RunOutcome outcome;
+    outcome.written = true;
+    outcome.file = "/home/lea/Documents/music.001.htm";
+    outcome.tracks = 1250;
+    outcome.pages = 13;
+    outcome.modernTags = 812;
+    window.ShowResult(outcome);
+    pictures.Take(window, u"main-result"_s);
+    outcome.unreadFolders = 2;
+    outcome.unreadFiles = 1;
+    outcome.file = "/home/lea/Documents/" + std::string(100, 'w') + ".001.htm";
+    window.ShowResult(outcome);
+    pictures.TakeSmallest(window, u"main-result"_s);
+    application.settings.Modern = true;
+    window.FollowModern();
+    pictures.Take(window, u"main-result-on"_s);
+}
+
 void TakeEveryPage(Pictures& pictures, frmEditLayout& editor, const QString& name) {
     auto* tabs = editor.findChild<QTabWidget*>(u"TabStrip"_s);
     for (int page = 0; page < tabs->count(); ++page) {
@@ -179,8 +204,15 @@ void TakeOptions(Pictures& pictures, Application& application) {
         frmOptions options(application, frontEnd);
         pictures.Take(options, u"options"_s);
         options.findChild<QAbstractButton*>(u"chkLinks"_s)->click();
+        options.SwitchModernOn();
         pictures.TakeSmallest(options, u"options"_s);
     }
+    application.settings.Modern = true;
+    {
+        frmEditLayout editor(application, frontEnd);
+        pictures.Take(editor, u"layout-modern"_s);
+    }
+    application.settings.Modern = false;
     frmEditLayout editor(application, frontEnd);
     TakeEveryPage(pictures, editor, u"layout"_s);
     editor.resize(editor.minimumSizeHint());
@@ -233,6 +265,7 @@ int main(int argc, char** argv) {
         QApplication::setPalette(dark ? test::DarkPalette() : test::LightPalette());
         pictures.SetSuffix(dark ? u"-dark"_s : u"-light"_s);
         TakeMain(pictures, application);
+        TakeResult(pictures, application);
         TakeOptions(pictures, application);
     }
     // Pages have their own colours, independent of the palette.
