@@ -44,7 +44,6 @@ double SecondsOf(double frames, const FrameHead& head) {
     return frames * head.Samples() / head.frequency;
 }
 
-constexpr double kMostKbits = 640;
 constexpr double kBytesOfKbit = 125;
 
 double KbitsPerSecond(double bytes, double seconds) {
@@ -104,19 +103,10 @@ bool IsUsable(const std::optional<VbrHeader>& vbr, const FrameHead& head) {
     return vbr && vbr->frameCount > 0 && SecondsOf(vbr->frameCount, head) <= kLongestSeconds;
 }
 
-// The mean bitrate of a stream with a usable header. If the file was cut off, its header still tells the
-// bytes of all the frames that it counts.
-double MeanBitrate(const VbrHeader& vbr, double bytes, double seconds) {
-    const double declared = KbitsPerSecond(vbr.byteCount, seconds);
-    const double measured = KbitsPerSecond(bytes, seconds);
-    return declared > measured && declared <= kMostKbits ? declared : measured;
-}
-
 void MeasureTime(const AudioBytes& audio, const FoundFrame& frame, AudioStream& stream) {
     const auto bytes = static_cast<double>(audio.end - frame.offset);
     if (frame.head.bitrate == 0) {
         stream.seconds = SecondsOf(bytes / static_cast<double>(frame.length), frame.head);
-        stream.seconds = std::min(stream.seconds, kLongestSeconds);
         return;
     }
     const auto vbr = FindVbrHeader(audio, frame);
@@ -124,7 +114,7 @@ void MeasureTime(const AudioBytes& audio, const FoundFrame& frame, AudioStream& 
         stream.seconds = SecondsOf(vbr->frameCount, frame.head);
         // An Info header may be in a frame of another bitrate than the audio behind it.
         const FrameHead& audio = frame.nextHead ? *frame.nextHead : frame.head;
-        stream.bitrate = vbr->variable ? MeanBitrate(*vbr, bytes, stream.seconds) : audio.bitrate;
+        stream.bitrate = vbr->variable ? KbitsPerSecond(bytes, stream.seconds) : audio.bitrate;
     } else if (vbr && frame.nextHead) {
         Estimate(audio, frame.offset + frame.length, frame.head, bytes - static_cast<double>(frame.length),
                  stream);

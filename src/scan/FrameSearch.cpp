@@ -6,7 +6,6 @@
 #include <array>
 #include <cstring>
 #include <string_view>
-#include <utility>
 
 namespace tunedex {
 
@@ -32,14 +31,11 @@ bool HasMark(std::span<const std::uint8_t> bytes, std::size_t at, std::string_vi
     return bytes.size() >= at + mark.size() && std::memcmp(bytes.data() + at, mark.data(), mark.size()) == 0;
 }
 
-std::optional<VbrHeader> VbrHeaderIn(std::span<const std::uint8_t> bytes, const FrameHead& head);
-
 class FirstFrameSearch {
   public:
     explicit FirstFrameSearch(const AudioBytes& audio) : window_(audio.file, audio.end), end_(audio.end) {}
 
     std::optional<FoundFrame> Run(std::uint64_t offset) {
-        bool onlyZeros = true; // between the start and `offset`
         while (offset < end_) {
             const auto bytes = window_.From(offset, 1);
             if (bytes.empty()) {
@@ -50,28 +46,22 @@ class FirstFrameSearch {
                 sync == nullptr
                     ? bytes.size()
                     : static_cast<std::size_t>(static_cast<const std::uint8_t*>(sync) - bytes.data());
-            onlyZeros = onlyZeros && IsZero(bytes.first(skipped));
             offset += skipped;
             if (sync == nullptr) {
                 continue;
             }
-            const auto frame = FrameAt(offset, onlyZeros);
+            const auto frame = FrameAt(offset);
             if (frame && frame->nextHead) {
                 return frame;
             }
-            onlyZeros = false;
             ++offset;
         }
         return unconfirmed_;
     }
 
   private:
-    static bool IsZero(std::span<const std::uint8_t> bytes) {
-        return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte == 0; });
-    }
-
     // The frame at `offset`, with its follower if that is of the same stream.
-    std::optional<FoundFrame> FrameAt(std::uint64_t offset, bool first) {
+    std::optional<FoundFrame> FrameAt(std::uint64_t offset) {
         const auto head = ParseFrameHead(window_.From(offset, kLongestFrame + kFrameHeadBytes));
         if (!head) {
             return std::nullopt;
@@ -82,17 +72,15 @@ class FirstFrameSearch {
             return frame;
         }
         frame.nextHead = FollowerAt(frame, frame.length);
-        if (!frame.nextHead && !unconfirmed_ &&
-            (EndsAudio(frame, first) || VbrHeaderIn(window_.From(offset, kVbrReach), *head))) {
+        if (!frame.nextHead && !unconfirmed_ && EndsAudio(frame)) {
             unconfirmed_ = frame;
         }
         return frame;
     }
 
-    // Whether the audio ends with the frame or, if it is the first one, within it or the header behind it.
-    bool EndsAudio(const FoundFrame& frame, bool first) const {
-        const std::uint64_t left = end_ - frame.offset;
-        return left == frame.length || (first && left < frame.length + kFrameHeadBytes);
+    // Whether the audio ends before another header could follow.
+    bool EndsAudio(const FoundFrame& frame) const {
+        return end_ - frame.offset < frame.length + kFrameHeadBytes;
     }
 
     // The header `distance` behind the frame, if it is of the same stream.
@@ -144,24 +132,14 @@ std::size_t SideInformationBytes(const FrameHead& head) {
     return mono ? 9 : 17;
 }
 
-// Xing and Info. Offset/width: mark 0/4, flags 4/4, then, each if its flag is set, number of frames /4 (flag
-// 1) and of bytes /4 (flag 2).
+// Xing and Info. Offset/width: mark 0/4, flags 4/4, number of frames 8/4 if flag 1 is set.
 std::optional<VbrHeader> XingAt(std::span<const std::uint8_t> bytes, std::size_t at) {
     const bool variable = HasMark(bytes, at, "Xing");
     if (!variable && !HasMark(bytes, at, "Info")) {
         return std::nullopt;
     }
-    VbrHeader header{variable};
-    std::size_t field = at + 8;
-    const unsigned flags = bytes.size() >= field ? BigEndianAt(bytes, at + 4) : 0;
-    for (const auto& [flag, number] :
-         {std::pair(1U, &VbrHeader::frameCount), std::pair(2U, &VbrHeader::byteCount)}) {
-        if ((flags & flag) != 0 && bytes.size() >= field + 4) {
-            header.*number = BigEndianAt(bytes, field);
-            field += 4;
-        }
-    }
-    return header;
+    const bool counted = bytes.size() >= at + 12 && (BigEndianAt(bytes, at + 4) & 1U) != 0;
+    return VbrHeader{variable, counted ? BigEndianAt(bytes, at + 8) : 0};
 }
 
 std::optional<VbrHeader> VbrHeaderIn(std::span<const std::uint8_t> bytes, const FrameHead& head) {
@@ -180,7 +158,7 @@ std::optional<VbrHeader> VbrHeaderIn(std::span<const std::uint8_t> bytes, const 
     }
     // VBRI. Offset/width: mark 0/4, version 4/2, delay 6/2, quality 8/2, bytes 10/4, number of frames 14/4.
     if (HasMark(bytes, kVbriAt, "VBRI") && bytes.size() >= kVbriAt + 18) {
-        return VbrHeader{true, BigEndianAt(bytes, kVbriAt + 14), BigEndianAt(bytes, kVbriAt + 10)};
+        return VbrHeader{true, BigEndianAt(bytes, kVbriAt + 14)};
     }
     return std::nullopt;
 }

@@ -36,15 +36,14 @@ struct FoundFrame {
 std::optional<FrameHead> FrameHeadAt(const AudioBytes& audio, std::uint64_t offset);
 
 // The first frame from `start` on behind which, where its length says, another of the same stream
-// follows. Without one, the first frame with which the audio ends or that has a Xing, Info or VBRI header; a
-// frame at the start, apart from zeros, may be cut off. Takes time linear in the bytes searched.
+// follows. Without one, the first frame behind which the audio has no room for another header; it may be cut
+// off. Takes time linear in the bytes searched.
 std::optional<FoundFrame> FindFirstFrame(const AudioBytes& audio, std::uint64_t start);
 
 // A Xing, Info or VBRI header in a frame.
 struct VbrHeader {
     bool variable = true;         // false: "Info", at a constant bitrate
     std::uint32_t frameCount = 0; // 0: not given
-    std::uint32_t byteCount = 0;  // 0: not given
 };
 
 std::optional<VbrHeader> FindVbrHeader(const AudioBytes& audio, const FoundFrame& frame);

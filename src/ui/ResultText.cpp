@@ -51,7 +51,8 @@ QString Sentences::Number(std::size_t number) const {
 }
 
 QString Sentences::Written(const QString& name) const {
-    const bool paged = OutputTypeOf(outcome_.file) == kHtmlOutput;
+    const ListingStyle style = outcome_.modern ? ListingStyle::Modern : ListingStyle::Classic;
+    const bool paged = OutputTypeOf(outcome_.file, style) == kHtmlOutput;
     return paged ? tr("Wrote %1: %2 on %3.").arg(name, Tracks(), Pages())
                  : tr("Wrote %1: %2.").arg(name, Tracks());
 }
