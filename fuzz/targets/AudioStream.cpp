@@ -1,4 +1,4 @@
-// Input: a file. Two bytes at its start, times 16, are the length of zeros put in front, so that searches
+// Input: a file. Two bytes at its start, times 2, are the length of zeros put in front, so that searches
 // cross the ends of their reads.
 #include "AudioStream.h"
 
@@ -31,7 +31,7 @@ std::optional<AudioStream> Measure(const std::string& file) {
 void RunAudioStream(Bytes bytes) {
     Input input(bytes);
     const std::size_t high = input.Byte();
-    const std::size_t zeros = (high * 256U + input.Byte()) * 16U;
+    const std::size_t zeros = (high * 256U + input.Byte()) * 2U;
     const std::string audio = input.Rest();
     const auto stream = Measure(audio);
     if (stream) {
