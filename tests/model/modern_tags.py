@@ -219,7 +219,7 @@ def can_be_made_out(tag):
 
 
 def id3v2_frames(tag):
-    """(name, content) of each frame, in order, of a whole tag with its header."""
+    """(name, content, whether the tag's end cuts it) of each frame, in order, of a whole tag with its header."""
     version, flags = tag[3], tag[5]
     body = tag[10 : 10 + tag_size(tag[6:10])]
     if version < 4 and flags & 0x80 and is_unsynchronised(body):
@@ -237,15 +237,15 @@ def id3v2_frames(tag):
             size = frame_size_of_24(body, position)
         else:
             size = int.from_bytes(body[position + width : position + 2 * width], "big")
-        # The last frame of a tag that is cut is read as far as it goes.
         content = body[position + header : position + header + size]
+        is_cut = len(content) < size
         if version == 3:
             content = content_of_23(content, body[position + 9])
         elif version == 4:
             content = content_of_24(content, body[position + 9], flags & 0x80)
         # Some writers put the names of ID3v2.2, filled with a NUL, into later versions.
         if content is not None and (is_frame_name(name, width) or (is_frame_name(name[:3], 3) and name[3:] == b"\0")):
-            frames.append((name.rstrip(b"\0").decode("ascii"), content))
+            frames.append((name.rstrip(b"\0").decode("ascii"), content, is_cut))
         position += header + size
     return frames
 
@@ -300,7 +300,7 @@ def with_more(values, more):
 def read_id3v2(tag, code_page):
     values = {field: [] for field in FRAMES}
     comment = ""
-    for name, content in id3v2_frames(tag):
+    for name, content, is_cut in id3v2_frames(tag):
         if name in ("COMM", "COM") and comment == "":
             found = comment_of(content, code_page)
             if found is not None and found[0] == "":
@@ -308,6 +308,8 @@ def read_id3v2(tag, code_page):
         for field, names in FRAMES.items():
             if name in names and content and content[0] <= 3:
                 more = field_values(content[1:], content[0], code_page)
+                if is_cut:
+                    more = more[:1]
                 if field == "genre":
                     more = [genre for value in more for genre in genres_of(value)]
                 values[field] = with_more(values[field], more)
