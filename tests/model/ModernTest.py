@@ -12,6 +12,7 @@ import unittest
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 
+from basics import RunTimeError  # noqa: E402
 from examples import Examples, id3v1  # noqa: E402
 from model import Settings  # noqa: E402
 from modern_audio import decode_audio  # noqa: E402
@@ -178,6 +179,12 @@ class ModernTest(Examples):
             self.assertEqual(self.texts(data), {"title": "t"})
             self.assertEqual(self.span, (0, len(FRAME)))
 
+    def test_TagsThatAreCutAreReadAsFarAsTheyGo(self):
+        body = frame(b"TIT2", b"\3first\0second\0third") + frame(b"TPE1", b"\3x")
+        self.assertEqual(self.texts(tag(body)[:34]), {"title": "first"})
+        self.assertEqual(self.texts(tag(body, size=9999)), {"title": "first; second; third", "artist": "x"})
+        self.assertEqual(self.span[0], 0)
+
     def test_TagsThatCannotBeMadeOutAreNone(self):
         title = frame(b"TIT2", b"\3a")
         for data in (tag(title, 5), tag(title, 1), b""):
@@ -217,6 +224,41 @@ class ModernTest(Examples):
     def test_FreeFormatIsMeasured(self):
         free = b"\xff\xfb\x00\x64" + bytes(496)
         self.assertEqual(self.audio(free * 100), ("free", "44100", "1.0 III", 2))
+        padded = b"\xff\xfb\x02\x64" + bytes(497)
+        self.assertEqual(self.audio((free + padded) * 50)[0], "free")
+        self.assertIsNone(self.audio_or_none(free))
+        self.assertIsNone(self.audio_or_none((b"\xff\xfb\x00\x64" + bytes(4605)) * 3))
+
+    def audio_or_none(self, data):
+        try:
+            return self.audio(data)
+        except RunTimeError:
+            return None
+
+    def test_AFrameMayStandAlone(self):
+        small = b"\xff\xf3\x20\x64" + bytes(48)  # MPEG-2 layer III, 16 kbit/s
+        for data, version in [
+            (FRAME, "1.0 III"), (b"abc" + FRAME, "1.0 III"), (FRAME[:200], "1.0 III"), (bytes(9) + FRAME[:200], "1.0 III"),
+            (b"abc" + FRAME[:200], ""), (FRAME + bytes(4), ""), (FRAME[:100] + small * 2, "2.0 III"),
+            (b"abc" + self.xing(5) + bytes(99), "1.0 III"), (FRAME[:200] + id3v1(), "1.0 III"),
+        ]:  # fmt: skip
+            with self.subTest(data):
+                self.assertEqual((self.audio_or_none(data) or ("", "", ""))[2], version)
+
+    def test_ABitrateThatVariesIsAveraged(self):
+        low = b"\xff\xfb\x10\x64" + bytes(100)  # 32 kbit/s
+        high = b"\xff\xfb\xe0\x64" + bytes(1040)  # 320 kbit/s
+        for data, bitrate in [
+            ((low + high) * 50, "176"), (low * 4 + high * 96, "32"), (low * 3 + high * 97, "311"),
+            (low + high + low * 254 + high * 999, "33"),
+        ]:  # fmt: skip
+            with self.subTest(len(data)):
+                self.assertEqual(self.audio(data)[0], bitrate)
+
+    def test_TheFrameOfAnInfoHeaderDoesNotGiveTheBitrate(self):
+        low = b"\xff\xfb\x10\x64" + bytes(100)
+        self.assertEqual(self.audio(self.xing(100, b"Info") + low * 100)[0], "32")
+        self.assertEqual(self.audio(self.xing(0) + low * 100)[0], "32")
 
     def test_TrueBitratesOfEveryVersion(self):
         for head, size, expected in [

@@ -671,9 +671,9 @@ class Model:
         try:
             Bytes(track.full_path).__exit__()
         except RunTimeError as error:
-            if track.full_path not in self.unread:
-                self.unread[track.full_path] = "file"
-                self._report("decoding the headers of: \\n\\n%F", track, "", error)
+            # A file that is listed twice is reported twice, and counted once.
+            self.unread[track.full_path] = "file"
+            self._report("decoding the headers of: \\n\\n%F", track, "", error)
             return
         try:
             self.total_seconds += decode_audio(track, start, end)
