@@ -1,9 +1,9 @@
 #include "ResultText.h"
 
-#include "OutputList.h"
 #include "Path.h"
 #include "QtText.h"
 #include "TerminalText.h"
+#include "Text.h"
 
 #include <QCoreApplication>
 #include <QStringList>

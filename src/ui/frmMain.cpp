@@ -48,6 +48,8 @@ constexpr int kFirstWidthInCharacters = 100; // initial width of the window
 constexpr const char* kOutputFilters =
     QT_TRANSLATE_NOOP("tunedex::frmMain", "HTML File (*.htm,*.html)|*.htm;*.html|Text File (*.txt)|*.txt|"
                                           "Winamp Playlist (*.m3u)|*.m3u|");
+constexpr const char* kModernOutputFilters = QT_TRANSLATE_NOOP(
+    "tunedex::frmMain", "CSV File (*.csv)|*.csv|UTF-8 Playlist (*.m3u8)|*.m3u8|"); // after the others
 constexpr const char* kSettingsFilters =
     QT_TRANSLATE_NOOP("tunedex::frmMain", "Settings Files (*.cfg)|*.cfg|All Files (*.*)|*.*");
 
@@ -212,9 +214,9 @@ QGroupBox* frmMain::BuildOutputGroup() {
         MakeButton(u"cmdSelectOutputFile"_s, tr("Bro&wse..."), tr("Choose the folder and name of the list"),
                    tr("Browse for the output file"));
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
-    auto* hint =
-        new QLabel(tr("The extension sets the format: .htm web page, .txt plain text, .m3u playlist."));
-    hint->setObjectName(u"lblOutputHint"_s);
+    lblOutputHint_ = new QLabel;
+    lblOutputHint_->setObjectName(u"lblOutputHint"_s);
+    ShowOutputHint();
 
     auto* group = new QGroupBox(tr("List"));
     auto* grid = new QGridLayout(group);
@@ -223,8 +225,15 @@ QGroupBox* frmMain::BuildOutputGroup() {
     grid->addWidget(MakeLabelFor(*txtOutputFile_, tr("&Output file:")), 0, 0);
     grid->addWidget(txtOutputFile_, 0, 1);
     grid->addWidget(cmdSelectOutputFile_, 0, 2);
-    grid->addWidget(hint, 1, 1, 1, 2);
+    grid->addWidget(lblOutputHint_, 1, 1, 1, 2);
     return group;
+}
+
+void frmMain::ShowOutputHint() {
+    lblOutputHint_->setText(
+        application_.settings.Modern
+            ? tr("The extension sets the format: .htm web page, .txt or .csv table, .m3u playlist.")
+            : tr("The extension sets the format: .htm web page, .txt plain text, .m3u playlist."));
 }
 
 QGroupBox* frmMain::BuildTitleGroup() {
@@ -327,10 +336,12 @@ QLineEdit& frmMain::Field(MainField field) const {
 }
 
 void frmMain::ShowResult(const RunOutcome& outcome) {
+    ShowOutputHint(); // an open options dialog may have changed the setting for the run
     fraResult_->ShowOutcome(outcome, application_.settings.Modern);
 }
 
 void frmMain::FollowModern() {
+    ShowOutputHint();
     fraResult_->FollowModern(application_.settings.Modern);
 }
 
@@ -394,8 +405,10 @@ void frmMain::TakeDroppedFolders(const std::vector<std::string>& folders) {
 }
 
 void frmMain::BrowseOutputFile() {
+    const QString filters =
+        tr(kOutputFilters) + (application_.settings.Modern ? tr(kModernOutputFilters) : QString());
     const auto file = dialogs_.ChooseFile(
-        this, {tr("Select the Output File"), tr(kOutputFilters), FromQt(txtOutputFile_->text()), true});
+        this, {tr("Select the Output File"), filters, FromQt(txtOutputFile_->text()), true});
     if (file) {
         txtOutputFile_->setText(ToQt(*file));
     }

@@ -36,7 +36,7 @@ class frmMain final : public QMainWindow {
 
     // Shows the result of a run; hides it if the run has written no list.
     void ShowResult(const RunOutcome& outcome);
-    // Updates the hint in the result after a change of the setting Modern.
+    // After a change of the setting Modern: updates the hints of output file and result.
     void FollowModern();
 
   public slots:
@@ -58,6 +58,7 @@ class frmMain final : public QMainWindow {
     void BuildPlaceholderMenu();
     QGroupBox* BuildFolderGroup();
     QGroupBox* BuildOutputGroup();
+    void ShowOutputHint();
     QGroupBox* BuildTitleGroup();
     void BuildResultPanel();
     QWidget* BuildCommandRow();
@@ -97,6 +98,7 @@ class frmMain final : public QMainWindow {
     QPushButton* cmdSelectDirs_ = nullptr;
     QLineEdit* txtOutputFile_ = nullptr;
     QPushButton* cmdSelectOutputFile_ = nullptr;
+    QLabel* lblOutputHint_ = nullptr;
     TitleField* txtWindowTitle_ = nullptr;
     TitleField* txtPageTitle_ = nullptr;
     TitleField* txtPageFooter_ = nullptr;

@@ -42,6 +42,7 @@ class ResultTextTest : public QObject {
         row("/l/list.0001.htm", 1234567, 1235, u"Wrote list.htm: 1,234,567 tracks on 1,235 pages."_s);
         row("list.txt", 999, 1, u"Wrote list.txt: 999 tracks."_s);
         row("/l/a list.m3u", 1000, 1, u"Wrote a list.m3u: 1,000 tracks."_s);
+        row("/l/list.csv", 1000, 1, u"Wrote list.csv: 1,000 tracks."_s);
         row("/l/%1 %2.m3u", 2, 1, u"Wrote %1 %2.m3u: 2 tracks."_s);
     }
     void TheFirstLineSaysWhatWasWritten() {

@@ -218,6 +218,23 @@ class frmMainTest : public QObject {
         QCOMPARE(desk.TheSettings().OutputFile, std::string("/out/list.m3u"));
     }
 
+    void ModernListsHaveMoreFormats() {
+        Desk desk;
+        desk.Show();
+        const std::string classic = TextOf(desk.Main(), "lblOutputHint");
+        QVERIFY(classic.find(".csv") == std::string::npos);
+        desk.dialogs.files = {desk.folder.Write("modern.cfg", "Modern=1\r\n"), "/out/list.csv"};
+        Choose(desk.Main(), "itmFileOpenSettings");
+        QVERIFY(TextOf(desk.Main(), "lblOutputHint").find(".csv table") != std::string::npos);
+        Click(desk.Main(), "cmdSelectOutputFile");
+        QVERIFY(desk.dialogs.fileQuestions[1].filters.endsWith(
+            u"|*.m3u|CSV File (*.csv)|*.csv|UTF-8 Playlist (*.m3u8)|*.m3u8|"_s));
+        Click(desk.Main(), "cmdOptions");
+        Find<QCheckBox>(*desk.frontEnd.Options(), "chkModern").setChecked(false);
+        Click(*desk.frontEnd.Options(), "cmdUse");
+        QCOMPARE(TextOf(desk.Main(), "lblOutputHint"), classic);
+    }
+
     void SaveInTheOptionsDialogStoresTheMainFieldsToo() {
         Desk desk;
         desk.Show();
