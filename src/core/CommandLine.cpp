@@ -45,6 +45,7 @@ Exit status of an unattended run:
   0  when the list was written
   1  when it was not
   2  when the program could not start
+  3  when a modern list was written, but folders or files could not be read
 )";
 
 } // namespace
