@@ -15,7 +15,7 @@ struct ModernTagOptions {
     LongTextPool* longTexts = nullptr; // null: long texts are members of the track
 };
 
-// Sets the ten texts from ID3v2 at the file's start; what it lacks from APEv2; what both lack from ID3v1. A
+// Sets the texts from ID3v2 at the file's start; what it lacks from APEv2; what both lack from ID3v1. A
 // title or artist that none has becomes "Unknown Title" or "Unknown Artist". Returns the kind of the first of
 // these tags that the file has. Without any, leaves the texts empty and returns kNoTag. A failed read ends
 // one tag; what was read before it is kept.

@@ -49,15 +49,15 @@ class TagValues {
 // How the values of a text are read: as they are, or as genres of a TCON frame.
 enum class ValueKind { Text, Genre };
 
-// Sets the ten texts of a track that tags hold. Texts of kLongTextBytes or more are shared in the pool, if
-// there is one.
+// Sets the texts of a track that tags hold. Texts of kLongTextBytes or more are shared in the pool, if there
+// is one.
 class TagTexts {
   public:
     // All references must outlive this object. `longTexts` may be null.
     TagTexts(TrackInfo& track, const CodePage& codePage, bool moveTheArtists, LongTextPool* longTexts)
         : track_(track), codePage_(codePage), moveTheArtists_(moveTheArtists), longTexts_(longTexts) {}
 
-    // Clears the ten texts.
+    // Clears all of them.
     void Clear();
 
     // Whether the track has no such text yet.
