@@ -1,5 +1,6 @@
 #include "ResultText.h"
 
+#include "OutputList.h"
 #include "Path.h"
 #include "QtText.h"
 #include "TerminalText.h"
