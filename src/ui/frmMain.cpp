@@ -34,6 +34,7 @@
 #include <QVBoxLayout>
 
 #include <filesystem>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -350,8 +351,10 @@ void frmMain::OpenResult() {
 }
 
 void frmMain::ShowResultFolder() {
-    const std::filesystem::path file = std::filesystem::absolute(fraResult_->Outcome().file);
-    OpenPath(file.parent_path().string(), application_, ui_, *this);
+    const std::filesystem::path file = fraResult_->Outcome().file;
+    std::error_code error; // the current folder may be gone: the path is then tried as it is
+    const std::filesystem::path absolute = std::filesystem::absolute(file, error);
+    OpenPath((error ? file : absolute).parent_path().string(), application_, ui_, *this);
 }
 
 void frmMain::MultipleDirsToggled() {
