@@ -8,7 +8,10 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -19,6 +22,21 @@ namespace tunedex {
 namespace {
 
 constexpr int kNameWidthInCharacters = 40; // of the file name; longer ones are elided
+
+// A label of which the keyboard focus can be seen.
+class FocusLabel final : public QLabel {
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QLabel::paintEvent(event);
+        if (hasFocus()) {
+            QStyleOptionFocusRect option;
+            option.initFrom(this);
+            option.backgroundColor = palette().color(backgroundRole());
+            QPainter painter(this);
+            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        }
+    }
+};
 
 // All letters of the captions are mnemonics of the main window, so these buttons have other shortcuts.
 QPushButton* MakeResultButton(const QString& objectName, const QString& text, const QString& description,
@@ -31,7 +49,7 @@ QPushButton* MakeResultButton(const QString& objectName, const QString& text, co
 } // namespace
 
 ResultPanel::ResultPanel(Locale locale, QWidget* parent)
-    : QGroupBox(tr("Result"), parent), locale_(std::move(locale)), lblResult_(new QLabel) {
+    : QGroupBox(tr("Result"), parent), locale_(std::move(locale)), lblResult_(new FocusLabel) {
     setObjectName(u"fraResult"_s);
     BuildControls();
     auto* buttons = new QHBoxLayout;
@@ -48,6 +66,7 @@ ResultPanel::ResultPanel(Locale locale, QWidget* parent)
 void ResultPanel::BuildControls() {
     NameControl(*lblResult_, u"lblResult"_s, {}, {});
     lblResult_->setTextFormat(Qt::PlainText);
+    lblResult_->setMargin(3); // room for the focus frame
     lblResult_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     lblResult_->setFocusPolicy(Qt::StrongFocus);
     cmdOpenResult_ = MakeResultButton(u"cmdOpenResult"_s, tr("Open"), tr("Open the list (Ctrl+L)"),

@@ -263,6 +263,20 @@ class ResultPanelTest : public QObject {
                                      u"cmdSwitchModern"_s, u"cmdCreateList"_s}));
     }
 
+    void TheFocusOfTheResultCanBeSeen() {
+        HintDesk desk;
+        Find<QWidget>(desk.Main(), "cmdPageFooterPlaceHolders").setFocus();
+        const auto rightEnd = [&desk] { // without the text cursor
+            return desk.Label()
+                .grab(desk.Label().rect().adjusted(desk.Label().width() - 20, 0, 0, 0))
+                .toImage();
+        };
+        const QImage without = rightEnd();
+        QTest::keyClick(desk.Main().windowHandle(), Qt::Key_Tab);
+        QVERIFY(desk.Label().hasFocus());
+        QVERIFY(rightEnd() != without);
+    }
+
     void ALongPathIsElidedAndShownInTheToolTip() {
         ResultDesk desk;
         const std::string name = std::string(200, 'x') + "\u202E<b>\n.htm";
