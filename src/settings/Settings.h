@@ -73,9 +73,9 @@ struct Settings {
     std::int16_t TablePadding = 0;
     std::int16_t TableBorder = 0;
     std::int16_t TableSpacing = 0; // required: read from files, never written
+    bool Modern = false;           // reads, sorts and writes by today's conventions
 
     std::string TagCodePage; // of ID3v1 and ID3v2 encoding 0, an iconv name; empty: kDefaultCodePage
-    bool Modern = false;     // reads, sorts and writes by today's conventions
 
     bool operator==(const Settings&) const = default;
 };
