@@ -88,20 +88,14 @@ def is_confirmed(file, position, header, end):
     return following_header(file, position, header, end) is not None
 
 
-def stands_alone(file, position, header, end, start):
-    """A frame that no other one follows: the file ends with it, or it is cut off and nothing but zeros is before it, or
-    it holds a header that only encoders write."""
-    if header.bitrate == 0:
-        return False
-    following = position + header.length()
-    if following == end or frames_by_header(file, position, header, end)[1]:
-        return True
-    return following + 4 > end and file.read(start + 1, position - start).strip(b"\0") == b""
+def is_last(_, position, header, end):
+    """Whether the audio ends behind the frame, or within it."""
+    return header.bitrate != 0 and position + header.length() + 4 > end
 
 
 def first_frame(file, start, end):
-    """A frame that another one follows; if there is none, one that stands alone."""
-    for counts in (is_confirmed, lambda *frame: stands_alone(*frame, start)):
+    """A frame that another one follows; if there is none, one that is the last."""
+    for counts in (is_confirmed, is_last):
         position = start
         while True:
             position = file.find_ff(position + 1) - 1
@@ -188,8 +182,8 @@ def decode_audio(track, start, end):
             behind = following_header(file, position, header, end) if mark else None
             if behind:
                 # The frame of a Xing header without a count is no audio.
-                position, header = position + header.length(), behind
-            mean = mean_bitrate(file, position, header, end)
+                position += header.length()
+            mean = mean_bitrate(file, position, behind or header, end)
             bitrate = str(nearest(mean))
             seconds = (end - position) * 8 / (mean * 1000)
         whole = min(int(seconds), MOST_SECONDS)
