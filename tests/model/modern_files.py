@@ -175,7 +175,7 @@ class ModernFiles:
         self.plain_sizes = version == 4 and self.chance(0.15)
         frames = [self.frame(version) for _ in range(self.pick([1, 3, 5, 8, 12]))]
         if self.chance(0.05):
-            frames.insert(self.random.randrange(len(frames) + 1), self.pick([b"\0" * 10, b"tit2", b"TT2\0\0\0\0\x05\0\0"]))
+            frames.insert(self.random.randrange(len(frames) + 1), self.pick([b"\0" * 10, b"tit2\0\0\0\2\0\0\0a"]))
         body = b"".join(frames)
         if version > 2 and self.chance(0.1):
             flags |= 0x40

@@ -309,7 +309,7 @@ def read_id3v2(tag, code_page):
             if name in names and content and content[0] <= 3:
                 more = field_values(content[1:], content[0], code_page)
                 if is_cut:
-                    more = more[:1]
+                    more = [text for text in pieces_of(content[1:], content[0], code_page)[:1] if text != ""]
                 if field == "genre":
                     more = [genre for value in more for genre in genres_of(value)]
                 values[field] = with_more(values[field], more)

@@ -71,13 +71,13 @@ def from_iconv(data, name):
     return text
 
 
-def from_code_page(data, name):
-    return from_iconv(data, name or WESTERN)
-
-
 def from_utf8(data):
     # Python replaces each maximal subpart of an ill-formed sequence by one U+FFFD.
     return data.decode("utf-8", "replace")
+
+
+def from_code_page(data, name):
+    return from_utf8(data) if name.upper() == "UTF-8" else from_iconv(data, name or WESTERN)
 
 
 def from_units(units):
