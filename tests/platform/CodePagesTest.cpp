@@ -135,6 +135,7 @@ TEST(CodePage, IsSafeOnManyThreads) {
         page.AppendDecoded(expected, bytes);
         std::vector<std::string> texts(4);
         std::vector<std::thread> threads;
+        threads.reserve(texts.size());
         for (std::string& text : texts) {
             threads.emplace_back([&] {
                 for (int i = 0; i < 200; ++i) {

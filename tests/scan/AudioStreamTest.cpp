@@ -194,11 +194,14 @@ TEST(MeasureAudio, LeavesOutTheTagsAtBothEnds) {
     const std::string audio = OrdinaryFrames(10);
     const std::string old = test::Id3v1Tag({"t", "a", "", "", "", 0});
     const std::string ape = test::ApeTag({{"Title", std::string(3000, 't')}});
+    const std::string longEnd = ape + test::Lyrics3v2("IND") + old;
     for (const std::string& head :
          {""s, TagOf(3, std::string(100, '\0')), TagOf(2, "") + TagOf(4, "xx", 0x10) + std::string(10, '\0'),
           ape, TagOf(4, "") + ape}) {
-        for (const std::string& end : {""s, old, ape, ape + test::Lyrics3v2("IND") + old}) {
-            const AudioStream stream = Measured(head + audio + end);
+        for (const std::string& end : {""s, old, ape, longEnd}) {
+            std::string file = head;
+            file.append(audio).append(end);
+            const AudioStream stream = Measured(file);
             EXPECT_NEAR(stream.seconds, 4170 / 16000.0, 1e-6) << head.size() << " " << end.size();
         }
     }

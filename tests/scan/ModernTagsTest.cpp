@@ -171,10 +171,12 @@ TEST(ReadModernTags, ReadsApeItemsUpToABrokenOne) {
         "\1\0\0\0\0\0\0\0Album"s,                             // no end of the key
     };
     for (const std::string& item : broken) {
-        const TrackInfo track = TagsOf(OrdinaryFrames(3) + ApeTagOf(title + item, 9)).track;
+        std::string items = title;
+        items += item;
+        const TrackInfo track = TagsOf(OrdinaryFrames(3) + ApeTagOf(items, 9)).track;
         EXPECT_EQ(track.Title, "t");
         EXPECT_EQ(track.Album, "");
-        EXPECT_EQ(TagsOf(OrdinaryFrames(3) + ApeTagOf(title + item + artist, 9)).track.Title, "t");
+        EXPECT_EQ(TagsOf(OrdinaryFrames(3) + ApeTagOf(items.append(artist), 9)).track.Title, "t");
     }
     EXPECT_EQ(TagsOf(ApeTagOf(ApeItem("", "") + title, 1)).track.Title, "t") << "an empty key";
     const std::string large(100000, 'l');
