@@ -45,7 +45,7 @@ class Place:
     """A tag in a file: `start` of its bytes, `end` behind them."""
 
     def __init__(self, kind, start, end):
-        self.kind = kind  # "ID3v2", "APEv2", "Lyrics3" or "ID3v1"
+        self.kind = kind  # "ID3v2", "APEv2", "Lyrics3", "ID3v1" or "end" for an appended ID3v2.4
         self.start = start
         self.end = end
 
@@ -139,6 +139,15 @@ def ape_start(file, end):
     return start if start >= 0 else end
 
 
+def appended_start(file, end):
+    """Where an ID3v2.4 tag starts that is appended to the audio (structure section 3.4); it is skipped, not read."""
+    footer = bytes_at(file, end - 10, 10) if end >= 20 else b""
+    if footer[:3] != b"3DI" or footer[3] != 4:
+        return end
+    start = end - 20 - synchsafe(footer[6:10])
+    return start if start >= 0 and bytes_at(file, start, 3) == b"ID3" else end
+
+
 def trailing_tags(file):
     places = []
     end = file.length
@@ -147,7 +156,8 @@ def trailing_tags(file):
         places.append(Place("ID3v1", end - 128, end))
         end -= 128
     while True:
-        for kind, start in (("Lyrics3", lyrics_start(file, end)), ("APEv2", ape_start(file, end))):
+        found = [("Lyrics3", lyrics_start(file, end)), ("APEv2", ape_start(file, end)), ("end", appended_start(file, end))]
+        for kind, start in found:
             if start < end:
                 places.append(Place(kind, start, end))
                 end = start
