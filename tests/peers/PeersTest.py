@@ -50,7 +50,7 @@ def run_program(folder, music):
     (installation / "Tunedex.cfg").write_text(lines, "utf-8", newline="")
     environment = {"PATH": os.environ["PATH"], "HOME": str(folder), "XDG_CONFIG_HOME": str(folder / "config"),
                    "XDG_CONFIG_DIRS": str(folder)}  # fmt: skip
-    result = subprocess.run([PROGRAM, "/AUTO"], cwd=folder, env=environment | surroundings.kept(), timeout=120,
+    result = subprocess.run([PROGRAM, "/AUTO"], cwd=folder, env=environment | surroundings.kept(), timeout=600,
                             stdin=subprocess.DEVNULL, capture_output=True, check=False)  # fmt: skip
     if result.returncode != 0:
         raise AssertionError(f"status {result.returncode}\n{result.stderr.decode('utf-8', 'replace')}")
