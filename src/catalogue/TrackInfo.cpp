@@ -12,7 +12,7 @@ void TrackInfo::Clear() {
     const auto clear = [this](std::string TrackInfo::*member) {
         std::string& value = this->*member;
         if (value.capacity() > kMostKept) {
-            value = std::string();
+            std::string().swap(value); // an assignment would keep the memory
         }
         value.clear();
     };
