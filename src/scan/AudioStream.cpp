@@ -46,8 +46,9 @@ double SecondsOf(double frames, const FrameHead& head) {
 
 constexpr double kBytesOfKbit = 125;
 
-double KbitsPerSecond(double bytes, double seconds) {
-    return bytes / kBytesOfKbit / seconds;
+// With one division, so that a mean of exactly half a kbit/s is not rounded down.
+double KbitsPerSecond(double bytes, double frames, const FrameHead& head) {
+    return bytes * head.frequency / (kBytesOfKbit * frames * head.Samples());
 }
 
 // Lengths and bitrates of the frames from `offset` on.
@@ -72,7 +73,8 @@ class FirstFrames {
     }
     bool Varies() const { return varies_; }
     std::int32_t Bitrate() const { return bitrate_; }
-    double MeanLength() const { return bytes_ / count_; }
+    double Bytes() const { return bytes_; }
+    int Count() const { return count_; }
 
   private:
     const AudioBytes& audio_;
@@ -93,7 +95,7 @@ void Estimate(const AudioBytes& audio, std::uint64_t offset, const FrameHead& he
     stream.bitrate = frames.Bitrate();
     if (frames.Varies()) {
         frames.CountUpTo(kFramesAveraged);
-        stream.bitrate = KbitsPerSecond(frames.MeanLength(), SecondsOf(1, head));
+        stream.bitrate = KbitsPerSecond(frames.Bytes(), frames.Count(), head);
     }
     stream.seconds = bytes / kBytesOfKbit / stream.bitrate;
 }
@@ -114,7 +116,7 @@ void MeasureTime(const AudioBytes& audio, const FoundFrame& frame, AudioStream& 
         stream.seconds = SecondsOf(vbr->frameCount, frame.head);
         // An Info header may be in a frame of another bitrate than the audio behind it.
         const FrameHead& audio = frame.nextHead ? *frame.nextHead : frame.head;
-        stream.bitrate = vbr->variable ? KbitsPerSecond(bytes, stream.seconds) : audio.bitrate;
+        stream.bitrate = vbr->variable ? KbitsPerSecond(bytes, vbr->frameCount, frame.head) : audio.bitrate;
     } else if (vbr && frame.nextHead) {
         Estimate(audio, frame.offset + frame.length, frame.head, bytes - static_cast<double>(frame.length),
                  stream);

@@ -16,7 +16,7 @@ namespace {
 constexpr unsigned kTagUnsynchronised = 0x80;
 constexpr unsigned kTagCompressed22 = 0x40; // only in 2.2
 constexpr unsigned kTagExtended = 0x40;     // from 2.3 on
-constexpr unsigned kTagFooter = 0x10;       // from 2.4 on
+constexpr unsigned kTagFooter = 0x10;       // only in 2.4
 
 constexpr std::size_t kFrameHeaderBytes = 10;
 constexpr std::size_t kFrameHeaderBytes22 = 6;
@@ -187,7 +187,7 @@ std::optional<Id3v2Header> ParseId3v2Header(std::span<const std::uint8_t> bytes)
     header.version = bytes[3];
     header.flags = bytes[5];
     header.bodyBytes = IsSynchsafe(size) ? SynchsafeSize(size) : PlainSize(size);
-    const bool footer = header.version >= 4 && (header.flags & kTagFooter) != 0;
+    const bool footer = header.version == 4 && (header.flags & kTagFooter) != 0;
     header.tagBytes = kId3v2HeaderBytes + header.bodyBytes + (footer ? kId3v2HeaderBytes : 0);
     return header;
 }

@@ -36,7 +36,7 @@ struct ResultDesk : Desk {
         Show();
     }
     void AddSong(const std::string& name, const std::string& title) {
-        folder.Write("music/" + name, Id3v2Tag({{"TIT2", title}}) + Audio(4000));
+        folder.Write("music/" + name, Id3v2Tag({{"TIT2", title}}) + Audio(417) + Audio(417));
     }
     void SetOutput(const std::string& path) { Find<QLineEdit>(Main(), "txtOutputFile").setText(ToQt(path)); }
     void Run() {
