@@ -112,13 +112,13 @@ void PutCsvHeaders(PageBuffer& page, const Listing& listing) {
 } // namespace
 
 bool WriteCsvListing(Listing& listing) {
-    if (listing.columns.empty()) {
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    }
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kCsvOutput, path, ListingStyle::Modern);
     PageBuffer page;
     ListingFile file(page, path, TextEncoding::Utf8, listing.monitor);
+    if (listing.columns.empty()) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    }
     page.Put(kByteOrderMark);
     PutCsvHeaders(page, listing);
     bool aborted = false;

@@ -134,10 +134,13 @@ TEST(Latin1References, FindTheCharactersToReplaceAnywhereInALongText) {
     // Blocks of 64 bytes are tested at once.
     for (std::size_t length = 0; length < 150; ++length) {
         const std::string plain(length, '~');
+        const auto around = [&](const char* middle) {
+            return std::string(plain).append(middle).append(plain);
+        };
         EXPECT_TRUE(IsDocumentAscii(plain));
-        EXPECT_EQ(InLatin1(plain + "\x7F" + plain), plain + "&#65533;" + plain);
-        EXPECT_FALSE(IsDocumentAscii(plain + "\x7F" + plain));
-        EXPECT_FALSE(IsDocumentAscii(plain + "\xC3\xA9" + plain));
+        EXPECT_EQ(InLatin1(around("\x7F")), around("&#65533;"));
+        EXPECT_FALSE(IsDocumentAscii(around("\x7F")));
+        EXPECT_FALSE(IsDocumentAscii(around("\xC3\xA9")));
     }
     EXPECT_TRUE(IsDocumentAscii("\t\r\n "));
 }
