@@ -40,7 +40,7 @@ class FocusLabel final : public QLabel {
 
 // All letters of the captions are mnemonics of the main window, so these buttons have other shortcuts.
 QPushButton* MakeResultButton(const QString& objectName, const QString& text, const QString& description,
-                              const QKeySequence& shortcut, const QString& accessibleName) {
+                              const QKeySequence& shortcut, const QString& accessibleName = {}) {
     QPushButton* button = MakeButton(objectName, text, description, accessibleName);
     button->setShortcut(shortcut);
     return button;
@@ -69,11 +69,11 @@ void ResultPanel::BuildControls() {
     lblResult_->setMargin(3); // room for the focus frame
     lblResult_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     lblResult_->setFocusPolicy(Qt::StrongFocus);
-    cmdOpenResult_ = MakeResultButton(u"cmdOpenResult"_s, tr("Open"), tr("Open the list (Ctrl+L)"),
-                                      Qt::CTRL | Qt::Key_L, tr("Open the list"));
+    cmdOpenResult_ =
+        MakeResultButton(u"cmdOpenResult"_s, tr("Open"), tr("Open the list (Ctrl+L)"), Qt::CTRL | Qt::Key_L);
     cmdShowFolder_ =
         MakeResultButton(u"cmdShowFolder"_s, tr("Show folder"), tr("Open the list's folder (Ctrl+Shift+L)"),
-                         Qt::CTRL | Qt::SHIFT | Qt::Key_L, tr("Show the list's folder"));
+                         Qt::CTRL | Qt::SHIFT | Qt::Key_L);
     cmdSwitchModern_ = MakeResultButton(u"cmdSwitchModern"_s, tr("Switch on"),
                                         tr("Switch on \u201CModern tags and lists\u201D (Ctrl+M)"),
                                         Qt::CTRL | Qt::Key_M, tr("Switch on Modern tags and lists"));
