@@ -70,14 +70,15 @@ void AppendConverted(std::string& text, std::string_view bytes, const std::strin
     while (!bytes.empty()) {
         const int failure = conversion.Convert(text, bytes);
         conversion.Flush(text);
-        if (failure == EINVAL) {
-            text += kReplacement;
+        if (failure == 0) {
             return;
         }
-        if (failure != 0) {
-            text += kReplacement;
-            bytes.remove_prefix(1);
+        text += kReplacement;
+        // glibc can refuse a last byte that it has taken already.
+        if (failure == EINVAL || bytes.empty()) {
+            return;
         }
+        bytes.remove_prefix(1);
     }
 }
 

@@ -86,6 +86,7 @@ TEST(CodePage, ReplacesWhatThePageDoesNotDefine) {
         {"CP932", "\x93\x20z", "\uFFFD z"},
         {"GB18030", "\x81\x30\x84", "\uFFFD"},
         {"CP949", "z\xC9", "z\uFFFD"},
+        {"CP949", "z\xA2\xE8", "z\uFFFD"},
         {"windows-1258", "a\xD2\xE2", "\u1EA3â"},
         {"UTF-8", "\xE2\x82z\xFF", "\uFFFDz\uFFFD"},
         {"utf8", "\xE2\x82z\xFF", "\uFFFDz\uFFFD"},
