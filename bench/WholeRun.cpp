@@ -7,11 +7,9 @@
 #include "Application.h"
 #include "DefaultSettings.h"
 #include "ListJob.h"
+#include "QtCollation.h"
 #include "Startup.h"
 #include "TerminalFrontEnd.h"
-#ifdef TUNEDEX_HAS_QT
-#include "QtCollation.h"
-#endif
 
 #include <chrono>
 #include <cstdlib>
@@ -108,9 +106,7 @@ int main(int argc, char** argv) {
     NoPause clock;
     NoRegistry registry;
     tunedex::Application application{clock, registry, std::cerr};
-#ifdef TUNEDEX_HAS_QT
     application.collation = std::make_shared<tunedex::QtCollation>(tunedex::CollationLanguage());
-#endif
     tunedex::Settings& settings = application.settings;
     settings = tunedex::DefaultSettings();
     settings.Directory = argv[1];

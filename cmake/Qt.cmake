@@ -1,13 +1,21 @@
-# TUNEDEX_HAS_QT: whether the windows and the program are built. AUTO builds them where Qt is found; the floors below
-# them are built in any case.
-set(TUNEDEX_WITH_QT AUTO CACHE STRING "Build the windows and the program: ON, OFF or AUTO")
-set_property(CACHE TUNEDEX_WITH_QT PROPERTY STRINGS AUTO ON OFF)
-if(TUNEDEX_WITH_QT STREQUAL "OFF")
-    set(TUNEDEX_HAS_QT FALSE)
-elseif(TUNEDEX_WITH_QT STREQUAL "ON")
-    find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Test)
-    set(TUNEDEX_HAS_QT TRUE)
-else()
-    find_package(Qt6 6.4 QUIET COMPONENTS Core Gui Widgets Test)
-    set(TUNEDEX_HAS_QT ${Qt6_FOUND})
+# TUNEDEX_WINDOWS: whether the program has windows. Without them it needs Qt Core alone: settings, collation. Fails where
+# Qt is missing, because there would be no program to install.
+option(TUNEDEX_WINDOWS "Build the windows; without them the program runs in the terminal only" ON)
+
+set(QT_COMPONENTS Core)
+if(TUNEDEX_WINDOWS)
+    list(APPEND QT_COMPONENTS Gui Widgets)
+endif()
+if(TUNEDEX_TESTS OR TUNEDEX_WINDOWS) # tools/screenshots needs it, too
+    list(APPEND QT_COMPONENTS Test)
+endif()
+find_package(Qt6 6.4 QUIET COMPONENTS ${QT_COMPONENTS})
+if(NOT Qt6_FOUND)
+    set(ADVICE "")
+    if(TUNEDEX_WINDOWS)
+        set(ADVICE " -DTUNEDEX_WINDOWS=OFF builds the program without windows; it needs Qt Core only.")
+    endif()
+    list(JOIN QT_COMPONENTS ", " QT_COMPONENTS)
+    message(FATAL_ERROR "Qt 6.4 or newer is missing (${QT_COMPONENTS}), so there would be no program to install. "
+                        "Debian's package is qt6-base-dev.${ADVICE}\n${Qt6_NOT_FOUND_MESSAGE}")
 endif()

@@ -3,13 +3,12 @@
 
 #include "Application.h"
 #include "CommandLine.h"
-#include "Display.h"
 #include "ExitStatus.h"
+#include "OpenWindows.h"
 #include "QSettingsRegistry.h"
 #include "QtCollation.h"
 #include "RunTerminal.h"
 #include "RunTimeError.h"
-#include "RunWindows.h"
 #include "Startup.h"
 
 #include <csignal>
@@ -66,14 +65,10 @@ int Run(int argc, char** argv) {
         return WriteDefaults(application, *path);
     }
     const bool automatic = tunedex::IsAutomatic(arguments);
-    if (!tunedex::DisplayVariables().empty()) {
-        return tunedex::RunWindows(argc, argv, application, automatic);
-    }
-    if (automatic) {
+    if (automatic && !tunedex::CanOpenWindows()) {
         return tunedex::RunTerminal(application, arguments);
     }
-    std::cerr << "Tunedex: there is no display to open its window on. Without one, start it with /AUTO.\n";
-    return tunedex::kExitCannotStart;
+    return tunedex::OpenWindows(argc, argv, application, automatic);
 }
 
 } // namespace

@@ -48,9 +48,6 @@ class ProgramTest(runs.ProgramRun):
         for argument in ("/auto", "x/AutoY"):
             self.expect(self.run_program("some.cfg", argument), 0)
 
-    def test_fails_to_start_without_a_display(self):
-        self.expect(self.run_program("some.cfg"), 2, b"display")
-
     def paths(self):
         return sorted(self.folder.rglob("*"))
 
@@ -71,28 +68,7 @@ class ProgramTest(runs.ProgramRun):
     def test_reads_help_as_an_option_only_as_the_single_argument(self):
         self.track("a.mp3")
         self.expect(self.run_program("--help", "/AUTO"), 0, *STATUSES)
-        self.expect(self.run_program("--Help"), 2, b"display")
-
-    def test_names_the_unusable_display_and_the_command_without_one(self):
-        self.track("a.mp3")
-        self.write_settings()
-        self.program()
-        before = self.paths()
-        nowhere = {"DISPLAY": ":65535", "WAYLAND_DISPLAY": "nowhere", "QT_QPA_PLATFORM": "nonsense"}
-        for names in (["DISPLAY"], ["WAYLAND_DISPLAY"], ["QT_QPA_PLATFORM"], ["DISPLAY", "WAYLAND_DISPLAY"],
-                      list(nowhere)):
-            variables = {name: nowhere[name] for name in names}
-            expected = "Tunedex could not open the display.\n" + "".join(
-                f'{name} is "{value}".\n' for name, value in variables.items())
-            command = ["env", *(word for name in names for word in ("-u", name)), "tunedex /AUTO"]
-            expected += f"To make the list without a display: {' '.join(command)}\n"
-            for arguments in ([], ["/AUTO"], ["some.cfg"]):
-                with self.subTest(arguments=arguments, **variables):
-                    result = subprocess.run([self.program(), *arguments], capture_output=True, timeout=240, check=False,
-                                            cwd=self.folder, env=self.environment(**variables))
-                    self.expect(result, 2)
-                    self.assertEqual(result.stderr.decode(), expected)
-                    self.assertEqual(self.paths(), before)
+        self.expect(self.run_program("--Help"), 2, b"/AUTO")
 
     def test_writes_the_same_bytes_twice(self):
         for number in range(40):

@@ -1,0 +1,23 @@
+#include "OpenWindows.h"
+
+#include "Display.h"
+#include "ExitStatus.h"
+#include "RunWindows.h"
+
+#include <iostream>
+
+namespace tunedex {
+
+bool CanOpenWindows() {
+    return !DisplayVariables().empty();
+}
+
+int OpenWindows(int argc, char** argv, Application& application, bool automatic) {
+    if (CanOpenWindows()) {
+        return RunWindows(argc, argv, application, automatic);
+    }
+    std::cerr << "Tunedex: there is no display to open its window on. Without one, start it with /AUTO.\n";
+    return kExitCannotStart;
+}
+
+} // namespace tunedex
