@@ -73,7 +73,9 @@ void TakeMainFields(Settings& settings, const MainFields& fields) {
 }
 
 void TakeLayoutControls(Settings& settings) {
-    settings.DocumentType = settings.DocumentType == "XHTML" ? "XHTML" : "HTML";
+    if (settings.DocumentType != "XHTML" && settings.DocumentType != "HTML5") {
+        settings.DocumentType = "HTML";
+    }
 }
 
 RunOutcome CreateListCommand(Application& application, UserInterface& ui) {

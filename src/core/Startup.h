@@ -23,7 +23,7 @@ MainFields FieldsFor(const Settings& settings);
 // Copies the main window's fields into the settings: output file and the three titles.
 void TakeMainFields(Settings& settings, const MainFields& fields);
 // The effect of the layout editor's controls on settings. Required: every document type except exactly
-// "XHTML" becomes "HTML".
+// "XHTML" and "HTML5" becomes "HTML".
 void TakeLayoutControls(Settings& settings);
 
 // The Create List command: takes the folder field, loads the entity table and runs the list job.

@@ -48,7 +48,7 @@ struct Settings {
     bool ErrorWarnings = false;
     bool ErrorLog = false;
     bool ConfirmQuit = false;
-    std::string DocumentType; // "HTML" or "XHTML"
+    std::string DocumentType; // "HTML", "XHTML" or "HTML5"
 
     bool DoLinks = false;
     std::int16_t LinkType = 0; // 0 normal, 1 UNIX, 2 relative
@@ -73,6 +73,7 @@ struct Settings {
     std::int16_t TablePadding = 0;
     std::int16_t TableBorder = 0;
     std::int16_t TableSpacing = 0; // required: read from files, never written
+    bool GroupByAlbum = false;     // HTML5 pages: a heading row for each album
     bool Modern = false;           // reads, sorts and writes by today's conventions
 
     std::string TagCodePage; // of ID3v1 and ID3v2 encoding 0, an iconv name; empty: kDefaultCodePage

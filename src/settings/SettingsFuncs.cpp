@@ -79,6 +79,7 @@ constexpr std::array kRows = {
     Row{"TableWidth", TableWidth{}},
     Row{"TablePadding", &Settings::TablePadding},
     Row{"TableBorder", &Settings::TableBorder},
+    Row{"GroupByAlbum", &Settings::GroupByAlbum, true},
     Row{"TagCodePage", CodePageSetting{}, true},
     Row{"Modern", &Settings::Modern, true},
 };
@@ -152,8 +153,8 @@ void ApplyLine(Settings& settings, std::string_view line) {
 
 // Of a row that is written only when set.
 bool IsSet(const Settings& settings, const Row& row) {
-    return std::holds_alternative<CodePageSetting>(row.value) ? !settings.TagCodePage.empty()
-                                                              : settings.Modern;
+    const auto* const flag = std::get_if<FlagMember>(&row.value);
+    return flag == nullptr ? !settings.TagCodePage.empty() : settings.**flag;
 }
 
 // Writes settings as lines and collects the keys of those that hold a line break.
@@ -278,6 +279,7 @@ LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std:
         return LoadOutcome::DefaultsApplied;
     }
     const std::vector<std::string> lines = ReadTextLines(file, StrayBytes::Escaped);
+    settings.GroupByAlbum = false;
     settings.TagCodePage.clear();
     settings.Modern = false;
     ApplySettings(settings, lines, file, faults);

@@ -29,10 +29,10 @@ enum class LoadOutcome {
 };
 
 // Reads a settings or theme file over `settings`; members whose keys it lacks keep their values, except
-// TagCodePage and Modern, which become empty and false: a file names them only when they are set. An empty
-// path means the default file in `programFolder` (which ends in a separator); if that does not exist,
-// `settings` becomes `defaults`. An invalid line is skipped and reported on `faults`. Raises the error of a
-// file that cannot be read.
+// GroupByAlbum, TagCodePage and Modern, which become false, empty and false: a file names them only when they
+// are set. An empty path means the default file in `programFolder` (which ends in a separator); if that does
+// not exist, `settings` becomes `defaults`. An invalid line is skipped and reported on `faults`. Raises the
+// error of a file that cannot be read.
 LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std::string& programFolder,
                          const Settings& defaults, std::ostream& faults);
 

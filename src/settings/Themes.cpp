@@ -61,9 +61,11 @@ bool IsThemeName(const std::string& name) {
 
 LoadOutcome LoadThemeFile(Settings& settings, const std::string& path, const std::string& programFolder,
                           std::ostream& faults) {
+    const bool groupByAlbum = settings.GroupByAlbum;
     const std::string codePage = settings.TagCodePage;
     const bool modern = settings.Modern;
     const LoadOutcome outcome = LoadSettings(settings, path, programFolder, settings, faults);
+    settings.GroupByAlbum = groupByAlbum;
     settings.TagCodePage = codePage;
     settings.Modern = modern;
     return outcome;

@@ -35,8 +35,8 @@ struct ThemeContent {
     std::string tableBorder;
 };
 
-// Reads a theme file over `settings`, as LoadSettings() does; the code page of tags and the modern mode stay
-// as they are.
+// Reads a theme file over `settings`, as LoadSettings() does; the grouping by album, the code page of tags
+// and the modern mode stay as they are.
 LoadOutcome LoadThemeFile(Settings& settings, const std::string& path, const std::string& programFolder,
                           std::ostream& faults);
 

@@ -154,9 +154,11 @@ TEST(StampNow, HasVersionDateAndTimeInTheUsersFormats) {
     EXPECT_EQ(stamp.time, "14:05");
 }
 
-TEST(TakeLayoutControls, LeavesOnlyTheTwoDocumentTypes) {
+TEST(TakeLayoutControls, LeavesOnlyTheThreeDocumentTypes) {
     const std::vector<std::pair<const char*, const char*>> rows = {
-        {"XHTML", "XHTML"}, {"HTML", "HTML"}, {"xhtml", "HTML"}, {"", "HTML"}, {"XHTML ", "HTML"}};
+        {"XHTML", "XHTML"}, {"HTML", "HTML"},   {"HTML5", "HTML5"}, {"xhtml", "HTML"},
+        {"", "HTML"},       {"XHTML ", "HTML"}, {"html5", "HTML"},  {"HTML5 ", "HTML"},
+        {" HTML5", "HTML"}, {"HTML 5", "HTML"}, {"XHTML5", "HTML"}, {"HTML51", "HTML"}};
     for (const auto& [before, after] : rows) {
         Settings settings;
         settings.DocumentType = before;

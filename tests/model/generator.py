@@ -2,6 +2,7 @@
 
 import os
 import random
+import re
 import struct
 import time
 
@@ -73,6 +74,7 @@ class Case:
         # Decided apart from `random`, so that cases with Modern off do not depend on it.
         self.apart = random.Random(f"modern {seed}")
         self.modern = ModernFiles(self.apart) if self.apart.random() < 1 / 3 else None
+        self.document = random.Random(f"document {seed}")
         self.root = root
         self.large_files = 0
         self.folders = []
@@ -713,6 +715,7 @@ class Case:
             self.random.shuffle(lines)
         if self.chance(0.2 if self.tame else 0.5):
             self._spoil(lines)
+        self._add_document_type(lines)
         for i, line in enumerate(lines):
             lines[i] = self._in_some_encoding(line)
         ends = self.line_end()
@@ -721,6 +724,15 @@ class Case:
         if self.chance(0.3) and data:
             data = data[: -len(ends)] if data.endswith(ends) else data
         self.write(os.path.join(self.program_folder, "Tunedex.cfg"), self.marked(data))
+
+    def _add_document_type(self, lines):
+        """Sometimes adds the settings of HTML5 pages, which the model does not write: "HTML5" where no page is written."""
+        if self.document.random() > 0.06:
+            return
+        writes_pages = not re.search(rb"(?i)^outputfile=.*\.(txt|text|m3u)$", b"\n".join(lines), re.MULTILINE)
+        kind = self.document.choice([b"html5", b"HTML5 ", b" HTML5", b"HTML 5", b"XHTML5"] if writes_pages else [b"HTML5"])
+        lines.append(b"DocumentType=" + kind)
+        lines.insert(self.document.randrange(len(lines)), b"GroupByAlbum=" + self.document.choice([b"1", b"1", b"0", b"x"]))
 
     def _in_some_encoding(self, line):
         text = line.decode("utf-8", "surrogateescape")

@@ -483,7 +483,8 @@ class Model:
         if not multiple and not self._folder_exists(s.Directory):
             self._message("The specified directory does not exist!", OK_EXCLAMATION, ERROR_TITLE)
             return
-        s.DocumentType = "XHTML" if s.DocumentType == "XHTML" else "HTML"
+        if s.DocumentType not in ("XHTML", "HTML5"):
+            s.DocumentType = "HTML"
         if s.Directory in ("", MULT):
             self._message(f"No input {word} specified!", OK_EXCLAMATION, ERROR_TITLE)
             return

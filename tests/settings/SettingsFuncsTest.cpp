@@ -269,6 +269,7 @@ TEST_F(SettingsFile, ReadsEveryKeyInAnyCase) {
          }},
         {"FontCSS=1", [](Settings& s) { s.FontCSS = true; }},
         {"FontHTML=1", [](Settings& s) { s.FontHTML = true; }},
+        {"GroupByAlbum=1", [](Settings& s) { s.GroupByAlbum = true; }},
         {"InactiveColumns=Genre", [](Settings& s) { s.InactiveColumns = "Genre"; }},
         {"LinkPrefix=http://x/", [](Settings& s) { s.LinkPrefix = "http://x/"; }},
         {"LinkType=2", [](Settings& s) { s.LinkType = 2; }},
@@ -287,7 +288,7 @@ TEST_F(SettingsFile, ReadsEveryKeyInAnyCase) {
         {"TableWidth=2/75", [](Settings& s) { s.TableWidthUnit = 2, s.TableWidth = 75; }},
         {"WindowTitle=w", [](Settings& s) { s.WindowTitle = "w"; }},
     };
-    ASSERT_EQ(rows.size(), 31U);
+    ASSERT_EQ(rows.size(), 32U);
     for (const Row& row : rows) {
         Settings expected;
         row.set(expected);
@@ -435,26 +436,32 @@ TEST_F(SettingsFile, SkipsEachKindOfInvalidLine) {
     }
 }
 
-TEST_F(SettingsFile, EndsWithTheCodePageAndTheModernModeOnlyWhenTheyAreSet) {
+TEST_F(SettingsFile, EndsWithGroupingCodePageAndModernModeOnlyWhenTheyAreSet) {
     struct Row {
+        bool grouped;
         const char* codePage;
         bool modern;
         const char* end;
     };
     const Row rows[] = {
-        {"", false, "TableBorder=1\r\n"},
-        {"", true, "TableBorder=1\r\nModern=1\r\n"},
-        {"windows-1251", false, "TableBorder=1\r\nTagCodePage=windows-1251\r\n"},
-        {"windows-1251", true, "TableBorder=1\r\nTagCodePage=windows-1251\r\nModern=1\r\n"},
+        {false, "", false, "TableBorder=1\r\n"},
+        {false, "", true, "TableBorder=1\r\nModern=1\r\n"},
+        {false, "windows-1251", false, "TableBorder=1\r\nTagCodePage=windows-1251\r\n"},
+        {false, "windows-1251", true, "TableBorder=1\r\nTagCodePage=windows-1251\r\nModern=1\r\n"},
+        {true, "", false, "TableBorder=1\r\nGroupByAlbum=1\r\n"},
+        {true, "", true, "TableBorder=1\r\nGroupByAlbum=1\r\nModern=1\r\n"},
+        {true, "KOI8-R", true, "TableBorder=1\r\nGroupByAlbum=1\r\nTagCodePage=KOI8-R\r\nModern=1\r\n"},
     };
     for (const Row& row : rows) {
         Settings settings = SampleSettings();
         settings.TableBorder = 1;
+        settings.GroupByAlbum = row.grouped;
         settings.TagCodePage = row.codePage;
         settings.Modern = row.modern;
         const std::string saved = Saved(settings);
         EXPECT_TRUE(saved.ends_with(row.end)) << row.end;
         Settings before = SampleSettings();
+        before.GroupByAlbum = !row.grouped;
         before.TagCodePage = "KOI8-R";
         before.Modern = !row.modern;
         EXPECT_TRUE(Loaded(saved, before) == settings) << row.end;
@@ -516,7 +523,7 @@ class RandomSettings {
         for (bool* flag :
              {&settings.Recurse, &settings.ErrorWarnings, &settings.ErrorLog, &settings.ConfirmQuit,
               &settings.DoLinks, &settings.MoveTheArtists, &settings.FontCSS, &settings.FontHTML,
-              &settings.AltRows, &settings.ColourCSS, &settings.ColourHTML}) {
+              &settings.AltRows, &settings.ColourCSS, &settings.ColourHTML, &settings.GroupByAlbum}) {
             *flag = random_() % 2 == 0;
         }
         for (std::int16_t* number :

@@ -14,7 +14,7 @@ TEST(Settings, ANewRecordIsEmptyZeroAndFalse) {
     }
     for (const bool flag : {fresh.Recurse, fresh.ErrorWarnings, fresh.ErrorLog, fresh.ConfirmQuit,
                             fresh.DoLinks, fresh.MoveTheArtists, fresh.FontCSS, fresh.FontHTML, fresh.AltRows,
-                            fresh.ColourCSS, fresh.ColourHTML}) {
+                            fresh.ColourCSS, fresh.ColourHTML, fresh.GroupByAlbum, fresh.Modern}) {
         EXPECT_FALSE(flag);
     }
     for (const int number :

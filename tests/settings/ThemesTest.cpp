@@ -128,17 +128,23 @@ TEST(Themes, ReadingAFileRestoresItsSettingsAndNoOthers) {
     EXPECT_EQ(faults.str(), "");
 }
 
-TEST(Themes, ReadingAFileKeepsTheModernModeAndTheCodePageOfTags) {
+TEST(Themes, ReadingAFileKeepsGroupingModernModeAndTheCodePageOfTags) {
     const TestFolder folder;
-    folder.Write("a.thm", "Modern=0\r\nTagCodePage=KOI8-R\r\nAltRows=1\r\n");
+    folder.Write("a.thm", "GroupByAlbum=0\r\nModern=0\r\nTagCodePage=KOI8-R\r\nAltRows=1\r\n");
     Settings settings;
+    settings.GroupByAlbum = true;
     settings.Modern = true;
     settings.TagCodePage = "CP932";
     std::ostringstream faults;
     EXPECT_EQ(LoadThemeFile(settings, folder / "a.thm", "", faults), LoadOutcome::Loaded);
+    EXPECT_TRUE(settings.GroupByAlbum);
     EXPECT_TRUE(settings.Modern);
     EXPECT_EQ(settings.TagCodePage, "CP932");
     EXPECT_TRUE(settings.AltRows);
+    folder.Write("b.thm", "GroupByAlbum=1\r\n");
+    settings.GroupByAlbum = false;
+    EXPECT_EQ(LoadThemeFile(settings, folder / "b.thm", "", faults), LoadOutcome::Loaded);
+    EXPECT_FALSE(settings.GroupByAlbum);
 }
 
 TEST(Themes, TheListHoldsFilesEndingInThmInAnyCaseAndNoFolders) {
