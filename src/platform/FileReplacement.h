@@ -7,6 +7,7 @@
 
 #include <string>
 #include <sys/stat.h>
+#include <utility>
 
 namespace tunedex {
 
@@ -23,6 +24,8 @@ class FileReplacement {
     // to a name that ends in .mp3; 76 for a missing folder; 52 for an impossible name; 57 for a FIFO without
     // a reader; other errors as ErrorFromErrno maps them.
     FileReplacement(const std::string& path, CleanedFolders* cleaned);
+    // Writes in place to a file or stream that is open already.
+    explicit FileReplacement(UniqueFd open) : written_(std::move(open)) {}
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
     // Without Commit(), removes the temporary file; the old file is unchanged.
@@ -48,7 +51,7 @@ class FileReplacement {
     void RemovePlaceholder() noexcept;
     void Discard() noexcept;
 
-    CleanedFolders* cleaned_;
+    CleanedFolders* cleaned_ = nullptr;
     UniqueFd folder_;          // folder of the real file; none when that was not located
     std::string name_;         // name of the real file in folder_
     std::string temporary_;    // name of the temporary file; empty when written in place

@@ -7,9 +7,11 @@
 
 #include <array>
 #include <cerrno>
+#include <filesystem>
 #include <poll.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tunedex {
@@ -81,6 +83,26 @@ bool FileExists(const std::string& path) {
     throw ErrorFromErrno(errno, FileTask::ReadFile);
 }
 
+std::string AbsolutePath(const std::string& path) {
+    namespace fs = std::filesystem;
+    std::error_code failure;
+    const fs::path whole = fs::absolute(path, failure);
+    if (failure) {
+        return path;
+    }
+    fs::path built = whole.root_path();
+    for (const fs::path& part : whole.relative_path()) {
+        if (part == "..") {
+            // The parent of a link is that of its target.
+            const fs::path target = fs::is_symlink(built, failure) ? fs::canonical(built, failure) : built;
+            built = (failure ? built : target).parent_path();
+        } else if (!part.empty() && part != ".") {
+            built /= part;
+        }
+    }
+    return built.string();
+}
+
 void CreateFolder(const std::string& path) {
     if (HoldsNul(path)) {
         throw ErrorFromErrno(EINVAL, FileTask::UseFolder);
@@ -98,11 +120,13 @@ void CreateFolders(const std::string& folderPrefix) {
     }
 }
 
-bool WriteWhole(int descriptor, std::string_view rest, const StopTest& stop) {
+bool WriteWhole(int descriptor, std::string_view rest, const StopTest& stop, BrokenPipe brokenPipe) {
     while (!rest.empty()) {
         const ssize_t done = Uninterrupted([&] { return write(descriptor, rest.data(), rest.size()); });
         if (done >= 0) {
             rest.remove_prefix(static_cast<std::size_t>(done));
+        } else if (errno == EPIPE && brokenPipe == BrokenPipe::Stops) {
+            return false;
         } else if (errno != EAGAIN) {
             throw ErrorFromErrno(errno, FileTask::WriteFile);
         } else if (!WaitUntilWritable(descriptor, stop)) {

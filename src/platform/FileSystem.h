@@ -20,6 +20,10 @@ bool FolderExists(const std::string& path);
 // missing path.
 bool FileExists(const std::string& path);
 
+// The path from the root, without "." and "..". Links stay as they are named, except one that ".." leaves
+// again. A path that cannot be made absolute (the current folder is gone) is returned as it is.
+std::string AbsolutePath(const std::string& path);
+
 // Creates one folder. Raises errors 61, 75, 76 and the like.
 void CreateFolder(const std::string& path);
 
@@ -29,8 +33,11 @@ void CreateFolders(const std::string& folderPrefix);
 
 // Writes all bytes to an open file. Waits on a non-blocking descriptor that is full (pipe, stopped terminal),
 // calling `stop` before the wait and about every 20 ms. Returns false when `stop` ended the wait; part of the
-// bytes may then be written. Raises errors 61, 57 and the like.
-bool WriteWhole(int descriptor, std::string_view bytes, const StopTest& stop = {});
+// bytes may then be written. Raises errors 61, 57 and the like; a pipe whose reader has gone raises 57 or
+// counts as stopped.
+enum class BrokenPipe { Raises, Stops };
+bool WriteWhole(int descriptor, std::string_view bytes, const StopTest& stop = {},
+                BrokenPipe brokenPipe = BrokenPipe::Raises);
 
 // Raises error 53 when the file does not exist.
 void DeleteFile(const std::string& path);

@@ -1,6 +1,5 @@
 #include "TextFile.h"
 
-#include "FileSystem.h"
 #include "Text.h"
 
 #include <utility>
@@ -28,6 +27,9 @@ bool NeedsNoEncoding(TextEncoding encoding, std::string_view text) {
 
 TextFile::TextFile(const std::string& path, TextEncoding encoding, StopTest stop, CleanedFolders* cleaned)
     : encoding_(encoding), stop_(std::move(stop)), file_(path, cleaned) {}
+
+TextFile::TextFile(UniqueFd stream, TextEncoding encoding, StopTest stop)
+    : encoding_(encoding), stop_(std::move(stop)), brokenPipe_(BrokenPipe::Stops), file_(std::move(stream)) {}
 
 void TextFile::Write(std::string_view text) {
     // Pass a large piece that needs no encoding to write() without a copy.
@@ -81,7 +83,7 @@ void TextFile::Flush() {
 }
 
 void TextFile::Send(std::string_view bytes) {
-    stopped_ = stopped_ || !WriteWhole(file_.Descriptor(), bytes, stop_);
+    stopped_ = stopped_ || !WriteWhole(file_.Descriptor(), bytes, stop_, brokenPipe_);
 }
 
 void TextFile::Close() {

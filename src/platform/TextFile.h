@@ -2,7 +2,9 @@
 #pragma once
 
 #include "FileReplacement.h"
+#include "FileSystem.h"
 #include "StopTest.h"
+#include "UniqueFd.h"
 
 #include <cstddef>
 #include <string>
@@ -39,6 +41,9 @@ class TextFile {
     // folder only once.
     TextFile(const std::string& path, TextEncoding encoding, StopTest stop = {},
              CleanedFolders* cleaned = nullptr);
+    // Writes to an open stream, such as standard output. A reader that goes away ends the writing as the stop
+    // test does.
+    TextFile(UniqueFd stream, TextEncoding encoding, StopTest stop = {});
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
     ~TextFile() = default;
@@ -52,7 +57,8 @@ class TextFile {
 
     void Close();
 
-    // Whether the stop test ended a wait; the file is then incomplete.
+    // Whether the stop test, or the end of the stream's reader, ended the writing; the file is then
+    // incomplete.
     bool Stopped() const { return stopped_; }
 
   private:
@@ -62,6 +68,7 @@ class TextFile {
 
     TextEncoding encoding_;
     StopTest stop_;
+    BrokenPipe brokenPipe_ = BrokenPipe::Raises;
     bool stopped_ = false;
     std::string buffer_;
     FileReplacement file_;

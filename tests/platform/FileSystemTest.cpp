@@ -163,6 +163,39 @@ TEST(WriteWhole, StopsWaitingWhenTheStopTestReturnsTrue) {
                   WriteWhole(pipe.writer.Get(), "x");
               }),
               57);
+    EXPECT_FALSE(WriteWhole(pipe.writer.Get(), "x", {}, BrokenPipe::Stops));
+}
+
+TEST_F(FileSystemTest, MakesPathsAbsoluteWithoutFollowingLinks) {
+    const std::string home = folder_.Path();
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(home);
+    const std::string here = std::filesystem::current_path().string() + "/";
+    folder_.Make("deep/inner");
+    ASSERT_EQ(symlink("deep/inner", (folder_ / "link").c_str()), 0);
+    const struct {
+        std::string path;
+        std::string absolute;
+    } rows[] = {
+        {".", here.substr(0, here.size() - 1)},
+        {"file", here + "file"},
+        {"./folder//", here + "folder"},
+        {"missing/a.htm", here + "missing/a.htm"},
+        {"folder/../file", here + "file"},
+        {"missing/../file", here + "file"},
+        {"link/a.mp3", here + "link/a.mp3"},
+        {"link/../b.mp3", here + "deep/b.mp3"},
+        {"to-folder/..", here.substr(0, here.size() - 1)},
+        {"dangling/../x", here + "x"},
+        {"/", "/"},
+        {"/../..", "/"},
+        {"/a/./b/", "/a/b"},
+        {"a\xFF\nb", here + "a\xFF\nb"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(AbsolutePath(row.path), row.absolute) << row.path;
+    }
+    std::filesystem::current_path(before);
 }
 
 } // namespace

@@ -24,6 +24,7 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace tunedex {
@@ -625,6 +626,32 @@ TEST(TextFile, KeepsTheGroupWhenTheOwnerCannotBeKept) {
     ASSERT_EQ(stat(path.c_str(), &status), 0);
     EXPECT_EQ(status.st_uid, 65534U);
     EXPECT_EQ(status.st_gid, 54321U);
+}
+
+TEST(TextFile, WritesToAStreamThatIsOpenAlready) {
+    const test::TestFolder folder;
+    const std::string path = folder.Write("log", "before\n");
+    UniqueFd stream(open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    ASSERT_TRUE(stream);
+    TextFile file(std::move(stream), TextEncoding::Windows1252Questions);
+    file.Write("caf\u00e9 \u6771");
+    file.Close();
+    EXPECT_FALSE(file.Stopped());
+    EXPECT_EQ(test::ReadBytes(path), "before\ncaf\xE9 ?");
+    EXPECT_EQ(CountIn(folder.Path()), 1U);
+}
+
+TEST(TextFile, StopsWhereTheReaderOfAnOpenStreamHasGone) {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+    close(ends[0]);
+    TextFile file(UniqueFd(ends[1]), TextEncoding::Utf8);
+    file.Write(std::string(100000, 'x'));
+    EXPECT_TRUE(file.Stopped());
+    file.Write(std::string(100000, 'x'));
+    file.Close();
+    EXPECT_TRUE(file.Stopped());
 }
 
 } // namespace
