@@ -115,7 +115,7 @@ bool WriteCsvListing(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kCsvOutput, path, ListingStyle::Modern);
     PageBuffer page;
-    ListingFile file(page, path, TextEncoding::Utf8, listing.monitor);
+    ListingFile file(page, {path, listing.stream}, TextEncoding::Utf8, listing.monitor);
     if (listing.columns.empty()) {
         throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     }

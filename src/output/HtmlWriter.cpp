@@ -43,7 +43,8 @@ class HtmlPages {
   private:
     // Returns false when the user aborted.
     bool WritePage(std::int32_t number, const TrackRowWriter& rows) {
-        ListingFile file(page_, files_.PathOf(number), policy_.encoding, listing_.monitor, &cleaned_);
+        ListingFile file(page_, {files_.PathOf(number), listing_.stream}, policy_.encoding, listing_.monitor,
+                         &cleaned_);
         std::string navigation;
         std::string heading;
         page_.Put(headStart_);

@@ -94,7 +94,7 @@ template <class Entries> bool WritePlaylist(Listing& listing) {
     path = ListingPath(kPlaylistOutput, path, StyleOf(listing.settings));
     bool aborted = false;
     PageBuffer text;
-    ListingFile file(text, path, Entries::EncodingOf(listing), listing.monitor);
+    ListingFile file(text, {path, listing.stream}, Entries::EncodingOf(listing), listing.monitor);
     text.Put("#EXTM3U\r\n");
     for (std::size_t position = 1; position <= listing.tracks.Count() && !aborted; ++position) {
         Entries::PutEntry(text, listing.tracks.At(position));

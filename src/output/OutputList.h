@@ -26,6 +26,8 @@ inline ListingStyle StyleOf(const Settings& settings) {
     return settings.Modern ? ListingStyle::Modern : ListingStyle::Classic;
 }
 
+inline constexpr int kNoStream = -1;
+
 // Input of the writers; every reference must outlive it. `settings` is the run's own copy: writers append the
 // extension to `OutputFile`, expand the placeholders in the three titles and escape fonts and colours.
 struct Listing {
@@ -38,6 +40,7 @@ struct Listing {
     RunMonitor& monitor;
     PathStyle pathStyle = PathStyle::Native();
     std::vector<Column> columns = {}; // set by WriteListing
+    int stream = kNoStream; // an open stream that is written instead of `OutputFile`, which names the format
 
     CellContext Cells() const { return {settings.SizeType, locale, pathStyle}; }
 };

@@ -68,7 +68,7 @@ template <class Fields> bool WriteLines(Listing& listing) {
     std::string& path = listing.settings.OutputFile;
     path = ListingPath(kTextOutput, path, StyleOf(listing.settings));
     PageBuffer text;
-    ListingFile file(text, path, Fields::kEncoding, listing.monitor);
+    ListingFile file(text, {path, listing.stream}, Fields::kEncoding, listing.monitor);
     text.Put(Fields::kStart);
     PutHeaders<Fields>(text, listing);
     bool aborted = false;

@@ -14,7 +14,7 @@ TEST(ListingFile, WritesTextOfManyBuffers) {
     const test::TestFolder folder;
     test::FakeMonitor monitor;
     PageBuffer text;
-    ListingFile file(text, folder / "list.txt", TextEncoding::Windows1252Questions, monitor);
+    ListingFile file(text, {folder / "list.txt"}, TextEncoding::Windows1252Questions, monitor);
     std::string expected;
     while (expected.size() < 3 * TextFile::kPieceBytes) {
         text.Put("a line of text\r\n");
@@ -30,12 +30,12 @@ TEST(ListingFile, ReplacesTheOldFileOnlyWhenItIsClosed) {
     const std::string path = folder.Write("list.txt", "old");
     PageBuffer text;
     {
-        ListingFile file(text, path, TextEncoding::Utf8, monitor);
+        ListingFile file(text, {path}, TextEncoding::Utf8, monitor);
         text.Put("lost");
     }
     EXPECT_EQ(test::ReadBytes(path), "old");
     text.Clear();
-    ListingFile file(text, path, TextEncoding::Utf8, monitor);
+    ListingFile file(text, {path}, TextEncoding::Utf8, monitor);
     text.Put("new");
     EXPECT_EQ(test::ReadBytes(path), "old");
     EXPECT_TRUE(file.Close());
