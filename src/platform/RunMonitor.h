@@ -21,6 +21,8 @@ class RunMonitor {
                                   std::string_view after) = 0;
     virtual void SetMaximum(std::int32_t maximum) = 0;
     virtual void SetPosition(std::int32_t position) = 0;
+    // The number of files found so far, while their total is unknown. Called for every file.
+    virtual void SetFound(std::int32_t /*count*/) {}
     // Processes pending input, if any, and returns whether the user asked to stop. Cheap enough to call for
     // every file.
     virtual bool AbortRequested() = 0;

@@ -54,6 +54,7 @@ class CountingVisitor final : public WalkVisitor {
 
     void OnFile(const std::shared_ptr<OpenFolder>& /*folder*/, const char* /*name*/) override {
         totals_.FoundCount = CheckedAdd(totals_.FoundCount, 1);
+        monitor_.SetFound(totals_.FoundCount);
     }
     bool AfterEntry() override { return !monitor_.AbortRequested(); }
     bool SkipsUnread(UnreadKind kind, const std::string& folder, const char* name,
