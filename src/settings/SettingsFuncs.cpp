@@ -134,6 +134,15 @@ void ParseTableWidth(Settings& settings, std::string_view value) {
     settings.TableWidthUnit = unit;
 }
 
+bool IsComment(std::string_view line) {
+    return line.empty() || line.front() == '#';
+}
+
+// The key of a line, in upper case and without its index.
+std::string KeyOf(std::string_view line) {
+    return UpperCase(line.substr(0, line.find_first_of("=(")));
+}
+
 void ApplyLine(Settings& settings, std::string_view line) {
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) {
@@ -142,13 +151,13 @@ void ApplyLine(Settings& settings, std::string_view line) {
     const std::string_view value = line.substr(equals + 1);
     const std::size_t bracket = line.find('(');
     if (bracket >= equals) {
-        ParseSetting(settings, UpperCase(line.substr(0, equals)), value, 0);
+        ParseSetting(settings, KeyOf(line), value, 0);
         return;
     }
     // Required: the index is one digit and the rest is ignored, so "Colour(12)" sets Colour(1).
     const char digit = line[bracket + 1];
     const int index = digit >= '0' && digit <= '9' ? digit - '0' : -1;
-    ParseSetting(settings, UpperCase(line.substr(0, bracket)), value, index);
+    ParseSetting(settings, KeyOf(line), value, index);
 }
 
 // Of a row that is written only when set.
@@ -243,21 +252,28 @@ void ParseSetting(Settings& settings, std::string_view key, std::string_view val
                row->value);
 }
 
-void ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
-                   std::ostream& faults) {
+std::size_t ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
+                          std::ostream& faults) {
     std::size_t number = 0;
+    std::size_t faulty = 0;
     for (const std::string& line : lines) {
         ++number;
-        if (line.empty() || line.front() == '#') {
+        if (IsComment(line)) {
             continue;
         }
         try {
             ApplyLine(settings, line);
         } catch (const RunTimeError& error) {
+            ++faulty;
             const bool noEquals = line.find('=') == std::string::npos;
             ReportFaultyLine(faults, name, number, noEquals ? "no \"=\" in it" : error.Description());
         }
     }
+    return faulty;
+}
+
+bool HasUnknownKey(std::string_view line) {
+    return !IsComment(line) && line.find('=') != std::string_view::npos && FindRow(KeyOf(line)) == nullptr;
 }
 
 std::string SettingsPath(const std::string& path, const std::string& programFolder) {

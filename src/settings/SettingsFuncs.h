@@ -37,13 +37,18 @@ LoadOutcome LoadSettings(Settings& settings, const std::string& path, const std:
                          const Settings& defaults, std::ostream& faults);
 
 // The same for lines already read; `name` is the file's name in reports.
-void ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
-                   std::ostream& faults);
+// Returns how many lines were invalid.
+std::size_t ApplySettings(Settings& settings, const std::vector<std::string>& lines, std::string_view name,
+                          std::ostream& faults);
 
 // Applies one setting. `key` is in upper case; `index` is the digit after its bracket: 0 for a key without a
 // bracket, -1 for no digit. Unknown keys are ignored. Raises error 5 for a table width of less than two
 // characters, 6 for a number out of range, 9 for an index out of range or a font with missing parts.
 void ParseSetting(Settings& settings, std::string_view key, std::string_view value, int index);
+
+// Whether a line has the form of a setting with a key that no setting has. ApplySettings ignores such lines
+// without a report.
+bool HasUnknownKey(std::string_view line);
 
 // The file that SaveSettings() writes: the default file for an empty path, else `path`, with ".cfg" appended
 // unless it ends in that.
