@@ -2,23 +2,27 @@
 // status.
 
 #include "Application.h"
+#include "CheckFile.h"
 #include "CommandLine.h"
 #include "ExitStatus.h"
 #include "OpenWindows.h"
 #include "QSettingsRegistry.h"
 #include "QtCollation.h"
+#include "RunCreate.h"
 #include "RunTerminal.h"
 #include "RunTimeError.h"
 #include "Startup.h"
+#include "TerminalText.h"
 
 #include <csignal>
 #include <exception>
 #include <fcntl.h>
 #include <iostream>
 #include <memory>
-#include <optional>
+#include <sstream>
 #include <string>
 #include <unistd.h>
+#include <variant>
 #include <vector>
 
 namespace {
@@ -52,23 +56,56 @@ int WriteDefaults(const tunedex::Application& application, const std::string& pa
     }
 }
 
-int Run(int argc, char** argv) {
-    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-    if (const std::optional<std::string> information = tunedex::InformationText(arguments)) {
-        return Print(*information);
+int Check(const std::string& path) {
+    try {
+        std::ostringstream report;
+        const bool faultless = tunedex::CheckSettingsFile(path, report);
+        const int printed = Print(report.str());
+        return faultless ? printed : tunedex::kExitFailure;
+    } catch (const tunedex::RunTimeError& error) {
+        std::cerr << "Tunedex: " << tunedex::TerminalText(path) << " cannot be read: " << error.Description()
+                  << '\n';
+        return tunedex::kExitFailure;
     }
-    tunedex::SystemClock clock;
-    tunedex::QSettingsRegistry registry;
-    tunedex::Application application{clock, registry, std::cerr};
-    application.collation = std::make_shared<tunedex::QtCollation>(tunedex::CollationLanguage());
-    if (const std::optional<std::string> path = tunedex::DefaultsFile(arguments)) {
-        return WriteDefaults(application, *path);
-    }
+}
+
+int Refuse(const std::string& text) {
+    std::cerr << "Tunedex: " << tunedex::TerminalText(text) << "; see tunedex --help\n";
+    return tunedex::kExitCannotStart;
+}
+
+int Start(int argc, char** argv, tunedex::Application& application,
+          const std::vector<std::string>& arguments) {
     const bool automatic = tunedex::IsAutomatic(arguments);
     if (automatic && !tunedex::CanOpenWindows()) {
         return tunedex::RunTerminal(application, arguments);
     }
     return tunedex::OpenWindows(argc, argv, application, automatic);
+}
+
+int Run(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    const tunedex::Command command = tunedex::ParseCommandLine(arguments);
+    if (const auto* const print = std::get_if<tunedex::PrintCommand>(&command)) {
+        return Print(print->text);
+    }
+    if (const auto* const wrong = std::get_if<tunedex::WrongUse>(&command)) {
+        return Refuse(wrong->text);
+    }
+    if (const auto* const check = std::get_if<tunedex::CheckCommand>(&command)) {
+        return Check(check->file);
+    }
+    tunedex::SystemClock clock;
+    tunedex::QSettingsRegistry registry;
+    tunedex::Application application{clock, registry, std::cerr};
+    if (const auto* const defaults = std::get_if<tunedex::WriteDefaultsCommand>(&command)) {
+        return WriteDefaults(application, defaults->file);
+    }
+    application.collation = std::make_shared<tunedex::QtCollation>(tunedex::CollationLanguage());
+    if (const auto* const create = std::get_if<tunedex::CreateCommand>(&command)) {
+        return tunedex::RunCreate(application, *create);
+    }
+    return Start(argc, argv, application, arguments);
 }
 
 } // namespace

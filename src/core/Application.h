@@ -33,6 +33,8 @@ struct Application {
     std::string errorTitle = "Error!"; // the title of every error message
     unsigned readers = 0;              // number of reader threads; 0: automatic. Not a user setting
     std::shared_ptr<const Collation> collation = std::make_shared<CodeOrder>(); // of modern listings
+    int listingStream = -1;      // an open descriptor that listings are written to instead of the output file
+    bool pausesAtEnd = true;     // whether a run shows "Operation complete!" for a second
     bool abortRequested = false; // set only by the Abort button, cleared when a run starts
 };
 

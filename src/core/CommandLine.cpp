@@ -1,73 +1,199 @@
 #include "CommandLine.h"
 
+#include "CommandOptions.h"
+#include "HelpText.h"
 #include "Product.h"
 #include "Text.h"
 #include "Version.h"
+
+#include <algorithm>
+#include <cstring>
+#include <getopt.h>
+#include <utility>
 
 namespace tunedex {
 
 namespace {
 
-// At most 80 columns. Keep the manual page in step: same entries, same words.
-constexpr const char* kHelpText = R"(Usage: tunedex [/AUTO]
-       tunedex --write-defaults FILE
-       tunedex --help
-       tunedex --version
+// getopt_long() takes C strings and keeps its position in globals; this is their owner for one parse.
+class CreateParser {
+  public:
+    // The first argument is the command itself, in the place of the program's name.
+    explicit CreateParser(const std::vector<std::string>& arguments) : arguments_(arguments) {
+        for (std::string& argument : arguments_) {
+            pointers_.push_back(argument.data());
+        }
+        pointers_.push_back(nullptr);
+        for (const CreateOption& option : kCreateOptions) {
+            options_.push_back({option.name.data(),
+                                option.valueName.empty() ? no_argument : required_argument, nullptr,
+                                kFirstValue + static_cast<int>(option.key)});
+        }
+        options_.push_back({nullptr, 0, nullptr, 0});
+    }
 
-Catalogue a collection of MP3 files: read their ID3 tags and MPEG audio headers
-and write one listing, as web page (.htm), text (.txt) or playlist (.m3u).
-Without an argument the main window opens.
+    Command Parse();
 
-Options:
-  /AUTO      Create the list that the default settings file describes, without
-             the main window, and end. The switch is recognised anywhere on the
-             command line, in upper or lower case.
-  --write-defaults FILE
-             As the only arguments: write the default settings to FILE and
-             end. The extension .cfg is added if it is missing.
-  --help     As the single argument: print a summary and end.
-  --version  As the single argument: print the version and end.
+  private:
+    static constexpr int kFirstValue = 256; // beyond every character that getopt_long() returns
+    static constexpr int kOperand = 1;
 
-Where none of DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM is set, a run with
-/AUTO prints progress and messages on standard error and reads answers from
-standard input.
+    // Each returns false after setting fault_.
+    bool Take(int found);
+    bool TakeOption(OptionKey key, const char* value);
+    bool TakeText(std::optional<std::string>& member, const CreateOption& option, const std::string& value);
+    bool TakeModern(bool modern);
+    bool Fail(std::string fault);
+    const std::string& Current() const { return arguments_.at(static_cast<std::size_t>(optind - 1)); }
 
-Files in the program folder (of an installed program ~/.local/share/tunedex/):
-  Tunedex.cfg        the default settings
-  Themes/*.thm       layout themes
-  html_entities.lst  what each special character becomes in a page
-  tips.lst           the tips of the day, one a line
-  stats.lst          the usage statistics
-  Tunedex.log        the errors of the latest run, when the settings ask for a
-                     log
+    std::vector<std::string> arguments_;
+    std::vector<char*> pointers_;
+    std::vector<option> options_;
+    CreateCommand command_;
+    std::string fault_;
+};
 
-Exit status of an unattended run:
-  0  when the list was written
-  1  when it was not
-  2  when the program could not start
-  3  when a modern list was written, but folders or files could not be read
-)";
+const CreateOption& OptionOf(OptionKey key) {
+    return *std::find_if(kCreateOptions.begin(), kCreateOptions.end(),
+                         [key](const CreateOption& option) { return option.key == key; });
+}
+
+std::string WithDashes(std::string_view name) {
+    return "--" + std::string(name);
+}
+
+bool CreateParser::Fail(std::string fault) {
+    fault_ = std::move(fault);
+    return false;
+}
+
+bool CreateParser::TakeText(std::optional<std::string>& member, const CreateOption& option,
+                            const std::string& value) {
+    if (member) {
+        return Fail(WithDashes(option.name) + " is given twice");
+    }
+    member = value;
+    return true;
+}
+
+bool CreateParser::TakeModern(bool modern) {
+    if (command_.modern && *command_.modern != modern) {
+        return Fail("--modern and --classic exclude each other");
+    }
+    command_.modern = modern;
+    return true;
+}
+
+bool CreateParser::TakeOption(OptionKey key, const char* value) {
+    const CreateOption& option = OptionOf(key);
+    // A following option is no value: "--folder --quiet" lacks the folder.
+    if (value != nullptr && (*value == '\0' || std::string_view(value).starts_with("--"))) {
+        return Fail(WithDashes(option.name) + " needs a value: " + std::string(option.valueName));
+    }
+    switch (key) {
+    case OptionKey::Settings:
+        return TakeText(command_.settingsFile, option, value);
+    case OptionKey::Folder:
+        command_.folders.emplace_back(value);
+        return true;
+    case OptionKey::Output:
+        return TakeText(command_.outputFile, option, value);
+    case OptionKey::Modern:
+    case OptionKey::Classic:
+        return TakeModern(key == OptionKey::Modern);
+    case OptionKey::Columns:
+        return TakeText(command_.columns, option, value);
+    case OptionKey::Theme:
+        return TakeText(command_.theme, option, value);
+    case OptionKey::Quiet:
+        command_.quiet = true;
+        return true;
+    }
+    return false;
+}
+
+bool CreateParser::Take(int found) {
+    switch (found) {
+    case kOperand:
+        return Fail("unexpected argument " + std::string(optarg));
+    case ':':
+        return Fail(Current() + " needs a value: " +
+                    std::string(OptionOf(static_cast<OptionKey>(optopt - kFirstValue)).valueName));
+    case '?':
+        if (optopt >= kFirstValue) {
+            return Fail(WithDashes(OptionOf(static_cast<OptionKey>(optopt - kFirstValue)).name) +
+                        " takes no value");
+        }
+        return Fail("unknown option " +
+                    (optopt == 0 ? Current() : "-" + std::string(1, static_cast<char>(optopt))));
+    default:
+        return TakeOption(static_cast<OptionKey>(found - kFirstValue), optarg);
+    }
+}
+
+Command CreateParser::Parse() {
+    optind = 0; // starts a new parse
+    opterr = 0;
+    // "-": operands in their place; ":": a missing value is reported as ":".
+    const auto next = [this] {
+        return getopt_long(static_cast<int>(arguments_.size()), pointers_.data(), "-:", options_.data(),
+                           nullptr);
+    };
+    for (int found = next(); found != -1; found = next()) {
+        if (found == '?' && optopt == 0 && Current() == "--help") {
+            return PrintCommand{HelpText()};
+        }
+        if (!Take(found)) {
+            return WrongUse{fault_};
+        }
+    }
+    if (static_cast<std::size_t>(optind) < arguments_.size()) { // behind "--"
+        return WrongUse{"unexpected argument " + arguments_.at(static_cast<std::size_t>(optind))};
+    }
+    return command_;
+}
+
+// A command that takes one file and nothing else.
+template <class FileCommand> Command ParseFileCommand(const std::vector<std::string>& arguments) {
+    if (arguments.size() < 2 || arguments.at(1).empty()) {
+        return WrongUse{arguments.front() + " needs a value: FILE"};
+    }
+    if (arguments.at(1).starts_with("--")) {
+        return WrongUse{"unknown option " + arguments.at(1)};
+    }
+    if (arguments.size() > 2) {
+        return WrongUse{"unexpected argument " + arguments.at(2)};
+    }
+    return FileCommand{arguments.at(1)};
+}
+
+std::string VersionText() {
+    return std::string(kProductTitle) + " " + kVersionText + "." + kBuildNumber + "\n";
+}
 
 } // namespace
 
-std::optional<std::string> InformationText(const std::vector<std::string>& arguments) {
-    if (arguments.size() != 1) {
-        return std::nullopt;
+Command ParseCommandLine(const std::vector<std::string>& arguments) {
+    if (arguments.empty()) {
+        return StartCommand{};
     }
-    if (arguments.front() == "--help") {
-        return kHelpText;
+    const std::string& first = arguments.front();
+    if (first == "--create") {
+        return CreateParser(arguments).Parse();
     }
-    if (arguments.front() == "--version") {
-        return std::string(kProductTitle) + " " + kVersionText + "." + kBuildNumber + "\n";
+    if (first == "--check") {
+        return ParseFileCommand<CheckCommand>(arguments);
     }
-    return std::nullopt;
-}
-
-std::optional<std::string> DefaultsFile(const std::vector<std::string>& arguments) {
-    if (arguments.size() != 2 || arguments.front() != "--write-defaults") {
-        return std::nullopt;
+    if (first == "--write-defaults") {
+        return ParseFileCommand<WriteDefaultsCommand>(arguments);
     }
-    return arguments.back();
+    if (arguments.size() == 1 && first == "--help") {
+        return PrintCommand{HelpText()};
+    }
+    if (arguments.size() == 1 && first == "--version") {
+        return PrintCommand{VersionText()};
+    }
+    return StartCommand{};
 }
 
 bool IsAutomatic(const std::vector<std::string>& arguments) {

@@ -3,16 +3,49 @@
 
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace tunedex {
 
-// The text for standard output, including its last line end, when the only argument is exactly --help or
-// --version; otherwise empty.
-std::optional<std::string> InformationText(const std::vector<std::string>& arguments);
+// Opens the windows, or makes the list of the default settings unattended when IsAutomatic() says so.
+struct StartCommand {};
 
-// FILE when the arguments are exactly --write-defaults FILE; otherwise empty.
-std::optional<std::string> DefaultsFile(const std::vector<std::string>& arguments);
+// --help and --version.
+struct PrintCommand {
+    std::string text; // for standard output, with its last line end
+};
+
+// --create; a member without a value leaves the setting as it is.
+struct CreateCommand {
+    std::optional<std::string> settingsFile;
+    std::vector<std::string> folders;
+    std::optional<std::string> outputFile;
+    std::optional<bool> modern;
+    std::optional<std::string> columns;
+    std::optional<std::string> theme;
+    bool quiet = false;
+};
+
+struct CheckCommand {
+    std::string file;
+};
+
+struct WriteDefaultsCommand {
+    std::string file;
+};
+
+// A command line that cannot be carried out.
+struct WrongUse {
+    std::string text; // names the argument; without a line end
+};
+
+using Command =
+    std::variant<StartCommand, PrintCommand, CreateCommand, CheckCommand, WriteDefaultsCommand, WrongUse>;
+
+// --create, --check and --write-defaults count as the first argument only, --help and --version as the only
+// one. With any other arguments the program starts as without.
+Command ParseCommandLine(const std::vector<std::string>& arguments);
 
 // Whether "/AUTO" occurs anywhere in the arguments, in any case. Required: also inside a longer word.
 bool IsAutomatic(const std::vector<std::string>& arguments);

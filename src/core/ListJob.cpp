@@ -87,6 +87,9 @@ bool ListRun::ValidateOutput() {
     if (application_.settings.OutputFile.empty()) {
         return Refuse("No output file specified!");
     }
+    if (application_.listingStream != kNoStream) {
+        return true;
+    }
     const std::string outputFile = ui_.Fields().outputFile;
     const std::string folder(FolderPrefixOf(outputFile, PathStyle::Native()));
     if (FolderExists(folder)) {
@@ -152,6 +155,7 @@ bool ListRun::Write(RunMonitor& monitor) {
     monitor.SetStatus("Writing information...");
     Listing listing{settings_,          table_, totals_, application_.entities, application_.locale,
                     application_.clock, monitor};
+    listing.stream = application_.listingStream;
     listWritten_ = !WriteListing(OutputTypeOf(settings_.OutputFile, StyleOf(settings_)), listing);
     if (!listWritten_) {
         ui_.CloseProgress();
@@ -164,7 +168,9 @@ void ListRun::Finish(RunMonitor& monitor) {
         log_->Close();
     }
     monitor.SetStatus("Operation complete!");
-    PauseSeconds(1, application_.clock);
+    if (application_.pausesAtEnd) {
+        PauseSeconds(1, application_.clock);
+    }
     Statistics& statistics = application_.statistics;
     statistics.ListsCreated = CheckedAdd(statistics.ListsCreated, 1);
     statistics.FilesHandled = CheckedAdd(statistics.FilesHandled, totals_.FoundCount);

@@ -1,8 +1,5 @@
 #include "TerminalFrontEnd.h"
 
-#include "Functions.h"
-#include "Interrupts.h"
-#include "Startup.h"
 #include "TerminalText.h"
 #include "Text.h"
 
@@ -46,19 +43,7 @@ int AnswerIn(std::string_view line, const Choice& choice) {
 } // namespace
 
 TerminalFrontEnd::TerminalFrontEnd(Application& application, int input, int output)
-    : application_(application), input_(input), output_(output) {}
-
-void TerminalFrontEnd::TakeControls(Settings& settings) {
-    TakeMainFields(settings, fields_);
-    TakeLayoutControls(settings);
-}
-
-std::string TerminalFrontEnd::NameInMessage(std::string_view name) const {
-    if (!output_.IsTerminal()) {
-        return std::string(name);
-    }
-    return TerminalText(ReplaceAll(name, kTemplateLineBreak, "?"));
-}
+    : WindowlessFrontEnd(application, output), input_(input) {}
 
 // Formats a message. On a terminal only CR LF starts a new line; a lone CR or LF in a name does not.
 std::string TerminalFrontEnd::MessageText(std::string_view text, std::string_view title) const {
@@ -130,13 +115,6 @@ void TerminalFrontEnd::SetCountedStatus(std::string_view before, std::int32_t co
         (output_.IsTerminal() ? kTerminalInterval : kLineInterval)) {
         Paint();
     }
-}
-
-bool TerminalFrontEnd::AbortRequested() {
-    if (Interrupted()) {
-        application_.abortRequested = true;
-    }
-    return application_.abortRequested;
 }
 
 std::string TerminalFrontEnd::StatusText() const {

@@ -22,8 +22,8 @@ bool HasMode(int descriptor, mode_t mode) {
     return fstat(descriptor, &status) == 0 && (status.st_mode & S_IFMT) == mode;
 }
 
-// Opens the pipe or terminal again, which gives a separate file description. Other files never block for
-// long.
+} // namespace
+
 UniqueFd OpenNonBlocking(int descriptor) {
     if (isatty(descriptor) != 1 && !HasMode(descriptor, S_IFIFO)) {
         return {};
@@ -31,8 +31,6 @@ UniqueFd OpenNonBlocking(int descriptor) {
     const std::string path = "/proc/self/fd/" + std::to_string(descriptor);
     return UniqueFd(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
 }
-
-} // namespace
 
 TerminalOutput::TerminalOutput(int descriptor)
     : descriptor_(descriptor), isTerminal_(isatty(descriptor) == 1), isSocket_(HasMode(descriptor, S_IFSOCK)),

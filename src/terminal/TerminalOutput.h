@@ -30,4 +30,8 @@ class TerminalOutput {
     const UniqueFd nonBlocking_; // none if not opened
 };
 
+// Opens the file of a pipe or terminal again, non-blocking, for writing; none for other files, which never
+// block for long, and where that is not permitted.
+UniqueFd OpenNonBlocking(int descriptor);
+
 } // namespace tunedex

@@ -1,0 +1,63 @@
+#include "ProgressText.h"
+
+#include "PlayTime.h"
+#include "TerminalText.h"
+
+#include <algorithm>
+
+namespace tunedex {
+
+namespace {
+
+constexpr std::int64_t kBarWidth = 20;
+constexpr std::string_view kColour = "\x1b[32m"; // green
+constexpr std::string_view kNoColour = "\x1b[0m";
+
+std::size_t FilledCells(const Progress& progress) {
+    if (progress.total <= 0) {
+        return 0;
+    }
+    return static_cast<std::size_t>(
+        std::clamp<std::int64_t>(progress.done * kBarWidth / progress.total, 0, kBarWidth));
+}
+
+std::string RateText(const Progress& progress) {
+    using std::chrono::milliseconds;
+    if (progress.elapsed < std::chrono::seconds(1) || progress.done <= 0) {
+        return {};
+    }
+    const std::int64_t rate = std::int64_t{progress.done} * 1000 / progress.elapsed.count();
+    const std::int64_t left =
+        (std::int64_t{progress.total} - progress.done) * progress.elapsed.count() / progress.done / 1000;
+    return "  " + std::to_string(rate) + "/s  " +
+           MinutesAndSeconds(static_cast<std::int32_t>(std::max<std::int64_t>(left, 0))) + " left";
+}
+
+std::string LineOf(const Progress& progress, std::size_t filled) {
+    std::string line;
+    if (progress.total > 0) {
+        line = "[" + std::string(filled, '#') + std::string(kBarWidth - filled, '.') + "] ";
+        line +=
+            std::to_string(progress.done) + "/" + std::to_string(progress.total) + RateText(progress) + "  ";
+    } else if (progress.done > 0) {
+        line = std::to_string(progress.done) + "  ";
+    }
+    return line + TerminalText(progress.status);
+}
+
+} // namespace
+
+std::string ProgressText(const Progress& progress, unsigned columns, bool coloured) {
+    const std::size_t filled = FilledCells(progress);
+    const std::string line = LineOf(progress, filled);
+    // A character is at most as wide as its number of bytes. The last column stays free because some
+    // terminals wrap there.
+    std::string shown(columns > 0 ? CutToBytes(line, columns - 1U) : std::string_view(line));
+    if (coloured && filled > 0 && shown.size() > filled) {
+        shown.insert(1 + filled, kNoColour);
+        shown.insert(1, kColour);
+    }
+    return shown;
+}
+
+} // namespace tunedex
