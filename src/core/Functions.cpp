@@ -42,8 +42,7 @@ void ReportError(std::string_view errorTemplate, std::string_view file, std::str
     if (warnings) {
         const std::string text =
             ExpandTemplate(errorTemplate, ui.NameInMessage(folder), ui.NameInMessage(file), error);
-        ShowMessage(ui, opening + ReplaceAll(text, kTemplateLineBreak, "\r\n"), kOkExclamation,
-                    application.errorTitle);
+        ui.ShowReport(opening + ReplaceAll(text, kTemplateLineBreak, "\r\n"), application.errorTitle);
     }
     if (application.settings.ErrorLog && log != nullptr) {
         // Required: with warnings off the line keeps its "\n" as two characters; with warnings on its parts

@@ -30,6 +30,8 @@ class ListRun final : public ErrorReporter {
     // Returns whether the run may start; if not, the user has been told why.
     bool Validate();
     void Work();
+    // After an exception: shows it.
+    void Fail(const RunTimeError& error);
     RunOutcome Outcome() const;
 
     void Report(std::string_view errorTemplate, std::string_view file, std::string_view folder,
@@ -60,7 +62,9 @@ class ListRun final : public ErrorReporter {
     std::optional<CodePage> codePage_; // of tags, in a modern run
     RunMonitor* monitor_ = nullptr;    // set once the progress window is shown
     std::optional<LogFile> log_;
-    bool listWritten_ = false;
+    RunEnd end_ = RunEnd::NotStarted;
+    bool partial_ = false;
+    std::string failure_;
 };
 
 bool ListRun::ValidateInput() {
@@ -156,11 +160,13 @@ bool ListRun::Write(RunMonitor& monitor) {
     Listing listing{settings_,          table_, totals_, application_.entities, application_.locale,
                     application_.clock, monitor};
     listing.stream = application_.listingStream;
-    listWritten_ = !WriteListing(OutputTypeOf(settings_.OutputFile, StyleOf(settings_)), listing);
-    if (!listWritten_) {
+    if (WriteListing(OutputTypeOf(settings_.OutputFile, StyleOf(settings_)), listing)) {
+        partial_ = true;
         ui_.CloseProgress();
+        return false;
     }
-    return listWritten_;
+    end_ = RunEnd::Written;
+    return true;
 }
 
 void ListRun::Finish(RunMonitor& monitor) {
@@ -197,8 +203,10 @@ void ListRun::Work() {
         ShowMessage(ui_, "No MP3 files were found\r\nin the " + folderWord_ + " specified.", kOkInformation,
                     "No MP3 files!");
         ui_.EnableWindows();
+        end_ = RunEnd::NothingFound;
         return;
     }
+    end_ = RunEnd::Aborted;
     if (Read(monitor) && Sort(monitor) && Write(monitor)) {
         Finish(monitor);
     }
@@ -206,14 +214,16 @@ void ListRun::Work() {
 
 RunOutcome ListRun::Outcome() const {
     RunOutcome outcome;
-    outcome.written = listWritten_;
+    outcome.end = end_;
+    outcome.partial = partial_;
+    outcome.failure = failure_;
     outcome.tracks = static_cast<std::int32_t>(table_.Count());
     outcome.modern = settings_.Modern;
     outcome.logged = settings_.ErrorLog;
     outcome.unreadFolders = totals_.Unread.folders.size();
     outcome.unreadFiles = totals_.Unread.files.size();
     outcome.modernTags = totals_.ModernTagCount;
-    if (listWritten_) {
+    if (outcome.Written() || outcome.partial) {
         const bool paged = OutputTypeOf(settings_.OutputFile, StyleOf(settings_)) == kHtmlOutput;
         const PageFiles pages(settings_.OutputFile, paged ? settings_.Spanning : std::int16_t{0},
                               table_.Count());
@@ -233,6 +243,15 @@ std::string TrappedErrorText(const RunTimeError& error) {
     return UnexpectedErrorText(error);
 }
 
+void ListRun::Fail(const RunTimeError& error) {
+    if (end_ != RunEnd::Written) {
+        end_ = RunEnd::Failed;
+        failure_ = error.Description();
+    }
+    // Required: the title is "Error" in automatic mode too, and the progress window stays open. Do not "fix".
+    ShowMessage(ui_, TrappedErrorText(error), kOkExclamation, "Error");
+}
+
 } // namespace
 
 RunOutcome CreateList(Application& application, UserInterface& ui) {
@@ -242,9 +261,7 @@ RunOutcome CreateList(Application& application, UserInterface& ui) {
             run.Work();
         }
     } catch (const std::exception&) {
-        // Required: the title is "Error" in automatic mode too, and the progress window stays open. Do not
-        // "fix".
-        ShowMessage(ui, TrappedErrorText(CaughtError()), kOkExclamation, "Error");
+        run.Fail(CaughtError());
     }
     return run.Outcome();
 }

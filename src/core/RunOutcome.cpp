@@ -11,13 +11,13 @@ std::string Counted(std::size_t count, const std::string& noun) {
 }
 
 bool LacksSomething(const RunOutcome& outcome) {
-    return outcome.written && outcome.modern && outcome.Incomplete();
+    return outcome.Written() && outcome.modern && outcome.Incomplete();
 }
 
 } // namespace
 
 int ExitStatusOf(const RunOutcome& outcome) {
-    if (!outcome.written) {
+    if (!outcome.Written()) {
         return kExitFailure;
     }
     return LacksSomething(outcome) ? kExitIncomplete : kExitSuccess;

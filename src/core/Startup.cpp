@@ -86,8 +86,12 @@ RunOutcome CreateListCommand(Application& application, UserInterface& ui) {
         application.entities.Load(application.programFolder + std::string(kEntityFileName),
                                   application.faults);
     } catch (const std::exception&) {
-        ShowMessage(ui, UnexpectedErrorText(CaughtError()), kOkExclamation, "Error");
-        return {};
+        const RunTimeError error = CaughtError();
+        ShowMessage(ui, UnexpectedErrorText(error), kOkExclamation, "Error");
+        RunOutcome outcome;
+        outcome.end = RunEnd::Failed;
+        outcome.failure = error.Description();
+        return outcome;
     }
     return CreateList(application, ui);
 }

@@ -57,6 +57,12 @@ class UserInterface {
     // Shows a message and waits for the answer. Line breaks in `text` are CR LF.
     virtual int ShowMessage(std::string_view text, int buttons, std::string_view title) = 0;
 
+    // Shows the message of an error that does not end the run. A front end may let the user decline further
+    // ones until the run is over.
+    virtual void ShowReport(std::string_view text, std::string_view title) {
+        ShowMessage(text, kOkExclamation, title);
+    }
+
     // The form of a file or folder name within a message. Override where a line break or another character of
     // the name could be mistaken for part of the message.
     virtual std::string NameInMessage(std::string_view name) const { return std::string(name); }

@@ -1,6 +1,7 @@
 #include "ProgressText.h"
 
 #include "PlayTime.h"
+#include "RunRate.h"
 #include "TerminalText.h"
 
 #include <algorithm>
@@ -22,15 +23,12 @@ std::size_t FilledCells(const Progress& progress) {
 }
 
 std::string RateText(const Progress& progress) {
-    using std::chrono::milliseconds;
-    if (progress.elapsed < std::chrono::seconds(1) || progress.done <= 0) {
+    const std::optional<RunRate> rate = RateOf(progress.done, progress.total, progress.elapsed);
+    if (!rate) {
         return {};
     }
-    const std::int64_t rate = std::int64_t{progress.done} * 1000 / progress.elapsed.count();
-    const std::int64_t left =
-        (std::int64_t{progress.total} - progress.done) * progress.elapsed.count() / progress.done / 1000;
-    return "  " + std::to_string(rate) + "/s  " +
-           MinutesAndSeconds(static_cast<std::int32_t>(std::max<std::int64_t>(left, 0))) + " left";
+    return "  " + std::to_string(rate->filesPerSecond) + "/s  " + MinutesAndSeconds(rate->secondsLeft) +
+           " left";
 }
 
 std::string LineOf(const Progress& progress, std::size_t filled) {

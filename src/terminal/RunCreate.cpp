@@ -66,7 +66,7 @@ std::string ErrorsText(const RunOutcome& outcome, const Application& application
 
 void Report(CommandFrontEnd& frontEnd, const Application& application, const RunOutcome& outcome,
             Seconds duration, bool summary) {
-    if (!outcome.written) {
+    if (!outcome.Written()) {
         if (Interrupted()) {
             frontEnd.Print("stopped before the list was complete");
         }
@@ -85,7 +85,7 @@ int CreateList(Application& application, const CreateCommand& command, CommandFr
     frontEnd.FillFields(FieldsFor(application.settings));
     const auto start = std::chrono::steady_clock::now();
     const RunOutcome outcome = CreateListCommand(application, frontEnd);
-    if (!outcome.written && !Interrupted() && stream.HasLostItsReader()) {
+    if (!outcome.Written() && !Interrupted() && stream.HasLostItsReader()) {
         return kExitSuccess;
     }
     const bool summary = !command.quiet && isatty(STDERR_FILENO) == 1;

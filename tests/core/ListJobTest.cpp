@@ -58,7 +58,7 @@ class ListJob : public testing::Test {
             AddTrack("t" + std::to_string(i) + ".mp3", "Artist " + std::to_string(count - i));
         }
     }
-    bool Run() { return CreateList(application_, ui_).written; }
+    bool Run() { return CreateList(application_, ui_).Written(); }
     std::string List(const std::string& name = "out/list.txt") const {
         return test::ReadBytes(folder_ / name);
     }
@@ -97,7 +97,7 @@ TEST_F(ListJob, ReturnsTheFirstPageAndWhatItWrote) {
     application_.settings.Spanning = 2;
     ui_.fields.outputFile = folder_ / "out/list";
     const RunOutcome pages = CreateList(application_, ui_);
-    EXPECT_TRUE(pages.written);
+    EXPECT_TRUE(pages.Written());
     EXPECT_EQ(pages.tracks, 5);
     EXPECT_EQ(pages.pages, 3);
     EXPECT_EQ(pages.file, folder_ / "out/list.001.htm");
@@ -115,7 +115,7 @@ TEST_F(ListJob, ReturnsWhatItDidNotReadAndHowManyTagsAreModern) {
     application_.settings.Recurse = false;
     application_.settings.Modern = true;
     const RunOutcome modern = CreateList(application_, ui_);
-    EXPECT_TRUE(modern.written);
+    EXPECT_TRUE(modern.Written());
     EXPECT_TRUE(modern.modern);
     EXPECT_EQ(modern.tracks, 3);
     EXPECT_EQ(modern.unreadFiles, 1U);
@@ -133,7 +133,7 @@ TEST_F(ListJob, ReturnsNoFileOfARunThatWroteNone) {
     AddTracks(2);
     AbortFrom("Sorting information...");
     const RunOutcome aborted = CreateList(application_, ui_);
-    EXPECT_FALSE(aborted.written);
+    EXPECT_FALSE(aborted.Written());
     EXPECT_EQ(aborted.file, "");
 }
 

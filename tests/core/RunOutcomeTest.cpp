@@ -9,7 +9,7 @@ namespace {
 
 RunOutcome Written(std::size_t folders, std::size_t files, bool modern = true, bool logged = true) {
     RunOutcome outcome;
-    outcome.written = true;
+    outcome.end = RunEnd::Written;
     outcome.modern = modern;
     outcome.logged = logged;
     outcome.unreadFolders = folders;
@@ -24,7 +24,7 @@ TEST(RunOutcome, ExitStatusTellsAnIncompleteModernListing) {
     EXPECT_EQ(ExitStatusOf(Written(0, 2)), 3);
     EXPECT_EQ(ExitStatusOf(Written(1, 2, false)), 0);
     RunOutcome aborted = Written(1, 0);
-    aborted.written = false;
+    aborted.end = RunEnd::Aborted;
     EXPECT_EQ(ExitStatusOf(aborted), 1);
 }
 

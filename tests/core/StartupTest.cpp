@@ -184,7 +184,7 @@ class CommandTest : public StartUpTest {
         ui_.fields.inputFolder = folder_ / "music";
         ui_.fields.outputFile = folder_ / "out/list.htm";
     }
-    bool Create() { return CreateListCommand(application_, ui_).written; }
+    bool Create() { return CreateListCommand(application_, ui_).Written(); }
 };
 
 TEST_F(CommandTest, ReloadsTheEntityTableEachTime) {

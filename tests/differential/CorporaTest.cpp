@@ -48,7 +48,7 @@ bool ListFast(const TestFolder& folder, const RandomCorpus& corpus, unsigned rea
     fake.application.settings.ErrorLog = true;
     fake.application.readers = readers;
     ui.fields = FieldsFor(fake.application.settings);
-    const bool written = CreateListCommand(fake.application, ui).written;
+    const bool written = CreateListCommand(fake.application, ui).Written();
     log = ReadBytes(folder / "Tunedex.log");
     for (const FakeUserInterface::Message& message : ui.messages) {
         log += message.text + "\r\n";
