@@ -155,7 +155,10 @@ void TakeMain(Pictures& pictures, Application& application) {
     }
     {
         frmProgress progress(window);
-        progress.Display(u"Retrieving MPEG/ID3 information (812/1250)..."_s, 1250, 812);
+        progress.Display({.status = u"Retrieving MPEG/ID3 information (812/1250)..."_s,
+                          .details = u"416 files a second, 0:01 left"_s,
+                          .maximum = 1250,
+                          .position = 812});
         pictures.Take(progress, u"progress"_s);
     }
     TakeMessages(pictures, frontEnd, dialogs);
@@ -170,7 +173,7 @@ void TakeResult(Pictures& pictures, Application& application) {
     frontEnd.FillFields(FieldsFor(application.settings));
     frmMain& window = frontEnd.MainWindow();
     RunOutcome outcome;
-    outcome.written = true;
+    outcome.end = RunEnd::Written;
     outcome.file = "/home/lea/Documents/music.001.htm";
     outcome.tracks = 1250;
     outcome.pages = 13;
@@ -183,7 +186,7 @@ void TakeResult(Pictures& pictures, Application& application) {
     window.ShowResult(outcome);
     pictures.TakeSmallest(window, u"main-result"_s);
     application.settings.Modern = true;
-    window.FollowModern();
+    window.FollowSettings();
     pictures.Take(window, u"main-result-on"_s);
 }
 

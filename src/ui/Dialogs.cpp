@@ -1,13 +1,17 @@
 #include "Dialogs.h"
 
+#include "Controls.h"
 #include "FileFilters.h"
 #include "QtText.h"
 #include "UserInterface.h"
 
+#include <QCheckBox>
+#include <QClipboard>
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QVBoxLayout>
@@ -21,6 +25,7 @@ namespace tunedex {
 namespace {
 
 constexpr qsizetype kLongWord = 60;
+constexpr QChar kZeroWidthSpace(u'\u200B');
 
 struct BoxParts {
     QMessageBox::Icon icon;
@@ -99,10 +104,32 @@ void FollowFilter(QFileDialog& dialog, const QList<FileFilter>& filters) {
     });
 }
 
+void FillBox(QMessageBox& box, const QString& text, int buttons, const QString& title) {
+    const BoxParts parts = PartsFor(buttons);
+    box.setObjectName(u"MessageBox"_s);
+    box.setWindowTitle(title);
+    box.setIcon(parts.icon);
+    box.setStandardButtons(parts.buttons);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(WithBreaksInLongWords(text));
+    box.setAccessibleName(title);
+    box.setAccessibleDescription(text);
+}
+
+// Removes the breaks of WithBreaksInLongWords() from what the user copies while the box is open.
+void CopyWithoutBreaks(QMessageBox& box) {
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    QObject::connect(clipboard, &QClipboard::changed, &box, [clipboard](QClipboard::Mode mode) {
+        const QString text = clipboard->text(mode);
+        if (text.contains(kZeroWidthSpace)) {
+            clipboard->setText(QString(text).remove(kZeroWidthSpace), mode);
+        }
+    });
+}
+
 } // namespace
 
 QString WithBreaksInLongWords(const QString& text) {
-    constexpr QChar kZeroWidthSpace(u'\u200B');
     QString result;
     qsizetype wordLength = 0;
     for (const QChar character : text) {
@@ -116,13 +143,21 @@ QString WithBreaksInLongWords(const QString& text) {
 }
 
 int Dialogs::ShowMessage(QWidget* owner, const QString& text, int buttons, const QString& title) {
-    const BoxParts parts = PartsFor(buttons);
-    QMessageBox box(parts.icon, title, WithBreaksInLongWords(text), parts.buttons, owner);
-    box.setTextFormat(Qt::PlainText);
-    box.setObjectName(u"MessageBox"_s);
-    box.setAccessibleName(title);
-    box.setAccessibleDescription(text);
+    QMessageBox box(owner);
+    FillBox(box, text, buttons, title);
     return AnswerFor(box.exec());
+}
+
+bool Dialogs::ShowReport(QWidget* owner, const QString& text, const QString& title) {
+    QMessageBox box(owner);
+    FillBox(box, text, kOkExclamation, title);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    QCheckBox* const noMore = MakeCheckBox(u"chkNoMoreMessages"_s, tr("&No more messages in this run"),
+                                           tr("Errors still go to the log, if the options ask for one"));
+    box.setCheckBox(noMore);
+    CopyWithoutBreaks(box);
+    box.exec();
+    return !noMore->isChecked();
 }
 
 std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& title, const QString& prompt,

@@ -29,6 +29,9 @@ class Dialogs {
 
     // `buttons` is one of MessageButtons, the result one of MessageAnswer.
     virtual int ShowMessage(QWidget* owner, const QString& text, int buttons, const QString& title);
+    // The message of an error that does not end a run. Returns false if the user wants no more of them in
+    // this run.
+    virtual bool ShowReport(QWidget* owner, const QString& text, const QString& title);
     // Return no value when the user cancels. Paths are native bytes, not necessarily UTF-8.
     virtual std::optional<std::string> ChooseFolder(QWidget* owner, const QString& title,
                                                     const QString& prompt, const std::string& start);

@@ -1,6 +1,8 @@
 #include "ProgressMonitor.h"
 
+#include "PlayTime.h"
 #include "QtText.h"
+#include "RunRate.h"
 #include "frmProgress.h"
 
 #include <QCoreApplication>
@@ -27,11 +29,14 @@ void ProgressMonitor::SetWindow(frmProgress* window) {
     status_.clear();
     maximum_ = 0;
     position_ = 0;
+    found_ = 0;
     nextTurn_ = {};
 }
 
 void ProgressMonitor::SetStatus(std::string_view text) {
     counted_ = false;
+    found_ = 0;
+    phaseStart_ = SteadyClock::now();
     status_ = text;
     Paint();
 }
@@ -56,6 +61,11 @@ void ProgressMonitor::SetPosition(std::int32_t position) {
     changed_ = true;
 }
 
+void ProgressMonitor::SetFound(std::int32_t count) {
+    found_ = count;
+    changed_ = true;
+}
+
 bool ProgressMonitor::AbortRequested() {
     const SteadyClock::time_point start = SteadyClock::now();
     if (start >= nextTurn_) {
@@ -76,10 +86,28 @@ std::string ProgressMonitor::StatusText() const {
     return std::string(before_) + std::to_string(count_) + "/" + std::to_string(total_) + std::string(after_);
 }
 
+QString ProgressMonitor::Details() const {
+    if (found_ > 0) {
+        return found_ == 1 ? tr("1 file found") : tr("%1 files found").arg(found_);
+    }
+    const auto elapsed =
+        std::chrono::duration_cast<std::chrono::milliseconds>(SteadyClock::now() - phaseStart_);
+    const std::optional<RunRate> rate = counted_ ? RateOf(count_, total_, elapsed) : std::nullopt;
+    return rate ? tr("%1 files a second, %2 left")
+                      .arg(rate->filesPerSecond)
+                      .arg(ToQt(MinutesAndSeconds(rate->secondsLeft)))
+                : QString();
+}
+
 void ProgressMonitor::Paint() {
     changed_ = false;
     if (window_ != nullptr) {
-        window_->Display(ToQtDisplay(StatusText()), maximum_, position_);
+        const bool searching = maximum_ == 0 && !status_.empty();
+        window_->Display({.status = ToQtDisplay(StatusText()),
+                          .details = Details(),
+                          .maximum = maximum_,
+                          .position = position_,
+                          .busy = searching});
     }
 }
 

@@ -4,6 +4,9 @@
 #include "Application.h"
 #include "RunMonitor.h"
 
+#include <QCoreApplication>
+#include <QString>
+
 #include <chrono>
 #include <string>
 #include <string_view>
@@ -13,6 +16,8 @@ namespace tunedex {
 class frmProgress;
 
 class ProgressMonitor final : public RunMonitor {
+    Q_DECLARE_TR_FUNCTIONS(tunedex::ProgressMonitor)
+
   public:
     explicit ProgressMonitor(Application& application) : application_(application) {}
 
@@ -24,6 +29,7 @@ class ProgressMonitor final : public RunMonitor {
                           std::string_view after) override;
     void SetMaximum(std::int32_t maximum) override;
     void SetPosition(std::int32_t position) override;
+    void SetFound(std::int32_t count) override;
     bool AbortRequested() override;
 
     // The current status text, painted or not.
@@ -33,6 +39,7 @@ class ProgressMonitor final : public RunMonitor {
     using SteadyClock = std::chrono::steady_clock;
 
     void Paint();
+    QString Details() const;
 
     Application& application_;
     frmProgress* window_ = nullptr;
@@ -46,6 +53,8 @@ class ProgressMonitor final : public RunMonitor {
     std::int32_t total_ = 0;
     std::int32_t maximum_ = 0;
     std::int32_t position_ = 0;
+    std::int32_t found_ = 0; // in the search
+    SteadyClock::time_point phaseStart_{};
 
     SteadyClock::time_point nextTurn_{};
 };

@@ -88,36 +88,52 @@ QList<QWidget*> ResultPanel::Controls() const {
 
 void ResultPanel::ShowOutcome(const RunOutcome& outcome, bool modern) {
     outcome_ = outcome;
-    if (outcome_.written) {
-        ShowText(modern);
-    }
-    setVisible(outcome_.written);
+    modern_ = modern;
+    notice_.clear();
+    ShowText();
+}
+
+void ResultPanel::ShowNotice(const QString& notice) {
+    notice_ = notice;
+    ShowText();
 }
 
 void ResultPanel::FollowModern(bool modern) {
-    if (outcome_.written) {
-        ShowText(modern);
-    }
+    modern_ = modern;
+    ShowText();
 }
 
-void ResultPanel::ShowText(bool modern) {
+QString ResultPanel::Text() const {
     const int width = fontMetrics().averageCharWidth() * kNameWidthInCharacters;
     const QString name = fontMetrics().elidedText(ListName(outcome_), Qt::ElideMiddle, width);
-    const QString text = ResultText(outcome_, name, modern, locale_);
+    QStringList lines{ResultText(outcome_, name, modern_, locale_), notice_};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
+void ResultPanel::ShowText() {
+    const QString text = Text();
     const bool changed = text != lblResult_->text();
     const QString path = Isolated(ToQtDisplay(TerminalText(outcome_.file)));
     lblResult_->setText(text);
     lblResult_->setAccessibleName(QString(text).replace(u'\n', u' '));
     lblResult_->setAccessibleDescription(path);
-    lblResult_->setToolTip(Qt::convertFromPlainText(path)); // a path can look like markup
-    if (cmdSwitchModern_->hasFocus()) {
-        focusNextChild(); // hiding it leaves the focus where it is
-    }
-    cmdSwitchModern_->setVisible(OffersModern(outcome_, modern));
-    if (changed) {
+    lblResult_->setToolTip(path.isEmpty() ? path : Qt::convertFromPlainText(path)); // it can look like markup
+    ShowControl(*cmdOpenResult_, !outcome_.file.empty());
+    ShowControl(*cmdShowFolder_, !outcome_.file.empty());
+    ShowControl(*cmdSwitchModern_, OffersModern(outcome_, modern_));
+    setVisible(!text.isEmpty());
+    if (changed && !text.isEmpty()) {
         QAccessibleEvent announcement(lblResult_, QAccessible::Alert);
         QAccessible::updateAccessibility(&announcement);
     }
+}
+
+void ResultPanel::ShowControl(QWidget& control, bool shown) {
+    if (!shown && control.hasFocus()) {
+        focusNextChild(); // hiding it leaves the focus where it is
+    }
+    control.setVisible(shown);
 }
 
 } // namespace tunedex

@@ -17,9 +17,11 @@ class ResultPanel : public QGroupBox {
   public:
     explicit ResultPanel(Locale locale, QWidget* parent = nullptr);
 
-    // Shows the outcome and announces it to assistive technology. Hides the panel if nothing was written.
+    // Shows the outcome and announces it to assistive technology. Hides the panel if the run did not start.
     // `modern` is the present setting; the outcome has the run's.
     void ShowOutcome(const RunOutcome& outcome, bool modern);
+    // Adds a line to the outcome, in the place of an earlier one, until the next outcome.
+    void ShowNotice(const QString& notice);
     // After a change of the setting.
     void FollowModern(bool modern);
 
@@ -34,10 +36,14 @@ class ResultPanel : public QGroupBox {
 
   private:
     void BuildControls();
-    void ShowText(bool modern);
+    QString Text() const;
+    void ShowText();
+    void ShowControl(QWidget& control, bool shown);
 
     Locale locale_;
     RunOutcome outcome_;
+    bool modern_ = false;
+    QString notice_;
     QLabel* lblResult_;
     QPushButton* cmdOpenResult_ = nullptr;
     QPushButton* cmdShowFolder_ = nullptr;

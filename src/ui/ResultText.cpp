@@ -23,11 +23,12 @@ class Sentences {
     Sentences(const RunOutcome& outcome, const Locale& locale)
         : outcome_(outcome), separator_(ToQt(locale.ThousandsSeparator())) {}
 
-    QString Written(const QString& name) const;
+    QString End(const QString& name) const;
     QString Unread() const;
     QString ModernTags(bool modern) const;
 
   private:
+    QString Written(const QString& name) const;
     QString Number(std::size_t number) const;
     QString Tracks() const { return Counted(outcome_.tracks, tr("1 track"), tr("%1 tracks")); }
     QString Pages() const { return Counted(outcome_.pages, tr("1 page"), tr("%1 pages")); }
@@ -49,6 +50,23 @@ QString Sentences::Number(std::size_t number) const {
         digits.insert(i, separator_);
     }
     return digits;
+}
+
+QString Sentences::End(const QString& name) const {
+    switch (outcome_.end) {
+    case RunEnd::NotStarted:
+        return {};
+    case RunEnd::Written:
+        return Written(name);
+    case RunEnd::Aborted:
+        return outcome_.partial ? tr("The run was aborted. %1 has the tracks that were written.").arg(name)
+                                : tr("The run was aborted. No list was written.");
+    case RunEnd::NothingFound:
+        return tr("No MP3 files were found. No list was written.");
+    case RunEnd::Failed:
+        return tr("The run failed: %1. No complete list was written.").arg(ToQt(outcome_.failure));
+    }
+    return {};
 }
 
 QString Sentences::Written(const QString& name) const {
@@ -79,7 +97,7 @@ bool ReadsRightToLeft(QChar character) {
 }
 
 bool HasModernTags(const RunOutcome& outcome) {
-    return !outcome.modern && outcome.modernTags > 0;
+    return outcome.Written() && !outcome.modern && outcome.modernTags > 0;
 }
 
 } // namespace
@@ -96,7 +114,10 @@ QString ListName(const RunOutcome& outcome) {
 
 QString ResultText(const RunOutcome& outcome, const QString& name, bool modern, const Locale& locale) {
     const Sentences sentences(outcome, locale);
-    QStringList lines{sentences.Written(Isolated(name))};
+    QStringList lines{sentences.End(Isolated(name))};
+    if (outcome.end == RunEnd::NotStarted) {
+        return {};
+    }
     if (outcome.Incomplete()) {
         lines << sentences.Unread();
     }

@@ -12,7 +12,8 @@ namespace tunedex {
 // only: control characters, line breaks and direction marks are "?", stray bytes U+FFFD.
 QString ListName(const RunOutcome& outcome);
 
-// The sentences about a list that was written, one a line. `name` is its name, perhaps elided. If classic
+// The sentences about a run that has ended, one a line; empty if it did not start. `name` is the name of the
+// list, perhaps elided. If classic
 // readers made it, the last line says how many files have tags that `modern` reads; once `modern` is set, it
 // asks for another run.
 QString ResultText(const RunOutcome& outcome, const QString& name, bool modern, const Locale& locale);

@@ -52,11 +52,12 @@ RunOutcome WindowsFrontEnd::CreateList() {
         return {};
     }
     running_ = true;
+    reportsDeclined_ = false;
     main_.ShowResult({});
     RunOutcome outcome = CreateListCommand(application_, *this);
     running_ = false;
     if (progress_ != nullptr) {
-        progress_->SetRunning(false); // the run left the window open; the user closes it
+        progress_->ShowOver(); // the run left the window open; the user closes it
     }
     if (!application_.automaticMode) {
         main_.ShowResult(outcome);
@@ -70,7 +71,7 @@ MainFields WindowsFrontEnd::Fields() const {
 
 void WindowsFrontEnd::FillFields(const MainFields& fields) {
     main_.FillFields(fields);
-    main_.FollowModern();
+    main_.FollowSettings();
     if (options_ != nullptr) {
         options_->LoadControls();
     }
@@ -84,7 +85,8 @@ void WindowsFrontEnd::OpenOptions() {
     if (options_ == nullptr) {
         options_ = new frmOptions(application_, *this, &main_);
         options_->setAttribute(Qt::WA_DeleteOnClose);
-        QObject::connect(options_, &QDialog::finished, &main_, [this] { main_.FollowModern(); });
+        QObject::connect(options_, &QDialog::finished, &main_, [this] { main_.FollowSettings(); });
+        QObject::connect(options_, &frmOptions::DefaultsSaved, &main_, [this] { main_.NoteSaved(""); });
     }
     options_->show();
     QWidget* front = options_;
@@ -101,7 +103,7 @@ void WindowsFrontEnd::SwitchModernOn() {
     if (options_ != nullptr) {
         options_->SwitchModernOn();
     }
-    main_.FollowModern();
+    main_.FollowSettings();
 }
 
 // reject(), not close(): QCoreApplication::quit() fails if any window ignores its close event, and the
@@ -127,6 +129,12 @@ int WindowsFrontEnd::ShowMessage(std::string_view text, int buttons, std::string
 
 int WindowsFrontEnd::ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) {
     return dialogs_.ShowMessage(VisibleOwner(&owner), ToQtDisplay(text), buttons, ToQtDisplay(title));
+}
+
+void WindowsFrontEnd::ShowReport(std::string_view text, std::string_view title) {
+    if (!reportsDeclined_) {
+        reportsDeclined_ = !dialogs_.ShowReport(VisibleOwner(&main_), ToQtDisplay(text), ToQtDisplay(title));
+    }
 }
 
 void WindowsFrontEnd::FocusAndSelect(MainField field) {

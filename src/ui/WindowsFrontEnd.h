@@ -31,6 +31,7 @@ class WindowsFrontEnd final : public WindowInterface {
     void TakeControls(Settings& settings) override;
     int ShowMessage(std::string_view text, int buttons, std::string_view title) override;
     int ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) override;
+    void ShowReport(std::string_view text, std::string_view title) override;
     void FocusAndSelect(MainField field) override;
     void EnableWindows() override;
     RunMonitor& ShowProgress() override;
@@ -53,6 +54,7 @@ class WindowsFrontEnd final : public WindowInterface {
     QPointer<frmOptions> options_;
     std::unique_ptr<frmProgress> progress_; // null while the window is closed
     bool running_ = false;
+    bool reportsDeclined_ = false; // for the rest of the run
 };
 
 } // namespace tunedex

@@ -6,12 +6,15 @@
 #include "FolderDrop.h"
 #include "FolderSetting.h"
 #include "OpenHelp.h"
+#include "OutputHint.h"
+#include "Path.h"
 #include "PlaceholderMenu.h"
 #include "Product.h"
 #include "QtText.h"
 #include "ResultPanel.h"
 #include "SettingsFuncs.h"
 #include "Startup.h"
+#include "TerminalText.h"
 #include "TitleField.h"
 #include "Version.h"
 #include "WindowGeometry.h"
@@ -79,7 +82,6 @@ void ShowModal(QDialog* window) {
 frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs)
     : application_(application), ui_(ui), dialogs_(dialogs) {
     setObjectName(u"frmMain"_s);
-    setWindowTitle(tr("%1 v%2").arg(ToQt(kProductTitle), ToQt(kVersionText)));
     BuildFields();
     BuildMenus();
     BuildPlaceholderMenu();
@@ -96,6 +98,7 @@ frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs
     setCentralWidget(centre);
     OrderControls();
     UpdateFolderControls();
+    FollowSettings();
     resize(fontMetrics().averageCharWidth() * kFirstWidthInCharacters, sizeHint().height());
     RestoreWindowGeometry(*this);
     txtInputDir_->setFocus();
@@ -121,6 +124,7 @@ void frmMain::BuildFields() {
         }
     });
     Mirror(*txtOutputFile_, settings.OutputFile);
+    connect(txtOutputFile_, &QLineEdit::textChanged, this, &frmMain::ShowOutputHint);
     Mirror(*txtWindowTitle_, settings.WindowTitle);
     Mirror(*txtPageTitle_, settings.PageTitle);
     Mirror(*txtPageFooter_, settings.PageFooter);
@@ -129,6 +133,7 @@ void frmMain::BuildFields() {
           static_cast<QLineEdit*>(txtPageTitle_), static_cast<QLineEdit*>(txtPageFooter_)}) {
         field->setMinimumWidth(fontMetrics().averageCharWidth() * kFieldWidthInCharacters);
         connect(field, &QLineEdit::returnPressed, this, &frmMain::CreateListRequested);
+        connect(field, &QLineEdit::textChanged, this, &frmMain::ShowSettingsFile);
     }
     connect(chkMultipleDirs_, &QCheckBox::toggled, this, &frmMain::MultipleDirsToggled);
 }
@@ -217,7 +222,9 @@ QGroupBox* frmMain::BuildOutputGroup() {
     connect(cmdSelectOutputFile_, &QPushButton::clicked, this, &frmMain::BrowseOutputFile);
     lblOutputHint_ = new QLabel;
     lblOutputHint_->setObjectName(u"lblOutputHint"_s);
-    ShowOutputHint();
+    lblOutputHint_->setTextFormat(Qt::PlainText);
+    lblOutputHint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblOutputHint_->setMinimumHeight(2 * fontMetrics().lineSpacing()); // keeps its height with a second line
 
     auto* group = new QGroupBox(tr("List"));
     auto* grid = new QGridLayout(group);
@@ -231,10 +238,14 @@ QGroupBox* frmMain::BuildOutputGroup() {
 }
 
 void frmMain::ShowOutputHint() {
-    lblOutputHint_->setText(
-        application_.settings.Modern
-            ? tr("The extension sets the format: .htm web page, .txt or .csv table, .m3u playlist.")
-            : tr("The extension sets the format: .htm web page, .txt plain text, .m3u playlist."));
+    lblOutputHint_->setText(OutputHint(application_.settings, fontMetrics()));
+}
+
+void frmMain::ShowSettingsFile() {
+    const std::string path = SettingsPath(settingsPath_, application_.programFolder);
+    const QString file = ToQtDisplay(TerminalText(FileNameOf(path, PathStyle::Native())));
+    setWindowTitle(tr("%1 v%2 - %3[*]").arg(ToQt(kProductTitle), ToQt(kVersionText), file));
+    setWindowModified(application_.settings != saved_);
 }
 
 QGroupBox* frmMain::BuildTitleGroup() {
@@ -329,7 +340,9 @@ void frmMain::FillFields(const MainFields& fields) {
     txtWindowTitle_->setText(ToQt(fields.windowTitle));
     txtPageTitle_->setText(ToQt(fields.pageTitle));
     txtPageFooter_->setText(ToQt(fields.pageFooter));
+    saved_ = application_.settings;
     UpdateFolderControls();
+    FollowSettings();
 }
 
 QLineEdit& frmMain::Field(MainField field) const {
@@ -337,12 +350,13 @@ QLineEdit& frmMain::Field(MainField field) const {
 }
 
 void frmMain::ShowResult(const RunOutcome& outcome) {
-    ShowOutputHint(); // an open options dialog may have changed the setting for the run
     fraResult_->ShowOutcome(outcome, application_.settings.Modern);
+    FollowSettings(); // the run took the controls of an open options dialog
 }
 
-void frmMain::FollowModern() {
+void frmMain::FollowSettings() {
     ShowOutputHint();
+    ShowSettingsFile();
     fraResult_->FollowModern(application_.settings.Modern);
 }
 
@@ -372,6 +386,7 @@ void frmMain::UpdateFolderControls() {
     cmdSelectDirs_->setEnabled(several);
 
     const std::size_t count = several ? FoldersOf(application_.settings.Directory).size() : 0;
+    ShowSettingsFile();
     const QString counted = count == 1 ? tr("1 folder chosen") : tr("%1 folders chosen").arg(count);
     lblFolderCount_->setText(several ? counted : QString());
 }
@@ -459,10 +474,20 @@ void frmMain::SaveSettingsTo(const std::string& path) {
         ui_.TakeControls(application_.settings);
         const std::string unsaved = SaveSettingsCommand(application_, path);
         settingsPath_ = path.empty() ? path : SettingsPath(path, application_.programFolder);
+        NoteSaved(settingsPath_);
         if (!unsaved.empty()) {
             ui_.ShowMessage(*this, unsaved, kOkExclamation, kUnsavedSettingsTitle);
         }
     });
+}
+
+void frmMain::NoteSaved(const std::string& path) {
+    if (path == settingsPath_) {
+        saved_ = application_.settings;
+    }
+    ShowSettingsFile();
+    fraResult_->ShowNotice(
+        tr("Saved to %1.").arg(ToQtDisplay(TerminalText(SettingsPath(path, application_.programFolder)))));
 }
 
 void frmMain::ShowHelp() {

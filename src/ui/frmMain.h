@@ -36,8 +36,10 @@ class frmMain final : public QMainWindow {
 
     // Shows the result of a run; hides it if the run has written no list.
     void ShowResult(const RunOutcome& outcome);
-    // After a change of the setting Modern: updates the hints of output file and result.
-    void FollowModern();
+    // After a change of settings elsewhere: updates the hint of the output file, the result and the caption.
+    void FollowSettings();
+    // The settings have been saved to this file; an empty path means the default one.
+    void NoteSaved(const std::string& path);
 
   public slots:
     void ShowTipOfTheDay();
@@ -59,6 +61,7 @@ class frmMain final : public QMainWindow {
     QGroupBox* BuildFolderGroup();
     QGroupBox* BuildOutputGroup();
     void ShowOutputHint();
+    void ShowSettingsFile();
     QGroupBox* BuildTitleGroup();
     void BuildResultPanel();
     QWidget* BuildCommandRow();
@@ -88,6 +91,7 @@ class frmMain final : public QMainWindow {
     WindowInterface& ui_;
     Dialogs& dialogs_;
     std::string settingsPath_; // last opened or saved file; empty for the default file
+    Settings saved_;           // the settings in that file
     TitleField* placeholderTarget_ = nullptr;
 
     QLineEdit* txtInputDir_ = nullptr;

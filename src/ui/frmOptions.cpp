@@ -67,6 +67,7 @@ frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* p
     layout->addLayout(grid);
     layout->addStretch();
     layout->addLayout(BuildButtons());
+    layout->addWidget(BuildButtonHint());
     BuildMenu();
     layout->setSizeConstraint(QLayout::SetMinimumSize);
 
@@ -206,6 +207,13 @@ QLayout* frmOptions::BuildButtons() {
     layout->addWidget(cmdSave_);
     layout->addWidget(cmdCancel_);
     return layout;
+}
+
+QLabel* frmOptions::BuildButtonHint() {
+    auto* hint = new QLabel(tr("Use: until you quit. Save: also for the next start and unattended runs."));
+    NameControl(*hint, u"lblButtonHint"_s, hint->text(), QString());
+    hint->setAlignment(Qt::AlignRight);
+    return hint;
 }
 
 void frmOptions::BuildMenu() {
@@ -400,6 +408,7 @@ void frmOptions::Save() {
         }
     });
     if (saved) {
+        emit DefaultsSaved();
         accept();
     }
 }

@@ -46,6 +46,10 @@ class frmOptions : public QDialog {
     // disabled. A disabled dialog ignores close events; reject() closes both.
     void SetUsable(bool usable);
 
+  signals:
+    // Save has written the default settings file.
+    void DefaultsSaved();
+
   protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -59,6 +63,7 @@ class frmOptions : public QDialog {
     QGroupBox* BuildLinkGroup();
     QGroupBox* BuildModernGroup();
     QLayout* BuildButtons();
+    static QLabel* BuildButtonHint();
     void BuildMenu();
     void SetTabOrder();
 

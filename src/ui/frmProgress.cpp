@@ -2,6 +2,7 @@
 
 #include "Controls.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,39 +10,56 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace tunedex {
 
 frmProgress::frmProgress(QWidget& mainWindow)
     : QDialog(&mainWindow), mainWindow_(mainWindow), focusBefore_(mainWindow.focusWidget()),
-      lblStatus_(new QLabel), progressBar_(new QProgressBar),
+      lblStatus_(new QLabel), lblDetails_(new QLabel), lblOver_(new QLabel(tr("The run is over."))),
+      progressBar_(new QProgressBar),
       cmdAbort_(MakeButton(u"cmdAbort"_s, tr("&Abort"),
-                           tr("Stop the run. Tracks already written stay in the list."))) {
+                           tr("Stop the run. Tracks already written stay in the list."))),
+      cmdClose_(MakeButton(u"cmdClose"_s, tr("&Close"), tr("Return to the main window"))) {
     setObjectName(u"frmProgress"_s);
     setWindowTitle(tr("Creating List"));
     NameControl(*lblStatus_, u"lblStatus"_s, QString(), QString());
+    NameControl(*lblDetails_, u"lblDetails"_s, QString(), QString());
+    NameControl(*lblOver_, u"lblOver"_s, lblOver_->text(), QString());
     NameControl(*progressBar_, u"ProgressBar"_s, tr("Progress"), tr("Progress of the run"));
     connect(cmdAbort_, &QPushButton::clicked, this, &frmProgress::AbortPressed);
-
-    // Fits the longest status text, so the window keeps its size as the numbers grow.
-    lblStatus_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    lblStatus_->setMinimumWidth(
-        fontMetrics().horizontalAdvance(u"Retrieving MPEG/ID3 information (8888888/8888888)..."_s));
-    progressBar_->setMaximum(1);
-    progressBar_->setTextVisible(false);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdAbort_);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(lblStatus_);
-    layout->addWidget(progressBar_);
-    layout->addLayout(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    connect(cmdClose_, &QPushButton::clicked, this, &frmProgress::close);
+    Build();
 
     mainWindow_.setEnabled(false);
     setEnabled(true); // disabling the parent window disabled this one
+}
+
+void frmProgress::Build() {
+    // Fits the longest status text, so the window keeps its size as the numbers grow.
+    const QString longest = u"Retrieving MPEG/ID3 information (8888888/8888888)..."_s;
+    for (QLabel* label : {lblStatus_, lblDetails_}) {
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        label->setMinimumSize(fontMetrics().horizontalAdvance(longest), fontMetrics().height());
+    }
+    progressBar_->setMaximum(1);
+    progressBar_->setTextVisible(false);
+    lblOver_->hide();
+    cmdClose_->hide();
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(lblOver_);
+    buttons->addStretch();
+    buttons->addWidget(cmdAbort_);
+    buttons->addWidget(cmdClose_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblStatus_);
+    layout->addWidget(progressBar_);
+    layout->addWidget(lblDetails_);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 frmProgress::~frmProgress() {
@@ -51,14 +69,32 @@ frmProgress::~frmProgress() {
     }
 }
 
-void frmProgress::Display(const QString& status, int maximum, int position) {
-    lblStatus_->setText(status);
-    if (maximum > 0) {
+void frmProgress::Display(const ProgressState& state) {
+    lblStatus_->setText(state.status);
+    lblDetails_->setText(state.details);
+    if (state.busy) {
+        progressBar_->setRange(0, 0);
+    } else if (state.maximum > 0) {
         progressBar_->setTextVisible(true);
-        progressBar_->setMaximum(maximum);
+        progressBar_->setRange(0, state.maximum);
     }
-    progressBar_->setValue(position);
+    progressBar_->setValue(state.position);
     repaint();
+}
+
+void frmProgress::ShowOver() {
+    running_ = false;
+    lblDetails_->clear();
+    lblOver_->show();
+    progressBar_->setMaximum(std::max(progressBar_->maximum(), 1)); // no longer busy
+    cmdAbort_->hide();
+    cmdClose_->show();
+    cmdClose_->setDefault(true);
+    cmdClose_->setFocus(Qt::OtherFocusReason);
+    raise();
+    activateWindow();
+    QAccessibleEvent announcement(lblOver_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
 }
 
 void frmProgress::reject() {

@@ -82,7 +82,10 @@ struct AllWindows : Desk {
         tip = std::make_unique<frmTip>(fake.application, frontEnd, nullptr);
         about = std::make_unique<frmAbout>(fake.application, frontEnd, nullptr);
         progress = std::make_unique<frmProgress>(ground);
-        progress->Display(u"Retrieving MPEG/ID3 information (100000/100000)..."_s, 100000, 50000);
+        progress->Display({.status = u"Retrieving MPEG/ID3 information (100000/100000)..."_s,
+                           .details = u"100000 files a second, 1000:00 left"_s,
+                           .maximum = 100000,
+                           .position = 50000});
         folders->findChild<QAbstractItemView*>(u"lvwDirs"_s)
             ->setCurrentIndex(folders->findChild<QAbstractItemView*>(u"lvwDirs"_s)->model()->index(1, 0));
     }
@@ -97,7 +100,7 @@ struct AllWindows : Desk {
         }
         if (name == kMainAfterRun) {
             RunOutcome outcome;
-            outcome.written = true;
+            outcome.end = RunEnd::Written;
             outcome.file = "/lists/" + std::string(200, 'w') + ".001.htm";
             outcome.tracks = 1234567;
             outcome.pages = 12346;

@@ -39,6 +39,14 @@ struct RunDesk : Desk {
     }
     void Run() { Click(Main(), "cmdCreateList"); }
     frmProgress* Progress() { return Main().findChild<frmProgress*>(); }
+    // Whether the progress window says that the run is over, and Close has Abort's place and the focus.
+    bool IsOver() {
+        frmProgress& window = *Progress();
+        return Find<QWidget>(window, "lblOver").isVisible() &&
+               !Find<QWidget>(window, "cmdAbort").isVisible() &&
+               Find<QWidget>(window, "cmdClose").isVisible() && window.isActiveWindow() &&
+               window.focusWidget() == &Find<QWidget>(window, "cmdClose");
+    }
     bool WholeTextSelected(const char* name) {
         const auto& field = Find<QLineEdit>(Main(), name);
         return field.hasFocus() && field.selectionStart() == 0 && field.selectedText() == field.text();
@@ -214,6 +222,9 @@ class CreateListTest : public QObject {
         QCOMPARE(desk.fake.application.statistics, Statistics());
         QCOMPARE(desk.TheSettings().Directory, directory);
         QVERIFY(!desk.folder.Exists("list.htm"));
+        QVERIFY(desk.IsOver());
+        QCOMPARE(TextOf(desk.Main(), "lblResult"),
+                 std::string("No MP3 files were found. No list was written."));
 
         QTest::keyClick(desk.Progress(), Qt::Key_Escape);
         QTRY_COMPARE(desk.Progress(), nullptr);
@@ -243,9 +254,50 @@ class CreateListTest : public QObject {
         QVERIFY(desk.Progress() != nullptr && desk.Progress()->isVisible());
         QVERIFY(!desk.Main().isEnabled());
         QCOMPARE(desk.fake.application.statistics, Statistics());
+        QCOMPARE(TextOf(*desk.Progress(), "lblStatus"), std::string("Writing information..."));
+        QVERIFY(desk.IsOver());
+        QCOMPARE(TextOf(desk.Main(), "lblResult"),
+                 std::string("The run failed: Path/File access error. No complete list was written."));
         desk.Progress()->close();
         QTRY_COMPARE(desk.Progress(), nullptr);
         QVERIFY(desk.Main().isEnabled());
+    }
+
+    void AFinishedRunIsClosedByItsButtonEnterOrEscape_data() {
+        QTest::addColumn<int>("key");
+        QTest::newRow("the button") << 0;
+        QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return);
+        QTest::newRow("Space") << static_cast<int>(Qt::Key_Space);
+        QTest::newRow("Escape") << static_cast<int>(Qt::Key_Escape);
+    }
+    void AFinishedRunIsClosedByItsButtonEnterOrEscape() {
+        QFETCH(int, key);
+        RunDesk desk;
+        desk.AddSong("a.mp3");
+        desk.folder.Make("list.htm");
+        desk.Run();
+        if (key == 0) {
+            Click(*desk.Progress(), "cmdClose");
+        } else {
+            QTest::keyClick(desk.Progress()->focusWidget(), static_cast<Qt::Key>(key));
+        }
+        QTRY_COMPARE(desk.Progress(), nullptr);
+        QVERIFY(desk.Main().isEnabled());
+    }
+
+    void ADeclinedMessageIsTheLastOfItsRun() {
+        RunDesk desk;
+        for (const char* name : {"a.mp3", "b.mp3", "c.mp3"}) {
+            desk.folder.Write(std::string("music/") + name, "no audio");
+        }
+        desk.dialogs.declineReports = true;
+        desk.Run();
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
+        desk.Run();
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(2));
+        desk.dialogs.declineReports = false;
+        desk.Run();
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(5));
     }
 
     void AnErrorBeforeTheRunOpensNoProgressWindow_data() {
@@ -294,7 +346,7 @@ class CreateListTest : public QObject {
         desk.fake.application.automaticMode = true;
         desk.fake.application.errorTitle = "Tunedex Error! (Automatic Mode)";
         desk.SetField("txtOutputFile", "");
-        QVERIFY(!desk.frontEnd.CreateList().written);
+        QVERIFY(!desk.frontEnd.CreateList().Written());
         QVERIFY(desk.Said("No output file specified!", 48, "Tunedex Error! (Automatic Mode)"));
     }
 
@@ -321,7 +373,7 @@ class CreateListTest : public QObject {
         RunDesk desk;
         desk.folder.Write("music/empty.mp3", "");
         bool second = true;
-        desk.dialogs.whileMessageIsShown = [&] { second = desk.frontEnd.CreateList().written; };
+        desk.dialogs.whileMessageIsShown = [&] { second = desk.frontEnd.CreateList().Written(); };
         desk.Run();
         QVERIFY(!second);
         QCOMPARE(desk.fake.application.statistics.ListsCreated, 1);

@@ -3,8 +3,11 @@
 
 #include "WindowTest.h"
 
+#include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -41,6 +44,25 @@ class DialogsTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void AReportCanBeTheLastOneAndItsTextCanBeCopied() {
+        Dialogs dialogs;
+        const QString path = u"/music/"_s + QString(100, u'x') + u".mp3"_s;
+        for (const bool last : {false, true}) {
+            WhenShown([&](QWidget& box) {
+                QMessageBox& message = AsMessageBox(box);
+                QCOMPARE(message.icon(), QMessageBox::Warning);
+                QVERIFY(message.textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard));
+                QGuiApplication::clipboard()->setText(message.text());
+                QTRY_COMPARE(QGuiApplication::clipboard()->text(), path);
+                if (last) {
+                    Find<QCheckBox>(box, "chkNoMoreMessages").click();
+                }
+                QTest::mouseClick(message.button(QMessageBox::Ok), Qt::LeftButton);
+            });
+            QCOMPARE(dialogs.ShowReport(nullptr, path, u"Error!"_s), !last);
+        }
+    }
+
     void EachButtonReturnsItsAnswer_data() {
         QTest::addColumn<int>("buttons");
         QTest::addColumn<int>("button");

@@ -352,7 +352,7 @@ class OpenDialogsTest : public QObject {
         frontEnd.OpenOptions();
         QVERIFY(QTest::qWaitForWindowActive(frontEnd.Options()));
         ConfirmNextMessage();
-        QVERIFY(!frontEnd.CreateList().written);
+        QVERIFY(!frontEnd.CreateList().Written());
         QTRY_VERIFY(IsFocusedWithWholeText(field));
     }
 };

@@ -135,15 +135,18 @@ class ResultPanelTest : public QObject {
         QCOMPARE(desk.dialogs.messages[0].buttons, 48);
     }
 
-    void ARunThatWritesNothingHidesTheResult_data() {
+    void ARunThatWritesNoListSaysSo_data() {
         QTest::addColumn<int>("kind");
-        QTest::newRow("refused") << 0;
-        QTest::newRow("nothing found") << 1;
-        QTest::newRow("aborted") << 2;
-        QTest::newRow("failed") << 3;
+        QTest::addColumn<QString>("text");
+        QTest::newRow("refused") << 0 << QString();
+        QTest::newRow("nothing found") << 1 << u"No MP3 files were found. No list was written."_s;
+        QTest::newRow("aborted") << 2 << u"The run was aborted. No list was written."_s;
+        QTest::newRow("failed") << 3
+                                << u"The run failed: Path/File access error. No complete list was written."_s;
     }
-    void ARunThatWritesNothingHidesTheResult() {
+    void ARunThatWritesNoListSaysSo() {
         QFETCH(int, kind);
+        QFETCH(QString, text);
         ResultDesk desk;
         desk.Run();
         QVERIFY(desk.Panel().isVisible());
@@ -167,13 +170,30 @@ class ResultPanelTest : public QObject {
         desk.Run();
         QCOMPARE(desk.dialogs.messages.size(), std::size_t(1));
         QVERIFY(hiddenMeanwhile);
-        QVERIFY(!desk.Panel().isVisible());
+        QCOMPARE(desk.Panel().isVisible(), !text.isEmpty());
+        QCOMPARE(desk.Label().text(), text);
+        QVERIFY(!Find<QPushButton>(desk.Main(), "cmdOpenResult").isVisible());
+        QVERIFY(!Find<QPushButton>(desk.Main(), "cmdShowFolder").isVisible());
+        QVERIFY(!desk.SwitchOn().isVisible());
+    }
+
+    void ANoticeIsAddedToTheResultUntilTheNextRun() {
+        ResultDesk desk;
+        QTest::keyClick(&desk.Main(), Qt::Key_S, Qt::ControlModifier);
+        const QString saved = u"Saved to "_s + ToQt(desk.folder / "Tunedex.cfg") + u'.';
+        QVERIFY(desk.Panel().isVisible());
+        QCOMPARE(desk.Label().text(), saved);
+        desk.Run();
+        QCOMPARE(desk.Label().text(), u"Wrote list.htm: 1 track on 1 page."_s);
+        QTest::keyClick(&desk.Main(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(desk.Label().text(), u"Wrote list.htm: 1 track on 1 page.\n"_s + saved);
+        QVERIFY(Find<QPushButton>(desk.Main(), "cmdOpenResult").isVisible());
     }
 
     void AnUnattendedRunShowsNoResult() {
         ResultDesk desk;
         desk.fake.application.automaticMode = true;
-        QVERIFY(desk.frontEnd.CreateList().written);
+        QVERIFY(desk.frontEnd.CreateList().Written());
         QVERIFY(!desk.Panel().isVisible());
     }
 

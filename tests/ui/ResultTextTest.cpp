@@ -11,7 +11,7 @@ namespace {
 
 RunOutcome Written(const std::string& file, std::int32_t tracks, std::int32_t pages) {
     RunOutcome outcome;
-    outcome.written = true;
+    outcome.end = RunEnd::Written;
     outcome.modern = file.ends_with(".csv"); // a kind of modern lists only
     outcome.file = file;
     outcome.tracks = tracks;

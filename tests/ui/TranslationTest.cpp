@@ -142,7 +142,7 @@ class TranslationTest : public QObject {
     void TheResultOfARunIsTranslated() {
         Desk desk;
         RunOutcome outcome;
-        outcome.written = true;
+        outcome.end = RunEnd::Written;
         outcome.file = "/lists/list.htm";
         outcome.tracks = 2;
         outcome.unreadFolders = 1;
@@ -156,7 +156,7 @@ class TranslationTest : public QObject {
             QVERIFY2(line.contains(kMark), qPrintable(line));
         }
         desk.TheSettings().Modern = true;
-        desk.Main().FollowModern();
+        desk.Main().FollowSettings();
         QVERIFY(Find<QLabel>(desk.Main(), "lblResult").text().split(u'\n').value(2).startsWith(kMark));
         Click(desk.Main(), "cmdOpenResult");
         QVERIFY(IsMarked(desk.dialogs.messages.back().text));

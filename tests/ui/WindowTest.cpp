@@ -31,6 +31,11 @@ int FakeDialogs::ShowMessage(QWidget* owner, const QString& text, int buttons, c
     return Next(answers, static_cast<int>(kAnswerOk));
 }
 
+bool FakeDialogs::ShowReport(QWidget* owner, const QString& text, const QString& title) {
+    ShowMessage(owner, text, kOkExclamation, title);
+    return !declineReports;
+}
+
 std::optional<std::string> FakeDialogs::ChooseFolder(QWidget* /*owner*/, const QString& title,
                                                      const QString& prompt, const std::string& start) {
     folderQuestions.push_back({FromQt(title), FromQt(prompt), start});

@@ -38,6 +38,8 @@ class FakeDialogs final : public Dialogs {
     };
 
     int ShowMessage(QWidget* owner, const QString& text, int buttons, const QString& title) override;
+    // Recorded as a message; declines further ones once `declineReports` is set.
+    bool ShowReport(QWidget* owner, const QString& text, const QString& title) override;
     std::optional<std::string> ChooseFolder(QWidget* owner, const QString& title, const QString& prompt,
                                             const std::string& start) override;
     std::optional<std::string> ChooseFile(QWidget* owner, const FileQuestion& question) override;
@@ -46,6 +48,7 @@ class FakeDialogs final : public Dialogs {
     std::deque<std::optional<std::string>> folders;
     std::deque<std::optional<std::string>> files;
     std::function<void()> whileMessageIsShown;
+    bool declineReports = false;
 
     std::vector<Message> messages;
     std::vector<FolderQuestion> folderQuestions;

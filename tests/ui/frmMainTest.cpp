@@ -41,7 +41,7 @@ class frmMainTest : public QObject {
   private slots:
     void TheCaptionNamesTheVersion() {
         Desk desk;
-        QCOMPARE(desk.Main().windowTitle(), u"Tunedex v1.0"_s);
+        QVERIFY(desk.Main().windowTitle().startsWith(u"Tunedex v1.0 - "_s));
     }
 
     void StartUpFillsTheFields() {
@@ -232,6 +232,8 @@ class frmMainTest : public QObject {
         Click(desk.Main(), "cmdOptions");
         Find<QCheckBox>(*desk.frontEnd.Options(), "chkModern").setChecked(false);
         Click(*desk.frontEnd.Options(), "cmdUse");
+        QVERIFY(TextOf(desk.Main(), "lblOutputHint").starts_with("Writes list.csv.htm."));
+        Find<QLineEdit>(desk.Main(), "txtOutputFile").clear();
         QCOMPARE(TextOf(desk.Main(), "lblOutputHint"), classic);
     }
 
@@ -351,7 +353,69 @@ class frmMainTest : public QObject {
         Choose(desk.Main(), "itmFileSaveSettings");
         QVERIFY(HoldsLine(desk.folder / "mine.cfg", "PageTitle=Later"));
         QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
-        QCOMPARE(desk.Main().windowTitle(), u"Tunedex v1.0"_s);
+        QVERIFY(desk.Main().windowTitle().startsWith(u"Tunedex v1.0 - "_s));
+    }
+
+    void TheCaptionNamesTheSettingsFileAndMarksChanges() {
+        Desk desk;
+        desk.Show();
+        StartUp(desk.fake.application, desk.frontEnd, {});
+        const auto caption = [&desk] {
+            return desk.Main().windowTitle() + (desk.Main().isWindowModified() ? u" changed"_s : QString());
+        };
+        QCOMPARE(caption(), u"Tunedex v1.0 - Tunedex.cfg[*]"_s);
+        Type(desk.Main(), "txtPageTitle", "Mine");
+        QCOMPARE(caption(), u"Tunedex v1.0 - Tunedex.cfg[*] changed"_s);
+        desk.dialogs.files = {desk.folder / "mine"};
+        Choose(desk.Main(), "itmFileSaveSettingsAs");
+        QCOMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*]"_s);
+        Click(desk.Main(), "chkMultipleDirs");
+        QCOMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*] changed"_s);
+        desk.dialogs.files = {desk.folder / "mine.cfg"};
+        Choose(desk.Main(), "itmFileOpenSettings");
+        QCOMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*]"_s);
+        Click(desk.Main(), "cmdOptions");
+        Find<QCheckBox>(*desk.frontEnd.Options(), "chkRecursive").toggle();
+        Click(*desk.frontEnd.Options(), "cmdUse");
+        QTRY_COMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*] changed"_s);
+    }
+
+    void ALineSaysWhatARunWouldWrite_data() {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<int>("spanning");
+        QTest::addColumn<bool>("modern");
+        QTest::addColumn<QString>("hint");
+        const auto row = [](const char* output, int spanning, bool modern, const QString& hint) {
+            QTest::newRow(qPrintable(hint)) << QByteArray(output) << spanning << modern << hint;
+        };
+        row("list.htm", 0, false, u"Writes list.htm.\n"_s);
+        row("list", 0, true, u"Writes list.htm.\n"_s);
+        row("list.htm", 100, false, u"Writes list.001.htm … (100 files a page).\n"_s);
+        row("list.txt", 100, false, u"Writes list.txt.\n"_s);
+        row("list.m3u8", 0, true, u"Writes list.m3u8.\n"_s);
+        row("list.m3u8", 0, false, u"Writes list.m3u8.htm.\nOnly modern tags and lists know .m3u8."_s);
+        row("list.pdf", 0, true, u"Writes list.pdf.htm.\n.pdf is not the extension of a format."_s);
+        row("old.htm", 0, false, u"Writes old.htm.\nThe existing list will be replaced."_s);
+        row("old2.htm", 5, false,
+            u"Writes old2.001.htm … (5 files a page).\nThe existing list will be replaced."_s);
+    }
+    void ALineSaysWhatARunWouldWrite() {
+        QFETCH(QByteArray, output);
+        QFETCH(int, spanning);
+        QFETCH(bool, modern);
+        QFETCH(QString, hint);
+        Desk desk;
+        desk.Show();
+        desk.folder.Write("old.htm", "x");
+        desk.folder.Write("old2.001.htm", "x");
+        desk.TheSettings().Spanning = static_cast<std::int16_t>(spanning);
+        desk.TheSettings().Modern = modern;
+        const std::string extensions = TextOf(desk.Main(), "lblOutputHint");
+        QVERIFY(extensions.starts_with("The extension sets the format: "));
+        Find<QLineEdit>(desk.Main(), "txtOutputFile").setText(ToQt(desk.folder / output.toStdString()));
+        QCOMPARE(ToQt(TextOf(desk.Main(), "lblOutputHint")), hint);
+        Find<QLineEdit>(desk.Main(), "txtOutputFile").clear();
+        QVERIFY(TextOf(desk.Main(), "lblOutputHint").starts_with("The extension sets the format: "));
     }
 
     void CancellingADialogSavesAndLoadsNothing() {

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -65,6 +66,44 @@ class frmProgressTest : public QObject {
         QCOMPARE(bar.value(), 50);
         desk.frontEnd.SetProgressCaption("Tunedex (Automatic Mode)");
         QCOMPARE(window.windowTitle(), u"Tunedex (Automatic Mode)"_s);
+    }
+
+    void TheSearchHasABusyBarAndARunningCount() {
+        Desk desk;
+        desk.Show();
+        RunMonitor& monitor = desk.frontEnd.ShowProgress();
+        auto& window = OpenWindow<frmProgress>(desk.Main());
+        const auto& bar = Find<QProgressBar>(window, "ProgressBar");
+        monitor.SetStatus("Searching for MP3 files...");
+        QCOMPARE(bar.maximum(), 0);
+        monitor.SetFound(1);
+        monitor.AbortRequested();
+        QCOMPARE(TextOf(window, "lblDetails"), std::string("1 file found"));
+        monitor.SetFound(1234);
+        QTest::qWait(120);
+        monitor.AbortRequested();
+        QCOMPARE(TextOf(window, "lblDetails"), std::string("1234 files found"));
+        QCOMPARE(TextOf(window, "lblStatus"), std::string("Searching for MP3 files..."));
+        monitor.SetMaximum(1234);
+        monitor.SetStatus("Retrieving MPEG/ID3 information...");
+        QCOMPARE(bar.maximum(), 1234);
+        QCOMPARE(TextOf(window, "lblDetails"), std::string());
+    }
+
+    void AfterASecondRateAndTimeLeftAreShown() {
+        Desk desk;
+        desk.Show();
+        RunMonitor& monitor = desk.frontEnd.ShowProgress();
+        auto& window = OpenWindow<frmProgress>(desk.Main());
+        monitor.SetMaximum(100);
+        monitor.SetStatus("Retrieving MPEG/ID3 information...");
+        QTest::qWait(1100);
+        monitor.SetCountedStatus("Retrieving MPEG/ID3 information (", 50, 100, ")...");
+        monitor.AbortRequested();
+        QVERIFY2(QRegularExpression(u"^\\d+ files a second, 0:0\\d left$"_s)
+                     .match(ToQt(TextOf(window, "lblDetails")))
+                     .hasMatch(),
+                 TextOf(window, "lblDetails").c_str());
     }
 
     void PaintingIsThrottledAndTheLastTextIsShown() {
