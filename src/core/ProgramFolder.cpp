@@ -2,6 +2,7 @@
 
 #include "FileLookup.h"
 #include "FileSystem.h"
+#include "HomeFolder.h"
 #include "Path.h"
 #include "Product.h"
 #include "RunTimeError.h"
@@ -10,7 +11,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <pwd.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -29,15 +29,6 @@ std::string WithProgramName(const std::string& parentFolder) {
 // The data folder of an installation whose program is in `runningFolder`.
 std::string InstalledDataFolder(const std::string& runningFolder) {
     return WithProgramName(runningFolder + "../share/");
-}
-
-std::string HomeFolder() {
-    const char* home = std::getenv("HOME");
-    if (home != nullptr && *home != '\0') {
-        return home;
-    }
-    const passwd* user = getpwuid(getuid());
-    return user != nullptr ? user->pw_dir : "/";
 }
 
 std::string UserDataFolder() {

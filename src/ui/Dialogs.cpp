@@ -5,6 +5,7 @@
 #include "QtText.h"
 #include "UserInterface.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDialog>
@@ -127,6 +128,40 @@ void CopyWithoutBreaks(QMessageBox& box) {
     });
 }
 
+std::string NativePath(const QString& path) {
+    return FromQt(QDir::toNativeSeparators(path));
+}
+
+QStringList AskForFolders(QWidget* owner, const QString& title, const QString& prompt,
+                          const std::string& start, QAbstractItemView::SelectionMode mode) {
+    QDialog window(owner);
+    window.setWindowTitle(title);
+    auto* label = new QLabel(prompt);
+    label->setWordWrap(true);
+
+    // Not the native dialog: only a widget can be laid out below the prompt.
+    auto* chooser = new QFileDialog(&window);
+    chooser->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
+    chooser->setFileMode(QFileDialog::Directory);
+    chooser->setDirectory(ExistingStart(start));
+    chooser->setLabelText(QFileDialog::Accept, Dialogs::tr("&OK"));
+    chooser->setWindowFlags(Qt::Widget);
+    chooser->setSizeGripEnabled(false);
+    chooser->layout()->setContentsMargins(0, 0, 0, 0);
+    for (auto* view : chooser->findChildren<QAbstractItemView*>()) {
+        if (view->objectName() == u"listView"_s || view->objectName() == u"treeView"_s) {
+            view->setSelectionMode(mode);
+        }
+    }
+    QObject::connect(chooser, &QDialog::accepted, &window, &QDialog::accept);
+    QObject::connect(chooser, &QDialog::rejected, &window, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(label);
+    layout->addWidget(chooser);
+    return window.exec() == QDialog::Accepted ? chooser->selectedFiles() : QStringList();
+}
+
 } // namespace
 
 QString WithBreaksInLongWords(const QString& text) {
@@ -162,30 +197,19 @@ bool Dialogs::ShowReport(QWidget* owner, const QString& text, const QString& tit
 
 std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& title, const QString& prompt,
                                                  const std::string& start) {
-    QDialog window(owner);
-    window.setWindowTitle(title);
-    auto* label = new QLabel(prompt);
-    label->setWordWrap(true);
+    const QStringList folders =
+        AskForFolders(owner, title, prompt, start, QAbstractItemView::SingleSelection);
+    return folders.isEmpty() ? std::nullopt : std::optional(NativePath(folders.first()));
+}
 
-    // Not the native dialog: only a widget can be laid out below the prompt.
-    auto* chooser = new QFileDialog(&window);
-    chooser->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
-    chooser->setFileMode(QFileDialog::Directory);
-    chooser->setDirectory(ExistingStart(start));
-    chooser->setLabelText(QFileDialog::Accept, tr("&OK"));
-    chooser->setWindowFlags(Qt::Widget);
-    chooser->setSizeGripEnabled(false);
-    chooser->layout()->setContentsMargins(0, 0, 0, 0);
-    QObject::connect(chooser, &QDialog::accepted, &window, &QDialog::accept);
-    QObject::connect(chooser, &QDialog::rejected, &window, &QDialog::reject);
-
-    auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(label);
-    layout->addWidget(chooser);
-    if (window.exec() != QDialog::Accepted || chooser->selectedFiles().isEmpty()) {
-        return std::nullopt;
+std::vector<std::string> Dialogs::ChooseFolders(QWidget* owner, const QString& title, const QString& prompt,
+                                                const std::string& start) {
+    std::vector<std::string> folders;
+    for (const QString& folder :
+         AskForFolders(owner, title, prompt, start, QAbstractItemView::ExtendedSelection)) {
+        folders.push_back(NativePath(folder));
     }
-    return FromQt(QDir::toNativeSeparators(chooser->selectedFiles().first()));
+    return folders;
 }
 
 std::optional<std::string> Dialogs::ChooseFile(QWidget* owner, const FileQuestion& question) {
@@ -208,7 +232,7 @@ std::optional<std::string> Dialogs::ChooseFile(QWidget* owner, const FileQuestio
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().first()));
+    return NativePath(dialog.selectedFiles().first());
 }
 
 } // namespace tunedex

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 class QWidget;
 
@@ -35,6 +36,9 @@ class Dialogs {
     // Return no value when the user cancels. Paths are native bytes, not necessarily UTF-8.
     virtual std::optional<std::string> ChooseFolder(QWidget* owner, const QString& title,
                                                     const QString& prompt, const std::string& start);
+    // The same for several folders; none when the user cancels.
+    virtual std::vector<std::string> ChooseFolders(QWidget* owner, const QString& title,
+                                                   const QString& prompt, const std::string& start);
     virtual std::optional<std::string> ChooseFile(QWidget* owner, const FileQuestion& question);
 };
 

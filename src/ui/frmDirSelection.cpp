@@ -6,6 +6,7 @@
 #include "FolderDrop.h"
 #include "FolderSetting.h"
 #include "OpenHelp.h"
+#include "Path.h"
 #include "QtText.h"
 #include "Text.h"
 #include "WindowGeometry.h"
@@ -131,6 +132,8 @@ QWidget* frmDirSelection::BuildBottomRow() {
     auto* cmdOK =
         MakeCommand(u"cmdOK"_s, tr("&OK"), tr("Use this list and close the window"), &frmDirSelection::Use);
     cmdOK->setDefault(true);
+    auto* cmdCancel = MakeCommand(u"cmdCancel"_s, tr("Cance&l"),
+                                  tr("Close the window without using this list"), &frmDirSelection::reject);
 
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
@@ -138,6 +141,7 @@ QWidget* frmDirSelection::BuildBottomRow() {
     layout->addWidget(cmdHelp);
     layout->addStretch();
     layout->addWidget(cmdOK);
+    layout->addWidget(cmdCancel);
     return row;
 }
 
@@ -167,11 +171,13 @@ void frmDirSelection::AddFolder(const std::string& folder) {
 }
 
 void frmDirSelection::Add() {
-    const auto folder = dialogs_.ChooseFolder(
-        this, tr("Select a Directory"),
-        tr("Select a folder that you would like Tunedex to scan for MP3 files, and click OK."), lastFolder_);
-    if (folder) {
-        AddFolder(*folder);
+    const PathStyle style = PathStyle::Native();
+    // The next folder is most likely beside the last one.
+    const std::string start(FolderPathOf(WithoutSeparator(lastFolder_, style), style));
+    for (const std::string& folder : dialogs_.ChooseFolders(
+             this, tr("Select a Directory"),
+             tr("Select a folder that you would like Tunedex to scan for MP3 files, and click OK."), start)) {
+        AddFolder(folder);
     }
 }
 

@@ -5,12 +5,14 @@
 #include "ErrorMessage.h"
 #include "FolderDrop.h"
 #include "FolderSetting.h"
+#include "HomeFolder.h"
 #include "OpenHelp.h"
 #include "OutputHint.h"
 #include "Path.h"
 #include "PlaceholderMenu.h"
 #include "Product.h"
 #include "QtText.h"
+#include "RecentButton.h"
 #include "ResultPanel.h"
 #include "SettingsFuncs.h"
 #include "Startup.h"
@@ -66,6 +68,20 @@ QAction* AddItem(QMenu& menu, const char* name, const QString& text, const QStri
     return action;
 }
 
+// The path in a field; "~" is the home folder, as in a shell.
+std::string PathIn(const QLineEdit& field) {
+    return ExpandHome(FromQt(field.text()));
+}
+
+// Shows the home folder in the place of "~" once the user leaves the field.
+void ShowExpandedPath(QLineEdit& field) {
+    QObject::connect(&field, &QLineEdit::editingFinished, &field, [&field] {
+        if (const QString expanded = ToQt(PathIn(field)); expanded != field.text()) {
+            field.setText(expanded);
+        }
+    });
+}
+
 // Copies a field's text into its setting whenever it changes.
 void Mirror(QLineEdit& field, std::string& setting) {
     QObject::connect(&field, &QLineEdit::textChanged, &field,
@@ -118,12 +134,15 @@ void frmMain::BuildFields() {
         new TitleField(u"txtPageFooter"_s, tr("Page footer"), tr("The text at the end of each page"));
 
     Settings& settings = application_.settings;
-    connect(txtInputDir_, &QLineEdit::textChanged, this, [this](const QString& text) {
+    ShowExpandedPath(*txtInputDir_);
+    ShowExpandedPath(*txtOutputFile_);
+    connect(txtInputDir_, &QLineEdit::textChanged, this, [this] {
         if (!chkMultipleDirs_->isChecked()) {
-            application_.settings.Directory = FromQt(text);
+            application_.settings.Directory = PathIn(*txtInputDir_);
         }
     });
-    Mirror(*txtOutputFile_, settings.OutputFile);
+    connect(txtOutputFile_, &QLineEdit::textChanged, this,
+            [this] { application_.settings.OutputFile = PathIn(*txtOutputFile_); });
     connect(txtOutputFile_, &QLineEdit::textChanged, this, &frmMain::ShowOutputHint);
     Mirror(*txtWindowTitle_, settings.WindowTitle);
     Mirror(*txtPageTitle_, settings.PageTitle);
@@ -136,6 +155,10 @@ void frmMain::BuildFields() {
         connect(field, &QLineEdit::textChanged, this, &frmMain::ShowSettingsFile);
     }
     connect(chkMultipleDirs_, &QCheckBox::toggled, this, &frmMain::MultipleDirsToggled);
+    cmdRecentFolders_ = new RecentButton(u"cmdRecentFolders"_s, tr("Recent folders"), *txtInputDir_,
+                                         RecentPaths(application_.registry, kRecentFoldersValue));
+    cmdRecentOutputs_ = new RecentButton(u"cmdRecentOutputs"_s, tr("Recent output files"), *txtOutputFile_,
+                                         RecentPaths(application_.registry, kRecentOutputsValue));
 }
 
 void frmMain::BuildMenus() {
@@ -206,9 +229,10 @@ QGroupBox* frmMain::BuildFolderGroup() {
     grid->setColumnMinimumWidth(0, LabelWidth());
     grid->addWidget(lblInputDir_, 0, 0);
     grid->addWidget(txtInputDir_, 0, 1);
-    grid->addWidget(cmdSelectDir_, 0, 2);
-    grid->addLayout(several, 1, 1);
-    grid->addWidget(cmdSelectDirs_, 1, 2);
+    grid->addWidget(cmdRecentFolders_, 0, 2);
+    grid->addWidget(cmdSelectDir_, 0, 3);
+    grid->addLayout(several, 1, 1, 1, 2);
+    grid->addWidget(cmdSelectDirs_, 1, 3);
 
     txtInputDir_->setAcceptDrops(false); // QLineEdit would insert the folder's URL
     new FolderDrop(*group, [this](const std::vector<std::string>& folders) { TakeDroppedFolders(folders); });
@@ -232,8 +256,9 @@ QGroupBox* frmMain::BuildOutputGroup() {
     grid->setColumnMinimumWidth(0, LabelWidth());
     grid->addWidget(MakeLabelFor(*txtOutputFile_, tr("&Output file:")), 0, 0);
     grid->addWidget(txtOutputFile_, 0, 1);
-    grid->addWidget(cmdSelectOutputFile_, 0, 2);
-    grid->addWidget(lblOutputHint_, 1, 1, 1, 2);
+    grid->addWidget(cmdRecentOutputs_, 0, 2);
+    grid->addWidget(cmdSelectOutputFile_, 0, 3);
+    grid->addWidget(lblOutputHint_, 1, 1, 1, 3);
     return group;
 }
 
@@ -305,12 +330,13 @@ QWidget* frmMain::BuildCommandRow() {
 }
 
 void frmMain::OrderControls() {
-    QList<QWidget*> order{txtInputDir_,     cmdSelectDir_,
-                          chkMultipleDirs_, cmdSelectDirs_,
-                          txtOutputFile_,   cmdSelectOutputFile_,
-                          txtWindowTitle_,  cmdWindowTitlePlaceHolders_,
-                          txtPageTitle_,    cmdPageTitlePlaceHolders_,
-                          txtPageFooter_,   cmdPageFooterPlaceHolders_};
+    QList<QWidget*> order{txtInputDir_,      cmdRecentFolders_,
+                          cmdSelectDir_,     chkMultipleDirs_,
+                          cmdSelectDirs_,    txtOutputFile_,
+                          cmdRecentOutputs_, cmdSelectOutputFile_,
+                          txtWindowTitle_,   cmdWindowTitlePlaceHolders_,
+                          txtPageTitle_,     cmdPageTitlePlaceHolders_,
+                          txtPageFooter_,    cmdPageFooterPlaceHolders_};
     order << fraResult_->Controls();
     order << cmdCreateList_ << cmdOptions_ << cmdAbout_ << cmdQuit_;
     SetTabOrders(order);
@@ -319,8 +345,8 @@ void frmMain::OrderControls() {
 MainFields frmMain::Fields() const {
     MainFields fields;
     fields.multipleFolders = chkMultipleDirs_->isChecked();
-    fields.inputFolder = FromQt(txtInputDir_->text());
-    fields.outputFile = FromQt(txtOutputFile_->text());
+    fields.inputFolder = PathIn(*txtInputDir_);
+    fields.outputFile = PathIn(*txtOutputFile_);
     fields.windowTitle = FromQt(txtWindowTitle_->text());
     fields.pageTitle = FromQt(txtPageTitle_->text());
     fields.pageFooter = FromQt(txtPageFooter_->text());
@@ -349,7 +375,18 @@ QLineEdit& frmMain::Field(MainField field) const {
     return field == MainField::InputFolder ? *txtInputDir_ : *txtOutputFile_;
 }
 
+void frmMain::RememberPaths() {
+    const MainFields fields = Fields();
+    if (!fields.multipleFolders) {
+        cmdRecentFolders_->Add(fields.inputFolder);
+    }
+    cmdRecentOutputs_->Add(fields.outputFile);
+}
+
 void frmMain::ShowResult(const RunOutcome& outcome) {
+    if (outcome.end != RunEnd::NotStarted) {
+        RememberPaths();
+    }
     fraResult_->ShowOutcome(outcome, application_.settings.Modern);
     FollowSettings(); // the run took the controls of an open options dialog
 }
@@ -374,7 +411,7 @@ void frmMain::ShowResultFolder() {
 void frmMain::MultipleDirsToggled() {
     // Required: ticking the box starts with an empty list, not with the single folder. Do not "fix".
     application_.settings.Directory =
-        chkMultipleDirs_->isChecked() ? std::string(kMultiFolderMark) : FromQt(txtInputDir_->text());
+        chkMultipleDirs_->isChecked() ? std::string(kMultiFolderMark) : PathIn(*txtInputDir_);
     UpdateFolderControls();
 }
 
@@ -382,6 +419,7 @@ void frmMain::UpdateFolderControls() {
     const bool several = chkMultipleDirs_->isChecked();
     lblInputDir_->setEnabled(!several);
     txtInputDir_->setEnabled(!several);
+    cmdRecentFolders_->Offer(!several);
     cmdSelectDir_->setEnabled(!several);
     cmdSelectDirs_->setEnabled(several);
 
@@ -395,7 +433,7 @@ void frmMain::BrowseFolder() {
     const auto folder = dialogs_.ChooseFolder(
         this, tr("Select a Directory"),
         tr("Select the folder that you would like Tunedex to scan for MP3 files, and click OK."),
-        FromQt(txtInputDir_->text()));
+        PathIn(*txtInputDir_));
     if (folder) {
         txtInputDir_->setText(ToQt(*folder));
     }
@@ -425,8 +463,8 @@ void frmMain::TakeDroppedFolders(const std::vector<std::string>& folders) {
 void frmMain::BrowseOutputFile() {
     const QString filters =
         tr(kOutputFilters) + (application_.settings.Modern ? tr(kModernOutputFilters) : QString());
-    const auto file = dialogs_.ChooseFile(
-        this, {tr("Select the Output File"), filters, FromQt(txtOutputFile_->text()), true});
+    const auto file =
+        dialogs_.ChooseFile(this, {tr("Select the Output File"), filters, PathIn(*txtOutputFile_), true});
     if (file) {
         txtOutputFile_->setText(ToQt(*file));
     }

@@ -20,6 +20,7 @@ class QPushButton;
 
 namespace tunedex {
 
+class RecentButton;
 class ResultPanel;
 class TitleField;
 
@@ -76,6 +77,7 @@ class frmMain final : public QMainWindow {
     void UpdateFolderControls();
     void OpenPlaceholderMenu(TitleField& field, QPushButton& button);
 
+    void RememberPaths();
     void OpenResult();
     void ShowResultFolder();
 
@@ -95,12 +97,14 @@ class frmMain final : public QMainWindow {
     TitleField* placeholderTarget_ = nullptr;
 
     QLineEdit* txtInputDir_ = nullptr;
+    RecentButton* cmdRecentFolders_ = nullptr;
     QLabel* lblInputDir_ = nullptr;
     QPushButton* cmdSelectDir_ = nullptr;
     QCheckBox* chkMultipleDirs_ = nullptr;
     QLabel* lblFolderCount_ = nullptr;
     QPushButton* cmdSelectDirs_ = nullptr;
     QLineEdit* txtOutputFile_ = nullptr;
+    RecentButton* cmdRecentOutputs_ = nullptr;
     QPushButton* cmdSelectOutputFile_ = nullptr;
     QLabel* lblOutputHint_ = nullptr;
     TitleField* txtWindowTitle_ = nullptr;

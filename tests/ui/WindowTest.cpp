@@ -42,6 +42,16 @@ std::optional<std::string> FakeDialogs::ChooseFolder(QWidget* /*owner*/, const Q
     return Next(folders, std::optional<std::string>());
 }
 
+std::vector<std::string> FakeDialogs::ChooseFolders(QWidget* owner, const QString& title,
+                                                    const QString& prompt, const std::string& start) {
+    std::vector<std::string> chosen;
+    if (const auto first = ChooseFolder(owner, title, prompt, start)) {
+        chosen.push_back(*first);
+        chosen.insert(chosen.end(), moreFolders.begin(), moreFolders.end());
+    }
+    return chosen;
+}
+
 std::optional<std::string> FakeDialogs::ChooseFile(QWidget* /*owner*/, const FileQuestion& question) {
     fileQuestions.push_back(question);
     return Next(files, std::optional<std::string>());

@@ -42,10 +42,14 @@ class FakeDialogs final : public Dialogs {
     bool ShowReport(QWidget* owner, const QString& text, const QString& title) override;
     std::optional<std::string> ChooseFolder(QWidget* owner, const QString& title, const QString& prompt,
                                             const std::string& start) override;
+    // The next folder, and `moreFolders` behind it.
+    std::vector<std::string> ChooseFolders(QWidget* owner, const QString& title, const QString& prompt,
+                                           const std::string& start) override;
     std::optional<std::string> ChooseFile(QWidget* owner, const FileQuestion& question) override;
 
     std::deque<int> answers;
     std::deque<std::optional<std::string>> folders;
+    std::vector<std::string> moreFolders;
     std::deque<std::optional<std::string>> files;
     std::function<void()> whileMessageIsShown;
     bool declineReports = false;

@@ -129,6 +129,27 @@ class frmDirSelectionTest : public QObject {
         QVERIFY(desk.dialogs.messages.empty());
     }
 
+    void AddBeginsBesideTheLastFolderAndTakesSeveral() {
+        ListDesk desk("%MULT%/music/jazz/");
+        const std::string rock = desk.folder.Make("rock");
+        const std::string folk = desk.folder.Make("folk");
+        desk.dialogs.folders = {rock};
+        desk.dialogs.moreFolders = {folk, rock, desk.folder / "missing"};
+        desk.Press("cmdAdd");
+        QCOMPARE(desk.dialogs.folderQuestions[0].start, std::string("/music"));
+        QCOMPARE(desk.Rows(), u"/music/jazz/ "_s + ToQt(rock) + u' ' + ToQt(folk));
+        desk.Press("cmdAdd");
+        QCOMPARE(desk.dialogs.folderQuestions[1].start + "/", desk.folder.Path());
+    }
+
+    void CancelLeavesTheSettingUnchanged() {
+        ListDesk desk("%MULT%/a%||%/b");
+        desk.Press("cmdRemove");
+        desk.Press("cmdCancel");
+        QVERIFY(!desk.window->isVisible());
+        QCOMPARE(desk.TheSettings().Directory, std::string("%MULT%/a%||%/b"));
+    }
+
     void AddIgnoresMissingFoldersAndDuplicates() {
         ListDesk desk("%MULT%");
         const std::string music = desk.folder.Make("Music");

@@ -1,10 +1,9 @@
 #include "frmMain.h"
 
 #include "DefaultSettings.h"
-#include "WindowTest.h"
-
 #include "SettingsFuncs.h"
 #include "Startup.h"
+#include "WindowTest.h"
 #include "frmAbout.h"
 #include "frmDirSelection.h"
 #include "frmOptions.h"
@@ -17,6 +16,9 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QToolButton>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using namespace tunedex;
@@ -378,6 +380,51 @@ class frmMainTest : public QObject {
         Find<QCheckBox>(*desk.frontEnd.Options(), "chkRecursive").toggle();
         Click(*desk.frontEnd.Options(), "cmdUse");
         QTRY_COMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*] changed"_s);
+    }
+
+    void ATildeIsTheHomeFolderInPathFields() {
+        qputenv("HOME", "/home/lea");
+        Desk desk;
+        desk.Show();
+        Type(desk.Main(), "txtInputDir", "~/Music");
+        QCOMPARE(desk.TheSettings().Directory, std::string("/home/lea/Music"));
+        QCOMPARE(desk.Main().Fields().inputFolder, std::string("/home/lea/Music"));
+        QCOMPARE(TextOf(desk.Main(), "txtInputDir"), std::string("~/Music"));
+        Type(desk.Main(), "txtOutputFile", "~/list.htm");
+        QCOMPARE(TextOf(desk.Main(), "txtInputDir"), std::string("/home/lea/Music"));
+        QCOMPARE(desk.TheSettings().OutputFile, std::string("/home/lea/list.htm"));
+        Type(desk.Main(), "txtPageTitle", "~/not a path");
+        QCOMPARE(TextOf(desk.Main(), "txtOutputFile"), std::string("/home/lea/list.htm"));
+        Find<QLineEdit>(desk.Main(), "txtWindowTitle").setFocus();
+        QCOMPARE(TextOf(desk.Main(), "txtPageTitle"), std::string("~/not a path"));
+    }
+
+    void PathsOfEarlierRunsAreOfferedBesideTheirFields() {
+        Desk desk;
+        desk.Show();
+        QVERIFY(!IsEnabled(desk.Main(), "cmdRecentFolders"));
+        QVERIFY(!IsEnabled(desk.Main(), "cmdRecentOutputs"));
+        const std::string music = desk.folder.Make("a & b");
+        Find<QLineEdit>(desk.Main(), "txtInputDir").setText(ToQt(music));
+        Click(desk.Main(), "cmdCreateList"); // refused: no output file
+        QVERIFY(!IsEnabled(desk.Main(), "cmdRecentFolders"));
+        Find<QLineEdit>(desk.Main(), "txtOutputFile").setText(ToQt(desk.folder / "list.htm"));
+        Click(desk.Main(), "cmdCreateList");
+        desk.frontEnd.CloseProgress();
+        QVERIFY(IsEnabled(desk.Main(), "cmdRecentFolders"));
+        QVERIFY(IsEnabled(desk.Main(), "cmdRecentOutputs"));
+        for (const auto& [button, field, path] :
+             {std::tuple("cmdRecentFolders", "txtInputDir", music),
+              std::tuple("cmdRecentOutputs", "txtOutputFile", desk.folder / "list.htm")}) {
+            Find<QLineEdit>(desk.Main(), field).setText(u"other"_s);
+            QMenu& menu = *Find<QToolButton>(desk.Main(), button).menu();
+            emit menu.aboutToShow();
+            menu.actions().constFirst()->trigger();
+            QCOMPARE(TextOf(desk.Main(), field), path);
+            emit menu.aboutToShow();
+            menu.actions().constLast()->trigger();
+            QVERIFY(!IsEnabled(desk.Main(), button));
+        }
     }
 
     void ALineSaysWhatARunWouldWrite_data() {
