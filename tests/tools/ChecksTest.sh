@@ -41,15 +41,16 @@ prepared="packages build test bench check;locales "
 format="check-format "
 asan="cmake --preset asan;cmake --build --preset asan;ctest --preset asan"
 tidy="cmake --preset tidy;cmake --build --preset tidy -- -k 0"
+nox="cmake --preset nox-check;cmake --build --preset nox-check --target program_tests;ctest --preset nox-check"
 tests="packages build test;locales ;cmake --preset dev;cmake --build --preset dev;ctest --preset dev"
 
 call tools/checks
-check "all pass" "0 $prepared;$format;$asan;$tidy" "$status $called"
-check "all pass: summary" "format passed;asan passed;tidy passed" "$summary"
+check "all pass" "0 $prepared;$format;$asan;$tidy;$nox" "$status $called"
+check "all pass: summary" "format passed;asan passed;tidy passed;nox passed" "$summary"
 
 FAILING="--build --preset asan" call tools/checks
-check "a build fails" "1 $prepared;$format;${asan%;*};$tidy" "$status $called"
-check "a build fails: summary" "format passed;asan FAILED;tidy passed" "$summary"
+check "a build fails" "1 $prepared;$format;${asan%;*};$tidy;$nox" "$status $called"
+check "a build fails: summary" "format passed;asan FAILED;tidy passed;nox passed" "$summary"
 
 FAILING="build test bench" call tools/checks
 check "a package is not available" "1 ${prepared%;*}" "$status $called"
@@ -68,11 +69,11 @@ check "tests fail by hand" "1 $tests" "$status $called"
 
 export CI=true
 call test
-check "tests where CI is set" "0 $tests;$prepared;$format;$asan;$tidy" "$status $called"
-check "tests where CI is set: summary" "format passed;asan passed;tidy passed;tests and checks passed" "$summary"
-for failing in "ctest --preset dev" "check-format" "ctest --preset asan"; do
+check "tests where CI is set" "0 $tests;$prepared;$format;$asan;$tidy;$nox" "$status $called"
+check "tests where CI is set: summary" "format passed;asan passed;tidy passed;nox passed;tests and checks passed" "$summary"
+for failing in "ctest --preset dev" "check-format" "ctest --preset asan" "ctest --preset nox-check"; do
     FAILING=$failing call test
-    check "$failing fails where CI is set" "1 $tests;$prepared;$format;$asan;$tidy" "$status $called"
+    check "$failing fails where CI is set" "1 $tests;$prepared;$format;$asan;$tidy;$nox" "$status $called"
     check "$failing fails where CI is set: last line" "tests and checks FAILED" "${summary##*;}"
 done
 exit "$failures"
