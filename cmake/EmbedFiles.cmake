@@ -1,14 +1,26 @@
 # Generates a C++ source that embeds files byte for byte:
-#   cmake -DFOLDER=folder -DFILES=path|path... -DOUTPUT=source -P EmbedFiles.cmake
-# PATHS are relative to FOLDER; the program finds the bytes under these names.
+#   cmake -DFOLDER=folder -DFILES=path|path... -DOUTPUT=source -DFUNCTION=name [-DCOMPACT=ON] -P EmbedFiles.cmake
+# FILES are relative to FOLDER; the program finds the bytes under these names in what FUNCTION returns. COMPACT leaves
+# out comments, indentation and empty lines of style sheets and scripts: "/* */", and "//" at the start of a line.
 
 set(ARRAYS "")
 set(ROWS "")
 set(NUMBER 0)
 string(REPLACE "|" ";" PATHS "${FILES}")
 foreach(PATH IN LISTS PATHS)
-    file(READ "${FOLDER}/${PATH}" BYTES HEX)
-    file(SIZE "${FOLDER}/${PATH}" LENGTH)
+    set(SOURCE "${FOLDER}/${PATH}")
+    if(COMPACT)
+        file(READ "${SOURCE}" TEXT)
+        string(REGEX REPLACE "/\\*[^*]*\\*+([^/*][^*]*\\*+)*/" "" TEXT "${TEXT}")
+        string(REGEX REPLACE "\n[ \t]+" "\n" TEXT "\n${TEXT}")
+        string(REGEX REPLACE "\n//[^\n]*" "" TEXT "${TEXT}")
+        string(REGEX REPLACE "\n\n+" "\n" TEXT "${TEXT}")
+        string(REGEX REPLACE "^\n" "" TEXT "${TEXT}")
+        set(SOURCE "${OUTPUT}.part")
+        file(WRITE "${SOURCE}" "${TEXT}")
+    endif()
+    file(READ "${SOURCE}" BYTES HEX)
+    file(SIZE "${SOURCE}" LENGTH)
     if(LENGTH EQUAL 0)
         message(FATAL_ERROR "${PATH} is empty: there is nothing to embed")
     endif()
@@ -36,7 +48,7 @@ ${ROWS}};
 
 } // namespace
 
-std::span<const ShippedFile> ShippedFiles() { return kFiles; }
+std::span<const ShippedFile> ${FUNCTION}() { return kFiles; }
 
 } // namespace tunedex
 ")

@@ -1,6 +1,7 @@
 #include "OutputList.h"
 
 #include "CsvWriter.h"
+#include "Html5Writer.h"
 #include "HtmlWriter.h"
 #include "M3uWriter.h"
 #include "Text.h"
@@ -10,6 +11,11 @@ namespace tunedex {
 
 namespace {
 
+bool WritePages(Listing& listing, const PagePolicy& policy) {
+    return listing.settings.DocumentType == "HTML5" ? WriteHtml5Listing(listing)
+                                                    : WriteHtmlListing(listing, policy);
+}
+
 bool WriteClassicListing(int outputType, Listing& listing) {
     switch (outputType) {
     case kTextOutput:
@@ -17,7 +23,7 @@ bool WriteClassicListing(int outputType, Listing& listing) {
     case kPlaylistOutput:
         return WriteM3uListing(listing);
     default:
-        return WriteHtmlListing(listing, kClassicPages);
+        return WritePages(listing, kClassicPages);
     }
 }
 
@@ -30,7 +36,7 @@ bool WriteModernListing(int outputType, Listing& listing) {
     case kCsvOutput:
         return WriteCsvListing(listing);
     default:
-        return WriteHtmlListing(listing, kModernPages);
+        return WritePages(listing, kModernPages);
     }
 }
 

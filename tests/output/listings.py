@@ -83,7 +83,7 @@ class Program:
         settings = dict(DEFAULTS, Directory=directory, OutputFile=str(pages / output))
         pages.mkdir()
         for name, value in changes.items():
-            if name not in settings and name != "Modern":
+            if name not in settings and name not in ("Modern", "GroupByAlbum"):
                 name = f"{name[:-1]}({name[-1]})"
                 assert name in settings, name
             settings[name] = value

@@ -1,0 +1,136 @@
+#include "Html5ColumnRules.h"
+
+#include "Html5Style.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <string>
+
+namespace tunedex {
+
+namespace {
+
+constexpr double kDigitEm = 0.6;    // the width of a digit: 0.5 to 0.64 in common fonts
+constexpr double kPixelsPerEm = 16; // of a media query
+constexpr double kMarginEm = 2;     // beside the table
+constexpr double kSidePixels = 8;   // of a cell, beside the padding of the settings
+
+class ColumnRules {
+  public:
+    ColumnRules(const std::vector<Html5Column>& columns, const std::vector<bool>& shown,
+                std::string_view table, const Settings& settings)
+        : columns_(columns), shown_(shown), table_(table), settings_(settings) {}
+
+    void Write(std::string& style) const {
+        WriteWidths(style, shown_);
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (!shown_[i]) {
+                style += CellsOf(i) + "{--show:none}\n";
+            }
+            if (columns_[i].right) {
+                style += CellsOf(i) + "{text-align:right}\n";
+            }
+        }
+        WriteFolds(style);
+        WritePrinted(style);
+    }
+
+  private:
+    std::string CellsOf(std::size_t index) const {
+        return std::string(table_) + " :is(td,thead th):nth-child(" + std::to_string(index + 1) + ")";
+    }
+
+    bool HasFlexible(const std::vector<bool>& unfolded) const {
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (unfolded[i] && columns_[i].flexible) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // The columns of the grid, and the width that the table should have at least.
+    void WriteWidths(std::string& style, const std::vector<bool>& unfolded) const {
+        // Without a flexible column, all of them share what is left.
+        const bool flexible = HasFlexible(unfolded);
+        int need = 0;
+        style.append(table_) += "{--cols:";
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (unfolded[i]) {
+                const std::string width = std::to_string(columns_[i].width);
+                style += columns_[i].flexible || !flexible ? "minmax(0," + width + "fr) "
+                                                           : "calc(" + width + "ch + var(--pad)) ";
+                need += columns_[i].leastWidth;
+            }
+        }
+        const auto count = std::count(unfolded.begin(), unfolded.end(), true);
+        style += ";--need:calc(" + std::to_string(need) + "ch + " + std::to_string(count) +
+                 "*(var(--pad) + var(--line)))}\n";
+    }
+
+    // The width of the window in which these columns have room.
+    int NeededEm(const std::vector<bool>& unfolded) const {
+        const double cellPixels = 2.0 * settings_.TablePadding + settings_.TableBorder + kSidePixels;
+        const bool fonts = settings_.FontCSS || settings_.FontHTML;
+        const double font = fonts ? Html5FontSize(settings_.Font[kCellFont].size) : 1;
+        double em = kMarginEm;
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            em += unfolded[i] ? columns_[i].leastWidth * kDigitEm * font + cellPixels / kPixelsPerEm : 0;
+        }
+        return static_cast<int>(std::ceil(em));
+    }
+
+    std::size_t LeastImportant(const std::vector<bool>& unfolded) const {
+        std::size_t least = columns_.size();
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (unfolded[i] &&
+                (least == columns_.size() || columns_[i].importance < columns_[least].importance)) {
+                least = i;
+            }
+        }
+        return least;
+    }
+
+    void WriteFolds(std::string& style) const {
+        std::vector<bool> unfolded = shown_;
+        for (auto count = std::count(shown_.begin(), shown_.end(), true); count > 1; --count) {
+            const std::size_t folded = LeastImportant(unfolded);
+            style += "@media screen and (max-width:" + std::to_string(NeededEm(unfolded)) + "em){\n";
+            unfolded[folded] = false;
+            WriteWidths(style, unfolded);
+            style += CellsOf(folded) + "{--at:1/-1;--order:1;--show:var(--folded);--label:" +
+                     CssString(columns_[folded].header + ": ") + "}\n.folds{--show:inline-block}\n}\n";
+        }
+    }
+
+    // Tables on paper are drawn as such, so that their header is repeated.
+    void WritePrinted(std::string& style) const {
+        int total = 0;
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            total += shown_[i] ? columns_[i].width : 0;
+        }
+        style += "@media print{\n";
+        for (std::size_t i = 0; i < columns_.size() && total > 0; ++i) {
+            if (shown_[i]) {
+                style.append(table_) += " thead th:nth-child(" + std::to_string(i + 1) +
+                                        "){width:" + std::to_string(100 * columns_[i].width / total) + "%}\n";
+            }
+        }
+        style += "}\n";
+    }
+
+    const std::vector<Html5Column>& columns_;
+    const std::vector<bool>& shown_;
+    std::string_view table_;
+    const Settings& settings_;
+};
+
+} // namespace
+
+void WriteHtml5ColumnRules(std::string& style, const std::vector<Html5Column>& columns,
+                           const std::vector<bool>& shown, std::string_view table, const Settings& settings) {
+    ColumnRules(columns, shown, table, settings).Write(style);
+}
+
+} // namespace tunedex
