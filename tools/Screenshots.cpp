@@ -216,6 +216,15 @@ void TakeOptions(Pictures& pictures, Application& application) {
         pictures.Take(editor, u"layout-modern"_s);
     }
     application.settings.Modern = false;
+    application.settings.DocumentType = "HTML5";
+    {
+        frmEditLayout editor(application, frontEnd);
+        auto* tabs = editor.findChild<QTabWidget*>(u"TabStrip"_s);
+        tabs->setCurrentIndex(tabs->count() - 1);
+        pictures.Take(editor, u"layout-html5"_s);
+        pictures.TakeSmallest(editor, u"layout-html5"_s);
+    }
+    application.settings.DocumentType = "HTML";
     frmEditLayout editor(application, frontEnd);
     TakeEveryPage(pictures, editor, u"layout"_s);
     editor.resize(editor.minimumSizeHint());

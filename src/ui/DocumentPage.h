@@ -7,6 +7,7 @@
 
 #include <string>
 
+class QCheckBox;
 class QComboBox;
 
 namespace tunedex {
@@ -21,14 +22,19 @@ class DocumentPage : public QFrame {
     explicit DocumentPage(ThemePanel* themes, QWidget* parent = nullptr);
 
     void LoadControls(const Settings& settings);
-    // "HTML" or "XHTML".
+    // "HTML", "XHTML" or "HTML5".
     std::string DocumentType() const;
+    // Kept while another document type disables the choice.
+    bool GroupsByAlbum() const;
 
   signals:
     void Edited();
 
   private:
+    void EnableGrouping();
+
     QComboBox* cmbDocumentType_;
+    QCheckBox* chkGroupByAlbum_;
 };
 
 } // namespace tunedex

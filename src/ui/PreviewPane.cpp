@@ -5,9 +5,11 @@
 #include "QtText.h"
 #include "RichTextPage.h"
 #include "RunTimeError.h"
+#include "SampleInBrowser.h"
 #include "SamplePage.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -32,27 +34,29 @@ QString NoPreviewText(const RunTimeError& error) {
     return text;
 }
 
+QString CaptionOf(const RichTextPage& page, bool html5) {
+    if (html5) {
+        return PreviewPane::tr("Preview of colours, fonts and columns. Only a browser shows search, sorting, "
+                               "album headings and the colours for the other (dark or light) setting.");
+    }
+    return page.styleSheetIgnored
+               ? PreviewPane::tr(
+                     "Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.")
+               : PreviewPane::tr("Preview with sample tracks");
+}
+
 } // namespace
 
-PreviewPane::PreviewPane(const Application& application, std::function<Settings()> settings, QWidget* parent)
-    : QWidget(parent), application_(application), settings_(std::move(settings)), caption_(new QLabel),
-      browser_(new QTextBrowser) {
+PreviewPane::PreviewPane(const Application& application, WindowInterface& ui,
+                         std::function<Settings()> settings, QWidget* parent)
+    : QWidget(parent), application_(application), ui_(ui), settings_(std::move(settings)),
+      caption_(new QLabel), browser_(new QTextBrowser) {
     setObjectName(u"PreviewPane"_s);
-    NameControl(*browser_, u"txtPreview"_s, tr("Preview of the listing"),
-                tr("Sample tracks, listed with the layout shown here"));
-    // Without keyboard access to links, Tab skips them.
-    browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    browser_->setTabChangesFocus(true);
-    browser_->setOpenLinks(false);
-    browser_->setToolTip({});
-    browser_->setMinimumSize(180, 120);
-    // As in browsers, a column is at least as wide as its longest word.
-    browser_->setWordWrapMode(QTextOption::WordWrap);
+    BuildControls();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    caption_->setObjectName(u"lblPreview"_s);
-    caption_->setWordWrap(true);
     layout->addWidget(caption_);
+    layout->addWidget(cmdOpenSample_, 0, Qt::AlignLeft);
     layout->addWidget(browser_);
 
     delay_.setSingleShot(true);
@@ -63,6 +67,28 @@ PreviewPane::PreviewPane(const Application& application, std::function<Settings(
     } catch (const RunTimeError&) {
         entities_ = EntityTable();
     }
+}
+
+void PreviewPane::BuildControls() {
+    caption_->setObjectName(u"lblPreview"_s);
+    caption_->setWordWrap(true);
+    // All letters of the caption are mnemonics of the editor's pages, so this button has another shortcut.
+    cmdOpenSample_ = MakeButton(u"cmdOpenSample"_s, tr("Open sample in browser"),
+                                tr("Open a sample listing with this layout in your browser (Ctrl+B)"));
+    cmdOpenSample_->setShortcut(Qt::CTRL | Qt::Key_B);
+    cmdOpenSample_->hide();
+    connect(cmdOpenSample_, &QPushButton::clicked, this,
+            [this] { OpenSampleInBrowser(settings_(), application_, entities_, ui_, *this); });
+    NameControl(*browser_, u"txtPreview"_s, tr("Preview of the listing"),
+                tr("Sample tracks, listed with the layout shown here"));
+    // Without keyboard access to links, Tab skips them.
+    browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    browser_->setTabChangesFocus(true);
+    browser_->setOpenLinks(false);
+    browser_->setToolTip({});
+    browser_->setMinimumSize(180, 120);
+    // As in browsers, a column is at least as wide as its longest word.
+    browser_->setWordWrapMode(QTextOption::WordWrap);
 }
 
 void PreviewPane::ShowSoon() {
@@ -78,23 +104,23 @@ void PreviewPane::showEvent(QShowEvent* event) {
 
 void PreviewPane::ShowNow() {
     delay_.stop();
+    const Settings settings = settings_();
+    const bool html5 = settings.DocumentType == "HTML5";
     try {
         if (!folder_.isValid()) {
             throw RunTimeError(ErrorNumber::PathFileAccess);
         }
         const std::string folder = FromQt(folder_.path()) + PathStyle::Native().separator;
-        ShowPage(ToQtDisplay(WriteSamplePage(settings_(), application_, entities_, folder)));
+        ShowPage(ToQtDisplay(WriteSamplePage(settings, application_, entities_, folder)), html5);
     } catch (const RunTimeError& error) {
-        ShowPage(NoPreviewText(error));
+        ShowPage(NoPreviewText(error), html5);
     }
 }
 
-void PreviewPane::ShowPage(const QString& page) {
+void PreviewPane::ShowPage(const QString& page, bool html5) {
     const RichTextPage richText = PrepareRichText(page);
-    caption_->setText(
-        richText.styleSheetIgnored
-            ? tr("Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.")
-            : tr("Preview with sample tracks"));
+    caption_->setText(CaptionOf(richText, html5));
+    cmdOpenSample_->setVisible(html5);
     QPalette colours;
     const auto set = [&](QPalette::ColorRole role, const std::optional<QColor>& colour) {
         if (colour) {

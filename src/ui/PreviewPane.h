@@ -3,6 +3,7 @@
 
 #include "Application.h"
 #include "EntityTable.h"
+#include "WindowInterface.h"
 
 #include <QTemporaryDir>
 #include <QTimer>
@@ -11,6 +12,7 @@
 #include <functional>
 
 class QLabel;
+class QPushButton;
 class QTextBrowser;
 
 namespace tunedex {
@@ -20,7 +22,7 @@ class PreviewPane : public QWidget {
 
   public:
     // Calls `settings` for every update of the page.
-    PreviewPane(const Application& application, std::function<Settings()> settings,
+    PreviewPane(const Application& application, WindowInterface& ui, std::function<Settings()> settings,
                 QWidget* parent = nullptr);
 
     // Updates the page 120 ms after the last call. Does nothing while the pane is hidden.
@@ -31,14 +33,17 @@ class PreviewPane : public QWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
-    void ShowPage(const QString& page);
+    void BuildControls();
+    void ShowPage(const QString& page, bool html5);
 
     const Application& application_;
+    WindowInterface& ui_;
     std::function<Settings()> settings_;
     EntityTable entities_;
     QTemporaryDir folder_;
     QTimer delay_;
     QLabel* caption_;
+    QPushButton* cmdOpenSample_ = nullptr;
     QTextBrowser* browser_;
 };
 

@@ -1,6 +1,7 @@
 #include "SamplePage.h"
 
 #include "ByteSource.h"
+#include "ColourScheme.h"
 #include "OutputList.h"
 #include "PlayTime.h"
 #include "SortByAlbum.h"
@@ -9,6 +10,7 @@
 #include "Text.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace tunedex {
@@ -84,10 +86,21 @@ void SortSamples(TrackTable& tracks, const Settings& settings, const Application
     }
 }
 
+// HTML5 pages have all colours and fonts, whatever FontCSS and ColourCSS say.
+Settings InRichText(Settings settings) {
+    if (settings.DocumentType == "HTML5") {
+        settings.DocumentType = "HTML";
+        settings.Colour = OwnColours(settings).colours;
+        settings.FontCSS = settings.ColourCSS = true;
+        settings.FontHTML = settings.ColourHTML = false;
+    }
+    return settings;
+}
+
 } // namespace
 
-std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
-                            const std::string& folder) {
+void WriteSampleFile(Settings settings, const Application& application, const EntityTable& entities,
+                     const std::string& path) {
     SilentMonitor monitor;
     TrackTable tracks(kSamples.size());
     RunTotals totals;
@@ -99,12 +112,17 @@ std::string WriteSamplePage(Settings settings, const Application& application, c
     totals.FoundCount = static_cast<std::int32_t>(kSamples.size());
     totals.StoredCount = totals.FoundCount;
     SortSamples(tracks, settings, application);
-    settings.OutputFile = folder + "preview.htm";
+    settings.OutputFile = path;
     settings.Spanning = 0;
     Listing listing{settings, tracks, totals, entities, application.locale, application.clock, monitor};
     WriteListing(kHtmlOutput, listing);
+}
 
-    FileByteSource page(settings.OutputFile);
+std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
+                            const std::string& folder) {
+    const std::string path = folder + "preview.htm";
+    WriteSampleFile(InRichText(std::move(settings)), application, entities, path);
+    FileByteSource page(path);
     std::vector<std::uint8_t> bytes(page.Size());
     page.ReadExactly(0, bytes);
     return DecodeWindows1252({reinterpret_cast<const char*>(bytes.data()), bytes.size()});

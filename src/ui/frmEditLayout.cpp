@@ -36,7 +36,7 @@ frmEditLayout::frmEditLayout(Application& application, WindowInterface& ui, QWid
       columns_(new ColumnsPage), fonts_(new FontsPage(choosers_)), colours_(new ColoursPage(choosers_)),
       table_(new TablePage),
       themes_(new ThemePanel(application, ui, choosers_, [this] { return CurrentTheme(); })),
-      document_(new DocumentPage(themes_)), preview_(new PreviewPane(application, [this] {
+      document_(new DocumentPage(themes_)), preview_(new PreviewPane(application, ui, [this] {
           Settings settings = previewBase_ ? previewBase_() : application_.settings;
           StoreControls(settings);
           return settings;
@@ -133,6 +133,7 @@ void frmEditLayout::StoreRunControls(Settings& settings) const {
 
 void frmEditLayout::StoreControls(Settings& settings) const {
     settings.DocumentType = document_->DocumentType();
+    settings.GroupByAlbum = document_->GroupsByAlbum();
     columns_->StoreControls(settings);
     fonts_->StoreControls(settings);
     colours_->StoreControls(settings);

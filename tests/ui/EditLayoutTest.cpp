@@ -105,7 +105,7 @@ void EditLayoutTest::OpeningWithOtherDocumentTypesShowsHtml() {
         with.settings.DocumentType = type;
         const frmEditLayout editor(with.application, with.ui);
         const QComboBox& types = Find<QComboBox>(editor, u"cmbDocumentType"_s);
-        QCOMPARE(types.count(), 2);
+        QCOMPARE(types.count(), 3);
         QCOMPARE(types.itemText(1), u"XHTML 1.0"_s);
         QCOMPARE(types.currentText(), u"HTML 4.01"_s);
     }

@@ -61,6 +61,7 @@ void ForEveryPage(const std::function<void(QWidget&, const QString&)>& check) {
     LayoutFixture with;
     with.settings.DoLinks = true;
     with.settings.Modern = true;
+    with.settings.DocumentType = "HTML5";
     with.settings.ActiveColumns = "Artist|Title|Album";
     with.folder.Write("Themes/Blue.thm", "");
     frmOptions options(with.application, with.ui);
@@ -89,6 +90,11 @@ bool IsReachedByArrows(const QWidget& widget) {
     const auto* option = qobject_cast<const QRadioButton*>(&widget);
     return option != nullptr && option->group() != nullptr && option->group()->checkedButton() != nullptr &&
            option->group()->checkedButton() != option;
+}
+
+// The caption then needs no mnemonic.
+bool HasKeysOfItsOwn(const QAbstractButton& button) {
+    return !button.shortcut().isEmpty() && button.shortcut() != QKeySequence::mnemonic(button.text());
 }
 
 QChar Mnemonic(const QString& text) {
@@ -183,7 +189,7 @@ void LayoutAccessibilityTest::EveryLabelOfAControlHasAUniqueMnemonic() {
             }
         }
         for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-            if (button->isVisible() && !button->text().isEmpty()) {
+            if (button->isVisible() && !button->text().isEmpty() && !HasKeysOfItsOwn(*button)) {
                 take(button->text(), Where(page, *button));
             }
         }

@@ -1,6 +1,6 @@
 # Tests of the options dialog and the layout editor.
 set(LAYOUT_TEST_CLASSES OptionsTest EditLayoutTest ColumnsPageTest ThemePanelTest PreviewTest SettingsRoundTripTest
-                        LayoutAccessibilityTest ModernOptionsTest)
+                        LayoutAccessibilityTest ModernOptionsTest Html5LayoutTest)
 list(TRANSFORM LAYOUT_TEST_CLASSES APPEND ".cpp" OUTPUT_VARIABLE LAYOUT_TEST_SOURCES)
 add_executable(layout_test LayoutTestMain.cpp ${LAYOUT_TEST_SOURCES})
 target_link_libraries(layout_test PRIVATE tunedex_ui tunedex_test_support tunedex_flags Qt6::Test)

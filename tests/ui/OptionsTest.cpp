@@ -37,7 +37,7 @@ class OptionsTest : public QObject {
     void HelpInTheEditorHasAMnemonicAndTheHelpKey();
     void TheEditorDisablesTheDialogUntilItCloses();
     void StoringIncludesTheOpenEditorsDocumentTypeAndSubstitution();
-    void StoringWithoutAnEditorMakesTheDocumentTypeHtmlUnlessItIsXhtml();
+    void StoringWithoutAnEditorMakesUnknownDocumentTypesHtml();
     void StoringABadNumberRaisesAnErrorAndStoresNothing();
 
   private:
@@ -456,9 +456,10 @@ void OptionsTest::StoringIncludesTheOpenEditorsDocumentTypeAndSubstitution() {
     QVERIFY(run == expected);
 }
 
-void OptionsTest::StoringWithoutAnEditorMakesTheDocumentTypeHtmlUnlessItIsXhtml() {
-    for (const auto& [before, after] : {std::pair("XHTML", "XHTML"), std::pair("HTML", "HTML"),
-                                        std::pair("xhtml", "HTML"), std::pair("", "HTML")}) {
+void OptionsTest::StoringWithoutAnEditorMakesUnknownDocumentTypesHtml() {
+    for (const auto& [before, after] :
+         {std::pair("XHTML", "XHTML"), std::pair("HTML", "HTML"), std::pair("HTML5", "HTML5"),
+          std::pair("html5", "HTML"), std::pair("xhtml", "HTML"), std::pair("", "HTML")}) {
         LayoutFixture with;
         with.settings.DocumentType = before;
         const frmOptions options(with.application, with.ui);

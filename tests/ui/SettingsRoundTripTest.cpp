@@ -2,6 +2,7 @@
 #include "ModernColumns.h"
 #include "TestClasses.h"
 
+#include <array>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -37,7 +38,7 @@ class RandomSettings {
         for (bool* flag :
              {&settings.Recurse, &settings.ErrorWarnings, &settings.ErrorLog, &settings.ConfirmQuit,
               &settings.DoLinks, &settings.MoveTheArtists, &settings.FontCSS, &settings.FontHTML,
-              &settings.AltRows, &settings.ColourCSS, &settings.ColourHTML}) {
+              &settings.AltRows, &settings.ColourCSS, &settings.ColourHTML, &settings.GroupByAlbum}) {
             *flag = Coin();
         }
         for (std::int16_t* number :
@@ -49,7 +50,7 @@ class RandomSettings {
         settings.Modern = Coin();
         settings.TagCodePage = Coin() ? "" : "windows-1251";
         settings.TableWidthUnit = static_cast<std::int16_t>(Below(10)); // one digit in the file
-        settings.DocumentType = Coin() ? "HTML" : "XHTML";
+        settings.DocumentType = std::array{"HTML", "XHTML", "HTML5"}.at(Below(3));
         settings.ActiveColumns = Columns();
         settings.InactiveColumns = Columns();
         for (FontSetting& font : settings.Font) {
