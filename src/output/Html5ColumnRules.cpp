@@ -66,7 +66,7 @@ class ColumnRules {
         }
         const auto count = std::count(unfolded.begin(), unfolded.end(), true);
         style += ";--need:calc(" + std::to_string(need) + "ch + " + std::to_string(count) +
-                 "*(var(--pad) + var(--line)))}\n";
+                 "*(var(--pad,1em) + var(--line,1px)))}\n";
     }
 
     // The width of the window in which these columns have room.
