@@ -7,6 +7,7 @@
 #include "Product.h"
 #include "Sha256.h"
 #include "ShippedFiles.h"
+#include "Text.h"
 #include "Uri.h"
 #include "Version.h"
 
@@ -126,6 +127,9 @@ std::string Html5Page::Policy() const {
 
 std::string Html5Page::Title(std::int32_t number) const {
     std::string title = listing_.settings.WindowTitle;
+    if (TrimBlanks(title).empty()) {
+        title = kProductTitle; // a document must have a title
+    }
     if (files_.Count() > 1) {
         title += " - Page " + std::to_string(number) + " of " + std::to_string(files_.Count());
     }
@@ -143,8 +147,10 @@ std::string Html5Page::Start(std::int32_t number) const {
     page += "<title>" + Title(number) + "</title>\n";
     page += "<style>" + theme_ + "</style>\n<style>";
     page += PagePart("page.css");
-    page +=
-        "</style>\n</head>\n<body>\n<header>\n<h1>" + Html5Markup(listing_.settings.PageTitle) + "</h1>\n";
+    page += "</style>\n</head>\n<body>\n<header>\n";
+    if (!TrimBlanks(listing_.settings.PageTitle).empty()) { // a heading must not be empty
+        page += "<h1>" + Html5Markup(listing_.settings.PageTitle) + "</h1>\n";
+    }
     if (files_.Count() > 1) {
         page += "<p>Page " + std::to_string(number) + " of " + std::to_string(files_.Count()) + "</p>\n";
     }
