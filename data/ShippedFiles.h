@@ -14,8 +14,8 @@ struct ShippedFile {
 // Sorted by path. Static storage.
 std::span<const ShippedFile> ShippedFiles();
 
-// "page.css" and "page.js", which every HTML5 page contains, without comments and indentation. They hold no CR
-// and no "</", so that they can stand in their elements as they are. Static storage.
+// "page.css" and "page.js", which every HTML5 page contains, without comments and indentation. They hold no
+// CR and no "</", so that they can stand in their elements as they are. Static storage.
 std::span<const ShippedFile> PageParts();
 
 } // namespace tunedex
