@@ -115,6 +115,11 @@ void TakeMessages(Pictures& pictures, WindowsFrontEnd& frontEnd, Dialogs& dialog
     pictures.TakeModal(u"message"_s);
     frontEnd.ShowMessage("The output directory does not exist!\r\n\r\nDo you want to create it?",
                          kYesNoExclamation, "Error!");
+    pictures.TakeModal(u"report"_s);
+    dialogs.ShowReport(
+        &frontEnd.MainWindow(),
+        u"An error occurred decoding the headers of: /home/lea/Music/Unsorted/a broken file.mp3"_s,
+        u"Error!"_s);
     pictures.TakeModal(u"browse"_s);
     dialogs.ChooseFolder(
         &frontEnd.MainWindow(), u"Select a Directory"_s,
@@ -160,6 +165,11 @@ void TakeMain(Pictures& pictures, Application& application) {
                           .maximum = 1250,
                           .position = 812});
         pictures.Take(progress, u"progress"_s);
+        progress.Display(
+            {.status = u"Searching for MP3 files..."_s, .details = u"812 files found"_s, .busy = true});
+        pictures.Take(progress, u"progress-search"_s);
+        progress.ShowOver();
+        pictures.Take(progress, u"progress-over"_s);
     }
     TakeMessages(pictures, frontEnd, dialogs);
     window.hide();
