@@ -2,8 +2,11 @@
 // complete table, so it only adds. It stores nothing: the state stands in the address after "#".
 "use strict";
 (() => {
-    // Rows in a body of a view; even, so that rows alternate across bodies.
-    const CHUNK = 100;
+    // Rows in a body of a view: few in the first bodies, which are drawn at once; in the others as many as keep the bodies few.
+    // Both are even, so that rows alternate across bodies.
+    const FEW = 40;
+    const FIRST = 10*FEW;
+    const CHUNK = 200;
     const root = document.documentElement;
     const table = document.getElementById("tracks");
     const heads = [...table.tHead.rows[0].cells];
@@ -31,11 +34,17 @@
             : lower.normalize("NFD").replace(/\p{M}/gu, "").replace(/[ßøłđðþæœıħ]/g, letter => LETTERS[letter]);
     };
 
+    // Of an artist; "#" for digits, scripts without an alphabet and the path of a file without a tag.
+    const letterOf = text => {
+        const found = /^[^\p{L}\p{N}/\\]*([\p{Script=Latin}\p{Script=Greek}\p{Script=Cyrillic}])/u.exec(fold(text.slice(0, 20)));
+        return found ? found[1].toUpperCase() : "#";
+    };
+
     // The rows that are searched: those of this page, or of all pages once the index is loaded. Their texts are read
     // when they are first needed.
     class Tracks {
         constructor(count, read, build, page) {
-            Object.assign(this, {count, read, build, page, keys: new Array(count), ranks: []});
+            Object.assign(this, {count, read, build, page, keys: new Array(count), letters: new Array(count), ranks: []});
         }
         key(i) {
             return this.keys[i] ??= fold(this.texts(i).join("\n"));
@@ -44,8 +53,7 @@
             return this.read(i).filter((text, column) => kinds[column] !== "link");
         }
         letter(i) {
-            const found = fold(this.read(i)[artist]).match(/[\p{L}\p{N}]/u);
-            return found && /[\p{Script=Latin}\p{Script=Greek}\p{Script=Cyrillic}]/u.test(found[0]) ? found[0].toUpperCase() : "#";
+            return this.letters[i] ??= letterOf(this.read(i)[artist]);
         }
         // Numbers in the order of a column's texts; NaN where a text is empty or no number.
         rank(column) {
@@ -173,7 +181,7 @@
     const fill = chunk => {
         if (!chunk.filled) {
             chunk.filled = true;
-            const rows = view.slice(chunk.start, chunk.start + CHUNK).map((i, place) => {
+            const rows = view.slice(chunk.start, chunk.end).map((i, place) => {
                 const row = tracks.build(i);
                 row.setAttribute("aria-rowindex", chunk.start + place + 2);
                 if (state.words.length) {
@@ -188,20 +196,19 @@
     };
     const observer = new IntersectionObserver(entries => {
         for (const {isIntersecting, target} of entries) {
-            if (isIntersecting) {
-                fill(chunks[target.dataset.chunk]);
+            const chunk = chunks[target.dataset.chunk];
+            if (isIntersecting && chunk && chunk.body === target) {
+                fill(chunk);
                 observer.unobserve(target);
             }
         }
-    }, {rootMargin: "1500px"});
-    const rowHeight = () => {
-        const body = table.tBodies[0];
-        return body && body.offsetHeight ? body.offsetHeight/body.rows.length : lastHeight;
-    };
-    let lastHeight = 20;
+    }, {rootMargin: "600px"});
+    let height = 20;
 
     const show = (hits, complete) => {
-        lastHeight = rowHeight();
+        if (!view && trs.length) {
+            height = trs[0].offsetHeight;
+        }
         observer.disconnect();
         chunks.forEach(chunk => chunk.body.remove());
         chunks = [];
@@ -211,10 +218,11 @@
         table.removeAttribute("aria-rowcount");
         if (view) {
             table.setAttribute("aria-rowcount", view.length + 1);
-            for (let start = 0; start < view.length; start += CHUNK) {
+            for (let start = 0, end; start < view.length; start = end) {
+                end = Math.min(start + (start < FIRST ? FEW : CHUNK), view.length);
                 const body = make("tbody", {class: "view", "data-chunk": chunks.length});
-                body.style.height = Math.min(CHUNK, view.length - start)*lastHeight + "px";
-                chunks.push({body, start, filled: false});
+                body.style.height = (end - start)*height + "px";
+                chunks.push({body, start, end, filled: false});
             }
             chunks.slice(0, 1).forEach(fill);
             table.append(...chunks.map(chunk => chunk.body));
@@ -324,7 +332,7 @@
     };
     heads.forEach((head, column) => {
         if (kinds[column] !== "link") {
-            const button = make("button", {type: "button"}, ...head.childNodes);
+            const button = make("button", {type: "button"}, names[column]);
             button.addEventListener("click", event => sortBy(column, event.shiftKey));
             head.replaceChildren(button);
         }
@@ -334,9 +342,9 @@
     const goTo = place => {
         let row = trs[place];
         if (view) {
-            const chunk = chunks[Math.floor(place/CHUNK)];
+            const chunk = chunks[place < FIRST ? Math.floor(place/FEW) : FIRST/FEW + Math.floor((place - FIRST)/CHUNK)];
             fill(chunk);
-            row = chunk.body.rows[place % CHUNK];
+            row = chunk.body.rows[place - chunk.start];
         }
         const before = row.previousElementSibling;
         (before && before.matches(".album") ? before : row).scrollIntoView();

@@ -26,7 +26,7 @@ class ColumnRules {
         WriteWidths(style, shown_);
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             if (!shown_[i]) {
-                style += CellsOf(i) + "{--show:none}\n";
+                style += CellsOf(i) + "{display:none}\n";
             }
             if (columns_[i].right) {
                 style += CellsOf(i) + "{text-align:right}\n";
@@ -99,8 +99,11 @@ class ColumnRules {
             style += "@media screen and (max-width:" + std::to_string(NeededEm(unfolded)) + "em){\n";
             unfolded[folded] = false;
             WriteWidths(style, unfolded);
-            style += CellsOf(folded) + "{--at:1/-1;--order:1;--show:var(--folded);--label:" +
-                     CssString(columns_[folded].header + ": ") + "}\n.folds{--show:inline-block}\n}\n";
+            style +=
+                CellsOf(folded) + "{grid-column:1/-1;order:1;display:var(--folded,block);text-align:left}\n";
+            style.append(table_) += " td:nth-child(" + std::to_string(folded + 1) +
+                                    ")::before{content:" + CssString(columns_[folded].header + ": ") + "}\n";
+            style += ".bar button.folds{display:inline-block}\n}\n";
         }
     }
 

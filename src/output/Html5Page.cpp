@@ -98,7 +98,7 @@ Html5Page::Html5Page(const Listing& listing, const PageFiles& files, const std::
     : listing_(listing), files_(files), columns_(columns), grouped_(listing.settings.GroupByAlbum) {
     WriteHtml5Theme(theme_, listing.settings);
     BodyHeights heights;
-    bool everyArtist = grouped_;
+    bool everyArtist = true;
     for (std::int32_t page = 1; page <= files.Count(); ++page) {
         const auto [first, last] = files.TracksOf(page);
         const std::vector<Html5Body> bodies = DivideIntoBodies(listing, first, last);
@@ -108,12 +108,19 @@ Html5Page::Html5Page(const Listing& listing, const PageFiles& files, const std::
     if (IsLongHtml5Page(files)) {
         heights.Write(theme_);
     }
-    WriteHtml5ColumnRules(theme_, columns, std::vector<bool>(columns.size(), true),
-                          grouped_ ? "#tracks:not(.grouped)" : "#tracks", listing.settings);
-    if (grouped_) {
-        WriteHtml5ColumnRules(theme_, columns, BesideHeadings(columns, everyArtist), "#tracks.grouped",
-                              listing.settings);
+    WriteColumns(everyArtist);
+}
+
+void Html5Page::WriteColumns(bool headingsNameEveryArtist) {
+    const std::vector<bool> all(columns_.size(), true);
+    if (!grouped_) {
+        WriteHtml5ColumnRules(theme_, columns_, all, "#tracks", listing_.settings);
+        return;
     }
+    const std::vector<bool> shown = BesideHeadings(columns_, headingsNameEveryArtist);
+    headingSpan_ = static_cast<std::size_t>(std::count(shown.begin(), shown.end(), true));
+    WriteHtml5ColumnRules(theme_, columns_, all, "#tracks:not(.grouped)", listing_.settings);
+    WriteHtml5ColumnRules(theme_, columns_, shown, "#tracks.grouped", listing_.settings);
 }
 
 std::string Html5Page::Policy() const {

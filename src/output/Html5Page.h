@@ -5,6 +5,7 @@
 #include "OutputList.h"
 #include "PageFiles.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -22,10 +23,14 @@ class Html5Page {
     // From the end of the table.
     std::string End(std::int32_t number) const;
 
+    // The number of columns below a heading.
+    std::size_t HeadingSpan() const { return headingSpan_; }
+
     // The name of the index file of a listing of several pages, beside them: list.search.js for list.htm.
     static std::string IndexPath(std::string_view outputFile);
 
   private:
+    void WriteColumns(bool headingsNameEveryArtist);
     std::string Policy() const;
     std::string Title(std::int32_t number) const;
     std::string Navigation(std::int32_t number, std::string_view name) const;
@@ -37,6 +42,7 @@ class Html5Page {
     const std::vector<Html5Column>& columns_;
     std::string theme_; // the style of this listing
     bool grouped_ = false;
+    std::size_t headingSpan_ = 0;
 };
 
 } // namespace tunedex

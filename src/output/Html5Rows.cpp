@@ -14,6 +14,20 @@ constexpr std::string_view kNoArtist = "No artist";
 
 } // namespace
 
+void PutHtml5Heading(PageBuffer& page, const Html5Heading& heading, std::size_t span) {
+    page.Put("<tr class=\"album\"><th scope=\"rowgroup\" colspan=\"");
+    page.PutNumber(static_cast<std::int64_t>(span));
+    page.Put("\"><span>");
+    PutHtml5Text(page, heading.artist.empty() ? kNoArtist : std::string_view(heading.artist));
+    page.Put("</span> ");
+    PutHtml5Text(page, heading.album);
+    page.Put(" <small>");
+    page.PutNumber(static_cast<std::int64_t>(heading.tracks));
+    page.Put(heading.tracks == 1 ? " track, " : " tracks, ");
+    page.Put(HoursMinutesAndSeconds(heading.seconds));
+    page.Put("</small>\n");
+}
+
 void Html5Rows::PutTrack(PageBuffer& page, std::size_t position) const {
     page.Put("<tr>");
     for (const Html5Column& column : columns_) {
@@ -45,20 +59,6 @@ void Html5Rows::PutCell(PageBuffer& page, ColumnKey key, std::size_t position) c
     }
     page.Put(":</b> ");
     cell.Put(track.Title);
-}
-
-void Html5Rows::PutHeading(PageBuffer& page, const Html5Heading& heading) const {
-    page.Put("<tr class=\"album\"><th scope=\"rowgroup\" colspan=\"");
-    page.PutNumber(static_cast<std::int64_t>(columns_.size()));
-    page.Put("\"><span>");
-    PutHtml5Text(page, heading.artist.empty() ? kNoArtist : std::string_view(heading.artist));
-    page.Put("</span> ");
-    PutHtml5Text(page, heading.album);
-    page.Put(" <small>");
-    page.PutNumber(static_cast<std::int64_t>(heading.tracks));
-    page.Put(heading.tracks == 1 ? " track, " : " tracks, ");
-    page.Put(HoursMinutesAndSeconds(heading.seconds));
-    page.Put("</small>\n");
 }
 
 void Html5Rows::PutIndexed(PageBuffer& index, std::size_t position) const {

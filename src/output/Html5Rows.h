@@ -13,15 +13,17 @@
 
 namespace tunedex {
 
+// The row of a heading that spans `span` columns.
+void PutHtml5Heading(PageBuffer& page, const Html5Heading& heading, std::size_t span);
+
 class Html5Rows {
   public:
     // Both must outlive this.
     Html5Rows(const Listing& listing, const std::vector<Html5Column>& columns)
         : listing_(listing), columns_(columns) {}
 
-    // Rows of a page. End tags are left out where the standard makes them optional.
+    // A row of a page. End tags are left out where the standard makes them optional.
     void PutTrack(PageBuffer& page, std::size_t position) const;
-    void PutHeading(PageBuffer& page, const Html5Heading& heading) const;
 
     // The texts of a track as an array of JSON; of a link, its target.
     void PutIndexed(PageBuffer& index, std::size_t position) const;

@@ -73,7 +73,7 @@ class Html5Pages {
         }
         buffer_.Put(">\n");
         if (body.hasHeading) {
-            rows_.PutHeading(buffer_, body.heading);
+            PutHtml5Heading(buffer_, body.heading, page_.HeadingSpan());
         }
     }
 
