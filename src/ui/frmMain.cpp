@@ -3,6 +3,7 @@
 #include "Controls.h"
 #include "DefaultSettings.h"
 #include "ErrorMessage.h"
+#include "FittingArea.h"
 #include "FolderDrop.h"
 #include "FolderSetting.h"
 #include "HomeFolder.h"
@@ -102,12 +103,16 @@ frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs
     BuildMenus();
     BuildPlaceholderMenu();
 
+    auto* settings = new QWidget;
+    auto* groups = new QVBoxLayout(settings);
+    groups->setContentsMargins(0, 0, 0, 0);
+    groups->addWidget(BuildFolderGroup());
+    groups->addWidget(BuildOutputGroup());
+    groups->addWidget(BuildTitleGroup());
+    groups->addStretch(1);
     auto* centre = new QWidget;
     auto* layout = new QVBoxLayout(centre);
-    layout->addWidget(BuildFolderGroup());
-    layout->addWidget(BuildOutputGroup());
-    layout->addWidget(BuildTitleGroup());
-    layout->addStretch(1);
+    layout->addWidget(new FittingArea(settings), 1);
     BuildResultPanel();
     layout->addWidget(fraResult_);
     layout->addWidget(BuildCommandRow());

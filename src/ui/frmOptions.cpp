@@ -3,6 +3,7 @@
 #include "CodePageBox.h"
 #include "Controls.h"
 #include "ErrorMessage.h"
+#include "FittingArea.h"
 #include "ModernColumns.h"
 #include "NumberBox.h"
 #include "OpenHelp.h"
@@ -56,16 +57,18 @@ frmOptions::frmOptions(Application& application, WindowInterface& ui, QWidget* p
     setObjectName(u"frmOptions"_s);
     setWindowTitle(tr("Options"));
 
-    auto* grid = new QGridLayout;
+    auto* content = new QWidget;
+    auto* grid = new QGridLayout(content);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(BuildListGroup(), 0, 0, 1, 2);
     grid->addWidget(BuildSizeGroup(), 1, 0);
     grid->addWidget(BuildSortGroup(), 1, 1);
     grid->addWidget(BuildErrorGroup(), 2, 0);
     grid->addWidget(BuildLinkGroup(), 2, 1);
     grid->addWidget(BuildModernGroup(), 3, 0, 1, 2);
+    grid->setRowStretch(4, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(grid);
-    layout->addStretch();
+    layout->addWidget(new FittingArea(content), 1);
     layout->addLayout(BuildButtons());
     layout->addWidget(BuildButtonHint());
     BuildMenu();

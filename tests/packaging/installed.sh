@@ -24,11 +24,11 @@ as_user() { # VARIABLE=value... command
 }
 # Every file of that user, except in kernel file systems. Files that vanish during the search are no failure.
 files_of_user() {
-    { find / \( -path /proc -o -path /sys \) -prune -o -user $user -print 2>/dev/null || true; } | sort
+    { find / \( -fstype proc -o -fstype sysfs \) -prune -o -user $user -print 2>/dev/null || true; } | sort
 }
 # World-writable files that were changed; a user who owns nothing can change only these.
 changed_files() {
-    find / \( -path /proc -o -path /sys -o -path /dev -o -path "$work" \) -prune -o -type f -perm -002 -newer "$1" -print \
+    find / \( -fstype proc -o -fstype sysfs -o -path /dev -o -path "$work" \) -prune -o -type f -perm -002 -newer "$1" -print \
         2>/dev/null || true
 }
 # Fails where the program has written to other places than those that match the pattern.
