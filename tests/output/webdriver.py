@@ -17,6 +17,8 @@ FLAGS = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-
 
 
 class Browser:
+    capabilities = {}  # more of WebDriver's, in subclasses
+
     def __init__(self, width=1000, height=700):
         self.profile = tempfile.mkdtemp(prefix="tunedex-browser-")
         self.driver = subprocess.Popen(["chromedriver", "--port=0"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
@@ -31,7 +33,7 @@ class Browser:
                 raise RuntimeError("chromedriver did not start")
             self.address = f"http://127.0.0.1:{started[1]}"
             options = {"args": [*FLAGS, f"--user-data-dir={self.profile}", f"--window-size={width},{height}"]}
-            capabilities = {"browserName": "chrome", "goog:chromeOptions": options}
+            capabilities = {"browserName": "chrome", "goog:chromeOptions": options} | self.capabilities
             answer = self.call("POST", "/session", {"capabilities": {"alwaysMatch": capabilities}})
             self.session = f"/session/{answer['sessionId']}"
         except BaseException:
