@@ -41,6 +41,8 @@ class Chromium(Browser):
 
 class Firefox:
     name = "Firefox"
+    capabilities = {}  # of WebDriver, in subclasses
+    options = []
 
     def __init__(self):
         self.profile = tempfile.mkdtemp(prefix="tunedex-firefox-")
@@ -48,7 +50,8 @@ class Firefox:
             free.bind(("127.0.0.1", 0))
             port = free.getsockname()[1]
         (pathlib.Path(self.profile) / "user.js").write_text(f'user_pref("marionette.port", {port});\n')
-        self.process = subprocess.Popen(["firefox-esr", "--headless", "--marionette", "--no-remote", "--profile", self.profile],
+        self.process = subprocess.Popen(["firefox-esr", "--headless", "--marionette", "--no-remote", "--profile", self.profile,
+                                         *self.options],
                                         stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.buffer = b""
         self.number = 0
@@ -56,7 +59,7 @@ class Firefox:
         try:
             self.socket = self.connect(port)
             self.receive()
-            self.call("WebDriver:NewSession", {"capabilities": {"alwaysMatch": {}}})
+            self.call("WebDriver:NewSession", {"capabilities": {"alwaysMatch": self.capabilities}})
         except BaseException:
             self.close()
             raise
