@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,6 +14,27 @@
 using namespace Qt::StringLiterals;
 
 namespace tunedex {
+namespace {
+
+// A label that is grey while its control is.
+class FollowingLabel final : public QLabel {
+  public:
+    FollowingLabel(QWidget& control, const QString& text) : QLabel(text) {
+        setBuddy(&control);
+        control.installEventFilter(this);
+        setEnabled(control.isEnabled());
+    }
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::EnabledChange) {
+            setEnabled(static_cast<QWidget*>(object)->isEnabled());
+        }
+        return QLabel::eventFilter(object, event);
+    }
+};
+
+} // namespace
 
 void NameControl(QWidget& control, const QString& objectName, const QString& accessibleName,
                  const QString& description) {
@@ -31,9 +53,7 @@ QString ArrayName(const QString& objectName, int index) {
 }
 
 QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic) {
-    auto* label = new QLabel(textWithMnemonic);
-    label->setBuddy(&control);
-    return label;
+    return new FollowingLabel(control, textWithMnemonic);
 }
 
 QLineEdit* MakeTextField(const QString& objectName, const QString& accessibleName,

@@ -26,7 +26,7 @@ QString ArrayName(const QString& objectName, int index);
 
 // The Make functions return controls without a parent; the layout that they are added to takes ownership.
 
-// A label whose mnemonic ("&Folder:") moves the focus to the control.
+// A label whose mnemonic ("&Folder:") moves the focus to the control. It is enabled when the control is.
 QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic);
 
 // A text field without QLineEdit's limit of 32,767 characters.

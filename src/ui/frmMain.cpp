@@ -25,6 +25,7 @@
 #include "frmDirSelection.h"
 #include "frmTip.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -39,6 +40,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -113,6 +115,7 @@ frmMain::frmMain(Application& application, WindowInterface& ui, Dialogs& dialogs
     auto* centre = new QWidget;
     auto* layout = new QVBoxLayout(centre);
     layout->addWidget(new FittingArea(settings), 1);
+    AlignButtons();
     BuildResultPanel();
     layout->addWidget(fraResult_);
     layout->addWidget(BuildCommandRow());
@@ -214,10 +217,9 @@ int frmMain::LabelWidth() const {
 }
 
 QGroupBox* frmMain::BuildFolderGroup() {
-    lblInputDir_ = MakeLabelFor(*txtInputDir_, tr("Fol&der:"));
     cmdSelectDir_ =
         MakeButton(u"cmdSelectDir"_s, tr("&Browse..."), tr("Choose the folder"), tr("Browse for the folder"));
-    cmdSelectDirs_ = MakeButton(u"cmdSelectDirs"_s, tr("Folder &List..."),
+    cmdSelectDirs_ = MakeButton(u"cmdSelectDirs"_s, tr("Folder &list..."),
                                 tr("Edit the list of folders to search"), tr("Folder list"));
     lblFolderCount_ = new QLabel;
     NameControl(*lblFolderCount_, u"lblFolderCount"_s, QString(), QString());
@@ -232,7 +234,7 @@ QGroupBox* frmMain::BuildFolderGroup() {
     auto* grid = new QGridLayout(group);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(0, LabelWidth());
-    grid->addWidget(lblInputDir_, 0, 0);
+    grid->addWidget(MakeLabelFor(*txtInputDir_, tr("Fol&der:")), 0, 0);
     grid->addWidget(txtInputDir_, 0, 1);
     grid->addWidget(cmdRecentFolders_, 0, 2);
     grid->addWidget(cmdSelectDir_, 0, 3);
@@ -422,7 +424,6 @@ void frmMain::MultipleDirsToggled() {
 
 void frmMain::UpdateFolderControls() {
     const bool several = chkMultipleDirs_->isChecked();
-    lblInputDir_->setEnabled(!several);
     txtInputDir_->setEnabled(!several);
     cmdRecentFolders_->Offer(!several);
     cmdSelectDir_->setEnabled(!several);
@@ -431,7 +432,33 @@ void frmMain::UpdateFolderControls() {
     const std::size_t count = several ? FoldersOf(application_.settings.Directory).size() : 0;
     ShowSettingsFile();
     const QString counted = count == 1 ? tr("1 folder chosen") : tr("%1 folders chosen").arg(count);
-    lblFolderCount_->setText(several ? counted : QString());
+    ShowFolderCount(several ? counted : QString());
+}
+
+void frmMain::ShowFolderCount(const QString& text) {
+    const bool changed = text != lblFolderCount_->text();
+    lblFolderCount_->setText(text);
+    lblFolderCount_->setAccessibleName(text.isEmpty() ? tr("One folder") : text);
+    if (changed && isVisible()) {
+        QAccessibleEvent announcement(lblFolderCount_, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announcement);
+    }
+}
+
+void frmMain::AlignButtons() {
+    const QList<QPushButton*> column{cmdSelectDir_,
+                                     cmdSelectDirs_,
+                                     cmdSelectOutputFile_,
+                                     cmdWindowTitlePlaceHolders_,
+                                     cmdPageTitlePlaceHolders_,
+                                     cmdPageFooterPlaceHolders_};
+    int width = 0;
+    for (const QPushButton* button : column) {
+        width = std::max(width, button->sizeHint().width());
+    }
+    for (QPushButton* button : column) {
+        button->setMinimumWidth(width);
+    }
 }
 
 void frmMain::BrowseFolder() {

@@ -75,6 +75,8 @@ class frmMain final : public QMainWindow {
     void BrowseOutputFile();
     void MultipleDirsToggled();
     void UpdateFolderControls();
+    void ShowFolderCount(const QString& text);
+    void AlignButtons(); // gives the fields of all groups one width
     void OpenPlaceholderMenu(TitleField& field, QPushButton& button);
 
     void RememberPaths();
@@ -98,7 +100,6 @@ class frmMain final : public QMainWindow {
 
     QLineEdit* txtInputDir_ = nullptr;
     RecentButton* cmdRecentFolders_ = nullptr;
-    QLabel* lblInputDir_ = nullptr;
     QPushButton* cmdSelectDir_ = nullptr;
     QCheckBox* chkMultipleDirs_ = nullptr;
     QLabel* lblFolderCount_ = nullptr;

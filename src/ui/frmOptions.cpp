@@ -174,7 +174,6 @@ QGroupBox* frmOptions::BuildModernGroup() {
     cmbTagCodePage_ = new CodePageBox;
     NameControl(*cmbTagCodePage_, u"cmbTagCodePage"_s, tr("Code page of old tags"),
                 tr("The code page of ID3v1 tags, and of ID3v2 texts that are not Unicode"));
-    lblTagCodePage_ = MakeLabelFor(*cmbTagCodePage_, tr("Code pa&ge of old tags:"));
     connect(chkModern_, &QCheckBox::toggled, this, &frmOptions::FollowModern);
 
     auto* group = new QGroupBox(tr("Tags and lists"));
@@ -182,7 +181,7 @@ QGroupBox* frmOptions::BuildModernGroup() {
     auto* top = new QHBoxLayout;
     top->addWidget(chkModern_);
     top->addStretch();
-    top->addWidget(lblTagCodePage_);
+    top->addWidget(MakeLabelFor(*cmbTagCodePage_, tr("Code pa&ge of old tags:")));
     top->addWidget(cmbTagCodePage_);
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(top);
@@ -292,7 +291,6 @@ void frmOptions::SwitchModernOn() {
 
 void frmOptions::FollowModern() {
     const bool modern = chkModern_->isChecked();
-    lblTagCodePage_->setEnabled(modern);
     cmbTagCodePage_->setEnabled(modern);
     fraSortOrder_->setTitle(modern ? tr("Sort by artist, album, disc and track")
                                    : tr("Sort by artist, album and title"));

@@ -101,7 +101,6 @@ class frmOptions : public QDialog {
     QLineEdit* txtLinkPrefix_ = nullptr;
     QGroupBox* fraSortOrder_ = nullptr;
     QCheckBox* chkModern_ = nullptr;
-    QLabel* lblTagCodePage_ = nullptr;
     CodePageBox* cmbTagCodePage_ = nullptr;
     // Whether the editor has stored columns while the box was ticked, so that the settings can name modern
     // columns before they are modern.
