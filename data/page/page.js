@@ -334,6 +334,13 @@
         if (kinds[column] !== "link") {
             const button = make("button", {type: "button"}, names[column]);
             button.addEventListener("click", event => sortBy(column, event.shiftKey));
+            // In Firefox the click that a key makes does not say whether Shift is held.
+            button.addEventListener("keydown", event => {
+                if (event.shiftKey && event.key === "Enter") {
+                    event.preventDefault();
+                    sortBy(column, true);
+                }
+            });
             head.replaceChildren(button);
         }
     });

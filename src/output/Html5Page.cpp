@@ -167,7 +167,9 @@ std::string Html5Page::Start(std::int32_t number) const {
 
 std::string Html5Page::TableStart(std::int32_t number) const {
     std::string classes = grouped_ ? "grouped" : "";
-    classes += IsLongHtml5Page(files_) ? " long" : "";
+    if (IsLongHtml5Page(files_)) {
+        classes += classes.empty() ? "long" : " long";
+    }
     std::string table = "<table id=\"tracks\" aria-label=\"Tracks\"";
     table += classes.empty() ? "" : Attribute("class", classes);
     if (files_.Count() > 1) {
