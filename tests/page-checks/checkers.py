@@ -15,7 +15,9 @@ from listings import Program, make_sample  # noqa: E402
 from webdriver import ELEMENT  # noqa: E402
 
 SKIPPED = 77
-NOT_KNOWN = "Inline (style|script) violates Content Security Policy"  # vnu does not compare hashes
+# Warnings of the Nu checker: it does not compare hashes, and does not know that the heading of an album spans the columns
+# that are shown beside headings.
+UNFOUNDED = re.compile("Inline (style|script) violates Content Security Policy|A table row was [0-9]+ columns wide, which is less")
 
 
 def checkers():
@@ -50,7 +52,7 @@ def vnu_complaints(jar, pages):
                           *map(str, pages)], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True)
     found = {}
     for message in json.loads(run.stdout)["messages"]:
-        if message["type"] == "info" and re.match(NOT_KNOWN, message["message"]):
+        if message["type"] == "info" and UNFOUNDED.match(message["message"]):
             continue
         place = f"{message.get('lastLine')}: {message['type']}: {message['message']}"
         found.setdefault(message.get("url", "the checker"), []).append(place)

@@ -210,7 +210,9 @@ void Html5LayoutTest::TheButtonOpensTheSampleWithTheLayoutShown() {
     QCOMPARE(opened_.size(), 1);
     QVERIFY2(OpenedPath().endsWith(u".htm"_s), qPrintable(OpenedPath()));
     const QByteArray page = Content(OpenedPath());
+    QVERIFY2(page.startsWith("<!DOCTYPE html>"), page.left(40).constData());
     QVERIFY(page.contains("First Ferry Home"));
+    QVERIFY(page.contains("Caf\u00E9 Central"));
     QVERIFY(page.contains("Long Wave"));
     QVERIFY(page.toUpper().contains("#1B9E77"));
     QCOMPARE(QFileInfo(OpenedPath()).dir().entryList(QDir::Files).size(), 1);
