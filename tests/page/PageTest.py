@@ -238,6 +238,7 @@ class Order(PageTest):
         focus = "document.querySelectorAll('thead button')[arguments[0]].focus()"
         self.browser.run(focus, 5)
         self.browser.press("Enter")
+        self.wait_status("300 tracks, sorted by Bitrate")
         self.browser.run(focus, 7)
         self.browser.press("Shift+Enter")
         self.wait_status("300 tracks, sorted by Bitrate, then by Year")
