@@ -129,7 +129,7 @@ int main(int argc, char** argv) {
     }
     BenchFrontEnd frontEnd(application);
     frontEnd.FillFields(tunedex::FieldsFor(settings));
-    const bool written = tunedex::CreateList(application, frontEnd).written;
+    const bool written = tunedex::CreateList(application, frontEnd).Written();
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     std::cout << application.statistics.FilesHandled << " files, " << std::setprecision(4) << std::fixed

@@ -85,7 +85,7 @@ double Median(std::vector<double> values) {
 double RunOnce(tunedex::Application& application, tunedex::UserInterface& front) {
     Timed timed(front);
     timed.FillFields(tunedex::FieldsFor(application.settings));
-    if (!tunedex::CreateList(application, timed).written) {
+    if (!tunedex::CreateList(application, timed).Written()) {
         std::cerr << "no list was written\n";
         std::exit(1);
     }
@@ -111,7 +111,7 @@ double AbortOnce(tunedex::Application& application, tunedex::WindowsFrontEnd& fr
             },
             Qt::QueuedConnection);
     });
-    const bool written = tunedex::CreateList(application, front).written;
+    const bool written = tunedex::CreateList(application, front).Written();
     const SteadyClock::time_point ended = SteadyClock::now();
     user.join();
     QCoreApplication::processEvents();

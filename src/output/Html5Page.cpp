@@ -83,7 +83,7 @@ class BodyHeights {
         for (std::size_t rows = 0; rows < used_.size(); ++rows) {
             if (used_[rows] && rows != kHtml5BodyTracks) {
                 const std::string count = std::to_string(rows);
-                style += ".n" + count + "{--rows:" + count + "}\n";
+                style.append(".n").append(count).append("{--rows:").append(count).append("}\n");
             }
         }
     }

@@ -125,11 +125,13 @@ bool WriteWhole(int descriptor, std::string_view rest, const StopTest& stop, Bro
         const ssize_t done = Uninterrupted([&] { return write(descriptor, rest.data(), rest.size()); });
         if (done >= 0) {
             rest.remove_prefix(static_cast<std::size_t>(done));
-        } else if (errno == EPIPE && brokenPipe == BrokenPipe::Stops) {
-            return false;
-        } else if (errno != EAGAIN) {
+            continue;
+        }
+        const bool readerGone = errno == EPIPE && brokenPipe == BrokenPipe::Stops;
+        if (errno != EAGAIN && !readerGone) {
             throw ErrorFromErrno(errno, FileTask::WriteFile);
-        } else if (!WaitUntilWritable(descriptor, stop)) {
+        }
+        if (readerGone || !WaitUntilWritable(descriptor, stop)) {
             return false;
         }
     }

@@ -70,4 +70,8 @@ QString OutputHint(const Settings& settings, const QFontMetrics& metrics) {
                                  : Sentences(metrics).Of(forecast, settings.OutputFile);
 }
 
+QString LongestOutputHint() {
+    return Sentences::OfExtensions(true);
+}
+
 } // namespace tunedex

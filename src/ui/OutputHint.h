@@ -12,4 +12,7 @@ namespace tunedex {
 // extensions mean. Long names are elided.
 QString OutputHint(const Settings& settings, const QFontMetrics& metrics);
 
+// The longest line of the hints without names.
+QString LongestOutputHint();
+
 } // namespace tunedex

@@ -255,7 +255,9 @@ QGroupBox* frmMain::BuildOutputGroup() {
     lblOutputHint_->setObjectName(u"lblOutputHint"_s);
     lblOutputHint_->setTextFormat(Qt::PlainText);
     lblOutputHint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    lblOutputHint_->setMinimumHeight(2 * fontMetrics().lineSpacing()); // keeps its height with a second line
+    // Keeps its size while the hint changes: two lines, as wide as the longest.
+    lblOutputHint_->setMinimumSize(fontMetrics().horizontalAdvance(LongestOutputHint()),
+                                   2 * fontMetrics().lineSpacing());
 
     auto* group = new QGroupBox(tr("List"));
     auto* grid = new QGridLayout(group);

@@ -438,19 +438,19 @@ TEST_F(SettingsFile, SkipsEachKindOfInvalidLine) {
 
 TEST_F(SettingsFile, EndsWithGroupingCodePageAndModernModeOnlyWhenTheyAreSet) {
     struct Row {
-        bool grouped;
         const char* codePage;
-        bool modern;
         const char* end;
+        bool grouped;
+        bool modern;
     };
     const Row rows[] = {
-        {false, "", false, "TableBorder=1\r\n"},
-        {false, "", true, "TableBorder=1\r\nModern=1\r\n"},
-        {false, "windows-1251", false, "TableBorder=1\r\nTagCodePage=windows-1251\r\n"},
-        {false, "windows-1251", true, "TableBorder=1\r\nTagCodePage=windows-1251\r\nModern=1\r\n"},
-        {true, "", false, "TableBorder=1\r\nGroupByAlbum=1\r\n"},
-        {true, "", true, "TableBorder=1\r\nGroupByAlbum=1\r\nModern=1\r\n"},
-        {true, "KOI8-R", true, "TableBorder=1\r\nGroupByAlbum=1\r\nTagCodePage=KOI8-R\r\nModern=1\r\n"},
+        {"", "TableBorder=1\r\n", false, false},
+        {"", "TableBorder=1\r\nModern=1\r\n", false, true},
+        {"windows-1251", "TableBorder=1\r\nTagCodePage=windows-1251\r\n", false, false},
+        {"windows-1251", "TableBorder=1\r\nTagCodePage=windows-1251\r\nModern=1\r\n", false, true},
+        {"", "TableBorder=1\r\nGroupByAlbum=1\r\n", true, false},
+        {"", "TableBorder=1\r\nGroupByAlbum=1\r\nModern=1\r\n", true, true},
+        {"KOI8-R", "TableBorder=1\r\nGroupByAlbum=1\r\nTagCodePage=KOI8-R\r\nModern=1\r\n", true, true},
     };
     for (const Row& row : rows) {
         Settings settings = SampleSettings();
