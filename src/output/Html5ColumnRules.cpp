@@ -65,13 +65,15 @@ class ColumnRules {
             }
         }
         const auto count = std::count(unfolded.begin(), unfolded.end(), true);
-        style += ";--need:calc(" + std::to_string(need) + "ch + " + std::to_string(count) +
-                 "*(var(--pad,1em) + var(--line,1px)))}\n";
+        // Beside its padding, a cell has half an em, about a digit.
+        const auto pixels = count * Html5CellPixels(settings_);
+        style += ";min-width:min(100%," + std::to_string(need + count) + "ch + " + std::to_string(pixels) +
+                 "px)}\n";
     }
 
     // The width of the window in which these columns have room.
     int NeededEm(const std::vector<bool>& unfolded) const {
-        const double cellPixels = 2.0 * settings_.TablePadding + settings_.TableBorder + kSidePixels;
+        const double cellPixels = Html5CellPixels(settings_) + kSidePixels;
         const bool fonts = settings_.FontCSS || settings_.FontHTML;
         const double font = fonts ? Html5FontSize(settings_.Font[kCellFont].size) : 1;
         double em = kMarginEm;

@@ -82,6 +82,10 @@ std::string Pixels(std::int16_t count) {
 
 } // namespace
 
+int Html5CellPixels(const Settings& settings) {
+    return 2 * std::max<int>(settings.TablePadding, 0) + std::max<int>(settings.TableBorder, 0);
+}
+
 double Html5FontSize(std::string_view size) {
     constexpr std::array kSizes = {0.75, 0.82, 1.0, 1.12, 1.5, 2.0, 3.0};
     const bool known = size.size() == 1 && size[0] >= '1' && size[0] <= '7';
@@ -127,6 +131,7 @@ void WriteHtml5Theme(std::string& style, const Settings& settings) {
     }
     AddDeclaration(style, "line", Pixels(settings.TableBorder));
     AddDeclaration(style, "padding", Pixels(settings.TablePadding));
+    AddDeclaration(style, "row", "calc(1.3em + " + std::to_string(Html5CellPixels(settings)) + "px)");
     AddDeclaration(style, "width",
                    std::to_string(std::max<std::int16_t>(settings.TableWidth, 0)) +
                        (settings.TableWidthUnit == 1 ? "%" : "px"));

@@ -15,6 +15,9 @@ double Html5FontSize(std::string_view size);
 // A list of font families that CSS accepts, whatever the text: names that are no identifiers are quoted.
 std::string Html5FontFamilies(std::string_view faces);
 
+// The pixels that the settings put around the text of a cell: padding on both sides, and one border.
+int Html5CellPixels(const Settings& settings);
+
 // A string of CSS that cannot end its element. Line breaks become blanks.
 std::string CssString(std::string_view text);
 

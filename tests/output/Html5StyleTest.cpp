@@ -109,10 +109,12 @@ TEST(Html5Theme, HoldsTheMeasuresOfTheTable) {
     settings.TablePadding = 7;
     settings.TableWidth = 640;
     settings.TableWidthUnit = 0;
-    EXPECT_THAT(Theme(settings), HasSubstr("--line:3px;\n--padding:7px;\n--width:640px;\n}\n"));
+    EXPECT_THAT(Theme(settings),
+                HasSubstr("--line:3px;\n--padding:7px;\n--row:calc(1.3em + 17px);\n--width:640px;\n}\n"));
     settings.TableBorder = settings.TablePadding = settings.TableWidth = -5;
     settings.TableWidthUnit = 1;
-    EXPECT_THAT(Theme(settings), HasSubstr("--line:0px;\n--padding:0px;\n--width:0%;\n}\n"));
+    EXPECT_THAT(Theme(settings),
+                HasSubstr("--line:0px;\n--padding:0px;\n--row:calc(1.3em + 0px);\n--width:0%;\n}\n"));
 }
 
 } // namespace
