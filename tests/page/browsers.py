@@ -66,10 +66,10 @@ class Firefox:
 
     @staticmethod
     def connect(port):
-        end = time.monotonic() + 60
+        end = time.monotonic() + 180
         while True:
             try:
-                return socket.create_connection(("127.0.0.1", port), timeout=120)
+                return socket.create_connection(("127.0.0.1", port), timeout=300)
             except OSError:
                 if time.monotonic() > end:
                     raise
