@@ -14,7 +14,7 @@ TEST(RateOf, CountsFilesASecondAndTheTimeLeft) {
         std::int32_t done;
         std::int32_t total;
         int milliseconds;
-        std::int64_t rate;
+        std::int32_t rate;
         std::int32_t left;
     } rows[] = {
         {50, 100, 1000, 50, 1},

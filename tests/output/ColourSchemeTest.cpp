@@ -82,9 +82,9 @@ std::string AnyColour(std::mt19937& random) {
         return kOdd[random() % std::size(kOdd)];
     }
     char text[7];
-    const unsigned grey = random() % 256;
-    const unsigned number = random() % 4 == 0 ? grey * 0x10101 : random() % 0x1000000;
-    std::snprintf(text, sizeof text, "%06X", number);
+    const auto grey = random() % 256;
+    const auto number = random() % 4 == 0 ? grey * 0x10101 : random() % 0x1000000;
+    std::snprintf(text, sizeof text, "%06X", static_cast<unsigned>(number));
     return text;
 }
 

@@ -39,6 +39,7 @@ TEST_F(Html5ColumnsTest, AreAsWideAsNineOfTenTexts) {
     settings.FontCSS = settings.FontHTML = false;
     const std::vector<Html5Column> columns = Measure("Title|Album|Artist|Duration|Genre|Number");
     std::vector<int> widths;
+    widths.reserve(columns.size());
     for (const Html5Column& column : columns) {
         widths.push_back(column.width);
     }

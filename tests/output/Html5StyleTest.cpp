@@ -66,8 +66,14 @@ TEST(Html5Theme, HoldsTheTenColoursAndTheirCounterparts) {
         for (std::size_t i = 0; i < kColourCount; ++i) {
             const std::string& light = (dark ? other : own).colours[i];
             const std::string& night = (dark ? own : other).colours[i];
-            EXPECT_THAT(Theme(settings),
-                        HasSubstr("\n--" + names[i] + ":light-dark(#" + light + ",#" + night + ");\n"));
+            std::string rule = "\n--";
+            rule.append(names[i])
+                .append(":light-dark(#")
+                .append(light)
+                .append(",#")
+                .append(night)
+                .append(");\n");
+            EXPECT_THAT(Theme(settings), HasSubstr(rule));
         }
     }
 }

@@ -8,6 +8,10 @@
 namespace tunedex {
 namespace {
 
+std::string Between(const std::string& text) {
+    return std::string("a").append(text).append("b");
+}
+
 struct Html5TextCase {
     std::string text;
     std::string element;
@@ -61,9 +65,9 @@ TEST(Html5Text, ReplacesWhatNoDocumentMayHold) {
     for (const std::string& text : forbidden) {
         const std::string expected = text == "\xED\xA0\x80" ? kUnknown + kUnknown + kUnknown : kUnknown;
         for (const TextPlace place : {TextPlace::Element, TextPlace::Attribute, TextPlace::Json}) {
-            EXPECT_EQ(Html5Text("a" + text + "b", place), "a" + expected + "b") << text;
+            EXPECT_EQ(Html5Text(Between(text), place), Between(expected)) << text;
         }
-        EXPECT_EQ(Html5Markup("a" + text + "b"), "a" + expected + "b");
+        EXPECT_EQ(Html5Markup(Between(text)), Between(expected));
     }
     for (const std::string text :
          {"\xC2\xA0", "\xEF\xB7\x8F", "\xEF\xB7\xB0", "\xEF\xBF\xBD", "\xE2\x80\xA8"}) {
