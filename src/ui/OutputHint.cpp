@@ -15,11 +15,11 @@ namespace {
 constexpr int kNameWidth = 36;
 constexpr int kExtensionWidth = 10;
 
-class Sentences {
+class HintSentences {
     Q_DECLARE_TR_FUNCTIONS(tunedex::OutputHint)
 
   public:
-    explicit Sentences(const QFontMetrics& metrics) : metrics_(metrics) {}
+    explicit HintSentences(const QFontMetrics& metrics) : metrics_(metrics) {}
 
     static QString OfExtensions(bool modern) {
         return modern ? tr("The extension sets the format: .htm web page, .txt or .csv table, .m3u playlist.")
@@ -66,12 +66,12 @@ class Sentences {
 
 QString OutputHint(const Settings& settings, const QFontMetrics& metrics) {
     const OutputForecast forecast = ForecastOutput(settings);
-    return forecast.file.empty() ? Sentences::OfExtensions(settings.Modern)
-                                 : Sentences(metrics).Of(forecast, settings.OutputFile);
+    return forecast.file.empty() ? HintSentences::OfExtensions(settings.Modern)
+                                 : HintSentences(metrics).Of(forecast, settings.OutputFile);
 }
 
 QString LongestOutputHint() {
-    return Sentences::OfExtensions(true);
+    return HintSentences::OfExtensions(true);
 }
 
 } // namespace tunedex

@@ -10,7 +10,6 @@
 #include "Text.h"
 
 #include <array>
-#include <utility>
 #include <vector>
 
 namespace tunedex {
@@ -118,10 +117,10 @@ void WriteSampleFile(Settings settings, const Application& application, const En
     WriteListing(kHtmlOutput, listing);
 }
 
-std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
-                            const std::string& folder) {
+std::string WriteSamplePage(const Settings& settings, const Application& application,
+                            const EntityTable& entities, const std::string& folder) {
     const std::string path = folder + "preview.htm";
-    WriteSampleFile(InRichText(std::move(settings)), application, entities, path);
+    WriteSampleFile(InRichText(settings), application, entities, path);
     FileByteSource page(path);
     std::vector<std::uint8_t> bytes(page.Size());
     page.ReadExactly(0, bytes);

@@ -16,7 +16,7 @@ void WriteSampleFile(Settings settings, const Application& application, const En
 // The page that the preview shows, in UTF-8. It is written to a file in `folder`, which must exist and end in
 // a separator. An HTML5 page, whose style sheet rich text does not support, is shown by an HTML 4.01 page
 // with the same colours, fonts and borders. Raises the errors of the writers.
-std::string WriteSamplePage(Settings settings, const Application& application, const EntityTable& entities,
-                            const std::string& folder);
+std::string WriteSamplePage(const Settings& settings, const Application& application,
+                            const EntityTable& entities, const std::string& folder);
 
 } // namespace tunedex

@@ -62,8 +62,9 @@ TEST(Html5Text, ReplacesWhatNoDocumentMayHold) {
                                                 "\xFF",
                                                 "\x80",
                                                 "\xED\xA0\x80" /* a surrogate: three stray bytes */};
+    const std::string threeUnknown = kUnknown + kUnknown + kUnknown;
     for (const std::string& text : forbidden) {
-        const std::string expected = text == "\xED\xA0\x80" ? kUnknown + kUnknown + kUnknown : kUnknown;
+        const std::string& expected = text == "\xED\xA0\x80" ? threeUnknown : kUnknown;
         for (const TextPlace place : {TextPlace::Element, TextPlace::Attribute, TextPlace::Json}) {
             EXPECT_EQ(Html5Text(Between(text), place), Between(expected)) << text;
         }
