@@ -30,7 +30,7 @@ cleanup() {
     for command in "${cleanup_commands[@]}"; do
         eval "$command" || true
     done
-    rm -rf "$work"
+    rm -rf --one-file-system "$work" # a mount that a failed check has left stays whole
 }
 trap cleanup EXIT
 
