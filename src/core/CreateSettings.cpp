@@ -127,12 +127,20 @@ std::optional<Refusal> ApplyFolders(Application& application, const CreateComman
     return std::nullopt;
 }
 
+std::optional<Refusal> ApplyStandardOutput(Settings& settings, const std::string& output) {
+    const ListingStyle style = StyleOf(settings);
+    if (output != "-" && ListingPath(OutputTypeOf(output, style), output, style) != output) {
+        return CannotStart("only a modern list has this format: " + output);
+    }
+    settings.OutputFile = output;
+    settings.Spanning = 0;
+    return std::nullopt;
+}
+
 std::optional<Refusal> ApplyOutput(Application& application, const CreateCommand& command) {
     Settings& settings = application.settings;
     if (command.outputFile && IsStandardOutput(*command.outputFile)) {
-        settings.OutputFile = *command.outputFile;
-        settings.Spanning = 0;
-        return std::nullopt;
+        return ApplyStandardOutput(settings, *command.outputFile);
     }
     if (command.outputFile && EndsInSeparator(*command.outputFile, PathStyle::Native())) {
         return CannotStart("--output names a folder, not a file: " + *command.outputFile);

@@ -24,7 +24,7 @@ constexpr std::string_view kHead = R"(Usage: tunedex [/AUTO]
 Catalogue a collection of MP3 files: read their ID3 tags and MPEG audio headers
 and write one listing, as web page (.htm), text (.txt) or playlist (.m3u), a
 modern one also as comma-separated values (.csv). Without an argument the main
-window opens.
+window opens, if this build has windows.
 )";
 
 constexpr std::string_view kTail = R"(

@@ -170,6 +170,11 @@ TEST_F(PrepareSettingsTest, WritesOnePageToStandardOutput) {
         EXPECT_EQ(Prepared().OutputFile, output);
         EXPECT_EQ(fake_.application.settings.Spanning, 0);
     }
+    command_.modern = false;
+    for (const char* output : {"-.csv", "-.m3u8"}) {
+        command_.outputFile = output;
+        ExpectRefusal(kExitCannotStart, std::string("only a modern list has this format: ") + output);
+    }
     for (const char* output : {"", "--", "-.pdf", "./-", "-.CSV", "list.htm"}) {
         EXPECT_FALSE(IsStandardOutput(output)) << output;
     }
