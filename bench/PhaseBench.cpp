@@ -2,6 +2,7 @@
 //
 // usage: phase_bench sort N                    SortTracks; std::sort on the same upper-cased keys
 //        phase_bench html|text|m3u N FOLDER    a writer; writing the same bytes through one 64 KiB buffer
+//        phase_bench html5 N FOLDER            HTML5 pages, plain and by album; HTML 4.01
 //        phase_bench pages N FOLDER            pages of 100 rows; one page; plain files with the same bytes
 //        phase_bench abort COLLECTION FOLDER   from the abort request to the return, in each phase
 //
@@ -196,6 +197,25 @@ void Writer(int type, const std::string& extension, std::size_t count, const std
     std::filesystem::remove(path);
 }
 
+void Html5(std::size_t count, const std::string& folder) {
+    Bench bench(MakeTracks(count));
+    QuietMonitor monitor;
+    const std::string path = folder + "/bench.htm";
+    const auto write = [&](const std::string& name, const std::string& type, bool byAlbum) {
+        bench.settings.DocumentType = type;
+        bench.settings.GroupByAlbum = byAlbum;
+        const double seconds = SecondsOf([&] { bench.Write(monitor, tunedex::kHtmlOutput, path); });
+        std::filesystem::remove(path);
+        if (!name.empty()) {
+            Print(name, seconds);
+        }
+    };
+    write("", "HTML", false); // the texts are in the processor's cache from here on
+    write("html", "HTML", false);
+    write("html5", "HTML5", false);
+    write("html5-by-album", "HTML5", true);
+}
+
 void Pages(std::size_t count, const std::string& folder) {
     Bench bench(MakeTracks(count));
     QuietMonitor monitor;
@@ -271,6 +291,8 @@ int main(int argc, char** argv) {
         Sort(count());
     } else if (what == "html" && argc == 4) {
         Writer(tunedex::kHtmlOutput, ".htm", count(), folder);
+    } else if (what == "html5" && argc == 4) {
+        Html5(count(), folder);
     } else if (what == "text" && argc == 4) {
         Writer(tunedex::kTextOutput, ".txt", count(), folder);
     } else if (what == "m3u" && argc == 4) {
@@ -280,7 +302,8 @@ int main(int argc, char** argv) {
     } else if (what == "abort" && argc == 4) {
         Abort(argv[2], folder);
     } else {
-        std::cerr << "usage: phase_bench sort N | html|text|m3u|pages N FOLDER | abort COLLECTION FOLDER\n";
+        std::cerr
+            << "usage: phase_bench sort N | html|html5|text|m3u|pages N FOLDER | abort COLLECTION FOLDER\n";
         return 2;
     }
     return 0;

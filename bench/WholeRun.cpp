@@ -1,7 +1,8 @@
 // whole_run: one unattended run with the program's own code, from folders to the finished listing. Its clock
 // does not sleep, which leaves out the pause of one second at the end of a run.
 //
-// usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--modern 1] [--entities FILE]
+// usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--modern 1] [--type HTML5]
+//        [--entities FILE]
 // Prints the time of each phase, then files listed, total time and peak memory.
 
 #include "Application.h"
@@ -99,7 +100,7 @@ class BenchFrontEnd final : public tunedex::UserInterface {
 int main(int argc, char** argv) {
     if (argc < 3) {
         std::cerr << "usage: whole_run FOLDER OUTPUT [--readers N] [--sort N] [--spanning N] [--modern 1] "
-                     "[--entities FILE]\n";
+                     "[--type HTML5] [--entities FILE]\n";
         return 2;
     }
     const auto begun = std::chrono::steady_clock::now();
@@ -123,6 +124,8 @@ int main(int argc, char** argv) {
             settings.Spanning = static_cast<std::int16_t>(std::atoi(argv[i + 1])); // NOLINT(cert-err34-c)
         } else if (option == "--modern") {
             settings.Modern = std::atoi(argv[i + 1]) != 0; // NOLINT(cert-err34-c)
+        } else if (option == "--type") {
+            settings.DocumentType = argv[i + 1];
         } else if (option == "--entities") {
             application.entities.Load(argv[i + 1], std::cerr);
         }

@@ -215,6 +215,7 @@
         view = hits;
         table.classList.toggle("viewing", Boolean(view));
         table.classList.toggle("grouped", grouped && !view);
+        bar.classList.toggle("grouped", grouped && !view);
         table.removeAttribute("aria-rowcount");
         if (view) {
             table.setAttribute("aria-rowcount", view.length + 1);

@@ -6,15 +6,18 @@
 #include <cmath>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace tunedex {
 
 namespace {
 
-constexpr double kDigitEm = 0.6;    // the width of a digit: 0.5 to 0.64 in common fonts
-constexpr double kPixelsPerEm = 16; // of a media query
-constexpr double kMarginEm = 2;     // beside the table
-constexpr double kSidePixels = 8;   // of a cell, beside the padding of the settings
+constexpr std::string_view kTable = "#tracks"; // what follows it in a selector applies to the controls, too
+constexpr double kDigitEm = 0.6;               // the width of a digit: 0.5 to 0.64 in common fonts
+constexpr double kPixelsPerEm = 16;            // of a media query
+constexpr double kMarginEm = 2;                // beside the table
+constexpr int kCellSides = 2;                  // characters: beside the text of a printed cell
+constexpr double kSidePixels = 8;              // of a cell, beside the padding of the settings
 
 class ColumnRules {
   public:
@@ -105,7 +108,8 @@ class ColumnRules {
                 CellsOf(folded) + "{grid-column:1/-1;order:1;display:var(--folded,block);text-align:left}\n";
             style.append(table_) += " td:nth-child(" + std::to_string(folded + 1) +
                                     ")::before{content:" + CssString(columns_[folded].header + ": ") + "}\n";
-            style += ".bar button.folds{display:inline-block}\n}\n";
+            style.append(".bar").append(table_.substr(kTable.size())) +=
+                " button.folds{display:inline-block}\n}\n";
         }
     }
 
@@ -113,13 +117,14 @@ class ColumnRules {
     void WritePrinted(std::string& style) const {
         int total = 0;
         for (std::size_t i = 0; i < columns_.size(); ++i) {
-            total += shown_[i] ? columns_[i].width : 0;
+            total += shown_[i] ? columns_[i].width + kCellSides : 0;
         }
         style += "@media print{\n";
         for (std::size_t i = 0; i < columns_.size() && total > 0; ++i) {
             if (shown_[i]) {
-                style.append(table_) += " thead th:nth-child(" + std::to_string(i + 1) +
-                                        "){width:" + std::to_string(100 * columns_[i].width / total) + "%}\n";
+                style.append(table_) +=
+                    " thead th:nth-child(" + std::to_string(i + 1) +
+                    "){width:" + std::to_string(100 * (columns_[i].width + kCellSides) / total) + "%}\n";
             }
         }
         style += "}\n";

@@ -38,7 +38,7 @@ constexpr std::array kTraits = {
     Trait{ColumnKey::ArtistTitle, 100, true}, Trait{ColumnKey::ArtistAlbumTitle, 100, true},
     Trait{ColumnKey::Unknown, 1, true}};
 static_assert(kTraits.size() == kColumns.size());
-constexpr int kLinkImportance = 85;
+constexpr int kLinkImportance = 65;
 
 // Counts characters; those of East Asian scripts are two wide.
 class WidthCount {
