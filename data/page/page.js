@@ -271,6 +271,7 @@
                         shown = true;
                         show([...hits], false);
                     }
+                    status.textContent = "Searching…";
                     setTimeout(slice);
                     return;
                 }
@@ -294,6 +295,7 @@
     if (table.dataset.index) {
         bar.append(make("label", {class: "all"}, all, "All pages"));
     }
+    letters.hidden = artist < 0;
     bar.append(status, original, details, scheme, letters);
     table.before(bar);
     table.classList.add("script");
