@@ -1,5 +1,6 @@
 #include "Html5Text.h"
 
+#include "MarkupText.h"
 #include "Text.h"
 
 #include <array>
@@ -22,21 +23,6 @@ constexpr bool IsForbidden(char32_t character) {
     const bool noncharacter =
         (character & 0xFFFEU) == 0xFFFEU || (character >= 0xFDD0 && character <= 0xFDEF);
     return (control && !IsAsciiWhiteSpace(character)) || noncharacter;
-}
-
-constexpr std::string_view HtmlReplacement(char c, TextPlace place) {
-    switch (c) {
-    case '&':
-        return "&amp;";
-    case '<':
-        return "&lt;";
-    case '>':
-        return "&gt;";
-    case '"':
-        return place == TextPlace::Attribute ? "&quot;" : "";
-    default:
-        return {};
-    }
 }
 
 constexpr std::string_view JsonReplacement(char c) {
@@ -63,7 +49,10 @@ constexpr std::string_view Replacement(char c, TextPlace place) {
     if (IsForbidden(static_cast<unsigned char>(c))) {
         return kReplacementCharacter;
     }
-    return place == TextPlace::Json ? JsonReplacement(c) : HtmlReplacement(c, place);
+    if (place == TextPlace::Json) {
+        return JsonReplacement(c);
+    }
+    return c == '"' && place == TextPlace::Element ? std::string_view() : ReferenceOf(c);
 }
 
 using PlainBytes = std::array<bool, 256>;

@@ -6,21 +6,6 @@ namespace tunedex {
 
 namespace {
 
-std::string_view ReferenceOf(char c) {
-    switch (c) {
-    case '&':
-        return "&amp;";
-    case '<':
-        return "&lt;";
-    case '>':
-        return "&gt;";
-    case '"':
-        return "&quot;";
-    default:
-        return {};
-    }
-}
-
 std::string WithReferences(std::string_view text, std::string_view replaced) {
     std::string result;
     for (std::size_t hit = text.find_first_of(replaced); hit != std::string_view::npos;

@@ -7,6 +7,22 @@
 
 namespace tunedex {
 
+// The reference for & < > or "; empty for any other character.
+constexpr std::string_view ReferenceOf(char c) {
+    switch (c) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return "&quot;";
+    default:
+        return {};
+    }
+}
+
 // For the content of an element: references for & < and >.
 std::string ElementText(std::string_view text);
 

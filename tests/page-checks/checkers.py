@@ -21,7 +21,7 @@ UNFOUNDED = re.compile("Inline (style|script) violates Content Security Policy|A
 
 
 def checkers():
-    """The folder of vnu.jar and axe.min.js. The test is skipped where npm cannot install them: no network."""
+    """The folder of vnu.jar, axe.min.js and node_modules. The test is skipped where npm cannot install them: no network."""
     run = subprocess.run([ROOT / "tools" / "page-checkers"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
     if run.returncode == 0:
         return pathlib.Path(run.stdout.strip())
@@ -46,9 +46,9 @@ def collection(make_sample_tool, tagger, sample, work):
     return [make_sample(make_sample_tool, tagger, sample), odd]
 
 
-def vnu_complaints(jar, pages):
+def vnu_complaints(jar, pages, *options):
     """The errors and warnings of the Nu checker, by page."""
-    run = subprocess.run(["java", "-jar", str(jar), "--format", "json", "--stdout", "--exit-zero-always",
+    run = subprocess.run(["java", "-jar", str(jar), "--format", "json", "--stdout", "--exit-zero-always", *options,
                           *map(str, pages)], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True)
     found = {}
     for message in json.loads(run.stdout)["messages"]:
