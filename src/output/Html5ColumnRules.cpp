@@ -53,21 +53,31 @@ class ColumnRules {
         return false;
     }
 
+    static std::string CharactersAndPad(int characters) {
+        return "calc(" + std::to_string(characters) + "ch + var(--pad))";
+    }
+
+    // A header is not broken, unless it is wider than its share of a small window.
+    static std::string SharedWidth(const Html5Column& column, std::ptrdiff_t count) {
+        return "minmax(min(" + CharactersAndPad(column.headerWidth) + "," + std::to_string(100 / count) +
+               "%)," + std::to_string(column.width) + "fr)";
+    }
+
     // The columns of the grid, and the width that the table should have at least.
     void WriteWidths(std::string& style, const std::vector<bool>& unfolded) const {
         // Without a flexible column, all of them share what is left.
         const bool flexible = HasFlexible(unfolded);
+        const auto count = std::count(unfolded.begin(), unfolded.end(), true);
         int need = 0;
         style.append(table_) += "{--cols:";
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             if (unfolded[i]) {
-                const std::string width = std::to_string(columns_[i].width);
-                style += columns_[i].flexible || !flexible ? "minmax(0," + width + "fr) "
-                                                           : "calc(" + width + "ch + var(--pad)) ";
+                style += columns_[i].flexible || !flexible ? SharedWidth(columns_[i], count)
+                                                           : CharactersAndPad(columns_[i].width);
+                style += ' ';
                 need += columns_[i].leastWidth;
             }
         }
-        const auto count = std::count(unfolded.begin(), unfolded.end(), true);
         // Beside its padding, a cell has half an em, about a digit.
         const auto pixels = count * Html5CellPixels(settings_);
         style += ";min-width:min(100%," + std::to_string(need + count) + "ch + " + std::to_string(pixels) +

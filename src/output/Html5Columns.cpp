@@ -103,6 +103,7 @@ int HeaderWidth(const Settings& settings, std::string_view header) {
 }
 
 void SetWidth(Html5Column& column, int textWidth, int headerWidth) {
+    column.headerWidth = headerWidth;
     column.width = std::clamp(std::max(textWidth, headerWidth), 1, kMostWidth);
     column.leastWidth =
         column.flexible ? std::min(column.width, std::max(kLeastFlexible, headerWidth)) : column.width;

@@ -16,6 +16,7 @@ struct Html5Column {
     bool right = false;    // header and cells right-aligned
     bool flexible = false; // takes a share of the width that is left, in proportion to `width`
     int width = 0;         // characters
+    int headerWidth = 0;   // characters of the cells' font; a flexible column has this at least
     int leastWidth = 0;    // below which it should fold away
     int importance = 0;    // the least important column folds away first
 };

@@ -111,9 +111,11 @@ TEST_F(Html5ColumnsTest, AreRightAlignedWhereTheirCellsAre) {
 TEST_F(Html5ColumnsTest, ThatAreNotShownTakeNoWidth) {
     Use(SevenTracks());
     const std::vector<Html5Column> columns = Measure("Title|Album");
+    const std::string least = std::to_string(columns[0].headerWidth);
     const std::string width = std::to_string(columns[0].width);
     const std::string rules = Rules(columns, {true, false});
-    EXPECT_THAT(rules, HasSubstr("#tracks{--cols:minmax(0," + width + "fr) ;"));
+    EXPECT_THAT(rules, HasSubstr("#tracks{--cols:minmax(min(calc(" + least + "ch + var(--pad)),100%)," +
+                                 width + "fr) ;"));
     EXPECT_THAT(rules, HasSubstr("#tracks :is(td,thead th):nth-child(2){display:none}"));
     EXPECT_THAT(rules, HasSubstr("@media print{\n#tracks thead th:nth-child(1){width:100%}\n}"));
     EXPECT_THAT(rules, Not(HasSubstr("max-width")));
@@ -122,7 +124,7 @@ TEST_F(Html5ColumnsTest, ThatAreNotShownTakeNoWidth) {
 TEST_F(Html5ColumnsTest, ShareTheWidthIfNoneIsFlexible) {
     Use(SevenTracks());
     const std::string rules = Rules(Measure("Number|Year"), {true, true});
-    EXPECT_THAT(rules, testing::StartsWith("#tracks{--cols:minmax(0,"));
+    EXPECT_THAT(rules, testing::StartsWith("#tracks{--cols:minmax(min("));
 }
 
 TEST_F(Html5ColumnsTest, HaveHeadersThatCannotLeaveTheStyle) {

@@ -314,6 +314,22 @@ class Looks(PageTest):
             cell => getComputedStyle(cell, '::before').content).filter(content => content !== 'none')""")
         self.assertIn('"Year: "', labels)
 
+    def test_headers_stay_whole_in_every_window(self):
+        large = write("large", 30, Merge="0", ActiveColumns="Artist|Title|Album|Year|Genre|Duration|Bitrate",
+                      **{"Font(1)": "DejaVu Serif%|%4%|%1%|%0"})[0]
+        broken = """return [...document.querySelectorAll('thead button')].filter(button => {
+            const range = document.createRange();
+            range.selectNodeContents(button);
+            return button.checkVisibility() && range.getClientRects().length !== 1;
+        }).map(button => button.textContent);"""
+        for page in (self.page, large):
+            self.open(page)
+            for width in range(360, 1700, 40):
+                with self.subTest(page=page.name, width=width):
+                    self.browser.resize(width)
+                    self.assertEqual(self.browser.run(broken), [])
+                    self.assertTrue(self.browser.run("return document.documentElement.scrollWidth <= innerWidth"))
+
     def test_links_lead_to_the_files(self):
         self.open(self.page)
         links = self.browser.run("return [...document.querySelectorAll('tbody a')].map(a => a.getAttribute('href'))")
@@ -523,7 +539,7 @@ class Machines(PageTest):
         self.search("blue")
         self.wait_for("return document.querySelector('tbody.view')")
         self.search("")
-        self.wait_for("return !document.querySelector('tbody.view')")
+        self.wait_for("return !document.querySelector('tbody.view:not([hidden])')")
         data = self.browser.devtools("Page.printToPDF", printBackground=True)["data"]
         pdf = pathlib.Path(WORK) / "paper.pdf"
         pdf.write_bytes(base64.b64decode(data))
