@@ -30,7 +30,7 @@ inline std::size_t Html5BodyRows(const Html5Body& body) {
     return body.last - body.first + (body.hasHeading ? 2 : 1);
 }
 
-inline constexpr std::size_t kHtml5BodyTracks = 100;
+inline constexpr std::size_t kHtml5BodyTracks = 200;
 
 // Whether browsers should lay out and draw the bodies of a page's table only where they are visible. Shorter
 // pages are drawn whole, because what is not drawn is not in the tree for screen readers either.

@@ -48,15 +48,15 @@ class Html5BodiesTest : public ListingTest {
 
 using Names = std::vector<std::string>;
 
-TEST_F(Html5BodiesTest, HoldAHundredTracksEachWithoutGroups) {
+TEST_F(Html5BodiesTest, HoldAFixedNumberOfTracksWithoutGroups) {
     settings.GroupByAlbum = false;
-    for (const std::size_t count : {0U, 1U, 99U, 100U, 101U, 250U}) {
+    for (const std::size_t count : {0U, 1U, 199U, 200U, 201U, 450U}) {
         UseMany(count);
         std::size_t next = 1;
         for (const Html5Body& body : Divide()) {
             EXPECT_FALSE(body.hasHeading);
             EXPECT_EQ(body.first, next);
-            EXPECT_EQ(Html5BodyRows(body), std::min<std::size_t>(100, count + 1 - next));
+            EXPECT_EQ(Html5BodyRows(body), std::min<std::size_t>(kHtml5BodyTracks, count + 1 - next));
             next = body.last + 1;
         }
         EXPECT_EQ(next, count + 1);
@@ -92,12 +92,12 @@ TEST_F(Html5BodiesTest, SumTheDurationsThatAreKnown) {
 }
 
 TEST_F(Html5BodiesTest, ContinueLongAlbumsWithoutAHeading) {
-    UseMany(250);
+    UseMany(450);
     const std::vector<Html5Body> bodies = Divide();
     ASSERT_EQ(bodies.size(), 3U);
-    EXPECT_EQ(Headings(), Names{"Abba/Waterloo:250"});
-    EXPECT_EQ(Html5BodyRows(bodies[0]), 101U);
-    EXPECT_EQ(Html5BodyRows(bodies[1]), 100U);
+    EXPECT_EQ(Headings(), Names{"Abba/Waterloo:450"});
+    EXPECT_EQ(Html5BodyRows(bodies[0]), 201U);
+    EXPECT_EQ(Html5BodyRows(bodies[1]), 200U);
     EXPECT_EQ(Html5BodyRows(bodies[2]), 50U);
 }
 

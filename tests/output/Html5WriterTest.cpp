@@ -230,10 +230,10 @@ TEST_F(Html5WriterTest, LongTablesSayHowHighTheirBodiesAre) {
     UseMany(3050);
     std::string page = Page();
     EXPECT_EQ(CountOf(page, "class=\"long\""), 1U);
-    EXPECT_EQ(CountOf(page, "<tbody>\n"), 30U);
+    EXPECT_EQ(CountOf(page, "<tbody>\n"), 15U);
     EXPECT_EQ(CountOf(page, "<tbody class=\"n50\">\n"), 1U);
     EXPECT_EQ(CountOf(page, "\n.n50{--rows:50}\n"), 1U);
-    UseMany(250);
+    UseMany(450);
     page = Page();
     EXPECT_EQ(CountOf(page, "class=\"long\""), 0U);
     EXPECT_EQ(CountOf(page, "<tbody>\n"), 3U);

@@ -539,7 +539,7 @@ class Machines(PageTest):
         self.search("blue")
         self.wait_for("return document.querySelector('tbody.view')")
         self.search("")
-        self.wait_for("return !document.querySelector('tbody.view:not([hidden])')")
+        self.wait_for("return !document.querySelector('tbody.view tr')")
         data = self.browser.devtools("Page.printToPDF", printBackground=True)["data"]
         pdf = pathlib.Path(WORK) / "paper.pdf"
         pdf.write_bytes(base64.b64decode(data))
