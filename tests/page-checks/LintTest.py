@@ -5,6 +5,7 @@ usage: LintTest.py
 
 import pathlib
 import subprocess
+import tempfile
 import unittest
 
 from checkers import ROOT, checkers, vnu_complaints
@@ -36,9 +37,10 @@ class Lint(unittest.TestCase):
         self.assertEqual(vnu_complaints(self.folder / "vnu.jar", [PAGE / "page.css"], "--css"), {})
 
     def test_checker_finds_a_wrong_style(self):
-        wrong = pathlib.Path("wrong.css")
-        wrong.write_text("p { colour: red }\n")
-        self.assertIn("colour", str(vnu_complaints(self.folder / "vnu.jar", [wrong], "--css")))
+        with tempfile.TemporaryDirectory() as folder:
+            wrong = pathlib.Path(folder) / "wrong.css"
+            wrong.write_text("p { colour: red }\n")
+            self.assertIn("colour", str(vnu_complaints(self.folder / "vnu.jar", [wrong], "--css")))
 
     def test_both_stay_small(self):
         self.assertLess(sum((PAGE / name).stat().st_size for name in ("page.css", "page.js")), 25*1024)
