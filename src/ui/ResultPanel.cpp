@@ -1,11 +1,11 @@
 #include "ResultPanel.h"
 
+#include "Announcement.h"
 #include "Controls.h"
 #include "QtText.h"
 #include "ResultText.h"
 #include "TerminalText.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -123,9 +123,8 @@ void ResultPanel::ShowText() {
     ShowControl(*cmdShowFolder_, !outcome_.file.empty());
     ShowControl(*cmdSwitchModern_, OffersModern(outcome_, modern_));
     setVisible(!text.isEmpty());
-    if (changed && !text.isEmpty()) {
-        QAccessibleEvent announcement(lblResult_, QAccessible::Alert);
-        QAccessible::updateAccessibility(&announcement);
+    if (changed) {
+        Announce(*this, lblResult_->accessibleName());
     }
 }
 

@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "Announcement.h"
 #include "Controls.h"
 #include "DefaultSettings.h"
 #include "ErrorMessage.h"
@@ -25,7 +26,6 @@
 #include "frmDirSelection.h"
 #include "frmTip.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -441,9 +441,8 @@ void frmMain::ShowFolderCount(const QString& text) {
     const bool changed = text != lblFolderCount_->text();
     lblFolderCount_->setText(text);
     lblFolderCount_->setAccessibleName(text.isEmpty() ? tr("One folder") : text);
-    if (changed && isVisible()) {
-        QAccessibleEvent announcement(lblFolderCount_, QAccessible::Alert);
-        QAccessible::updateAccessibility(&announcement);
+    if (changed) {
+        Announce(*this, lblFolderCount_->accessibleName());
     }
 }
 

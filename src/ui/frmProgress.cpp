@@ -1,8 +1,8 @@
 #include "frmProgress.h"
 
+#include "Announcement.h"
 #include "Controls.h"
 
-#include <QAccessible>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -93,8 +93,7 @@ void frmProgress::ShowOver() {
     cmdClose_->setFocus(Qt::OtherFocusReason);
     raise();
     activateWindow();
-    QAccessibleEvent announcement(lblOver_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    Announce(*this, lblOver_->text());
 }
 
 void frmProgress::reject() {
