@@ -19,16 +19,12 @@ QAccessibleInterface* MakeNotification(const QString& /*className*/, QObject* ob
                : nullptr;
 }
 
-QWidget* AnnouncerOf(QWidget& window) {
-    auto* announcer = window.findChild<QWidget*>(kAnnouncer, Qt::FindDirectChildrenOnly);
-    if (announcer == nullptr) {
-        [[maybe_unused]] static const bool installed = (QAccessible::installFactory(MakeNotification), true);
-        announcer = new QWidget(&window);
-        announcer->setObjectName(kAnnouncer);
-        announcer->setAttribute(Qt::WA_TransparentForMouseEvents);
-        announcer->resize(1, 1);
-        announcer->show();
-    }
+QWidget* MakeAnnouncer(QWidget& window) {
+    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(MakeNotification), true);
+    auto* announcer = new QWidget(&window);
+    announcer->setObjectName(kAnnouncer);
+    announcer->setAttribute(Qt::WA_TransparentForMouseEvents);
+    announcer->resize(1, 1);
     return announcer;
 }
 
@@ -39,10 +35,15 @@ void Announce(const QWidget& widget, const QString& text) {
     if (text.isEmpty() || !window->isVisible()) {
         return;
     }
-    QWidget* announcer = AnnouncerOf(*window);
-    announcer->setAccessibleName(text);
-    QAccessibleEvent shown(announcer, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+    if (auto* announcer = window->findChild<QWidget*>(kAnnouncer, Qt::FindDirectChildrenOnly)) {
+        announcer->setAccessibleName(text);
+        QAccessibleEvent shown(announcer, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    } else {
+        announcer = MakeAnnouncer(*window);
+        announcer->setAccessibleName(text);
+        announcer->show(); // sends the event
+    }
 }
 
 } // namespace tunedex
