@@ -3,6 +3,7 @@
 #include "OpenWindows.h"
 
 #include <iostream>
+#include <string>
 
 namespace tunedex {
 
@@ -10,7 +11,8 @@ bool CanOpenWindows() {
     return false;
 }
 
-int OpenWindows(int /*argc*/, char** /*argv*/, Application& /*application*/, bool /*automatic*/) {
+int OpenWindows(int /*argc*/, char** /*argv*/, Application& /*application*/, bool /*automatic*/,
+                const std::string& /*file*/) {
     std::cerr << "Tunedex: this build has no windows. Use --create or /AUTO.\n";
     return kExitCannotStart;
 }

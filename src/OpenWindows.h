@@ -4,6 +4,8 @@
 
 #include "Application.h"
 
+#include <string>
+
 namespace tunedex {
 
 // Whether this build has windows and the environment names a display.
@@ -11,6 +13,6 @@ bool CanOpenWindows();
 
 // Runs the program with its windows and returns its exit status (RunWindows). Where CanOpenWindows() is
 // false, prints the reason on standard error and returns kExitCannotStart.
-int OpenWindows(int argc, char** argv, Application& application, bool automatic);
+int OpenWindows(int argc, char** argv, Application& application, bool automatic, const std::string& file);
 
 } // namespace tunedex

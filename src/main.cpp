@@ -80,7 +80,7 @@ int Start(int argc, char** argv, tunedex::Application& application,
     if (automatic && !tunedex::CanOpenWindows()) {
         return tunedex::RunTerminal(application, arguments);
     }
-    return tunedex::OpenWindows(argc, argv, application, automatic);
+    return tunedex::OpenWindows(argc, argv, application, automatic, "");
 }
 
 int Run(int argc, char** argv) {
@@ -104,6 +104,9 @@ int Run(int argc, char** argv) {
     application.collation = std::make_shared<tunedex::QtCollation>(tunedex::CollationLanguage());
     if (const auto* const create = std::get_if<tunedex::CreateCommand>(&command)) {
         return tunedex::RunCreate(application, *create);
+    }
+    if (const auto* const open = std::get_if<tunedex::OpenCommand>(&command)) {
+        return tunedex::OpenWindows(argc, argv, application, false, open->file);
     }
     return Start(argc, argv, application, arguments);
 }

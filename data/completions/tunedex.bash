@@ -6,7 +6,7 @@ _tunedex() {
     # Names can contain blanks.
     local IFS=$'\n'
     case $previous in
-    --settings | --check | --write-defaults | --output)
+    --settings | --open | --check | --write-defaults | --output)
         compopt -o filenames
         COMPREPLY=($(compgen -f -- "$current"))
         return
@@ -27,7 +27,7 @@ _tunedex() {
         ;;
     esac
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W $'/AUTO\n--create\n--check\n--write-defaults\n--help\n--version' -- "$current"))
+        COMPREPLY=($(compgen -W $'/AUTO\n--create\n--open\n--check\n--write-defaults\n--help\n--version' -- "$current"))
     elif [[ ${COMP_WORDS[1]} == --create ]]; then
         COMPREPLY=($(compgen -W $'--settings\n--folder\n--output\n--modern\n--classic\n--columns\n--theme\n--quiet' -- "$current"))
     fi

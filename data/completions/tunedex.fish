@@ -12,7 +12,7 @@ end
 function __tunedex_begins
     set -l words (commandline -opc)
     test (count $words) -eq 1; and return
-    test (count $words) -eq 2; and contains -- $words[2] --check --write-defaults
+    test (count $words) -eq 2; and contains -- $words[2] --open --check --write-defaults
 end
 
 function __tunedex_creates
@@ -23,6 +23,7 @@ end
 complete -c tunedex -f
 complete -c tunedex -n __tunedex_begins -a /AUTO -d 'Create the list of the default settings file'
 complete -c tunedex -n __tunedex_begins -l create -d 'Create one list in the terminal'
+complete -c tunedex -n __tunedex_begins -l open -rF -d 'Open the main window with a settings or theme file'
 complete -c tunedex -n __tunedex_begins -l check -rF -d 'Print the faulty lines of a settings or theme file'
 complete -c tunedex -n __tunedex_begins -l write-defaults -rF -d 'Write the default settings to a file'
 complete -c tunedex -n __tunedex_begins -l help -d 'Print a summary'

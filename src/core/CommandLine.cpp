@@ -167,6 +167,11 @@ template <class FileCommand> Command ParseFileCommand(const std::vector<std::str
     return FileCommand{arguments.at(1)};
 }
 
+// Without a file it is what a menu entry with "%f" starts.
+Command ParseOpen(const std::vector<std::string>& arguments) {
+    return arguments.size() == 1 ? Command(OpenCommand{}) : ParseFileCommand<OpenCommand>(arguments);
+}
+
 std::string VersionText() {
     return std::string(kProductTitle) + " " + kVersionText + "." + kBuildNumber + "\n";
 }
@@ -186,6 +191,9 @@ Command ParseCommandLine(const std::vector<std::string>& arguments) {
     }
     if (first == "--write-defaults") {
         return ParseFileCommand<WriteDefaultsCommand>(arguments);
+    }
+    if (first == "--open") {
+        return ParseOpen(arguments);
     }
     if (arguments.size() == 1 && first == "--help") {
         return PrintCommand{HelpText()};

@@ -35,16 +35,21 @@ struct WriteDefaultsCommand {
     std::string file;
 };
 
+// --open, which menu entries and file managers use. "/AUTO" inside a file's path has no effect here.
+struct OpenCommand {
+    std::string file; // settings or theme; empty: open the windows as without arguments
+};
+
 // A command line that cannot be carried out.
 struct WrongUse {
     std::string text; // names the argument; without a line end
 };
 
-using Command =
-    std::variant<StartCommand, PrintCommand, CreateCommand, CheckCommand, WriteDefaultsCommand, WrongUse>;
+using Command = std::variant<StartCommand, PrintCommand, CreateCommand, CheckCommand, WriteDefaultsCommand,
+                             OpenCommand, WrongUse>;
 
-// --create, --check and --write-defaults count as the first argument only, --help and --version as the only
-// one. With any other arguments the program starts as without.
+// --create, --check, --write-defaults and --open count as the first argument only, --help and --version as
+// the only one. With any other arguments the program starts as without.
 Command ParseCommandLine(const std::vector<std::string>& arguments);
 
 // Whether "/AUTO" occurs anywhere in the arguments, in any case. Required: also inside a longer word.

@@ -22,6 +22,9 @@ inline constexpr std::array kCommands = {
                   "end. The switch is recognised anywhere on the command line, in upper or lower case."},
     CommandOption{"--create", "",
                   "As the first argument: create one list in the terminal, with the options below, and end."},
+    CommandOption{"--open", "FILE",
+                  "As the first argument: open the main window with a settings file, or with the look of a "
+                  "theme (.thm)."},
     CommandOption{"--check", "FILE",
                   "As the only arguments: print the faulty lines of a settings file, or of a theme (.thm), "
                   "and end. The status is 0 when there are none, 1 otherwise."},

@@ -16,6 +16,7 @@ constexpr std::size_t kTextColumn = 13;
 // Keep the manual page in step: same entries, same words.
 constexpr std::string_view kHead = R"(Usage: tunedex [/AUTO]
        tunedex --create [OPTION]...
+       tunedex --open FILE
        tunedex --check FILE
        tunedex --write-defaults FILE
        tunedex --help

@@ -15,7 +15,7 @@ namespace tunedex {
 void InstallProgramIcon() {
     InitResources();
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
         icon.addFile(u":/icons/tunedex-%1.png"_s.arg(size), QSize(size, size));
     }
     QApplication::setWindowIcon(icon);

@@ -49,11 +49,14 @@ int RunUnattended(const Application& application, WindowsFrontEnd& frontEnd) {
     return ExitStatusOf(outcome);
 }
 
-int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
+int RunInteractively(Application& application, WindowsFrontEnd& frontEnd, const std::string& file) {
     frmMain& window = frontEnd.MainWindow();
     // Not QApplication's quitOnLastWindowClosed: the last window may be a message box.
     QObject::connect(&window, &frmMain::Closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     window.show();
+    if (!file.empty()) {
+        window.OpenFile(file);
+    }
     if (TipsOnStartup(application.registry)) {
         auto* tip = new frmTip(application, frontEnd, &window);
         tip->setAttribute(Qt::WA_DeleteOnClose);
@@ -67,12 +70,15 @@ int RunInteractively(Application& application, WindowsFrontEnd& frontEnd) {
 
 } // namespace
 
-int RunWindows(int argc, char** argv, Application& application, bool automatic) {
-    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0),
-                                             argv + argc); // before Qt removes its own options
+int RunWindows(int argc, char** argv, Application& application, bool automatic, const std::string& file) {
+    std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0),
+                                       argv + argc); // before Qt removes its own options
+    if (!file.empty()) {
+        arguments.clear(); // "/AUTO" in its path is no switch
+    }
     const std::unique_ptr<QApplication> qtApplication = OpenDisplay(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setDesktopFileName(u"tunedex"_s);
+    QApplication::setDesktopFileName(u"example.tunedex.tunedex"_s);
     InstallProgramIcon();
 
     Dialogs dialogs;
@@ -84,7 +90,7 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic) 
     if (automatic) {
         return RunUnattended(application, frontEnd);
     }
-    return RunInteractively(application, frontEnd);
+    return RunInteractively(application, frontEnd, file);
 }
 
 } // namespace tunedex

@@ -16,9 +16,12 @@
 #include "QtText.h"
 #include "RecentButton.h"
 #include "ResultPanel.h"
+#include "RunTimeError.h"
 #include "SettingsFuncs.h"
 #include "Startup.h"
 #include "TerminalText.h"
+#include "Text.h"
+#include "Themes.h"
 #include "TitleField.h"
 #include "Version.h"
 #include "WindowGeometry.h"
@@ -512,20 +515,45 @@ void frmMain::OpenPlaceholderMenu(TitleField& field, QPushButton& button) {
 void frmMain::OpenSettings() {
     const auto path =
         dialogs_.ChooseFile(this, {tr("Open Settings"), tr(kSettingsFilters), settingsPath_, false});
-    if (!path) {
-        return;
+    if (path) {
+        OpenSettingsFile(*path);
     }
+}
+
+void frmMain::OpenSettingsFile(const std::string& path) {
     RunOrShowError(ui_, *this, application_.errorTitle, [&] {
-        const LoadOutcome outcome = LoadSettings(application_.settings, *path, application_.programFolder,
+        const LoadOutcome outcome = LoadSettings(application_.settings, path, application_.programFolder,
                                                  DefaultSettings(), application_.faults);
         if (outcome == LoadOutcome::Missing) {
             ui_.ShowMessage(*this, tr("The specified settings file\r\ndoes not exist!"), kOkExclamation,
                             ToQt(application_.errorTitle));
             return;
         }
-        settingsPath_ = *path;
+        settingsPath_ = path;
         ui_.FillFields(FieldsFor(application_.settings));
     });
+}
+
+void frmMain::OpenTheme(const std::string& path) {
+    RunOrShowError(ui_, *this, application_.errorTitle, [&] {
+        const LoadOutcome outcome =
+            LoadThemeFile(application_.settings, path, application_.programFolder, application_.faults);
+        if (outcome == LoadOutcome::Missing) {
+            throw RunTimeError(ErrorNumber::FileNotFound);
+        }
+        ui_.FillFields(FieldsFor(application_.settings)); // a theme file can set them, too
+        FollowSettings();
+        fraResult_->ShowNotice(tr("The next list has the look of this theme: %1")
+                                   .arg(ToQtDisplay(TerminalText(FileNameOf(path, PathStyle::Native())))));
+    });
+}
+
+void frmMain::OpenFile(const std::string& path) {
+    if (EndsInIgnoringCase(path, ".THM")) {
+        OpenTheme(path);
+    } else {
+        OpenSettingsFile(path);
+    }
 }
 
 void frmMain::SaveSettings() {

@@ -42,6 +42,10 @@ class frmMain final : public QMainWindow {
     // The settings have been saved to this file; an empty path means the default one.
     void NoteSaved(const std::string& path);
 
+    // Opens a settings file like the command Open Settings, or applies the look of a theme (.thm). Shows the
+    // error of a file that cannot be read.
+    void OpenFile(const std::string& path);
+
   public slots:
     void ShowTipOfTheDay();
 
@@ -84,6 +88,8 @@ class frmMain final : public QMainWindow {
     void ShowResultFolder();
 
     void OpenSettings();
+    void OpenSettingsFile(const std::string& path);
+    void OpenTheme(const std::string& path);
     void SaveSettings();
     void SaveSettingsAs();
     void SaveSettingsTo(const std::string& path);

@@ -66,7 +66,11 @@ TEST(ParseCommandLine, KnowsItsCommandsAsTheFirstArgumentOnly) {
     EXPECT_EQ(std::get<CheckCommand>(Parsed({"--check", "a.cfg"})).file, "a.cfg");
     EXPECT_EQ(std::get<CheckCommand>(Parsed({"--check", "/AUTO"})).file, "/AUTO");
     EXPECT_EQ(std::get<WriteDefaultsCommand>(Parsed({"--write-defaults", "/AUTO"})).file, "/AUTO");
+    EXPECT_EQ(std::get<OpenCommand>(Parsed({"--open", "/AUTO.cfg"})).file, "/AUTO.cfg");
+    EXPECT_EQ(std::get<OpenCommand>(Parsed({"--open"})).file, "");
     const std::vector<std::vector<std::string>> others = {{"/AUTO", "--create"},
+                                                          {"a.cfg", "--open"},
+                                                          {"--open=a.cfg"},
                                                           {"x", "--check", "a.cfg"},
                                                           {"new.cfg", "--write-defaults"},
                                                           {"--write-defaults=new"},

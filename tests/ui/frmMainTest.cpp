@@ -499,6 +499,32 @@ class frmMainTest : public QObject {
         QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
     }
 
+    void AFileOfAFileManagerOpensAsSettingsOrLendsItsLook() {
+        Desk desk;
+        desk.Show();
+        desk.Main().OpenFile(
+            desk.folder.Write("mine.cfg", "OutputFile=/out/mine.txt\r\nColour(0)=111111\r\n"));
+        QCOMPARE(TextOf(desk.Main(), "txtOutputFile"), std::string("/out/mine.txt"));
+        QVERIFY(desk.Main().windowTitle().endsWith(u" - mine.cfg[*]"_s));
+        desk.Main().OpenFile(desk.folder.Write("Sea.THM", "Colour(0)=0B3C5D\r\n"));
+        QCOMPARE(desk.TheSettings().Colour[0], std::string("0B3C5D"));
+        QCOMPARE(TextOf(desk.Main(), "txtOutputFile"), std::string("/out/mine.txt"));
+        QVERIFY(desk.Main().windowTitle().contains(u" - mine.cfg[*]"_s)); // saving writes no theme file
+        QVERIFY(desk.Main().isWindowModified());
+        QVERIFY(TextOf(desk.Main(), "lblResult").ends_with("the look of this theme: Sea.THM"));
+    }
+
+    void AFileOfAFileManagerThatIsGoneShowsAMessage() {
+        Desk desk;
+        desk.Show();
+        desk.Main().OpenFile(desk.folder / "gone.cfg");
+        desk.Main().OpenFile(desk.folder / "gone.thm");
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(2));
+        QCOMPARE(desk.dialogs.messages[0].text, std::string("The specified settings file\ndoes not exist!"));
+        QVERIFY(desk.dialogs.messages[1].text.ends_with("53 - File not found"));
+        QVERIFY(!desk.Main().isWindowModified());
+    }
+
     void ASettingsFileThatFailsShowsAMessage_data() {
         QTest::addColumn<QByteArray>("item");
         QTest::addColumn<QByteArray>("path");
