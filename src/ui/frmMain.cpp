@@ -541,7 +541,9 @@ void frmMain::OpenTheme(const std::string& path) {
         if (outcome == LoadOutcome::Missing) {
             throw RunTimeError(ErrorNumber::FileNotFound);
         }
+        const Settings saved = saved_;
         ui_.FillFields(FieldsFor(application_.settings)); // a theme file can set them, too
+        saved_ = saved;                                   // nothing has been saved
         FollowSettings();
         fraResult_->ShowNotice(tr("The next list has the look of this theme: %1")
                                    .arg(ToQtDisplay(TerminalText(FileNameOf(path, PathStyle::Native())))));
