@@ -17,6 +17,7 @@ class DisplayTest(runs.ProgramRun):
 
     def test_fails_to_start_without_a_display(self):
         self.expect(self.run_program("some.cfg"), 2, b"display")
+        self.expect(self.run_program("--open", "/autos/some.cfg"), 2, b"display")
 
     def test_names_the_unusable_display_and_the_command_without_one(self):
         self.track("a.mp3")
@@ -31,7 +32,7 @@ class DisplayTest(runs.ProgramRun):
                 f'{name} is "{value}".\n' for name, value in variables.items())
             command = ["env", *(word for name in names for word in ("-u", name)), "tunedex /AUTO"]
             expected += f"To make the list without a display: {' '.join(command)}\n"
-            for arguments in ([], ["/AUTO"], ["some.cfg"]):
+            for arguments in ([], ["/AUTO"], ["some.cfg"], ["--open", "/autos/some.cfg"]):
                 with self.subTest(arguments=arguments, **variables):
                     result = subprocess.run([self.program(), *arguments], capture_output=True, timeout=240, check=False,
                                             cwd=self.folder, env=self.environment(**variables))
