@@ -1,4 +1,5 @@
-// The theme list of the layout editor, with commands to load, save and delete a theme.
+// The theme list of the layout editor, with commands to load, save and delete a theme. A theme that the user
+// selects is previewed until something else is done.
 #pragma once
 
 #include "Application.h"
@@ -9,13 +10,21 @@
 #include <QGroupBox>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 class QLabel;
-class QListWidget;
 class QPushButton;
 
 namespace tunedex {
+
+class ThemeList;
+
+// What loading a theme would give.
+struct ThemePreview {
+    QString name;
+    Settings settings;
+};
 
 class ThemePanel : public QGroupBox {
     Q_OBJECT
@@ -25,17 +34,32 @@ class ThemePanel : public QGroupBox {
     ThemePanel(Application& application, WindowInterface& ui, const Choosers& choosers,
                std::function<ThemeContent()> content, QWidget* parent = nullptr);
 
+    // Lists the themes by name, ignoring case, and selects the first.
     void ListThemes();
     // Applies the theme to the settings at once. Does nothing if its file no longer exists.
     void LoadTheme(const std::string& name);
     void SaveTheme();
     void DeleteTheme(const std::string& name);
 
+    // The theme that is previewed; none if its file cannot be read.
+    std::optional<ThemePreview> Preview() const;
+    // The user does something else: ends the preview and clears the status.
+    void Leave();
+    // Says beside the command to load, and to screen readers, what loading discards; empty: nothing.
+    void ShowLoss(const QString& loss);
+
   signals:
     // The settings have changed; the controls must be reloaded.
     void ThemeLoaded();
+    // Preview() has changed.
+    void PreviewChanged();
 
   private:
+    void Build();
+    void Browse();
+    void SetPreviewing(bool previewing);
+    // Screen readers announce it, too.
+    void ShowStatus(const QString& text);
     // Asks before replacing a file. Raises the error if the file cannot be written.
     void WriteThemeFile(const std::string& path);
     // Runs a command and shows the run-time error it raises. Returns whether it raised none.
@@ -47,11 +71,13 @@ class ThemePanel : public QGroupBox {
     WindowInterface& ui_;
     const Choosers& choosers_;
     std::function<ThemeContent()> content_;
-    QListWidget* lvwThemes_;
+    ThemeList* lvwThemes_;
     QPushButton* cmdLoadTheme_;
     QPushButton* cmdSaveTheme_;
     QPushButton* cmdDeleteTheme_;
+    QLabel* lblLoss_;
     QLabel* lblThemeStatus_;
+    bool previewing_ = false;
 };
 
 } // namespace tunedex

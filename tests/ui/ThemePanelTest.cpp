@@ -3,6 +3,8 @@
 #include "Themes.h"
 
 #include <QListWidget>
+#include <QTextBrowser>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -16,7 +18,18 @@ class ThemePanelTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void TheListShowsThemesInFolderOrderWithTheFirstSelected();
+    void TheListShowsThemesByNameWithTheFirstSelected();
+    void ASelectedThemeIsPreviewedAndNothingElseChanges();
+    void ThePreviewOfAThemeShowsWhatLoadingItGives();
+    void AnotherActionEndsThePreviewOfATheme_data();
+    void AnotherActionEndsThePreviewOfATheme();
+    void AThemeThatCannotBeReadIsNotPreviewed();
+    void KeysAndWheelBrowseThroughAllThemes();
+    void EnterLoadsAndLeavesTheEditorOpen();
+    void WhatALoadWouldDiscardIsSaidBeforeIt();
+    void TheNextActionClearsTheStatus_data();
+    void TheNextActionClearsTheStatus();
+    void ASavedThemeIsSelectedAndNotPreviewed();
     void WithoutThemesOnlySavingIsEnabled();
     void LoadingAppliesTheThemeToTheSettingsAtOnceAndToTheControls();
     void ALoadedThemeSurvivesCancelAndOtherEditsDoNot();
@@ -64,6 +77,22 @@ class Panel : public LayoutFixture {
         return *editor;
     }
 
+    // Opens the page of the themes.
+    frmEditLayout& OpenThemes() {
+        Open();
+        Find<QTabWidget>(*editor, u"TabStrip"_s).setCurrentIndex(4);
+        return *editor;
+    }
+    // Three themes that differ in the background of the page.
+    void AddThemes() {
+        folder.Write("Themes/Blue.thm", "Colour(1)=0000AA\r\n");
+        folder.Write("Themes/Green.thm", "Colour(1)=00AA00\r\n");
+        folder.Write("Themes/Red.thm", "Colour(1)=AA0000\r\n");
+    }
+    QColor PageColour() const {
+        return Find<QTextBrowser>(*editor, u"txtPreview"_s).palette().color(QPalette::Base);
+    }
+
     // The answer to the prompt for a name; no value cancels.
     void AnswerName(const std::optional<QString>& name) {
         choosers.text = [this, name](QWidget*, const QString& title, const QString& prompt) {
@@ -101,22 +130,16 @@ Settings WithBlue(Settings settings) {
 
 } // namespace
 
-void ThemePanelTest::TheListShowsThemesInFolderOrderWithTheFirstSelected() {
+void ThemePanelTest::TheListShowsThemesByNameWithTheFirstSelected() {
     Panel with;
-    for (const char* name : {"Zebra.thm", "Dark.THM", "  Sky.thm", "alpha.thm", "bad\xFF.thm"}) {
+    for (const char* name : {"Zebra.thm", "Dark.THM", "  Sky.thm", "alpha.thm", "bad\xFF.thm", "dark.thm"}) {
         with.folder.Write(std::string("Themes/") + name, kBlue);
     }
     with.folder.Write("Themes/readme.txt", "");
     with.folder.Make("Themes/x.thm");
     with.Open();
-    QStringList expected;
-    for (const std::string& name : ListThemes(with.folder.Path())) {
-        expected << (name.starts_with("bad") ? QString(u"bad"_s + QChar(0xDCFF))
-                                             : QString::fromStdString(name));
-    }
-    QCOMPARE(expected.size(), 5);
-    QVERIFY(expected.contains(u"Dark"_s));
-    QVERIFY(expected.contains(u"  Sky"_s));
+    const QString notUtf8 = u"bad"_s + QChar(0xDCFF);
+    const QStringList expected{u"  Sky"_s, u"alpha"_s, notUtf8, u"Dark"_s, u"dark"_s, u"Zebra"_s};
     QCOMPARE(with.Names(), expected);
     QCOMPARE(with.List().currentRow(), 0);
     QVERIFY(with.List().item(0)->isSelected());
@@ -124,6 +147,198 @@ void ThemePanelTest::TheListShowsThemesInFolderOrderWithTheFirstSelected() {
         QVERIFY(IsEnabled(*with.editor, command));
     }
     QCOMPARE(with.Status(), QString());
+}
+
+void ThemePanelTest::ASelectedThemeIsPreviewedAndNothingElseChanges() {
+    Panel with;
+    with.AddThemes();
+    frmEditLayout& editor = with.OpenThemes();
+    const Settings before = with.settings;
+    QTRY_COMPARE(with.PageColour(), QColor(Qt::white));
+    for (const auto& [row, colour] : {std::pair(1, QColor(0, 0xAA, 0)), std::pair(2, QColor(0xAA, 0, 0)),
+                                      std::pair(0, QColor(0, 0, 0xAA))}) {
+        with.List().setCurrentRow(row);
+        QTRY_COMPARE(with.PageColour(), colour);
+        const QString caption = Find<QLabel>(editor, u"lblPreview"_s).text();
+        QVERIFY2(caption.contains(with.List().item(row)->text()), qPrintable(caption));
+    }
+    QVERIFY(with.settings == before);
+    Settings stored = with.settings;
+    editor.StoreControls(stored);
+    QVERIFY(stored == before);
+    QCOMPARE(Text(editor, u"txtColour(1)"_s), u"FFFFFF"_s);
+}
+
+void ThemePanelTest::ThePreviewOfAThemeShowsWhatLoadingItGives() {
+    Panel with;
+    with.settings.ActiveColumns = "Title|Year";
+    with.settings.Merge = 0;
+    with.AddThemes();
+    frmEditLayout& editor = with.OpenThemes();
+    QTextBrowser& preview = Find<QTextBrowser>(editor, u"txtPreview"_s);
+    Button(editor, u"cmdAllInactive"_s).click(); // loading discards it
+    QTRY_VERIFY(!preview.toPlainText().contains(u"Year"_s));
+    with.List().setCurrentRow(1);
+    QTRY_VERIFY(preview.toPlainText().contains(u"Year"_s));
+    const QString previewed = preview.toHtml();
+    with.Press(u"cmdLoadTheme"_s);
+    QTest::qWait(200);
+    QCOMPARE(preview.toHtml(), previewed);
+    QCOMPARE(Find<QLabel>(editor, u"lblPreview"_s).text(), u"Preview with sample tracks"_s);
+}
+
+void ThemePanelTest::AnotherActionEndsThePreviewOfATheme_data() {
+    QTest::addColumn<QString>("action");
+    for (const QString& action : {u"edit"_s, u"page"_s, u"save"_s, u"delete"_s}) {
+        QTest::newRow(qPrintable(action)) << action;
+    }
+}
+
+void ThemePanelTest::AnotherActionEndsThePreviewOfATheme() {
+    QFETCH(QString, action);
+    Panel with;
+    with.AddThemes();
+    with.AnswerName(std::nullopt);
+    with.ui.fake.answers = {kAnswerYes};
+    frmEditLayout& editor = with.OpenThemes();
+    with.List().setCurrentRow(1);
+    QTRY_COMPARE(with.PageColour(), QColor(0, 0xAA, 0));
+    if (action == u"edit"_s) {
+        Find<QComboBox>(editor, u"cmbDocumentType"_s).setCurrentIndex(1);
+    } else if (action == u"page"_s) {
+        Find<QTabWidget>(editor, u"TabStrip"_s).setCurrentIndex(2);
+    } else {
+        with.Press(action == u"save"_s ? u"cmdSaveTheme"_s : u"cmdDeleteTheme"_s);
+    }
+    QTRY_COMPARE(with.PageColour(), QColor(Qt::white));
+}
+
+void ThemePanelTest::AThemeThatCannotBeReadIsNotPreviewed() {
+    Panel with;
+    with.AddThemes();
+    with.OpenThemes();
+    QCOMPARE(unlink((with.folder / "Themes/Green.thm").c_str()), 0);
+    QCOMPARE(symlink("Green.thm", (with.folder / "Themes/Green.thm").c_str()), 0);
+    with.List().setCurrentRow(2);
+    QTRY_COMPARE(with.PageColour(), QColor(0xAA, 0, 0));
+    with.List().setCurrentRow(1);
+    QTRY_COMPARE(with.PageColour(), QColor(Qt::white));
+    QVERIFY(with.Messages().empty());
+}
+
+void ThemePanelTest::KeysAndWheelBrowseThroughAllThemes() {
+    Panel with;
+    with.AddThemes();
+    with.OpenThemes();
+    with.List().setFocus(Qt::TabFocusReason);
+    QTRY_COMPARE(with.PageColour(), QColor(0, 0, 0xAA)); // the theme that was selected already
+    QTest::keyClick(&with.List(), Qt::Key_Down);
+    QTRY_COMPARE(with.PageColour(), QColor(0, 0xAA, 0));
+    const auto turn = [&](int angle) {
+        QWheelEvent event(QPointF(5, 5), with.List().viewport()->mapToGlobal(QPointF(5, 5)), {}, {0, angle},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(with.List().viewport(), &event);
+    };
+    turn(-120);
+    QTRY_COMPARE(with.PageColour(), QColor(0xAA, 0, 0));
+    turn(-120); // the last stays
+    QCOMPARE(with.List().currentRow(), 2);
+    turn(60);
+    QCOMPARE(with.List().currentRow(), 2);
+    turn(60); // half steps of a fine wheel add up
+    QCOMPARE(with.List().currentRow(), 1);
+    turn(240);
+    QCOMPARE(with.List().currentRow(), 0);
+}
+
+void ThemePanelTest::EnterLoadsAndLeavesTheEditorOpen() {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        Panel with;
+        with.AddThemes();
+        frmEditLayout& editor = with.OpenThemes();
+        with.List().setFocus();
+        QTest::keyClick(&with.List(), Qt::Key_Down);
+        QTest::keyClick(&with.List(), key);
+        QVERIFY(editor.isVisible());
+        QCOMPARE(with.Status(), u"Theme loaded successfully."_s);
+        QCOMPARE(with.settings.Colour[kPageBackground], std::string("00AA00"));
+        QVERIFY(with.List().hasFocus());
+    }
+}
+
+void ThemePanelTest::WhatALoadWouldDiscardIsSaidBeforeIt() {
+    Panel with;
+    with.AddThemes();
+    frmEditLayout& editor = with.OpenThemes();
+    const QLabel& loss = Find<QLabel>(editor, u"lblThemeLoss"_s);
+    const auto description = [&](const QString& name) {
+        return Find<QWidget>(editor, name).accessibleDescription();
+    };
+    const auto says = [&](const QString& text) {
+        return loss.isVisible() == !text.isEmpty() && loss.text() == text &&
+               description(u"cmdLoadTheme"_s).endsWith(text) && description(u"lvwThemes"_s).endsWith(text);
+    };
+    const QString layout = u"Loading a theme discards your changes to the layout."_s;
+    QVERIFY(says(QString()));
+    Field(editor, u"txtColour(1)"_s).setText(u"123456"_s);
+    QVERIFY(says(layout));
+    Field(editor, u"txtColour(1)"_s).setText(u"FFFFFF"_s); // back again
+    QVERIFY(says(QString()));
+    Field(editor, u"txtTableWidth"_s).setText(u"wide"_s);
+    QVERIFY(says(layout));
+    with.Press(u"cmdLoadTheme"_s);
+    QVERIFY(says(QString()));
+    editor.OfferModernColumns(true); // the options do it
+    QVERIFY(says(QString()));
+    Settings options = with.settings;
+    options.DoLinks = true;
+    editor.SetPreviewBase([&] { return options; });
+    QVERIFY(says(u"Loading a theme discards your changes in the options."_s));
+    Set(editor, u"chkTheSubstitution"_s, false);
+    QVERIFY(says(u"Loading a theme discards your changes here and in the options."_s));
+}
+
+void ThemePanelTest::TheNextActionClearsTheStatus_data() {
+    QTest::addColumn<QString>("action");
+    for (const QString& action : {u"edit"_s, u"select"_s, u"page"_s, u"save"_s, u"delete"_s}) {
+        QTest::newRow(qPrintable(action)) << action;
+    }
+}
+
+void ThemePanelTest::TheNextActionClearsTheStatus() {
+    QFETCH(QString, action);
+    Panel with;
+    with.AddThemes();
+    with.AnswerName(std::nullopt);
+    with.ui.fake.answers = {kAnswerNo};
+    frmEditLayout& editor = with.OpenThemes();
+    with.Press(u"cmdLoadTheme"_s);
+    QCOMPARE(with.Status(), u"Theme loaded successfully."_s);
+    if (action == u"edit"_s) {
+        Set(editor, u"chkTheSubstitution"_s, false);
+    } else if (action == u"select"_s) {
+        with.List().setCurrentRow(1);
+    } else if (action == u"page"_s) {
+        Find<QTabWidget>(editor, u"TabStrip"_s).setCurrentIndex(2);
+    } else {
+        with.Press(action == u"save"_s ? u"cmdSaveTheme"_s : u"cmdDeleteTheme"_s);
+    }
+    QCOMPARE(with.Status(), QString());
+}
+
+void ThemePanelTest::ASavedThemeIsSelectedAndNotPreviewed() {
+    Panel with;
+    with.AddThemes();
+    with.AnswerName(u"cyan"_s);
+    frmEditLayout& editor = with.OpenThemes();
+    with.List().setCurrentRow(2);
+    Field(editor, u"txtColour(1)"_s).setText(u"00FFFF"_s);
+    with.Press(u"cmdSaveTheme"_s);
+    QCOMPARE(with.Names().join(u' '), u"Blue cyan Green Red"_s);
+    QCOMPARE(with.List().currentRow(), 1);
+    QCOMPARE(with.Status(), u"Theme saved successfully."_s);
+    QTRY_COMPARE(with.PageColour(), QColor(0, 0xFF, 0xFF));
+    QVERIFY(Find<QLabel>(editor, u"lblThemeLoss"_s).isVisible()); // saving a theme does not store the layout
 }
 
 void ThemePanelTest::WithoutThemesOnlySavingIsEnabled() {
