@@ -26,8 +26,12 @@ void ColourButton::paintEvent(QPaintEvent* event) {
     const QRect field = rect().adjusted(kInset, kInset, -kInset, -kInset);
     const QPen frame(palette().color(QPalette::ButtonText));
     painter.setPen(frame);
-    painter.setBrush(colour_ ? QBrush(*colour_) : QBrush(palette().color(QPalette::Base)));
+    painter.setBrush(palette().color(QPalette::Base)); // below a colour that is not opaque
     painter.drawRect(field);
+    if (colour_) {
+        painter.setBrush(*colour_);
+        painter.drawRect(field);
+    }
     if (!colour_) {
         painter.drawLine(field.topLeft(), field.bottomRight());
         painter.drawLine(field.bottomLeft(), field.topRight());

@@ -5,11 +5,15 @@
 #include "HexColour.h"
 #include "QtText.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -41,14 +45,39 @@ ColourTexts TextsOf(std::size_t index) {
     return texts.at(index);
 }
 
-// Only for typed text: a lower-case colour loaded from the settings is stored again as it was.
-void UpperCaseTyping(QLineEdit& box) {
-    const QString text = box.text();
-    if (ColourFromText(text) && text != text.toUpper()) {
-        const int cursor = box.cursorPosition();
-        box.setText(text.toUpper());
-        box.setCursorPosition(cursor);
+// A colour as other programs write it: "#FF8000", with blanks around it.
+QString WithoutDecoration(const QString& text) {
+    QString digits = text.trimmed();
+    while (digits.startsWith(u'#')) {
+        digits = digits.mid(1).trimmed();
     }
+    return digits;
+}
+
+// Only for typed and pasted text: a colour loaded from the settings is stored again as it was.
+void TidyTyping(QLineEdit& box) {
+    const QString typed = box.text();
+    const QString text = WithoutDecoration(typed);
+    const QString tidy = ColourFromText(text) ? text.toUpper() : text;
+    if (tidy != typed) {
+        const qsizetype fromEnd = typed.size() - box.cursorPosition();
+        box.setText(tidy);
+        box.setCursorPosition(static_cast<int>(std::max<qsizetype>(tidy.size() - fromEnd, 0)));
+    }
+}
+
+// Empty for six hexadecimal digits.
+QString HintFor(const QString& text, const std::optional<QColor>& shown) {
+    if (IsSixDigitColour(text)) {
+        return {};
+    }
+    return shown ? ColoursPage::tr("This is not a colour of six hexadecimal digits. Browsers show %1 for it.")
+                       .arg(TextOfColour(*shown))
+                 : ColoursPage::tr("This is not a colour of six hexadecimal digits. Browsers ignore it.");
+}
+
+bool IsCellText(std::size_t index) {
+    return index == kHeaderText || index == kCellText || index == kAlternateText;
 }
 
 } // namespace
@@ -62,7 +91,14 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
                                   tr("Write the colours into the page's style sheet"))),
       chkColoursFontTags_(
           MakeCheckBox(u"chkColoursFontTags"_s, tr("Use FONT ta&gs for text colours."),
-                       tr("Write the colours into the markup, for browsers without style sheets"))) {
+                       tr("Write the colours into the markup, for browsers without style sheets"))),
+      lblColourHint_(new QLabel(tr("A marked colour is not six hexadecimal digits. The button beside it "
+                                   "shows what browsers show for it."))) {
+    lblColourHint_->setObjectName(u"lblColourHint"_s);
+    lblColourHint_->setWordWrap(true);
+    QSizePolicy keepsItsRoom = lblColourHint_->sizePolicy();
+    keepsItsRoom.setRetainSizeWhenHidden(true);
+    lblColourHint_->setSizePolicy(keepsItsRoom);
     auto* grid = new QGridLayout;
     grid->addWidget(new QLabel(tr("Text")), 0, 1);
     grid->addWidget(new QLabel(tr("Background")), 0, 4);
@@ -79,13 +115,15 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid);
-    layout->addSpacing(12);
+    layout->addWidget(lblColourHint_);
     layout->addWidget(chkColoursCSS_);
     layout->addWidget(chkColoursFontTags_);
     layout->addStretch();
     for (QCheckBox* box : {chkAlternateTDColours_, chkColoursCSS_, chkColoursFontTags_}) {
         connect(box, &QCheckBox::toggled, this, &ColoursPage::Edited);
+        connect(box, &QCheckBox::toggled, this, &ColoursPage::ShowColours);
     }
+    ShowColours();
 }
 
 void ColoursPage::BuildField(std::size_t index) {
@@ -98,11 +136,14 @@ void ColoursPage::BuildField(std::size_t index) {
     field.cmdColourSelector = new ColourButton;
     NameControl(*field.cmdColourSelector, ArrayName(u"cmdColourSelector"_s, number),
                 tr("%1: select colour").arg(texts.name), tr("Select a colour from the palette"));
+    field.mark = field.txtColour->addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning),
+                                            QLineEdit::TrailingPosition);
+    field.mark->setObjectName(ArrayName(u"imgColourMark"_s, number));
 
     connect(field.txtColour, &QLineEdit::textEdited, this,
-            [this, index] { UpperCaseTyping(*fields_.at(index).txtColour); });
-    connect(field.txtColour, &QLineEdit::textChanged, this, [this, index](const QString& text) {
-        fields_.at(index).cmdColourSelector->ShowColour(ColourFromText(text));
+            [this, index] { TidyTyping(*fields_.at(index).txtColour); });
+    connect(field.txtColour, &QLineEdit::textChanged, this, [this, index] {
+        ShowColours();
         emit Edited();
     });
     connect(field.cmdColourSelector, &QPushButton::clicked, this, [this, index] { SelectColour(index); });
@@ -121,9 +162,55 @@ void ColoursPage::AddRow(QGridLayout& grid, int row, const QString& label, std::
     }
 }
 
+// Attributes carry all colours but the text of cells and headers, which needs FONT tags; these are in the
+// cell, so they override its rule. The border has no rule.
+ColourUse ColoursPage::UseOf(std::size_t index) const {
+    if (html5_) {
+        return ColourUse::Html5;
+    }
+    if (IsCellText(index)) {
+        return chkColoursFontTags_->isChecked() ? ColourUse::Attribute : ColourUse::StyleSheet;
+    }
+    const bool rule = chkColoursCSS_->isChecked() && styleSheetRead_ && index != kTableBorder;
+    return rule ? ColourUse::Both : ColourUse::Attribute;
+}
+
+void ColoursPage::ShowColour(std::size_t index) {
+    const Field& field = fields_.at(index);
+    const QString text = field.txtColour->text();
+    const std::optional<QColor> shown =
+        IsSixDigitColour(text) ? ColourFromText(text) : BrowserColour(text, UseOf(index));
+    field.cmdColourSelector->ShowColour(shown);
+    MarkField(index, HintFor(text, shown));
+}
+
+void ColoursPage::MarkField(std::size_t index, const QString& hint) {
+    const Field& field = fields_.at(index);
+    const QString description = TextsOf(index).toolTip;
+    field.mark->setVisible(!hint.isEmpty());
+    field.mark->setToolTip(hint);
+    field.txtColour->setAccessibleDescription(hint.isEmpty() ? description
+                                                             : tr("%1. %2").arg(description, hint));
+}
+
+void ColoursPage::ShowColours() {
+    bool marked = false;
+    for (std::size_t index = 0; index < kColourCount; ++index) {
+        ShowColour(index);
+        marked = marked || !IsSixDigitColour(fields_.at(index).txtColour->text());
+    }
+    lblColourHint_->setVisible(marked);
+}
+
+void ColoursPage::FollowDocument(const std::string& documentType, bool modern) {
+    html5_ = documentType == "HTML5";
+    styleSheetRead_ = documentType != "XHTML" || modern;
+    ShowColours();
+}
+
 void ColoursPage::SelectColour(std::size_t index) {
     const Field& field = fields_.at(index);
-    const QColor shown = ColourFromText(field.txtColour->text()).value_or(Qt::black);
+    const QColor shown = field.cmdColourSelector->Shown().value_or(Qt::black);
     if (const std::optional<QColor> chosen = choosers_.colour(window(), shown)) {
         field.txtColour->setText(TextOfColour(*chosen));
     }

@@ -4,14 +4,19 @@
 
 namespace tunedex {
 
+bool IsHexDigit(QChar character) {
+    return (character >= u'0' && character <= u'9') || (character >= u'A' && character <= u'F') ||
+           (character >= u'a' && character <= u'f');
+}
+
+bool IsSixDigitColour(const QString& text) {
+    return text.size() == 6 && std::all_of(text.begin(), text.end(), IsHexDigit);
+}
+
 std::optional<QColor> ColourFromText(const QString& text) {
-    const auto isDigit = [](QChar character) {
-        return (character >= u'0' && character <= u'9') || (character >= u'A' && character <= u'F') ||
-               (character >= u'a' && character <= u'f');
-    };
     bool fits = false;
     const uint number = text.toUInt(&fits, 16);
-    if (!fits || number > 0xFFFFFFU || !std::all_of(text.begin(), text.end(), isDigit)) {
+    if (!fits || number > 0xFFFFFFU || !std::all_of(text.begin(), text.end(), IsHexDigit)) {
         return std::nullopt;
     }
     return QColor::fromRgb(number);

@@ -23,6 +23,7 @@ namespace tunedex {
 namespace {
 
 constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
+constexpr int kNameWidthInCharacters = 30; // of a theme; longer ones are elided
 
 QString NoPreviewText(const RunTimeError& error) {
     QString text =
@@ -34,23 +35,12 @@ QString NoPreviewText(const RunTimeError& error) {
     return text;
 }
 
-QString CaptionOf(const RichTextPage& page, bool html5) {
-    if (html5) {
-        return PreviewPane::tr("Preview of colours, fonts and columns. Only a browser shows search, sorting, "
-                               "album headings and the colours for the other (dark or light) setting.");
-    }
-    return page.styleSheetIgnored
-               ? PreviewPane::tr(
-                     "Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.")
-               : PreviewPane::tr("Preview with sample tracks");
-}
-
 } // namespace
 
 PreviewPane::PreviewPane(const Application& application, WindowInterface& ui,
-                         std::function<Settings()> settings, QWidget* parent)
-    : QWidget(parent), application_(application), ui_(ui), settings_(std::move(settings)),
-      caption_(new QLabel), browser_(new QTextBrowser) {
+                         std::function<PreviewContent()> content, QWidget* parent)
+    : QWidget(parent), application_(application), ui_(ui), content_(std::move(content)), caption_(new QLabel),
+      browser_(new QTextBrowser) {
     setObjectName(u"PreviewPane"_s);
     BuildControls();
     auto* layout = new QVBoxLayout(this);
@@ -71,6 +61,7 @@ PreviewPane::PreviewPane(const Application& application, WindowInterface& ui,
 
 void PreviewPane::BuildControls() {
     caption_->setObjectName(u"lblPreview"_s);
+    caption_->setTextFormat(Qt::PlainText);
     caption_->setWordWrap(true);
     // All letters of the caption are mnemonics of the editor's pages, so this button has another shortcut.
     cmdOpenSample_ = MakeButton(u"cmdOpenSample"_s, tr("Open sample in browser"),
@@ -78,7 +69,7 @@ void PreviewPane::BuildControls() {
     cmdOpenSample_->setShortcut(Qt::CTRL | Qt::Key_B);
     cmdOpenSample_->hide();
     connect(cmdOpenSample_, &QPushButton::clicked, this,
-            [this] { OpenSampleInBrowser(settings_(), application_, entities_, ui_, *this); });
+            [this] { OpenSampleInBrowser(content_().settings, application_, entities_, ui_, *this); });
     NameControl(*browser_, u"txtPreview"_s, tr("Preview of the listing"),
                 tr("Sample tracks, listed with the layout shown here"));
     // Without keyboard access to links, Tab skips them.
@@ -104,23 +95,24 @@ void PreviewPane::showEvent(QShowEvent* event) {
 
 void PreviewPane::ShowNow() {
     delay_.stop();
-    const Settings settings = settings_();
-    const bool html5 = settings.DocumentType == "HTML5";
+    PreviewContent content = content_();
+    content.theme = fontMetrics().elidedText(content.theme, Qt::ElideMiddle,
+                                             fontMetrics().averageCharWidth() * kNameWidthInCharacters);
     try {
         if (!folder_.isValid()) {
             throw RunTimeError(ErrorNumber::PathFileAccess);
         }
         const std::string folder = FromQt(folder_.path()) + PathStyle::Native().separator;
-        ShowPage(ToQtDisplay(WriteSamplePage(settings, application_, entities_, folder)), html5);
+        ShowPage(ToQtDisplay(WriteSamplePage(content.settings, application_, entities_, folder)), content);
     } catch (const RunTimeError& error) {
-        ShowPage(NoPreviewText(error), html5);
+        ShowPage(NoPreviewText(error), content);
     }
 }
 
-void PreviewPane::ShowPage(const QString& page, bool html5) {
+void PreviewPane::ShowPage(const QString& page, const PreviewContent& content) {
     const RichTextPage richText = PrepareRichText(page);
-    caption_->setText(CaptionOf(richText, html5));
-    cmdOpenSample_->setVisible(html5);
+    caption_->setText(PreviewCaption(content, richText));
+    cmdOpenSample_->setVisible(content.settings.DocumentType == "HTML5");
     QPalette colours;
     const auto set = [&](QPalette::ColorRole role, const std::optional<QColor>& colour) {
         if (colour) {

@@ -3,6 +3,7 @@
 
 #include "Application.h"
 #include "EntityTable.h"
+#include "PreviewCaption.h"
 #include "WindowInterface.h"
 
 #include <QTemporaryDir>
@@ -21,8 +22,8 @@ class PreviewPane : public QWidget {
     Q_OBJECT
 
   public:
-    // Calls `settings` for every update of the page.
-    PreviewPane(const Application& application, WindowInterface& ui, std::function<Settings()> settings,
+    // Calls `content` for every update of the page.
+    PreviewPane(const Application& application, WindowInterface& ui, std::function<PreviewContent()> content,
                 QWidget* parent = nullptr);
 
     // Updates the page 120 ms after the last call. Does nothing while the pane is hidden.
@@ -34,11 +35,11 @@ class PreviewPane : public QWidget {
 
   private:
     void BuildControls();
-    void ShowPage(const QString& page, bool html5);
+    void ShowPage(const QString& page, const PreviewContent& content);
 
     const Application& application_;
     WindowInterface& ui_;
-    std::function<Settings()> settings_;
+    std::function<PreviewContent()> content_;
     EntityTable entities_;
     QTemporaryDir folder_;
     QTimer delay_;

@@ -1,5 +1,6 @@
 #include "RichTextPage.h"
 
+#include "BrowserColour.h"
 #include "HexColour.h"
 
 #include <QRegularExpression>
@@ -61,10 +62,35 @@ QString WithSizesInPixels(QString rules) {
     return rules;
 }
 
-// Qt prints a warning on standard error for each invalid colour, such as one that is being typed.
-void RemoveUnreadableColours(QString& page) {
-    static const QRegularExpression colour(u" (?:bgcolor|color)=\"#(?![0-9A-Fa-f]{6}\")[^\"]*\""_s);
-    page.remove(colour);
+// `text` with what each match of `pattern` captures replaced by `replace(captured)`.
+template <typename Replace>
+QString WithReplacedCaptures(const QString& text, const QRegularExpression& pattern, const Replace& replace) {
+    QString result;
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch& match : pattern.globalMatch(text)) {
+        result += QStringView(text).mid(end, match.capturedStart(1) - end);
+        result += replace(match.captured(1));
+        end = match.capturedEnd(1);
+    }
+    return result += QStringView(text).mid(end);
+}
+
+// Qt's rich text knows six digits only; it prints a warning on standard error for each other colour.
+QString WithBrowserColours(const QString& page) {
+    static const QRegularExpression colour(
+        u" (?:bgcolor|color|text|link)=\"#(?![0-9A-Fa-f]{6}\")([^\"]*)\""_s);
+    return WithReplacedCaptures(page, colour,
+                                [](const QString& text) { return TextOfColour(AttributeColour(text)); });
+}
+
+// Browsers skip a declaration with another colour.
+QString WithReadableColours(const QString& rules) {
+    static const QRegularExpression declaration(u"([\\w-]+: #(?![0-9A-Fa-f]{6};)[^;{}]*;)"_s);
+    return WithReplacedCaptures(rules, declaration, [](const QString& text) {
+        const qsizetype sign = text.indexOf(u'#');
+        const auto colour = StyleSheetColour(text.mid(sign + 1).chopped(1));
+        return colour ? text.left(sign + 1) + TextOfColour(*colour) + u';' : QString();
+    });
 }
 
 std::optional<QColor> FirstColour(const QString& text, const QRegularExpression& pattern) {
@@ -86,12 +112,12 @@ std::optional<QColor> PageColour(const QString& rules, const QString& rule, cons
 RichTextPage PrepareRichText(QString page) {
     RichTextPage result;
     const QString styles = TakeStyleElement(page);
-    result.styleSheet = WithSizesInPixels(ReadableRules(styles));
+    page = WithBrowserColours(page);
+    result.styleSheet = WithSizesInPixels(WithReadableColours(ReadableRules(styles)));
     result.styleSheetIgnored = styles.contains(u'{') && result.styleSheet.isEmpty();
     result.text = PageColour(result.styleSheet, u"body \\{color"_s, page, u"text"_s);
     result.background = PageColour(result.styleSheet, u"body \\{[^}]*background-color"_s, page, u"bgcolor"_s);
     result.link = PageColour(result.styleSheet, u"a \\{color"_s, page, u"link"_s);
-    RemoveUnreadableColours(page);
     result.html = std::move(page);
     return result;
 }

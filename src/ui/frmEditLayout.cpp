@@ -36,11 +36,8 @@ frmEditLayout::frmEditLayout(Application& application, WindowInterface& ui, QWid
       columns_(new ColumnsPage), fonts_(new FontsPage(choosers_)), colours_(new ColoursPage(choosers_)),
       table_(new TablePage),
       themes_(new ThemePanel(application, ui, choosers_, [this] { return CurrentTheme(); })),
-      document_(new DocumentPage(themes_)), preview_(new PreviewPane(application, ui, [this] {
-          Settings settings = previewBase_ ? previewBase_() : application_.settings;
-          StoreControls(settings);
-          return settings;
-      })) {
+      document_(new DocumentPage(themes_)),
+      preview_(new PreviewPane(application, ui, [this] { return ContentToPreview(); })) {
     setObjectName(u"frmEditLayout"_s);
     setWindowTitle(tr("Edit Layout"));
     setSizeGripEnabled(true);
@@ -99,11 +96,13 @@ QBoxLayout* frmEditLayout::BuildButtons() {
 }
 
 void frmEditLayout::ConnectPages() {
-    connect(columns_, &ColumnsPage::Edited, preview_, &PreviewPane::ShowSoon);
-    connect(fonts_, &FontsPage::Edited, preview_, &PreviewPane::ShowSoon);
-    connect(colours_, &ColoursPage::Edited, preview_, &PreviewPane::ShowSoon);
-    connect(table_, &TablePage::Edited, preview_, &PreviewPane::ShowSoon);
-    connect(document_, &DocumentPage::Edited, preview_, &PreviewPane::ShowSoon);
+    connect(columns_, &ColumnsPage::Edited, this, &frmEditLayout::FollowEdit);
+    connect(fonts_, &FontsPage::Edited, this, &frmEditLayout::FollowEdit);
+    connect(colours_, &ColoursPage::Edited, this, &frmEditLayout::FollowEdit);
+    connect(table_, &TablePage::Edited, this, &frmEditLayout::FollowEdit);
+    connect(document_, &DocumentPage::Edited, this, &frmEditLayout::FollowEdit);
+    connect(tabStrip_, &QTabWidget::currentChanged, themes_, &ThemePanel::Leave);
+    connect(themes_, &ThemePanel::PreviewChanged, preview_, &PreviewPane::ShowSoon);
     connect(themes_, &ThemePanel::ThemeLoaded, this, &frmEditLayout::FollowTheme);
 }
 
@@ -114,10 +113,63 @@ void frmEditLayout::LoadControls() {
     colours_->LoadControls(settings);
     table_->LoadControls(settings);
     document_->LoadControls(settings);
+    colours_->FollowDocument(document_->DocumentType(), settings.Modern);
+    loaded_ = CurrentContent();
+    ShowLoss();
 }
 
 void frmEditLayout::OfferModernColumns(bool offer) {
+    const bool edited = CurrentContent() != loaded_;
     columns_->OfferModernColumns(offer);
+    if (!edited) {
+        loaded_ = CurrentContent(); // the offer is no edit
+    }
+    ShowLoss();
+}
+
+void frmEditLayout::SetPreviewBase(std::function<Settings()> base) {
+    previewBase_ = std::move(base);
+    ShowLoss();
+}
+
+void frmEditLayout::FollowEdit() {
+    const bool modern = previewBase_ ? previewBase_().Modern : application_.settings.Modern;
+    colours_->FollowDocument(document_->DocumentType(), modern);
+    themes_->Leave();
+    ShowLoss();
+    preview_->ShowSoon();
+}
+
+frmEditLayout::Content frmEditLayout::CurrentContent() const {
+    Content content;
+    StoreControls(content.settings);
+    ThemeContent table;
+    table_->StoreTexts(table);
+    content.table = {table.tableWidth, table.tablePadding, table.tableBorder};
+    return content;
+}
+
+PreviewContent frmEditLayout::ContentToPreview() const {
+    if (const std::optional<ThemePreview> theme = themes_->Preview()) {
+        return {theme->settings, theme->name};
+    }
+    PreviewContent content{previewBase_ ? previewBase_() : application_.settings, {}};
+    StoreControls(content.settings);
+    return content;
+}
+
+// A theme replaces all settings that are not stored yet, those of the options, too.
+void frmEditLayout::ShowLoss() {
+    const bool here = CurrentContent() != loaded_;
+    const bool inOptions = previewBase_ && previewBase_() != application_.settings;
+    if (here && inOptions) {
+        themes_->ShowLoss(tr("Loading a theme discards your changes here and in the options."));
+    } else if (here) {
+        themes_->ShowLoss(tr("Loading a theme discards your changes to the layout."));
+    } else {
+        themes_->ShowLoss(inOptions ? tr("Loading a theme discards your changes in the options.")
+                                    : QString());
+    }
 }
 
 // A theme file may set any setting, so all windows are reloaded.

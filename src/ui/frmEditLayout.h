@@ -7,7 +7,9 @@
 
 #include <QDialog>
 
+#include <array>
 #include <functional>
+#include <string>
 
 class QBoxLayout;
 class QCheckBox;
@@ -24,6 +26,7 @@ class FontsPage;
 class PreviewPane;
 class TablePage;
 class ThemePanel;
+struct PreviewContent;
 struct ThemeContent;
 
 class frmEditLayout : public QDialog {
@@ -46,7 +49,7 @@ class frmEditLayout : public QDialog {
 
     // Sets the source of the preview's settings, which the editor's controls then override. By default the
     // application's settings.
-    void SetPreviewBase(std::function<Settings()> base) { previewBase_ = std::move(base); }
+    void SetPreviewBase(std::function<Settings()> base);
     // Replaces Qt's dialogs, for tests.
     void SetChoosers(Choosers choosers) { choosers_ = std::move(choosers); }
 
@@ -55,10 +58,22 @@ class frmEditLayout : public QDialog {
     void done(int result) override;
 
   private:
+    // What the controls hold.
+    struct Content {
+        Settings settings;
+        std::array<std::string, 3> table; // as typed
+
+        bool operator==(const Content&) const = default;
+    };
+
     void AddPage(QWidget* page, const QString& title);
     QBoxLayout* BuildButtons();
     void ConnectPages();
+    void FollowEdit();
     void FollowTheme();
+    Content CurrentContent() const;
+    PreviewContent ContentToPreview() const;
+    void ShowLoss();
     ThemeContent CurrentTheme() const;
     void UseLayout();
 
@@ -66,6 +81,7 @@ class frmEditLayout : public QDialog {
     WindowInterface& ui_;
     Choosers choosers_ = QtChoosers();
     std::function<Settings()> previewBase_;
+    Content loaded_; // what the controls held before they were edited
 
     QTabWidget* tabStrip_;
     ColumnsPage* columns_;

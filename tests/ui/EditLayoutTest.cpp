@@ -1,6 +1,15 @@
+#include "BrowserColour.h"
+#include "ColourButton.h"
 #include "DefaultSettings.h"
+#include "HexColour.h"
 #include "LayoutFixture.h"
 #include "TestClasses.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -25,8 +34,15 @@ class EditLayoutTest : public QObject {
     void TheChosenFontFamilyBecomesTheFirstOfTheList_data();
     void TheChosenFontFamilyBecomesTheFirstOfTheList();
     void CancellingAChooserChangesNothing();
-    void TypingAColourPreviewsIt_data();
-    void TypingAColourPreviewsIt();
+    void AColourButtonShowsWhatBrowsersShow_data();
+    void AColourButtonShowsWhatBrowsersShow();
+    void AColourButtonFollowsHowThePageCarriesTheColour_data();
+    void AColourButtonFollowsHowThePageCarriesTheColour();
+    void APastedColourLosesItsSignAndTheBlanksAroundIt_data();
+    void APastedColourLosesItsSignAndTheBlanksAroundIt();
+    void AColourThatIsNotSixDigitsIsMarkedWithAHint();
+    void BrowsersFindAColourInEveryAttribute_data();
+    void BrowsersFindAColourInEveryAttribute();
     void TypedColoursAreKeptInUpperCase();
     void LoadedColoursAreUnchanged();
     void TheColourChooserStartsAtTheShownColourAndWritesSixDigitsRedFirst();
@@ -377,21 +393,17 @@ void EditLayoutTest::CancellingAChooserChangesNothing() {
     QVERIFY(with.settings == before);
 }
 
-void EditLayoutTest::TypingAColourPreviewsIt_data() {
+void EditLayoutTest::AColourButtonShowsWhatBrowsersShow_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QColor>("colour"); // invalid: none
     QTest::newRow("six digits") << u"FF8000"_s << QColor(255, 128, 0);
     QTest::newRow("lower case") << u"ff8000"_s << QColor(255, 128, 0);
-    QTest::newRow("fewer digits are a smaller number") << u"FF"_s << QColor(0, 0, 255);
-    QTest::newRow("leading zeros") << u"0000FF00"_s << QColor(0, 255, 0);
-    QTest::newRow("no digits") << u"red"_s << QColor();
-    QTest::newRow("a number above FFFFFF") << u"1000000"_s << QColor();
-    QTest::newRow("a prefix") << u"0xFF"_s << QColor();
-    QTest::newRow("a sign") << u"-1"_s << QColor();
+    QTest::newRow("three digits") << u"F80"_s << QColor(255, 136, 0);
+    QTest::newRow("no colour for a style sheet") << u"red"_s << QColor();
     QTest::newRow("empty") << QString() << QColor();
 }
 
-void EditLayoutTest::TypingAColourPreviewsIt() {
+void EditLayoutTest::AColourButtonShowsWhatBrowsersShow() {
     QFETCH(QString, text);
     QFETCH(QColor, colour);
     LayoutFixture with;
@@ -415,6 +427,138 @@ void EditLayoutTest::TypingAColourPreviewsIt() {
         }
     }
     QCOMPARE(otherPixels == 0, colour.isValid());
+}
+
+void EditLayoutTest::AColourButtonFollowsHowThePageCarriesTheColour_data() {
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<bool>("css");
+    QTest::addColumn<bool>("fontTags");
+    QTest::addColumn<QString>("colour"); // empty: none
+    const auto row = [](const char* name, ColourIndex index, const char* text, const char* type, bool css,
+                        bool fontTags, const char* colour) {
+        QTest::newRow(name) << int(index) << QString::fromLatin1(text) << QString::fromLatin1(type) << css
+                            << fontTags << QString::fromLatin1(colour);
+    };
+    row("an attribute takes any text", kPageBackground, "red", "HTML", true, false, "000E0D");
+    row("the style sheet overrides it", kPageBackground, "11223344", "HTML", true, false, "44112233");
+    row("without a style sheet", kPageBackground, "11223344", "HTML", false, false, "112344");
+    row("browsers ignore that of XHTML", kPageBackground, "11223344", "XHTML", true, false, "112344");
+    row("the border is an attribute", kTableBorder, "11223344", "HTML", true, false, "112344");
+    row("cells take the style sheet", kCellText, "red", "HTML", true, false, "");
+    row("FONT tags are attributes", kCellText, "red", "HTML", true, true, "000E0D");
+    row("HTML5 takes three digits", kPageBackground, "F80", "HTML5", true, false, "FF8800");
+    row("HTML5 takes no other text", kPageBackground, "FF80", "HTML5", true, false, "");
+}
+
+void EditLayoutTest::AColourButtonFollowsHowThePageCarriesTheColour() {
+    QFETCH(int, index);
+    QFETCH(QString, text);
+    QFETCH(QString, type);
+    QFETCH(bool, css);
+    QFETCH(bool, fontTags);
+    QFETCH(QString, colour);
+    LayoutFixture with;
+    frmEditLayout editor(with.application, with.ui);
+    const std::array<QString, 3> types = {u"HTML"_s, u"XHTML"_s, u"HTML5"_s};
+    Find<QComboBox>(editor, u"cmbDocumentType"_s)
+        .setCurrentIndex(static_cast<int>(std::ranges::find(types, type) - types.begin()));
+    Set(editor, u"chkColoursCSS"_s, css);
+    Set(editor, u"chkColoursFontTags"_s, fontTags);
+    Field(editor, N("txtColour", static_cast<std::size_t>(index))).setText(text);
+    const auto& shown =
+        Find<ColourButton>(editor, N("cmdColourSelector", static_cast<std::size_t>(index))).Shown();
+    const bool opaque = !shown || shown->alpha() == 0xFF;
+    const QString name =
+        shown ? shown->name(opaque ? QColor::HexRgb : QColor::HexArgb).mid(1).toUpper() : QString();
+    QCOMPARE(name, colour);
+}
+
+void EditLayoutTest::APastedColourLosesItsSignAndTheBlanksAroundIt_data() {
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a sign") << u"#FF8000"_s << u"FF8000"_s;
+    QTest::newRow("lower case") << u"#ff8000"_s << u"FF8000"_s;
+    QTest::newRow("blanks") << u"  FF8000\t"_s << u"FF8000"_s;
+    QTest::newRow("both") << u" # FF8000 "_s << u"FF8000"_s;
+    QTest::newRow("no colour") << u" #red "_s << u"red"_s;
+    QTest::newRow("a sign within") << u"FF#800"_s << u"FF#800"_s;
+}
+
+void EditLayoutTest::APastedColourLosesItsSignAndTheBlanksAroundIt() {
+    QFETCH(QString, pasted);
+    QFETCH(QString, text);
+    LayoutFixture with;
+    frmEditLayout editor(with.application, with.ui);
+    Show(editor);
+    QLineEdit& field = Field(editor, u"txtColour(0)"_s);
+    field.selectAll();
+    QGuiApplication::clipboard()->setText(pasted);
+    field.paste();
+    QCOMPARE(field.text(), text);
+    Button(editor, u"cmdOK"_s).click();
+    QCOMPARE(with.settings.Colour[0], text.toStdString()); // stored as the box shows it
+}
+
+void EditLayoutTest::AColourThatIsNotSixDigitsIsMarkedWithAHint() {
+    LayoutFixture with;
+    frmEditLayout editor(with.application, with.ui);
+    Show(editor);
+    Find<QTabWidget>(editor, u"TabStrip"_s).setCurrentIndex(2);
+    QLineEdit& field = Field(editor, u"txtColour(1)"_s);
+    const QAction& mark = *field.findChild<QAction*>(u"imgColourMark(1)"_s);
+    const QLabel& hint = Find<QLabel>(editor, u"lblColourHint"_s);
+    QVERIFY(!mark.isVisible());
+    QVERIFY(!hint.isVisible());
+    const int height = editor.minimumSizeHint().height();
+    for (const QString& text : {u"FF800"_s, u"FF80000"_s, u"GG8000"_s, QString()}) {
+        field.setText(text);
+        QVERIFY2(mark.isVisible(), qPrintable(text));
+        QVERIFY(hint.isVisible());
+        QVERIFY(mark.toolTip().contains(u"six hexadecimal digits"_s));
+        QVERIFY(field.accessibleDescription().endsWith(mark.toolTip()));
+        QCOMPARE(field.toolTip(), u"The background colour of the page"_s);
+    }
+    QVERIFY(mark.toolTip().contains(u"000000"_s)); // what an empty attribute gives
+    QCOMPARE(editor.minimumSizeHint().height(), height);
+    field.setText(u"ff8000"_s);
+    QVERIFY(!mark.isVisible());
+    QVERIFY(!hint.isVisible());
+    QCOMPARE(field.accessibleDescription(), field.toolTip());
+}
+
+void EditLayoutTest::BrowsersFindAColourInEveryAttribute_data() {
+    QTest::addColumn<QString>("text"); // behind the "#"
+    QTest::addColumn<QString>("colour");
+    const auto row = [](const QString& text, const char* colour) {
+        QTest::newRow(qPrintable(text.left(20))) << text << QString::fromLatin1(colour);
+    };
+    row(u"FF8000"_s, "FF8000");
+    row(u"f80"_s, "FF8800");
+    row(u"F80 "_s, "FF8800"); // blanks at the end go first
+    row(QString(), "000000");
+    row(u"F"_s, "0F0000");
+    row(u"FF"_s, "0F0F00");
+    row(u"F80A"_s, "F80A00");
+    row(u"12345"_s, "123450");
+    row(u"red"_s, "000E0D");
+    row(u"#FF8000"_s, "0F8000"); // the second sign counts as a digit 0
+    row(u"0000FF00"_s, "00FF00");
+    row(u"112233FF"_s, "1123FF");
+    row(u"0xFF"_s, "00FF00");
+    row(u"chucknorris"_s, "C00000");
+    row(u"sick"_s, "00C000");
+    row(u"\u3042\u3042\u3042"_s, "000000");
+    row(u"a"_s + QString::fromUcs4(U"\U0001F600") + u"bbb"_s, "A00BBB");
+    row(QString(200, u'A'), "AAAAAA");
+    row(u"0000000012"_s + QString(10, u'0') + u"34"_s + QString(10, u'0') + u"5678"_s, "123456");
+}
+
+void EditLayoutTest::BrowsersFindAColourInEveryAttribute() {
+    QFETCH(QString, text);
+    QFETCH(QString, colour);
+    QCOMPARE(TextOfColour(AttributeColour(text)), colour);
 }
 
 void EditLayoutTest::TypedColoursAreKeptInUpperCase() {

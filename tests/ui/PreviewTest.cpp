@@ -403,9 +403,12 @@ void PreviewTest::PagesAreConvertedToRichText_data() {
         << QString() << body << QColor(4, 5, 6) << QColor(1, 2, 3) << QColor(7, 8, 9);
     QTest::newRow("an empty page") << u"hello"_s << QString() << u"hello"_s << QColor() << QColor()
                                    << QColor();
-    QTest::newRow("invalid colours") << u"<body bgcolor=\"#red\" text=\"#\" link=\"#12345\">"_s << QString()
-                                     << u"<body text=\"#\" link=\"#12345\">"_s << QColor() << QColor()
-                                     << QColor();
+    QTest::newRow("other colours than six digits are those of browsers")
+        << u"<style>\n<!--\nth {color: #F00; background-color: #red;}\ntd {color: #;}\n//-->\n</style>"
+           "<body bgcolor=\"#red\" text=\"#\" link=\"#12345\"><font color=\"#abc\">"_s
+        << u"th {color: #FF0000; }\ntd {}\n"_s
+        << u"<body bgcolor=\"#000E0D\" text=\"#000000\" link=\"#123450\"><font color=\"#AABBCC\">"_s
+        << QColor(0, 0, 0) << QColor(0, 0x0E, 0x0D) << QColor(0x12, 0x34, 0x50);
 }
 
 void PreviewTest::PagesAreConvertedToRichText() {
