@@ -4,7 +4,7 @@ option(TUNEDEX_WINDOWS "Build the windows; without them the program runs in the 
 
 set(QT_COMPONENTS Core)
 if(TUNEDEX_WINDOWS)
-    list(APPEND QT_COMPONENTS Gui Widgets)
+    list(APPEND QT_COMPONENTS Gui Widgets DBus)
 endif()
 if(TUNEDEX_TESTS OR TUNEDEX_WINDOWS) # tools/screenshots needs it, too
     list(APPEND QT_COMPONENTS Test)

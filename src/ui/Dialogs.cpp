@@ -2,6 +2,7 @@
 
 #include "Controls.h"
 #include "FileFilters.h"
+#include "FolderPortal.h"
 #include "QtText.h"
 #include "UserInterface.h"
 
@@ -132,8 +133,9 @@ std::string NativePath(const QString& path) {
     return FromQt(QDir::toNativeSeparators(path));
 }
 
-QStringList AskForFolders(QWidget* owner, const QString& title, const QString& prompt,
-                          const std::string& start, QAbstractItemView::SelectionMode mode) {
+// Asks with Qt's dialog.
+QStringList AskWithQt(QWidget* owner, const QString& title, const QString& prompt, const std::string& start,
+                      QAbstractItemView::SelectionMode mode) {
     QDialog window(owner);
     window.setWindowTitle(title);
     auto* label = new QLabel(prompt);
@@ -160,6 +162,24 @@ QStringList AskForFolders(QWidget* owner, const QString& title, const QString& p
     layout->addWidget(label);
     layout->addWidget(chooser);
     return window.exec() == QDialog::Accepted ? chooser->selectedFiles() : QStringList();
+}
+
+std::vector<std::string> AskForFolders(QWidget* owner, const QString& title, const QString& prompt,
+                                       const std::string& start, bool several) {
+    if (IsPortalLikely()) {
+        // A portal has no place for a prompt.
+        const PortalQuestion question{Dialogs::tr("%1: %2").arg(title, prompt), start, several,
+                                      PortalParent(owner)};
+        if (auto folders = AskPortalForFolders(QDBusConnection::sessionBus(), question)) {
+            return std::move(*folders);
+        }
+    }
+    std::vector<std::string> folders;
+    const auto mode = several ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection;
+    for (const QString& folder : AskWithQt(owner, title, prompt, start, mode)) {
+        folders.push_back(NativePath(folder));
+    }
+    return folders;
 }
 
 } // namespace
@@ -197,19 +217,13 @@ bool Dialogs::ShowReport(QWidget* owner, const QString& text, const QString& tit
 
 std::optional<std::string> Dialogs::ChooseFolder(QWidget* owner, const QString& title, const QString& prompt,
                                                  const std::string& start) {
-    const QStringList folders =
-        AskForFolders(owner, title, prompt, start, QAbstractItemView::SingleSelection);
-    return folders.isEmpty() ? std::nullopt : std::optional(NativePath(folders.first()));
+    const std::vector<std::string> folders = AskForFolders(owner, title, prompt, start, false);
+    return folders.empty() ? std::nullopt : std::optional(folders.front());
 }
 
 std::vector<std::string> Dialogs::ChooseFolders(QWidget* owner, const QString& title, const QString& prompt,
                                                 const std::string& start) {
-    std::vector<std::string> folders;
-    for (const QString& folder :
-         AskForFolders(owner, title, prompt, start, QAbstractItemView::ExtendedSelection)) {
-        folders.push_back(NativePath(folder));
-    }
-    return folders;
+    return AskForFolders(owner, title, prompt, start, true);
 }
 
 std::optional<std::string> Dialogs::ChooseFile(QWidget* owner, const FileQuestion& question) {

@@ -33,6 +33,7 @@ class Dialogs {
     // The message of an error that does not end a run. Returns false if the user wants no more of them in
     // this run.
     virtual bool ShowReport(QWidget* owner, const QString& text, const QString& title);
+    // Folders are chosen in the desktop's own dialog where it offers one (FolderPortal.h).
     // Return no value when the user cancels. Paths are native bytes, not necessarily UTF-8.
     virtual std::optional<std::string> ChooseFolder(QWidget* owner, const QString& title,
                                                     const QString& prompt, const std::string& start);
