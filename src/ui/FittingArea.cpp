@@ -1,5 +1,6 @@
 #include "FittingArea.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -24,6 +25,16 @@ FittingArea::FittingArea(QWidget* content) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
+    // QScrollArea scrolls to the focus only where it comes from within.
+    connect(qApp, &QApplication::focusChanged, this, &FittingArea::ScrollToFocus);
+}
+
+void FittingArea::ScrollToFocus(const QWidget* /*before*/, QWidget* now) {
+    const bool clicked =
+        QGuiApplication::mouseButtons() != Qt::NoButton; // it must not move below the pointer
+    if (now != nullptr && !clicked && widget()->isAncestorOf(now)) {
+        ensureWidgetVisible(now);
+    }
 }
 
 int FittingArea::OfScreen(double share) const {

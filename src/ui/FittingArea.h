@@ -20,6 +20,7 @@ class FittingArea final : public QScrollArea {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    void ScrollToFocus(const QWidget* before, QWidget* now);
     int OfScreen(double share) const;
 };
 

@@ -18,6 +18,9 @@ class ThemeList final : public QListWidget {
     // The selected name; empty if there is none.
     QString SelectedName() const;
 
+    // As low as it may be: a scroll area gives it more where there is room.
+    QSize sizeHint() const override { return {QListWidget::sizeHint().width(), minimumHeight()}; }
+
   signals:
     // The user has selected a theme or moved to the list in which one is selected.
     void Browsed();

@@ -4,6 +4,7 @@
 #include "ColumnsPage.h"
 #include "Controls.h"
 #include "DocumentPage.h"
+#include "FittingArea.h"
 #include "FontsPage.h"
 #include "NumberBox.h"
 #include "OpenHelp.h"
@@ -17,6 +18,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -26,8 +28,18 @@ using namespace Qt::StringLiterals;
 namespace tunedex {
 namespace {
 
-constexpr QSize kUsualSize{1040, 600};
+// First size of the window; less where the screen is smaller.
+constexpr int kWidthInCharacters = 170;
+constexpr int kHeightInLines = 42;
+constexpr double kMostOfScreen = 0.94; // the rest is for the frame of the window
 const QList<int> kUsualShares{490, 530};
+
+QSize FirstSize(const QWidget& window) {
+    const QFontMetrics metrics = window.fontMetrics();
+    const QSize usual(metrics.averageCharWidth() * kWidthInCharacters,
+                      metrics.lineSpacing() * kHeightInLines);
+    return usual.boundedTo(window.screen()->availableSize() * kMostOfScreen);
+}
 
 } // namespace
 
@@ -63,13 +75,21 @@ frmEditLayout::frmEditLayout(Application& application, WindowInterface& ui, QWid
     ConnectPages();
     LoadControls();
     themes_->ListThemes();
-    resize(kUsualSize);
+    resize(FirstSize(*this));
     RestoreWindowGeometry(*this);
 }
 
 void frmEditLayout::AddPage(QWidget* page, const QString& title) {
     page->setObjectName(ArrayName(u"Frames"_s, tabStrip_->count()));
-    tabStrip_->addTab(page, title);
+    tabStrip_->addTab(new FittingArea(page), title);
+}
+
+void frmEditLayout::ShowPage(const QWidget& page) {
+    for (int index = 0; index < tabStrip_->count(); ++index) {
+        if (tabStrip_->widget(index)->isAncestorOf(&page)) {
+            tabStrip_->setCurrentIndex(index);
+        }
+    }
 }
 
 QBoxLayout* frmEditLayout::BuildButtons() {
@@ -103,6 +123,9 @@ void frmEditLayout::ConnectPages() {
     connect(document_, &DocumentPage::Edited, this, &frmEditLayout::FollowEdit);
     connect(tabStrip_, &QTabWidget::currentChanged, themes_, &ThemePanel::Leave);
     connect(themes_, &ThemePanel::PreviewChanged, preview_, &PreviewPane::ShowSoon);
+    // Saving the settings in the main window stores the options.
+    connect(themes_, &ThemePanel::PreviewChanged, this, &frmEditLayout::ShowLoss);
+    connect(tabStrip_, &QTabWidget::currentChanged, this, &frmEditLayout::ShowLoss);
     connect(themes_, &ThemePanel::ThemeLoaded, this, &frmEditLayout::FollowTheme);
 }
 
@@ -209,7 +232,7 @@ void frmEditLayout::UseLayout() {
     application_.settings.DocumentType = document_->DocumentType();
     if (const auto fault = table_->FirstFault()) {
         ui_.ShowMessage(*this, fault->message, kOkExclamation, tr("Error"));
-        tabStrip_->setCurrentWidget(table_);
+        ShowPage(*table_);
         FocusAndSelectAll(*fault->box);
         return;
     }

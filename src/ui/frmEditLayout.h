@@ -67,6 +67,7 @@ class frmEditLayout : public QDialog {
     };
 
     void AddPage(QWidget* page, const QString& title);
+    void ShowPage(const QWidget& page);
     QBoxLayout* BuildButtons();
     void ConnectPages();
     void FollowEdit();

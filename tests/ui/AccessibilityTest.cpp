@@ -384,6 +384,29 @@ class AccessibilityTest : public QObject {
         QCOMPARE(Clipped(window), QString());
     }
 
+    void EveryWindowFitsItsScreenInLargeFonts_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<QSize>("room"); // of the screen, without panel and frame
+        for (const QString& name : kWindows) {
+            QTest::addRow("%s, 1024 x 600", qPrintable(name)) << name << 1.0 << QSize(1016, 540);
+            QTest::addRow("%s, 1366 x 768 at 150 %%", qPrintable(name)) << name << 1.5 << QSize(1358, 700);
+            QTest::addRow("%s, 1366 x 768 at 200 %%", qPrintable(name)) << name << 2.0 << QSize(1358, 700);
+        }
+    }
+    void EveryWindowFitsItsScreenInLargeFonts() {
+        QFETCH(QString, name);
+        QFETCH(double, scale);
+        QFETCH(QSize, room);
+        QFont font = font_;
+        font.setPointSizeF(font_.pointSizeF() * scale);
+        QApplication::setFont(font);
+        AllWindows windows;
+        const QSize smallest = windows.Window(name).minimumSizeHint();
+        QVERIFY2(smallest.width() <= room.width() && smallest.height() <= room.height(),
+                 qPrintable(u"%1x%2"_s.arg(smallest.width()).arg(smallest.height())));
+    }
+
     void NothingIsClippedWithManyFolders() {
         AllWindows windows;
         windows.TheSettings().Directory = "%MULT%";

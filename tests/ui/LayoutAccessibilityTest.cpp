@@ -29,6 +29,9 @@ class LayoutAccessibilityTest : public QObject {
     void EveryLabelOfAControlHasAUniqueMnemonic();
     void NothingIsClippedAtTheSmallestSize();
     void TheSmallestSizesFitASmallScreen();
+    void EveryPageFitsItsScreenInLargeFonts_data();
+    void EveryPageFitsItsScreenInLargeFonts();
+    void WhatHasTheFocusIsScrolledTo();
 };
 
 namespace {
@@ -259,6 +262,50 @@ void LayoutAccessibilityTest::TheSmallestSizesFitASmallScreen() {
     ForEveryPage([](QWidget& window, const QString& page) {
         const QSize smallest = window.minimumSizeHint();
         QVERIFY2(smallest.width() <= 800 && smallest.height() <= 560, qPrintable(page));
+    });
+}
+
+void LayoutAccessibilityTest::EveryPageFitsItsScreenInLargeFonts_data() {
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<QSize>("room"); // of the screen, without panel and frame
+    QTest::newRow("1024 x 600") << 1.0 << QSize(1016, 540);
+    QTest::newRow("1366 x 768 at 150 %") << 1.5 << QSize(1358, 700);
+    QTest::newRow("1366 x 768 at 200 %") << 2.0 << QSize(1358, 700);
+}
+
+void LayoutAccessibilityTest::EveryPageFitsItsScreenInLargeFonts() {
+    QFETCH(double, scale);
+    QFETCH(QSize, room);
+    const QFont before = QApplication::font();
+    QFont font = before;
+    font.setPointSizeF(before.pointSizeF() * scale);
+    QApplication::setFont(font);
+    QStringList tooLarge;
+    ForEveryPage([&](QWidget& window, const QString& page) {
+        const QSize smallest = window.minimumSizeHint();
+        if (smallest.width() > room.width() || smallest.height() > room.height()) {
+            tooLarge << u"%1: %2x%3"_s.arg(page).arg(smallest.width()).arg(smallest.height());
+        }
+    });
+    QApplication::setFont(before);
+    QCOMPARE(tooLarge.join(u", "_s), QString());
+}
+
+void LayoutAccessibilityTest::WhatHasTheFocusIsScrolledTo() {
+    ForEveryPage([&](QWidget& window, const QString& page) {
+        window.resize(1, 1);
+        QTest::qWait(1);
+        for (const QWidget* control : VisibleControls(window)) {
+            QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window, Qt::Key_Tab);
+            const QWidget* focus = QApplication::focusWidget();
+            if (focus == nullptr || !IsScrolled(*focus)) {
+                continue;
+            }
+            // Lists are higher than the room; their upper edge is enough.
+            const QPoint top = focus->mapTo(&window, QPoint(1, 1));
+            QVERIFY2(!focus->visibleRegion().isEmpty() && window.rect().contains(top),
+                     qPrintable(Where(page, *focus) + u" after "_s + control->objectName()));
+        }
     });
 }
 
