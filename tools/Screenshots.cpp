@@ -21,7 +21,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPalette>
 #include <QPushButton>
@@ -208,6 +211,33 @@ void TakeEveryPage(Pictures& pictures, frmEditLayout& editor, const QString& nam
     }
 }
 
+// What the layout editor says: a theme that is looked at while there are edits, colours that are none, text
+// that is hard to read.
+void TakeHints(Pictures& pictures, Application& application, WindowsFrontEnd& frontEnd) {
+    FillSample(application);
+    frmEditLayout editor(application, frontEnd);
+    auto* tabs = editor.findChild<QTabWidget*>(u"TabStrip"_s);
+    tabs->setCurrentIndex(2);
+    editor.show();
+    editor.findChild<QLineEdit*>(u"txtColour(1)"_s)->setText(u"red"_s);
+    editor.findChild<QLineEdit*>(u"txtColour(4)"_s)->setText(u"#12"_s);
+    QTest::qWait(200); // for the preview
+    pictures.Take(editor, u"layout-marks"_s);
+    tabs->setCurrentIndex(4);
+    auto* themes = editor.findChild<QListWidget*>(u"lvwThemes"_s);
+    for (const QString& name : {u"Midnight"_s, u"Ocean"_s}) {
+        themes->setCurrentItem(themes->findItems(name, Qt::MatchExactly).constFirst());
+        QTest::qWait(200);
+        pictures.Take(editor, u"layout-preview-"_s + name);
+    }
+    editor.findChild<QAbstractButton*>(u"cmdLoadTheme"_s)->click();
+    editor.findChild<QComboBox*>(u"cmbDocumentType"_s)->setCurrentIndex(1);
+    QTest::qWait(200);
+    pictures.Take(editor, u"layout-hard-to-read"_s);
+    pictures.TakeSmallest(editor, u"layout-hard-to-read"_s);
+    FillSample(application);
+}
+
 // The options dialog and every page of the layout editor.
 void TakeOptions(Pictures& pictures, Application& application) {
     FillSample(application);
@@ -234,7 +264,7 @@ void TakeOptions(Pictures& pictures, Application& application) {
         pictures.Take(editor, u"layout-html5"_s);
         pictures.TakeSmallest(editor, u"layout-html5"_s);
     }
-    application.settings.DocumentType = "HTML";
+    TakeHints(pictures, application, frontEnd);
     frmEditLayout editor(application, frontEnd);
     TakeEveryPage(pictures, editor, u"layout"_s);
     editor.resize(editor.minimumSizeHint());

@@ -26,6 +26,16 @@ QLayout* LabelledList(ColumnList& list, const QString& label) {
     return layout;
 }
 
+QLayout* ColumnOf(std::initializer_list<QPushButton*> commands) {
+    auto* layout = new QVBoxLayout;
+    layout->addStretch();
+    for (QPushButton* command : commands) {
+        layout->addWidget(command);
+    }
+    layout->addStretch();
+    return layout;
+}
+
 } // namespace
 
 ColumnsPage::ColumnsPage(QWidget* parent)
@@ -57,14 +67,16 @@ ColumnsPage::ColumnsPage(QWidget* parent)
 }
 
 QLayout* ColumnsPage::BuildLists() {
+    BuildCommands();
     auto* layout = new QHBoxLayout;
     layout->addLayout(LabelledList(*lstInactiveColumns_, tr("Hidden colu&mns:")), 1);
-    layout->addLayout(BuildMoves());
+    layout->addLayout(ColumnOf({cmdActive_, cmdInactive_, cmdAllActive_, cmdAllInactive_}));
     layout->addLayout(LabelledList(*lstActiveColumns_, tr("Shown, in this o&rder:")), 1);
+    layout->addLayout(ColumnOf({cmdTop_, cmdUp_, cmdDown_, cmdBottom_}));
     return layout;
 }
 
-QLayout* ColumnsPage::BuildMoves() {
+void ColumnsPage::BuildCommands() {
     cmdActive_ = MakeButton(u"cmdActive"_s, tr("&Show \u203A"),
                             tr("Show the selected hidden column as the last column"));
     cmdInactive_ = MakeButton(u"cmdInactive"_s, tr("\u2039 Hid&e"), tr("Hide the selected shown column"));
@@ -93,18 +105,6 @@ QLayout* ColumnsPage::BuildMoves() {
     connect(cmdUp_, &QPushButton::clicked, this, [this] { Reorder(lstActiveColumns_->SelectedRow() - 1); });
     connect(cmdDown_, &QPushButton::clicked, this, [this] { Reorder(lstActiveColumns_->SelectedRow() + 1); });
     connect(cmdBottom_, &QPushButton::clicked, this, [this] { Reorder(lstActiveColumns_->count() - 1); });
-
-    auto* layout = new QVBoxLayout;
-    layout->addStretch();
-    for (QPushButton* command : {cmdActive_, cmdInactive_, cmdAllActive_, cmdAllInactive_}) {
-        layout->addWidget(command);
-    }
-    layout->addStretch();
-    for (QPushButton* command : {cmdTop_, cmdUp_, cmdDown_, cmdBottom_}) {
-        layout->addWidget(command);
-    }
-    layout->addStretch();
-    return layout;
 }
 
 QLayout* ColumnsPage::BuildMerges() {

@@ -33,7 +33,7 @@ class ColumnsPage : public QFrame {
 
   private:
     QLayout* BuildLists();
-    QLayout* BuildMoves();
+    void BuildCommands();
     QLayout* BuildMerges();
     void SetTabOrder();
 

@@ -45,11 +45,11 @@ frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget*
     lblStats->setMinimumWidth(fontMetrics().averageCharWidth() * kTextWidthInCharacters);
 
     QPushButton* cmdHomePage =
-        MakeButton(u"cmdHomePage"_s, tr("&Home Page"), ToQt(kHomePage), tr("Home page"));
+        MakeButton(u"cmdHomePage"_s, tr("&Home page"), ToQt(kHomePage), tr("Home page"));
     connect(cmdHomePage, &QPushButton::clicked, this,
             [this, &application, &ui] { OpenAddress(ToQt(kHomePage), application, ui, *this); });
     QPushButton* cmdEmail =
-        MakeButton(u"cmdEmail"_s, tr("&E-mail the Author"), ToQt(kEmail), tr("E-mail the author"));
+        MakeButton(u"cmdEmail"_s, tr("&E-mail the author"), ToQt(kEmail), tr("E-mail the author"));
     connect(cmdEmail, &QPushButton::clicked, this,
             [this, &application, &ui] { OpenAddress(u"mailto:"_s + ToQt(kEmail), application, ui, *this); });
     QPushButton* cmdOK = MakeButton(u"cmdOK"_s, tr("&OK"), tr("Close the window"));

@@ -11,6 +11,7 @@
 #include "Text.h"
 #include "WindowGeometry.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -296,11 +297,21 @@ void frmDirSelection::FitColumn() {
     lvwDirs_->header()->resizeSection(0, widest);
 }
 
+// Screen readers announce a new count.
+void frmDirSelection::ShowCount(const QString& text) {
+    const bool changed = text != lblNumOfDirs_->text();
+    lblNumOfDirs_->setText(text);
+    if (changed && isVisible()) {
+        QAccessibleEvent announcement(lblNumOfDirs_, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announcement);
+    }
+}
+
 void frmDirSelection::UpdateState() {
     const int count = lvwDirs_->topLevelItemCount();
     const int selected = SelectedRow();
     FitColumn();
-    lblNumOfDirs_->setText(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
+    ShowCount(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
 
     const QWidget* focus = focusWidget();
     cmdRemove_->setEnabled(selected >= 0);

@@ -54,6 +54,7 @@ class frmDirSelection final : public QDialog {
     void SelectRow(int row);
     void ExchangeTexts(int row, int otherRow);
     void FitColumn();
+    void ShowCount(const QString& text);
     void UpdateState();
 
     Application& application_;

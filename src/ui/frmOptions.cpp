@@ -220,7 +220,7 @@ QLabel* frmOptions::BuildButtonHint() {
 
 void frmOptions::BuildMenu() {
     auto* bar = new QMenuBar;
-    QAction* topics = bar->addMenu(tr("&Help"))->addAction(tr("Help &topics"));
+    QAction* topics = bar->addMenu(tr("&Help"))->addAction(tr("Help &Topics"));
     topics->setObjectName(u"itmHelpTopics"_s);
     topics->setShortcut(QKeySequence::HelpContents);
     connect(topics, &QAction::triggered, this, [this] { OpenHelp(application_, ui_, *this); });

@@ -22,6 +22,7 @@ class ColumnsPageTest : public QObject {
     void CommandsAreEnabledOnlyIfTheyHaveAnEffect();
     void DoubleClicksMoveAColumnToTheOtherList();
     void AltWithAnArrowReordersTheShownColumns();
+    void TheCommandsThatReorderAreBesideTheirList();
     void ADisabledCommandPassesTheFocusToItsList();
     void DroppedColumnsAreInsertedAtTheDropPosition_data();
     void DroppedColumnsAreInsertedAtTheDropPosition();
@@ -228,6 +229,21 @@ void ColumnsPageTest::AltWithAnArrowReordersTheShownColumns() {
     QTest::keyClick(&with.Active(), Qt::Key_Down, Qt::AltModifier);
     QCOMPARE(with.Shown(), u"A|C|B D"_s);
     QCOMPARE(with.Active().SelectedRow(), 1);
+}
+
+void ColumnsPageTest::TheCommandsThatReorderAreBesideTheirList() {
+    Columns with(u"Artist|Title"_s, u"Year"_s);
+    Show(*with.editor);
+    const auto left = [&](const QString& name) {
+        return Find<QWidget>(*with.editor, name).mapTo(with.editor.get(), QPoint()).x();
+    };
+    for (const QString& name : {u"cmdTop"_s, u"cmdUp"_s, u"cmdDown"_s, u"cmdBottom"_s}) {
+        QVERIFY2(left(name) > left(u"lstActiveColumns"_s), qPrintable(name));
+    }
+    for (const QString& name : {u"cmdActive"_s, u"cmdInactive"_s, u"cmdAllActive"_s, u"cmdAllInactive"_s}) {
+        QVERIFY2(left(name) < left(u"lstActiveColumns"_s), qPrintable(name));
+        QVERIFY2(left(name) > left(u"lstInactiveColumns"_s), qPrintable(name));
+    }
 }
 
 void ColumnsPageTest::ADisabledCommandPassesTheFocusToItsList() {

@@ -31,6 +31,8 @@ class PreviewTest : public QObject {
     void FollowsAlternatingRows();
     void FollowsTheTableSizes();
     void SaysThatBrowsersIgnoreTheStyleSheetOfXhtml();
+    void NamesTheBoxesThatMakeTextReadable_data();
+    void NamesTheBoxesThatMakeTextReadable();
     void FollowsTheUnsavedOptionsToo();
     void FollowsALoadedTheme();
     void EscapesWithTheEntityTable();
@@ -275,6 +277,45 @@ void PreviewTest::SaysThatBrowsersIgnoreTheStyleSheetOfXhtml() {
     QCOMPARE(with.FormatOf(u"Duration"_s).foreground().color(), QColor(0xFF, 0xFF, 0));
     QCOMPARE(caption.text(), u"Preview with sample tracks"_s);
     QCOMPARE(with.Shown(), text);
+}
+
+void PreviewTest::NamesTheBoxesThatMakeTextReadable_data() {
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<bool>("css");
+    QTest::addColumn<bool>("fontTags");
+    QTest::addColumn<QStringList>("boxes"); // none: the text is readable
+    const QString rule = u"\u201CUse CSS for text colours.\u201D"_s;
+    const QString font = u"\u201CUse FONT tags for text colours.\u201D"_s;
+    QTest::newRow("XHTML, dark cells") << u"XHTML 1.0"_s << true << true << false << QStringList{font};
+    QTest::newRow("XHTML, FONT tags") << u"XHTML 1.0"_s << true << true << true << QStringList();
+    QTest::newRow("XHTML, light cells") << u"XHTML 1.0"_s << false << true << false << QStringList();
+    QTest::newRow("HTML, style sheet") << u"HTML 4.01"_s << true << true << false << QStringList();
+    QTest::newRow("HTML, neither") << u"HTML 4.01"_s << true << false << false << QStringList{rule, font};
+    QTest::newRow("HTML5") << u"HTML5"_s << true << false << false << QStringList();
+}
+
+void PreviewTest::NamesTheBoxesThatMakeTextReadable() {
+    QFETCH(QString, type);
+    QFETCH(bool, dark);
+    QFETCH(bool, css);
+    QFETCH(bool, fontTags);
+    QFETCH(QStringList, boxes);
+    Preview with;
+    with.settings.Colour[kHeaderText] = "000000";
+    with.settings.Colour[kHeaderBackground] = "FFFFFF";
+    with.settings.Colour[kCellText] = dark ? "EEEEEE" : "000000";
+    with.settings.Colour[kCellBackground] = dark ? "202020" : "FFFFFF";
+    with.Open();
+    Find<QComboBox>(*with.editor, u"cmbDocumentType"_s).setCurrentText(type);
+    Set(*with.editor, u"chkColoursCSS"_s, css);
+    Set(*with.editor, u"chkColoursFontTags"_s, fontTags);
+    Find<PreviewPane>(*with.editor, u"PreviewPane"_s).ShowNow();
+    const QString caption = Find<QLabel>(*with.editor, u"lblPreview"_s).text();
+    QCOMPARE(caption.contains(u"hard to read"_s), !boxes.isEmpty());
+    for (const QString& box : boxes) {
+        QVERIFY2(caption.contains(box), qPrintable(caption));
+    }
 }
 
 void PreviewTest::FollowsTheUnsavedOptionsToo() {
