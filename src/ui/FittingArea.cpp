@@ -29,6 +29,11 @@ FittingArea::FittingArea(QWidget* content) {
     connect(qApp, &QApplication::focusChanged, this, &FittingArea::ScrollToFocus);
 }
 
+// The focus moves while the children are destroyed.
+FittingArea::~FittingArea() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void FittingArea::ScrollToFocus(const QWidget* /*before*/, QWidget* now) {
     const bool clicked =
         QGuiApplication::mouseButtons() != Qt::NoButton; // it must not move below the pointer

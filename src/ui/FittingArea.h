@@ -10,6 +10,7 @@ class FittingArea final : public QScrollArea {
   public:
     // Takes ownership of `content`.
     explicit FittingArea(QWidget* content);
+    ~FittingArea() override;
 
     // The content's own; the height at most what the screen leaves for a window.
     QSize sizeHint() const override;
