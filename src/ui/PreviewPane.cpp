@@ -23,6 +23,7 @@ namespace tunedex {
 namespace {
 
 constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
+constexpr int kLeastWidth = 180;
 constexpr int kNameWidthInCharacters = 30; // of a theme; longer ones are elided
 
 QString NoPreviewText(const RunTimeError& error) {
@@ -77,9 +78,14 @@ void PreviewPane::BuildControls() {
     browser_->setTabChangesFocus(true);
     browser_->setOpenLinks(false);
     browser_->setToolTip({});
-    browser_->setMinimumSize(180, 120);
+    browser_->setMinimumSize(kLeastWidth, 4 * fontMetrics().lineSpacing());
     // As in browsers, a column is at least as wide as its longest word.
     browser_->setWordWrapMode(QTextOption::WordWrap);
+}
+
+QSize PreviewPane::minimumSizeHint() const {
+    const QSize usual = QWidget::minimumSizeHint();
+    return {usual.width(), layout()->totalMinimumHeightForWidth(usual.width())};
 }
 
 void PreviewPane::ShowSoon() {

@@ -30,6 +30,9 @@ class PreviewPane : public QWidget {
     void ShowSoon();
     void ShowNow();
 
+    // High enough for the wrapped caption. A layout by itself leaves no room for its wrapping.
+    QSize minimumSizeHint() const override;
+
   protected:
     void showEvent(QShowEvent* event) override;
 
