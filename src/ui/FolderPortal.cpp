@@ -190,7 +190,7 @@ QString PortalParent(QWidget* owner) {
                : QString();
 }
 
-std::optional<std::vector<std::string>> AskPortalForFolders(QDBusConnection bus,
+std::optional<std::vector<std::string>> AskPortalForFolders(const QDBusConnection& bus,
                                                             const PortalQuestion& question) {
     const InputBlock block;
     if (!bus.isConnected() || PortalVersion(bus) < kFirstVersionWithFolders) {

@@ -30,7 +30,7 @@ QString PortalParent(QWidget* owner);
 // Shows the dialog, and returns when it is closed; meanwhile the windows of the program take no input. The
 // folders are native bytes, none if the user cancels. No value: there is no such portal, or it failed before
 // it showed the dialog.
-std::optional<std::vector<std::string>> AskPortalForFolders(QDBusConnection bus,
+std::optional<std::vector<std::string>> AskPortalForFolders(const QDBusConnection& bus,
                                                             const PortalQuestion& question);
 
 } // namespace tunedex
