@@ -16,7 +16,7 @@ bool AreHexDigits(const QString& text) {
     return std::all_of(text.begin(), text.end(), IsHexDigit);
 }
 
-int Number(QStringView digits) {
+int HexNumber(QStringView digits) {
     return digits.toInt(nullptr, 16);
 }
 
@@ -49,12 +49,14 @@ void RemoveCommonZeros(std::array<QString, 3>& components) {
 }
 
 QColor ShortColour(const QString& text) {
-    const auto component = [&](qsizetype i) { return Number(QStringView(text).mid(i, 1)) * kFromOneDigit; };
+    const auto component = [&](qsizetype i) {
+        return HexNumber(QStringView(text).mid(i, 1)) * kFromOneDigit;
+    };
     return QColor(component(0), component(1), component(2), text.size() == 4 ? component(3) : 0xFF);
 }
 
 QColor LongColour(const QString& text) {
-    const auto component = [&](qsizetype i) { return Number(QStringView(text).mid(i * 2, 2)); };
+    const auto component = [&](qsizetype i) { return HexNumber(QStringView(text).mid(i * 2, 2)); };
     return QColor(component(0), component(1), component(2), text.size() == 8 ? component(3) : 0xFF);
 }
 
@@ -75,8 +77,9 @@ QColor AttributeColour(const QString& text) {
     }
     std::array<QString, 3> components = Components(LegacyDigits(value));
     RemoveCommonZeros(components);
-    return QColor(Number(QStringView(components[0]).left(2)), Number(QStringView(components[1]).left(2)),
-                  Number(QStringView(components[2]).left(2)));
+    return QColor(HexNumber(QStringView(components[0]).left(2)),
+                  HexNumber(QStringView(components[1]).left(2)),
+                  HexNumber(QStringView(components[2]).left(2)));
 }
 
 std::optional<QColor> StyleSheetColour(const QString& text) {

@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kPauseBeforeUpdate{120};
 constexpr int kLeastWidth = 180;
-constexpr int kNameWidthInCharacters = 30; // of a theme; longer ones are elided
+constexpr int kThemeWidthInCharacters = 30; // of a theme; longer ones are elided
 
 QString NoPreviewText(const RunTimeError& error) {
     QString text =
@@ -103,7 +103,7 @@ void PreviewPane::ShowNow() {
     delay_.stop();
     PreviewContent content = content_();
     content.theme = fontMetrics().elidedText(content.theme, Qt::ElideMiddle,
-                                             fontMetrics().averageCharWidth() * kNameWidthInCharacters);
+                                             fontMetrics().averageCharWidth() * kThemeWidthInCharacters);
     try {
         if (!folder_.isValid()) {
             throw RunTimeError(ErrorNumber::PathFileAccess);

@@ -29,15 +29,15 @@ namespace tunedex {
 namespace {
 
 // First size of the window; less where the screen is smaller.
-constexpr int kWidthInCharacters = 170;
-constexpr int kHeightInLines = 42;
+constexpr int kEditorWidthInCharacters = 170;
+constexpr int kEditorHeightInLines = 42;
 constexpr double kMostOfScreen = 0.94; // the rest is for the frame of the window
 const QList<int> kUsualShares{490, 530};
 
 QSize FirstSize(const QWidget& window) {
     const QFontMetrics metrics = window.fontMetrics();
-    const QSize usual(metrics.averageCharWidth() * kWidthInCharacters,
-                      metrics.lineSpacing() * kHeightInLines);
+    const QSize usual(metrics.averageCharWidth() * kEditorWidthInCharacters,
+                      metrics.lineSpacing() * kEditorHeightInLines);
     return usual.boundedTo(window.screen()->availableSize() * kMostOfScreen);
 }
 
