@@ -15,26 +15,33 @@ ColourButton::ColourButton(QWidget* parent) : QPushButton(parent) {
     setFixedWidth(kWidth);
 }
 
-void ColourButton::ShowColour(std::optional<QColor> colour) {
+void ColourButton::ShowColours(std::optional<QColor> colour, std::optional<QColor> inBrowsers) {
     colour_ = colour;
+    inBrowsers_ = inBrowsers;
     update();
+}
+
+void ColourButton::PaintField(QPainter& painter, const QRect& field,
+                              const std::optional<QColor>& colour) const {
+    painter.setBrush(palette().color(QPalette::Base)); // below a colour that is not opaque
+    painter.drawRect(field);
+    if (colour) {
+        painter.setBrush(*colour);
+        painter.drawRect(field);
+    } else {
+        painter.drawLine(field.topLeft(), field.bottomRight());
+        painter.drawLine(field.bottomLeft(), field.topRight());
+    }
 }
 
 void ColourButton::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
     QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::ButtonText)));
     const QRect field = rect().adjusted(kInset, kInset, -kInset, -kInset);
-    const QPen frame(palette().color(QPalette::ButtonText));
-    painter.setPen(frame);
-    painter.setBrush(palette().color(QPalette::Base)); // below a colour that is not opaque
-    painter.drawRect(field);
-    if (colour_) {
-        painter.setBrush(*colour_);
-        painter.drawRect(field);
-    }
-    if (!colour_) {
-        painter.drawLine(field.topLeft(), field.bottomRight());
-        painter.drawLine(field.bottomLeft(), field.topRight());
+    PaintField(painter, field, colour_);
+    if (colour_ != inBrowsers_) {
+        PaintField(painter, field.adjusted(field.width() / 2, 0, 0, 0), inBrowsers_);
     }
 }
 

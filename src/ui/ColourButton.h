@@ -14,15 +14,20 @@ class ColourButton : public QPushButton {
   public:
     explicit ColourButton(QWidget* parent = nullptr);
 
-    // No value: a crossed-out field.
-    void ShowColour(std::optional<QColor> colour);
+    // The colour that a text means, and on the right half the one that browsers show for it. No value: a
+    // crossed-out field.
+    void ShowColours(std::optional<QColor> colour, std::optional<QColor> inBrowsers);
     const std::optional<QColor>& Shown() const { return colour_; }
+    const std::optional<QColor>& ShownByBrowsers() const { return inBrowsers_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void PaintField(QPainter& painter, const QRect& field, const std::optional<QColor>& colour) const;
+
     std::optional<QColor> colour_;
+    std::optional<QColor> inBrowsers_;
 };
 
 } // namespace tunedex

@@ -92,8 +92,8 @@ ColoursPage::ColoursPage(const Choosers& choosers, QWidget* parent)
       chkColoursFontTags_(
           MakeCheckBox(u"chkColoursFontTags"_s, tr("Use FONT ta&gs for text colours."),
                        tr("Write the colours into the markup, for browsers without style sheets"))),
-      lblColourHint_(new QLabel(tr("A marked colour is not six hexadecimal digits. The button beside it "
-                                   "shows what browsers show for it."))) {
+      lblColourHint_(new QLabel(tr("A marked colour is not six hexadecimal digits. The right half of the "
+                                   "button beside it shows what browsers show for it."))) {
     lblColourHint_->setObjectName(u"lblColourHint"_s);
     lblColourHint_->setWordWrap(true);
     QSizePolicy keepsItsRoom = lblColourHint_->sizePolicy();
@@ -178,10 +178,11 @@ ColourUse ColoursPage::UseOf(std::size_t index) const {
 void ColoursPage::ShowColour(std::size_t index) {
     const Field& field = fields_.at(index);
     const QString text = field.txtColour->text();
-    const std::optional<QColor> shown =
-        IsSixDigitColour(text) ? ColourFromText(text) : BrowserColour(text, UseOf(index));
-    field.cmdColourSelector->ShowColour(shown);
-    MarkField(index, HintFor(text, shown));
+    const std::optional<QColor> number = ColourFromText(text);
+    const std::optional<QColor> inBrowsers =
+        IsSixDigitColour(text) ? number : BrowserColour(text, UseOf(index));
+    field.cmdColourSelector->ShowColours(number ? number : inBrowsers, inBrowsers);
+    MarkField(index, HintFor(text, inBrowsers));
 }
 
 void ColoursPage::MarkField(std::size_t index, const QString& hint) {

@@ -1,5 +1,6 @@
 #include "ThemePanel.h"
 
+#include "Announcement.h"
 #include "Controls.h"
 #include "ErrorMessage.h"
 #include "FileSystem.h"
@@ -8,7 +9,6 @@
 #include "Text.h"
 #include "ThemeList.h"
 
-#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -158,10 +158,7 @@ void ThemePanel::ShowLoss(const QString& loss) {
 
 void ThemePanel::ShowStatus(const QString& text) {
     lblThemeStatus_->setText(text);
-    if (!text.isEmpty()) {
-        QAccessibleEvent announcement(lblThemeStatus_, QAccessible::Alert);
-        QAccessible::updateAccessibility(&announcement);
-    }
+    Announce(*this, text);
 }
 
 void ThemePanel::EnableCommands() {

@@ -1,5 +1,6 @@
 #include "frmDirSelection.h"
 
+#include "Announcement.h"
 #include "Controls.h"
 #include "ErrorMessage.h"
 #include "FileSystem.h"
@@ -11,7 +12,6 @@
 #include "Text.h"
 #include "WindowGeometry.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -301,9 +301,8 @@ void frmDirSelection::FitColumn() {
 void frmDirSelection::ShowCount(const QString& text) {
     const bool changed = text != lblNumOfDirs_->text();
     lblNumOfDirs_->setText(text);
-    if (changed && isVisible()) {
-        QAccessibleEvent announcement(lblNumOfDirs_, QAccessible::Alert);
-        QAccessible::updateAccessibility(&announcement);
+    if (changed) {
+        Announce(*this, text);
     }
 }
 

@@ -34,8 +34,8 @@ class EditLayoutTest : public QObject {
     void TheChosenFontFamilyBecomesTheFirstOfTheList_data();
     void TheChosenFontFamilyBecomesTheFirstOfTheList();
     void CancellingAChooserChangesNothing();
-    void AColourButtonShowsWhatBrowsersShow_data();
-    void AColourButtonShowsWhatBrowsersShow();
+    void AColourButtonShowsTheNumberAndWhatBrowsersShow_data();
+    void AColourButtonShowsTheNumberAndWhatBrowsersShow();
     void AColourButtonFollowsHowThePageCarriesTheColour_data();
     void AColourButtonFollowsHowThePageCarriesTheColour();
     void APastedColourLosesItsSignAndTheBlanksAroundIt_data();
@@ -393,19 +393,27 @@ void EditLayoutTest::CancellingAChooserChangesNothing() {
     QVERIFY(with.settings == before);
 }
 
-void EditLayoutTest::AColourButtonShowsWhatBrowsersShow_data() {
+void EditLayoutTest::AColourButtonShowsTheNumberAndWhatBrowsersShow_data() {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("colour"); // invalid: none
-    QTest::newRow("six digits") << u"FF8000"_s << QColor(255, 128, 0);
-    QTest::newRow("lower case") << u"ff8000"_s << QColor(255, 128, 0);
-    QTest::newRow("three digits") << u"F80"_s << QColor(255, 136, 0);
-    QTest::newRow("no colour for a style sheet") << u"red"_s << QColor();
-    QTest::newRow("empty") << QString() << QColor();
+    QTest::addColumn<QColor>("number"); // invalid: none
+    QTest::addColumn<QColor>("inBrowsers");
+    const QColor none;
+    QTest::newRow("six digits") << u"FF8000"_s << QColor(255, 128, 0) << QColor(255, 128, 0);
+    QTest::newRow("lower case") << u"ff8000"_s << QColor(255, 128, 0) << QColor(255, 128, 0);
+    QTest::newRow("three digits") << u"F80"_s << QColor(0, 15, 128) << QColor(255, 136, 0);
+    QTest::newRow("fewer digits are a smaller number") << u"FF"_s << QColor(0, 0, 255) << none;
+    QTest::newRow("leading zeros") << u"000FF00"_s << QColor(0, 255, 0) << none;
+    QTest::newRow("no digits") << u"red"_s << none << none;
+    QTest::newRow("a number above FFFFFF") << u"1000000"_s << none << none;
+    QTest::newRow("a prefix") << u"0xFF"_s << none << none;
+    QTest::newRow("a sign") << u"-1"_s << none << none;
+    QTest::newRow("empty") << QString() << none << none;
 }
 
-void EditLayoutTest::AColourButtonShowsWhatBrowsersShow() {
+void EditLayoutTest::AColourButtonShowsTheNumberAndWhatBrowsersShow() {
     QFETCH(QString, text);
-    QFETCH(QColor, colour);
+    QFETCH(QColor, number);
+    QFETCH(QColor, inBrowsers);
     LayoutFixture with;
     frmEditLayout editor(with.application, with.ui);
     Show(editor);
@@ -415,18 +423,21 @@ void EditLayoutTest::AColourButtonShowsWhatBrowsersShow() {
     const QImage image = preview.grab().toImage();
     const QColor left = image.pixelColor(image.width() / 4, image.height() / 2);
     const QColor right = image.pixelColor(image.width() * 3 / 4, image.height() / 2);
-    const QColor expected = colour.isValid() ? colour : editor.palette().color(QPalette::Base);
-    QCOMPARE(left, expected);
-    QCOMPARE(right, expected);
+    const QColor base = editor.palette().color(QPalette::Base);
+    QCOMPARE(left, number.isValid() ? number : base);
+    QCOMPARE(right, inBrowsers.isValid() ? inBrowsers : base);
+    if (number != inBrowsers) {
+        return;
+    }
     // The field is crossed out only if there is no colour.
     const int inset = image.width() / 4;
     int otherPixels = 0;
     for (int x = inset; x < image.width() - inset; ++x) {
         for (int y = image.height() / 3; y < image.height() * 2 / 3; ++y) {
-            otherPixels += image.pixelColor(x, y) == expected ? 0 : 1;
+            otherPixels += image.pixelColor(x, y) == left ? 0 : 1;
         }
     }
-    QCOMPARE(otherPixels == 0, colour.isValid());
+    QCOMPARE(otherPixels == 0, number.isValid());
 }
 
 void EditLayoutTest::AColourButtonFollowsHowThePageCarriesTheColour_data() {
@@ -468,7 +479,7 @@ void EditLayoutTest::AColourButtonFollowsHowThePageCarriesTheColour() {
     Set(editor, u"chkColoursFontTags"_s, fontTags);
     Field(editor, N("txtColour", static_cast<std::size_t>(index))).setText(text);
     const auto& shown =
-        Find<ColourButton>(editor, N("cmdColourSelector", static_cast<std::size_t>(index))).Shown();
+        Find<ColourButton>(editor, N("cmdColourSelector", static_cast<std::size_t>(index))).ShownByBrowsers();
     const bool opaque = !shown || shown->alpha() == 0xFF;
     const QString name =
         shown ? shown->name(opaque ? QColor::HexRgb : QColor::HexArgb).mid(1).toUpper() : QString();
