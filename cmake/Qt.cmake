@@ -4,7 +4,7 @@ option(TUNEDEX_WINDOWS "Build the windows; without them the program runs in the 
 
 set(QT_COMPONENTS Core)
 if(TUNEDEX_WINDOWS)
-    list(APPEND QT_COMPONENTS Gui Widgets DBus)
+    list(APPEND QT_COMPONENTS Gui Widgets DBus LinguistTools)
 endif()
 if(TUNEDEX_TESTS OR TUNEDEX_WINDOWS) # tools/screenshots needs it, too
     list(APPEND QT_COMPONENTS Test)
@@ -17,5 +17,5 @@ if(NOT Qt6_FOUND)
     endif()
     list(JOIN QT_COMPONENTS ", " QT_COMPONENTS)
     message(FATAL_ERROR "Qt 6.4 or newer is missing (${QT_COMPONENTS}), so there would be no program to install. "
-                        "Debian's package is qt6-base-dev.${ADVICE}\n${Qt6_NOT_FOUND_MESSAGE}")
+                        "Debian's packages are qt6-base-dev and, for the windows, qt6-tools-dev and qt6-l10n-tools.${ADVICE}\n${Qt6_NOT_FOUND_MESSAGE}")
 endif()

@@ -131,6 +131,7 @@ void ColoursPage::BuildField(std::size_t index) {
     Field& field = fields_.at(index);
     const ColourTexts texts = TextsOf(index);
     field.txtColour = MakeTextField(ArrayName(u"txtColour"_s, number), texts.name, texts.toolTip);
+    KeepLeftToRight(*field.txtColour);
     field.txtColour->setPlaceholderText(tr("RRGGBB"));
     field.txtColour->setMinimumWidth(field.txtColour->fontMetrics().horizontalAdvance(u"CCCCCCCC"_s) + 12);
     field.cmdColourSelector = new ColourButton;

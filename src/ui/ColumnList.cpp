@@ -1,5 +1,6 @@
 #include "ColumnList.h"
 
+#include "CoreText.h"
 #include "QtText.h"
 #include "Text.h"
 
@@ -28,8 +29,16 @@ const ColumnMimeData* DraggedColumn(const QDropEvent& event, const QWidget& targ
     return data != nullptr && data->source->window() == target.window() ? data : nullptr;
 }
 
-QListWidgetItem* MakeItem(const QString& name) {
-    auto* item = new QListWidgetItem(name);
+// The name in the settings is the item's data; its text is in the language of the windows.
+constexpr int kNameRole = Qt::UserRole;
+
+std::string NameOf(const QListWidgetItem& item) {
+    return FromQt(item.data(kNameRole).toString());
+}
+
+QListWidgetItem* MakeItem(const std::string& name) {
+    auto* item = new QListWidgetItem(ShownColumn(name));
+    item->setData(kNameRole, ToQt(name));
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled);
     return item;
 }
@@ -46,7 +55,7 @@ ColumnList::ColumnList(QWidget* parent) : QListWidget(parent) {
 void ColumnList::SetColumns(std::string_view joined) {
     clear();
     for (const std::string& name : Split(joined, kColumnSeparator)) {
-        addItem(MakeItem(ToQt(name)));
+        addItem(MakeItem(name));
     }
 }
 
@@ -56,7 +65,7 @@ std::string ColumnList::Columns() const {
         if (row > 0) {
             joined += kColumnSeparator;
         }
-        joined += FromQt(item(row)->text());
+        joined += NameOf(*item(row));
     }
     return joined;
 }
@@ -64,7 +73,7 @@ std::string ColumnList::Columns() const {
 bool ColumnList::HoldsColumn(std::string_view name) const {
     const std::string wanted = UpperCase(name);
     for (int row = 0; row < count(); ++row) {
-        if (UpperCase(FromQt(item(row)->text())) == wanted) {
+        if (UpperCase(NameOf(*item(row))) == wanted) {
             return true;
         }
     }

@@ -108,15 +108,18 @@ void ColumnsPage::BuildCommands() {
 }
 
 QLayout* ColumnsPage::BuildMerges() {
+    // Split literals: lupdate reads all hexadecimal digits after "\\u", not just four.
     chkArtistTitleMerge_ =
         MakeCheckBox(u"chkArtistTitleMerge"_s, tr("Mer&ge Artist and Title into one column"),
-                     tr("Shows \u201CArtist: Title\u201D. Both columns must be shown."));
-    chkAlbumMerge_ =
-        MakeCheckBox(u"chkAlbumMerge"_s, tr("Ta&ke Album into that column, too"),
-                     tr("Shows \u201CArtist (Album): Title\u201D. Requires Artist and Title to be merged."));
-    chkTheSubstitution_ = MakeCheckBox(
-        u"chkTheSubstitution"_s, tr("Displa&y a leading \u201CThe\u201D after the artist's name"),
-        tr("Lists \u201CThe Band\u201D as \u201CBand, The\u201D, sorted under B"));
+                     tr("Shows \u201C"
+                        "Artist: Title\u201D. Both columns must be shown."));
+    chkAlbumMerge_ = MakeCheckBox(u"chkAlbumMerge"_s, tr("Ta&ke Album into that column, too"),
+                                  tr("Shows \u201C"
+                                     "Artist (Album): Title\u201D. Requires Artist and Title to be merged."));
+    chkTheSubstitution_ = MakeCheckBox(u"chkTheSubstitution"_s,
+                                       tr("Displa&y a leading \u201CThe\u201D after the artist's name"),
+                                       tr("Lists \u201CThe Band\u201D as \u201C"
+                                          "Band, The\u201D, sorted under B"));
     auto* layout = new QVBoxLayout;
     for (QCheckBox* box : {chkArtistTitleMerge_, chkAlbumMerge_, chkTheSubstitution_}) {
         connect(box, &QCheckBox::toggled, this, &ColumnsPage::Edited);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QShortcut>
 
 #include <limits>
@@ -45,11 +46,16 @@ void NameControl(QWidget& control, const QString& objectName, const QString& acc
 }
 
 QString SpokenText(const QString& textWithMnemonic) {
-    return QString(textWithMnemonic).remove(u'&').remove(u"..."_s);
+    static const QRegularExpression appendedMnemonic(u"\\(&.\\)"_s); // of languages without Latin letters
+    return QString(textWithMnemonic).remove(appendedMnemonic).remove(u'&').remove(u"..."_s);
 }
 
 QString ArrayName(const QString& objectName, int index) {
     return objectName + u'(' + QString::number(index) + u')';
+}
+
+void KeepLeftToRight(QWidget& control) {
+    control.setLayoutDirection(Qt::LeftToRight);
 }
 
 QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic) {

@@ -26,6 +26,9 @@ QString ArrayName(const QString& objectName, int index);
 
 // The Make functions return controls without a parent; the layout that they are added to takes ownership.
 
+// Paths, colours and numbers read from left to right in every language.
+void KeepLeftToRight(QWidget& control);
+
 // A label whose mnemonic ("&Folder:") moves the focus to the control. It is enabled when the control is.
 QLabel* MakeLabelFor(QWidget& control, const QString& textWithMnemonic);
 

@@ -65,6 +65,7 @@ QGroupBox* FontsPage::BuildRow(std::size_t index) {
     Row& row = rows_.at(index);
     row.txtFontList = MakeTextField(ArrayName(u"txtFontList"_s, number), tr("%1: typefaces").arg(title),
                                     tr("Typefaces in order of preference, separated by commas"));
+    KeepLeftToRight(*row.txtFontList);
     row.cmbFontSize = new QComboBox;
     NameControl(*row.cmbFontSize, ArrayName(u"cmbFontSize"_s, number), tr("%1: size").arg(title),
                 tr("1 (smallest) to 7 (largest). 3 is the size of normal text."));

@@ -12,6 +12,7 @@ namespace tunedex {
 NumberBox::NumberBox(const QString& objectName, const QString& accessibleName, const QString& description) {
     setMaxLength(std::numeric_limits<int>::max());
     NameControl(*this, objectName, accessibleName, description);
+    KeepLeftToRight(*this);
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (!IsNumeric()) {
             selectAll();

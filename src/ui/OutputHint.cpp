@@ -3,6 +3,7 @@
 #include "OutputForecast.h"
 #include "Path.h"
 #include "QtText.h"
+#include "ResultText.h"
 #include "TerminalText.h"
 
 #include <QCoreApplication>
@@ -41,13 +42,13 @@ class HintSentences {
 
   private:
     QString Files(const OutputForecast& forecast) const {
-        return forecast.firstPage.empty() ? tr("Writes %1.").arg(Name(forecast.file))
-                                          : tr("Writes %1 \u2026 (%2 files a page).")
-                                                .arg(Name(forecast.firstPage))
-                                                .arg(forecast.perPage);
+        return forecast.firstPage.empty()
+                   ? tr("Writes %1.").arg(Name(forecast.file))
+                   : tr("Writes %1 \u2026 (%2 files a page).", nullptr, forecast.perPage)
+                         .arg(Name(forecast.firstPage), QString::number(forecast.perPage));
     }
     QString Name(const std::string& path) const {
-        return Elided(ToQtDisplay(TerminalText(FileNameOf(path, PathStyle::Native()))), kNameWidth);
+        return Isolated(Elided(ToQtDisplay(TerminalText(FileNameOf(path, PathStyle::Native()))), kNameWidth));
     }
     QString Elided(const QString& text, int characters) const {
         return metrics_.elidedText(text, Qt::ElideMiddle, metrics_.averageCharWidth() * characters);

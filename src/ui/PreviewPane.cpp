@@ -1,6 +1,7 @@
 #include "PreviewPane.h"
 
 #include "Controls.h"
+#include "CoreText.h"
 #include "Path.h"
 #include "QtText.h"
 #include "RichTextPage.h"
@@ -29,7 +30,7 @@ constexpr int kThemeWidthInCharacters = 30; // of a theme; longer ones are elide
 QString NoPreviewText(const RunTimeError& error) {
     QString text =
         PreviewPane::tr("<p>There is no preview: a listing cannot be written with this layout (%1).</p>")
-            .arg(QString::fromLatin1(error.Description()));
+            .arg(ShownText(error.Description()));
     if (error.Is(ErrorNumber::InvalidProcedureCall)) {
         text += PreviewPane::tr("<p>If Album is merged, it must not come before both Artist and Title.</p>");
     }
@@ -77,6 +78,7 @@ void PreviewPane::BuildControls() {
     browser_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     browser_->setTabChangesFocus(true);
     browser_->setOpenLinks(false);
+    KeepLeftToRight(*browser_); // as the listing itself
     browser_->setToolTip({});
     browser_->setMinimumSize(kLeastWidth, 4 * fontMetrics().lineSpacing());
     // As in browsers, a column is at least as wide as its longest word.

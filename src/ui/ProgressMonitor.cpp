@@ -1,5 +1,6 @@
 #include "ProgressMonitor.h"
 
+#include "CoreText.h"
 #include "PlayTime.h"
 #include "QtText.h"
 #include "RunRate.h"
@@ -88,22 +89,26 @@ std::string ProgressMonitor::StatusText() const {
 
 QString ProgressMonitor::Details() const {
     if (found_ > 0) {
-        return found_ == 1 ? tr("1 file found") : tr("%1 files found").arg(found_);
+        return found_ == 1 ? tr("1 file found") : tr("%1 files found", nullptr, found_).arg(found_);
     }
     const auto elapsed =
         std::chrono::duration_cast<std::chrono::milliseconds>(SteadyClock::now() - phaseStart_);
     const std::optional<RunRate> rate = counted_ ? RateOf(count_, total_, elapsed) : std::nullopt;
-    return rate ? tr("%1 files a second, %2 left")
+    return rate ? tr("%1 files a second, %2 left", nullptr, static_cast<int>(rate->filesPerSecond))
                       .arg(rate->filesPerSecond)
                       .arg(ToQt(MinutesAndSeconds(rate->secondsLeft)))
                 : QString();
+}
+
+QString ProgressMonitor::ShownStatus() const {
+    return counted_ ? tunedex::ShownStatus(before_, count_, total_, after_) : ShownText(status_);
 }
 
 void ProgressMonitor::Paint() {
     changed_ = false;
     if (window_ != nullptr) {
         const bool searching = maximum_ == 0 && !status_.empty();
-        window_->Display({.status = ToQtDisplay(StatusText()),
+        window_->Display({.status = ShownStatus(),
                           .details = Details(),
                           .maximum = maximum_,
                           .position = position_,

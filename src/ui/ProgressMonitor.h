@@ -32,13 +32,14 @@ class ProgressMonitor final : public RunMonitor {
     void SetFound(std::int32_t count) override;
     bool AbortRequested() override;
 
-    // The current status text, painted or not.
+    // The current status text in English, painted or not.
     std::string StatusText() const;
 
   private:
     using SteadyClock = std::chrono::steady_clock;
 
     void Paint();
+    QString ShownStatus() const;
     QString Details() const;
 
     Application& application_;

@@ -21,6 +21,7 @@ RecentButton::RecentButton(const QString& objectName, const QString& accessibleN
                            RecentPaths paths)
     : field_(field), paths_(paths), menu_(new QMenu(this)) {
     NameControl(*this, objectName, accessibleName, tr("%1 (Alt+Down in the field)").arg(accessibleName));
+    KeepLeftToRight(*menu_);
     setMenu(menu_);
     setPopupMode(QToolButton::InstantPopup);
     setArrowType(Qt::DownArrow);

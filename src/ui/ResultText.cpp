@@ -1,5 +1,6 @@
 #include "ResultText.h"
 
+#include "CoreText.h"
 #include "OutputList.h"
 #include "Path.h"
 #include "QtText.h"
@@ -7,9 +8,11 @@
 #include "Text.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -30,11 +33,24 @@ class Sentences {
   private:
     QString Written(const QString& name) const;
     QString Number(std::size_t number) const;
-    QString Tracks() const { return Counted(outcome_.tracks, tr("1 track"), tr("%1 tracks")); }
-    QString Pages() const { return Counted(outcome_.pages, tr("1 page"), tr("%1 pages")); }
-    QString Folders() const { return Counted(outcome_.unreadFolders, tr("1 folder"), tr("%1 folders")); }
-    QString Files() const { return Counted(outcome_.unreadFiles, tr("1 file"), tr("%1 files")); }
+    QString Tracks() const {
+        return Counted(outcome_.tracks, tr("1 track"), tr("%1 tracks", nullptr, outcome_.tracks));
+    }
+    QString Pages() const {
+        return Counted(outcome_.pages, tr("1 page"), tr("%1 pages", nullptr, outcome_.pages));
+    }
+    QString Folders() const {
+        const int number = ForPlural(outcome_.unreadFolders);
+        return Counted(outcome_.unreadFolders, tr("1 folder"), tr("%1 folders", nullptr, number));
+    }
+    QString Files() const {
+        const int number = ForPlural(outcome_.unreadFiles);
+        return Counted(outcome_.unreadFiles, tr("1 file"), tr("%1 files", nullptr, number));
+    }
 
+    static int ForPlural(std::size_t number) {
+        return static_cast<int>(std::min<std::size_t>(number, std::numeric_limits<int>::max()));
+    }
     template <typename Count> QString Counted(Count count, const QString& one, const QString& many) const {
         return count == 1 ? one : many.arg(Number(static_cast<std::size_t>(count)));
     }
@@ -64,7 +80,7 @@ QString Sentences::End(const QString& name) const {
     case RunEnd::NothingFound:
         return tr("No MP3 files were found. No list was written.");
     case RunEnd::Failed:
-        return tr("The run failed: %1. No complete list was written.").arg(ToQt(outcome_.failure));
+        return tr("The run failed: %1. No complete list was written.").arg(ShownText(outcome_.failure));
     }
     return {};
 }
@@ -89,7 +105,8 @@ QString Sentences::ModernTags(bool modern) const {
     }
     return Counted(outcome_.modernTags,
                    tr("1 file has tags that 'Modern tags and lists' would read correctly."),
-                   tr("%1 files have tags that 'Modern tags and lists' would read correctly."));
+                   tr("%1 files have tags that 'Modern tags and lists' would read correctly.", nullptr,
+                      outcome_.modernTags));
 }
 
 bool ReadsRightToLeft(QChar character) {
@@ -134,8 +151,9 @@ bool OffersModern(const RunOutcome& outcome, bool modern) {
 QString Isolated(const QString& text) {
     constexpr QChar kFirstStrongIsolate(u'\u2068');
     constexpr QChar kPopIsolate(u'\u2069');
-    return std::any_of(text.begin(), text.end(), ReadsRightToLeft) ? kFirstStrongIsolate + text + kPopIsolate
-                                                                   : text;
+    const bool ofOtherDirection =
+        QGuiApplication::isRightToLeft() || std::any_of(text.begin(), text.end(), ReadsRightToLeft);
+    return ofOtherDirection && !text.isEmpty() ? kFirstStrongIsolate + text + kPopIsolate : text;
 }
 
 } // namespace tunedex

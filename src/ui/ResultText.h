@@ -21,7 +21,8 @@ QString ResultText(const RunOutcome& outcome, const QString& name, bool modern, 
 // Whether modern readers, which are off, would have read some tags otherwise.
 bool OffersModern(const RunOutcome& outcome, bool modern);
 
-// A text in a line of another direction: isolated if it contains right-to-left characters.
+// A text in a line of another direction: isolated if it contains right-to-left characters,
+// or the windows are laid out from right to left.
 QString Isolated(const QString& text);
 
 } // namespace tunedex

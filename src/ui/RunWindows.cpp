@@ -5,6 +5,7 @@
 #include "ErrorMessage.h"
 #include "ExitStatus.h"
 #include "Functions.h"
+#include "Languages.h"
 #include "ProgramIcon.h"
 #include "Startup.h"
 #include "WindowsFrontEnd.h"
@@ -81,6 +82,7 @@ int RunWindows(int argc, char** argv, Application& application, bool automatic, 
     QApplication::setDesktopFileName(u"example.tunedex.tunedex"_s);
     InstallProgramIcon();
 
+    const Translation translation(LanguageFor(WantedLanguages()));
     Dialogs dialogs;
     WindowsFrontEnd frontEnd(application, dialogs);
     if (!RunOrShowError(frontEnd, frontEnd.MainWindow(), application.errorTitle,

@@ -1,6 +1,7 @@
 #include "WindowsFrontEnd.h"
 
 #include "Controls.h"
+#include "CoreText.h"
 #include "QtText.h"
 #include "Startup.h"
 #include "frmEditLayout.h"
@@ -128,12 +129,12 @@ int WindowsFrontEnd::ShowMessage(std::string_view text, int buttons, std::string
 }
 
 int WindowsFrontEnd::ShowMessage(QWidget& owner, std::string_view text, int buttons, std::string_view title) {
-    return dialogs_.ShowMessage(VisibleOwner(&owner), ToQtDisplay(text), buttons, ToQtDisplay(title));
+    return dialogs_.ShowMessage(VisibleOwner(&owner), ShownText(text), buttons, ShownText(title));
 }
 
 void WindowsFrontEnd::ShowReport(std::string_view text, std::string_view title) {
     if (!reportsDeclined_) {
-        reportsDeclined_ = !dialogs_.ShowReport(VisibleOwner(&main_), ToQtDisplay(text), ToQtDisplay(title));
+        reportsDeclined_ = !dialogs_.ShowReport(VisibleOwner(&main_), ShownText(text), ShownText(title));
     }
 }
 
@@ -170,7 +171,7 @@ RunMonitor& WindowsFrontEnd::ShowProgress() {
 
 void WindowsFrontEnd::SetProgressCaption(std::string_view caption) {
     if (progress_ != nullptr) {
-        progress_->setWindowTitle(ToQt(caption));
+        progress_->setWindowTitle(ShownText(caption));
     }
 }
 

@@ -4,7 +4,7 @@
 #include "OpenHelp.h"
 #include "Product.h"
 #include "QtText.h"
-#include "Statistics.h"
+#include "StatisticsSentences.h"
 #include "Version.h"
 
 #include <QDialogButtonBox>
@@ -39,7 +39,7 @@ frmAbout::frmAbout(const Application& application, WindowInterface& ui, QWidget*
     auto* lblVersion = new QLabel(
         tr("Version %1.%2 - Build %3").arg(ToQt(kMajorVersion), ToQt(kMinorVersion), ToQt(kBuildNumber)));
     NameControl(*lblVersion, u"lblVersion"_s, QString(), QString());
-    auto* lblStats = new QLabel(ToQtDisplay(StatisticsText(application.statistics)).trimmed());
+    auto* lblStats = new QLabel(StatisticsSentences(application.statistics));
     NameControl(*lblStats, u"lblStats"_s, QString(), QString());
     lblStats->setWordWrap(true);
     lblStats->setMinimumWidth(fontMetrics().averageCharWidth() * kTextWidthInCharacters);

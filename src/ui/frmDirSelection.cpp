@@ -70,6 +70,7 @@ frmDirSelection::frmDirSelection(Application& application, WindowInterface& ui, 
 void frmDirSelection::BuildList() {
     NameControl(*lvwDirs_, u"lvwDirs"_s, tr("Folders"),
                 tr("The folders to search, in order. Folders can be dropped here."));
+    KeepLeftToRight(*lvwDirs_);
     lvwDirs_->setColumnCount(1);
     lvwDirs_->setHeaderHidden(true);
     lvwDirs_->setRootIsDecorated(false);
@@ -310,7 +311,7 @@ void frmDirSelection::UpdateState() {
     const int count = lvwDirs_->topLevelItemCount();
     const int selected = SelectedRow();
     FitColumn();
-    ShowCount(count == 1 ? tr("1 folder") : tr("%1 folders").arg(count));
+    ShowCount(count == 1 ? tr("1 folder") : tr("%1 folders", nullptr, count).arg(count));
 
     const QWidget* focus = focusWidget();
     cmdRemove_->setEnabled(selected >= 0);

@@ -158,6 +158,9 @@ void frmMain::BuildFields() {
     Mirror(*txtWindowTitle_, settings.WindowTitle);
     Mirror(*txtPageTitle_, settings.PageTitle);
     Mirror(*txtPageFooter_, settings.PageFooter);
+    for (QLineEdit* path : {txtInputDir_, txtOutputFile_}) {
+        KeepLeftToRight(*path);
+    }
     for (QLineEdit* field :
          {txtInputDir_, txtOutputFile_, static_cast<QLineEdit*>(txtWindowTitle_),
           static_cast<QLineEdit*>(txtPageTitle_), static_cast<QLineEdit*>(txtPageFooter_)}) {
@@ -216,7 +219,12 @@ void frmMain::BuildPlaceholderMenu() {
 }
 
 int frmMain::LabelWidth() const {
-    return fontMetrics().size(Qt::TextShowMnemonic, tr("Window &title:")).width();
+    int width = 0;
+    for (const QString& label : {tr("Fol&der:"), tr("&Output file:"), tr("Window &title:"),
+                                 tr("&Page title:"), tr("Page foote&r:")}) {
+        width = std::max(width, fontMetrics().size(Qt::TextShowMnemonic, label).width());
+    }
+    return width;
 }
 
 QGroupBox* frmMain::BuildFolderGroup() {
@@ -436,7 +444,8 @@ void frmMain::UpdateFolderControls() {
 
     const std::size_t count = several ? FoldersOf(application_.settings.Directory).size() : 0;
     ShowSettingsFile();
-    const QString counted = count == 1 ? tr("1 folder chosen") : tr("%1 folders chosen").arg(count);
+    const QString counted = count == 1 ? tr("1 folder chosen")
+                                       : tr("%1 folders chosen", nullptr, static_cast<int>(count)).arg(count);
     ShowFolderCount(several ? counted : QString());
 }
 

@@ -147,6 +147,7 @@ QGroupBox* frmOptions::BuildLinkGroup() {
                              tr("Add a column with links to the MP3 files"));
     txtLinkPrefix_ = MakeTextField(u"txtLinkPrefix"_s, tr("Link prefix"),
                                    tr("Text before every link, for example file:/// or a web address"));
+    KeepLeftToRight(*txtLinkPrefix_);
     connect(chkLinks_, &QCheckBox::toggled, this, &frmOptions::EnableLinks);
 
     auto* group = new QGroupBox(tr("Links in HTML listings"));

@@ -2,6 +2,7 @@
 
 #include "Announcement.h"
 #include "Controls.h"
+#include "CoreText.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -37,12 +38,20 @@ frmProgress::frmProgress(QWidget& mainWindow)
     setEnabled(true); // disabling the parent window disabled this one
 }
 
+// So that the window keeps its size as the numbers grow.
+int frmProgress::WidestStatus() const {
+    int width = 0;
+    for (const QString& text : StatusTexts()) {
+        width = std::max(width, fontMetrics().horizontalAdvance(text));
+    }
+    return width;
+}
+
 void frmProgress::Build() {
-    // Fits the longest status text, so the window keeps its size as the numbers grow.
-    const QString longest = u"Retrieving MPEG/ID3 information (8888888/8888888)..."_s;
+    const int width = WidestStatus();
     for (QLabel* label : {lblStatus_, lblDetails_}) {
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        label->setMinimumSize(fontMetrics().horizontalAdvance(longest), fontMetrics().height());
+        label->setMinimumSize(width, fontMetrics().height());
     }
     progressBar_->setMaximum(1);
     progressBar_->setTextVisible(false);

@@ -45,6 +45,7 @@ class frmProgress final : public QDialog {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    int WidestStatus() const;
     void Build();
 
     QWidget& mainWindow_;
