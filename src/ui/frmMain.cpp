@@ -305,6 +305,7 @@ QGroupBox* frmMain::BuildTitleGroup() {
     auto* group = new QGroupBox(tr("Titles of web pages"));
     auto* grid = new QGridLayout(group);
     grid->setColumnStretch(1, 1);
+    grid->setColumnMinimumWidth(0, LabelWidth());
     const auto addRow = [&](int row, const QString& caption, TitleField* field, QPushButton* button) {
         grid->addWidget(MakeLabelFor(*field, caption), row, 0);
         grid->addWidget(field, row, 1);
