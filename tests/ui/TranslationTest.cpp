@@ -1,7 +1,6 @@
 // Every text that a user sees goes through tr(). A translator marks all texts; a text without the mark must
-// be data (names, numbers, texts from core).
+// be data (names, numbers).
 #include "DefaultSettings.h"
-#include "Statistics.h"
 #include "WindowTest.h"
 #include "frmAbout.h"
 #include "frmDirSelection.h"
@@ -15,6 +14,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
@@ -60,6 +60,11 @@ QStringList CaptionsOf(const QWidget& widget) {
     } else if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
         for (int i = 0; i < tabs->count(); ++i) {
             texts << tabs->tabText(i);
+        }
+    } else if (const auto* list = qobject_cast<const QListWidget*>(&widget);
+               list != nullptr && list->objectName() != u"lvwThemes"_s) { // themes are files
+        for (int i = 0; i < list->count(); ++i) {
+            texts << list->item(i)->text();
         }
     } else if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
         for (int i = 0; i < box->count(); ++i) {
@@ -167,15 +172,12 @@ class TranslationTest : public QObject {
         desk.fake.application.statistics = {"2026-11-21", 12345, 2345, 1234567};
         desk.fake.registry.values["TipsFile"] = desk.folder.Write("tips.lst", "A tip.\r\n");
         desk.fake.registry.values["TipsOnStartup"] = "1";
-        const QString statistics = ToQtDisplay(StatisticsText(desk.fake.application.statistics)).trimmed();
-
         QCOMPARE(Untranslated(frmDirSelection(desk.fake.application, desk.frontEnd, desk.dialogs, nullptr)),
                  QStringList());
         QCOMPARE(Untranslated(frmTip(desk.fake.application, desk.frontEnd, nullptr), {u"A tip."_s}),
                  QStringList());
-        QCOMPARE(Untranslated(
-                     frmAbout(desk.fake.application, desk.frontEnd, nullptr),
-                     {u"Tunedex"_s, statistics, u"https://tunedex.example/"_s, u"orvando@tunedex.example"_s}),
+        QCOMPARE(Untranslated(frmAbout(desk.fake.application, desk.frontEnd, nullptr),
+                              {u"Tunedex"_s, u"https://tunedex.example/"_s, u"orvando@tunedex.example"_s}),
                  QStringList());
         QCOMPARE(Untranslated(frmProgress(desk.Main())), QStringList());
     }
@@ -213,6 +215,27 @@ class TranslationTest : public QObject {
             QVERIFY2(IsMarked(message.text), message.text.c_str());
         }
         QVERIFY(IsMarked(desk.dialogs.messages.back().title));
+    }
+
+    void WhatCoreSaysIsTranslated() {
+        Desk desk;
+        desk.Show();
+        Find<QLineEdit>(desk.Main(), "txtInputDir").setText(u"/missing"_s);
+        Click(desk.Main(), "cmdCreateList");
+        desk.frontEnd.ShowReport("An error occurred decoding the headers of: \r\n\r\n/a.mp3", "Error!");
+        QCOMPARE(desk.dialogs.messages.size(), std::size_t(2));
+        for (const FakeDialogs::Message& message : desk.dialogs.messages) {
+            QVERIFY2(IsMarked(message.text), message.text.c_str());
+        }
+        RunMonitor& monitor = desk.frontEnd.ShowProgress();
+        const auto& status = Find<QLabel>(desk.Main(), "lblStatus");
+        monitor.SetStatus("Sorting information...");
+        QVERIFY(status.text().contains(kMark));
+        monitor.SetCountedStatus("Writing entry for file ", 1, 2, "...");
+        monitor.AbortRequested(); // paints
+        QVERIFY2(status.text().contains(kMark), qPrintable(status.text()));
+        desk.frontEnd.SetProgressCaption("Tunedex (Automatic Mode)");
+        QVERIFY(OpenWindow<frmProgress>(desk.Main()).windowTitle().contains(kMark));
     }
 
     void TheMessagesOfOptionsAndLayoutEditorAreTranslated() {
