@@ -3,8 +3,10 @@
 //
 // usage: screenshots FOLDER DATA       (run by tools/screenshots on an X server of its own)
 
+#include "CoreText.h"
 #include "DefaultSettings.h"
 #include "Dialogs.h"
+#include "Languages.h"
 #include "Palettes.h"
 #include "ProgramIcon.h"
 #include "Registry.h"
@@ -121,12 +123,13 @@ void TakeMessages(Pictures& pictures, WindowsFrontEnd& frontEnd, Dialogs& dialog
     pictures.TakeModal(u"report"_s);
     dialogs.ShowReport(
         &frontEnd.MainWindow(),
-        u"An error occurred decoding the headers of: /home/lea/Music/Unsorted/a broken file.mp3"_s,
-        u"Error!"_s);
+        ShownText(
+            "An error occurred decoding the headers of: \r\n\r\n/home/lea/Music/Unsorted/a broken file.mp3"),
+        ShownText("Error!"));
     pictures.TakeModal(u"browse"_s);
     dialogs.ChooseFolder(
-        &frontEnd.MainWindow(), u"Select a Directory"_s,
-        u"Select the folder that you would like Tunedex to scan for MP3 files, and click OK."_s,
+        &frontEnd.MainWindow(), frmMain::tr("Select a Directory"),
+        frmMain::tr("Select the folder that you would like Tunedex to scan for MP3 files, and click OK."),
         QDir::rootPath().toStdString());
 }
 
@@ -163,13 +166,16 @@ void TakeMain(Pictures& pictures, Application& application) {
     }
     {
         frmProgress progress(window);
-        progress.Display({.status = u"Retrieving MPEG/ID3 information (812/1250)..."_s,
-                          .details = u"416 files a second, 0:01 left"_s,
-                          .maximum = 1250,
-                          .position = 812});
-        pictures.Take(progress, u"progress"_s);
         progress.Display(
-            {.status = u"Searching for MP3 files..."_s, .details = u"812 files found"_s, .busy = true});
+            {.status = ShownStatus("Retrieving MPEG/ID3 information (", 812, 1250, ")..."),
+             .details =
+                 ProgressMonitor::tr("%1 files a second, %2 left", nullptr, 416).arg(416).arg(u"0:01"_s),
+             .maximum = 1250,
+             .position = 812});
+        pictures.Take(progress, u"progress"_s);
+        progress.Display({.status = ShownText("Searching for MP3 files..."),
+                          .details = ProgressMonitor::tr("%1 files found", nullptr, 812).arg(812),
+                          .busy = true});
         pictures.Take(progress, u"progress-search"_s);
         progress.ShowOver();
         pictures.Take(progress, u"progress-over"_s);
@@ -312,6 +318,7 @@ int main(int argc, char** argv) {
 
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     InstallProgramIcon();
+    const Translation translation(LanguageFor(WantedLanguages()));
     Pictures pictures(arguments[1]);
     for (const bool dark : {false, true}) {
         QApplication::setPalette(dark ? test::DarkPalette() : test::LightPalette());
