@@ -871,8 +871,8 @@ n’existe plus&#x202f;!</translation>
     <message numerus="yes">
         <source>%1 files a second, %2 left</source>
         <translation>
-            <numerusform>%1 fichier par seconde, %2 restantes</numerusform>
-            <numerusform>%1 fichiers par seconde, %2 restantes</numerusform>
+            <numerusform>%1 fichier par seconde, encore %2</numerusform>
+            <numerusform>%1 fichiers par seconde, encore %2</numerusform>
         </translation>
     </message>
 </context>

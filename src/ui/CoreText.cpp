@@ -151,13 +151,13 @@ QString CountedText(const char* pattern, std::int32_t count, std::int32_t total)
 } // namespace
 
 QString ShownText(std::string_view text) {
-    const QString english = ToQtDisplay(text);
-    if (const QString exact = ExactText(english); exact != english) {
+    QString english = ToQtDisplay(text);
+    if (QString exact = ExactText(english); exact != english) {
         return exact;
     }
     for (const CoreText& known : kCoreTexts) {
         const bool hasParts = std::string_view(known.pattern).find('%') != std::string_view::npos;
-        const QString reworded = hasParts ? Reworded(english, known) : QString();
+        QString reworded = hasParts ? Reworded(english, known) : QString();
         if (!reworded.isEmpty()) {
             return reworded;
         }

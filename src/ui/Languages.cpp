@@ -28,7 +28,7 @@ bool IsC(const QByteArray& locale) {
 // The locale of messages, in the order of setlocale().
 QByteArray MessageLocale() {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const QByteArray locale = qgetenv(variable); !locale.isEmpty()) {
+        if (QByteArray locale = qgetenv(variable); !locale.isEmpty()) {
             return locale;
         }
     }
