@@ -17,7 +17,7 @@ static void RegisterTranslations() {
 namespace tunedex {
 namespace {
 
-constexpr QStringView kFolder = u":/translations/";
+constexpr QStringView kTranslationFolder = u":/translations/";
 constexpr QStringView kFilePrefix = u"tunedex_";
 constexpr QStringView kEnglish = u"en";
 
@@ -54,7 +54,8 @@ void Install(QTranslator& translator, const QString& file) {
 QStringList TranslatedLanguages() {
     RegisterTranslations();
     QStringList languages;
-    for (const QString& file : QDir(kFolder.toString()).entryList({u"*.qm"_s}, QDir::Files, QDir::Name)) {
+    for (const QString& file :
+         QDir(kTranslationFolder.toString()).entryList({u"*.qm"_s}, QDir::Files, QDir::Name)) {
         languages << file.sliced(kFilePrefix.size()).chopped(3); // ".qm"
     }
     return languages;
@@ -87,7 +88,7 @@ Translation::Translation(const QString& language) {
     }
     RegisterTranslations();
     Install(textsOfQt_, QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_"_s + language);
-    Install(texts_, kFolder.toString() + kFilePrefix.toString() + language);
+    Install(texts_, kTranslationFolder.toString() + kFilePrefix.toString() + language);
 }
 
 } // namespace tunedex
