@@ -222,6 +222,22 @@
         <source>Select a colour from the palette</source>
         <translation>Eine Farbe aus der Palette wählen</translation>
     </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers show %1 for it.</source>
+        <translation>Das ist keine Farbe aus sechs hexadezimalen Ziffern. Browser zeigen dafür %1.</translation>
+    </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers ignore it.</source>
+        <translation>Das ist keine Farbe aus sechs hexadezimalen Ziffern. Browser beachten sie nicht.</translation>
+    </message>
+    <message>
+        <source>A marked colour is not six hexadecimal digits. The right half of the button beside it shows what browsers show for it.</source>
+        <translation>Eine markierte Farbe besteht nicht aus sechs hexadezimalen Ziffern. Die rechte Hälfte der Schaltfläche daneben zeigt, was Browser dafür zeigen.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::Columns</name>
@@ -636,6 +652,10 @@ Diese Einstellungen wurden nicht gespeichert:
         <source>Errors still go to the log, if the options ask for one</source>
         <translation>Fehler werden weiterhin protokolliert, wenn es in den Optionen eingestellt ist</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::DocumentPage</name>
@@ -831,10 +851,6 @@ ist nicht mehr vorhanden!</translation>
         <translation>Vorschau von Farben, Schriften und Spalten. Nur ein Browser zeigt Suche, Sortierung, Albumüberschriften und die Farben für die andere (dunkle oder helle) Einstellung.</translation>
     </message>
     <message>
-        <source>Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.</source>
-        <translation>Vorschau: Browser ignorieren das Stylesheet von XHTML-Listen. Verwenden Sie stattdessen FONT-Tags.</translation>
-    </message>
-    <message>
         <source>Preview with sample tracks</source>
         <translation>Vorschau mit Beispieltiteln</translation>
     </message>
@@ -853,6 +869,26 @@ ist nicht mehr vorhanden!</translation>
     <message>
         <source>Sample tracks, listed with the layout shown here</source>
         <translation>Beispieltitel, aufgelistet mit dem hier gezeigten Layout</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background, because browsers ignore the style sheet of XHTML listings. To mend it, tick “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Ein Teil des Texts ist auf seinem Hintergrund schwer zu lesen, weil Browser das Stylesheet von XHTML-Listen nicht beachten. Abhilfe: „FONT-Tags für Textfarben verwenden.“ auf der Seite Farben ankreuzen.</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background. To mend it, tick “Use CSS for text colours.” or “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Ein Teil des Texts ist auf seinem Hintergrund schwer zu lesen. Abhilfe: „CSS für Textfarben verwenden.“ oder „FONT-Tags für Textfarben verwenden.“ auf der Seite Farben ankreuzen.</translation>
+    </message>
+    <message>
+        <source>Preview: browsers ignore the style sheet of XHTML listings. Tick “Use FONT tags” on the pages Fonts and Colours instead.</source>
+        <translation>Vorschau: Browser beachten das Stylesheet von XHTML-Listen nicht. Kreuzen Sie stattdessen auf den Seiten Schriften und Farben die FONT-Tags an.</translation>
+    </message>
+    <message>
+        <source>Preview of the theme “%1”, which is not loaded.</source>
+        <translation>Vorschau des Designs „%1“, das nicht geladen ist.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -1188,10 +1224,6 @@ Schrägstrich enthalten und weder „.“ noch „..“ lauten.</translation>
         <translation>Die Datei des markierten Designs löschen</translation>
     </message>
     <message>
-        <source>Double-click a theme to load it</source>
-        <translation>Doppelklicken Sie ein Design, um es zu laden</translation>
-    </message>
-    <message>
         <source>Themes are preset colour, font, and table settings that you can import into your own settings.
 
 You can also export your own settings as a theme.</source>
@@ -1241,6 +1273,14 @@ Es kann danach nicht wiederhergestellt werden!</translation>
         <source>Delete Theme</source>
         <translation>Design löschen</translation>
     </message>
+    <message>
+        <source>Select a theme to preview it. Press Enter or double-click to load it.</source>
+        <translation>Wählen Sie ein Design aus, um es in der Vorschau zu sehen. Mit der Eingabetaste oder einem Doppelklick laden Sie es.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmAbout</name>
@@ -1253,16 +1293,8 @@ Es kann danach nicht wiederhergestellt werden!</translation>
         <translation>Version %1.%2 - Build %3</translation>
     </message>
     <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Homepage</translation>
-    </message>
-    <message>
         <source>Home page</source>
         <translation>Homepage</translation>
-    </message>
-    <message>
-        <source>&amp;E-mail the Author</source>
-        <translation>&amp;E-Mail an den Autor</translation>
     </message>
     <message>
         <source>E-mail the author</source>
@@ -1275,6 +1307,14 @@ Es kann danach nicht wiederhergestellt werden!</translation>
     <message>
         <source>Close the window</source>
         <translation>Das Fenster schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Home page</source>
+        <translation>&amp;Homepage</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail the author</source>
+        <translation>&amp;E-Mail an den Autor</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1514,18 @@ wirklich leeren?</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes here and in the options.</source>
+        <translation>Beim Laden eines Designs gehen Ihre Änderungen hier und in den Optionen verloren.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes to the layout.</source>
+        <translation>Beim Laden eines Designs gehen Ihre Änderungen am Layout verloren.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes in the options.</source>
+        <translation>Beim Laden eines Designs gehen Ihre Änderungen in den Optionen verloren.</translation>
     </message>
 </context>
 <context>
@@ -1837,6 +1889,10 @@ wirklich beenden?</translation>
         <source>Line break</source>
         <translation>Zeilenumbruch</translation>
     </message>
+    <message>
+        <source>The next list has the look of this theme: %1</source>
+        <translation>Die nächste Liste erscheint in diesem Design: %1</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmOptions</name>
@@ -2073,10 +2129,6 @@ wirklich beenden?</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>Help &amp;topics</source>
-        <translation>&amp;Hilfethemen</translation>
-    </message>
-    <message>
         <source>Sort by artist, album, disc and track</source>
         <translation>Nach Interpret, Album, CD und Titelnummer sortieren</translation>
     </message>
@@ -2091,6 +2143,10 @@ wirklich beenden?</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Help &amp;Topics</source>
+        <translation>Hilfe&amp;themen</translation>
     </message>
 </context>
 <context>

@@ -222,6 +222,22 @@
         <source>Select a colour from the palette</source>
         <translation>Elegir un color de la paleta</translation>
     </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers show %1 for it.</source>
+        <translation>No es un color de seis dígitos hexadecimales. Los navegadores muestran %1 en su lugar.</translation>
+    </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers ignore it.</source>
+        <translation>No es un color de seis dígitos hexadecimales. Los navegadores lo ignoran.</translation>
+    </message>
+    <message>
+        <source>A marked colour is not six hexadecimal digits. The right half of the button beside it shows what browsers show for it.</source>
+        <translation>Un color marcado no tiene seis dígitos hexadecimales. La mitad derecha del botón de al lado muestra lo que muestran los navegadores.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::Columns</name>
@@ -636,6 +652,10 @@ Estos ajustes no se han guardado:
         <source>Errors still go to the log, if the options ask for one</source>
         <translation>Los errores se siguen anotando en el registro si las opciones lo indican</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::DocumentPage</name>
@@ -831,10 +851,6 @@ ya no existe!</translation>
         <translation>Vista previa de colores, tipos de letra y columnas. Solo un navegador muestra la búsqueda, la ordenación, los títulos de álbum y los colores del otro modo (oscuro o claro).</translation>
     </message>
     <message>
-        <source>Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.</source>
-        <translation>Vista previa: los navegadores no aplican la hoja de estilos de las listas XHTML. Use etiquetas FONT.</translation>
-    </message>
-    <message>
         <source>Preview with sample tracks</source>
         <translation>Vista previa con pistas de ejemplo</translation>
     </message>
@@ -853,6 +869,26 @@ ya no existe!</translation>
     <message>
         <source>Sample tracks, listed with the layout shown here</source>
         <translation>Pistas de ejemplo, presentadas con el diseño que se muestra aquí</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background, because browsers ignore the style sheet of XHTML listings. To mend it, tick “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Parte del texto se lee mal sobre su fondo, porque los navegadores ignoran la hoja de estilos de las listas XHTML. Para corregirlo, marque «Usar etiquetas FONT para los colores del texto.» en la página Colores.</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background. To mend it, tick “Use CSS for text colours.” or “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Parte del texto se lee mal sobre su fondo. Para corregirlo, marque «Usar CSS para los colores del texto.» o «Usar etiquetas FONT para los colores del texto.» en la página Colores.</translation>
+    </message>
+    <message>
+        <source>Preview: browsers ignore the style sheet of XHTML listings. Tick “Use FONT tags” on the pages Fonts and Colours instead.</source>
+        <translation>Vista previa: los navegadores ignoran la hoja de estilos de las listas XHTML. Marque en su lugar las etiquetas FONT en las páginas Tipos de letra y Colores.</translation>
+    </message>
+    <message>
+        <source>Preview of the theme “%1”, which is not loaded.</source>
+        <translation>Vista previa del tema «%1», que no está cargado.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -1188,10 +1224,6 @@ barras y no ser «.» ni «..».</translation>
         <translation>Eliminar el archivo del tema seleccionado</translation>
     </message>
     <message>
-        <source>Double-click a theme to load it</source>
-        <translation>Haga doble clic en un tema para cargarlo</translation>
-    </message>
-    <message>
         <source>Themes are preset colour, font, and table settings that you can import into your own settings.
 
 You can also export your own settings as a theme.</source>
@@ -1241,6 +1273,14 @@ el tema %1?
         <source>Delete Theme</source>
         <translation>Eliminar tema</translation>
     </message>
+    <message>
+        <source>Select a theme to preview it. Press Enter or double-click to load it.</source>
+        <translation>Seleccione un tema para ver su vista previa. Pulse Intro o haga doble clic para cargarlo.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmAbout</name>
@@ -1253,16 +1293,8 @@ el tema %1?
         <translation>Versión %1.%2 - Compilación %3</translation>
     </message>
     <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Página web</translation>
-    </message>
-    <message>
         <source>Home page</source>
         <translation>Página web</translation>
-    </message>
-    <message>
-        <source>&amp;E-mail the Author</source>
-        <translation>&amp;Escribir al autor</translation>
     </message>
     <message>
         <source>E-mail the author</source>
@@ -1275,6 +1307,14 @@ el tema %1?
     <message>
         <source>Close the window</source>
         <translation>Cerrar la ventana</translation>
+    </message>
+    <message>
+        <source>&amp;Home page</source>
+        <translation>&amp;Página web</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail the author</source>
+        <translation>&amp;Escribir al autor</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1514,18 @@ vaciar la lista?</translation>
     <message>
         <source>Error</source>
         <translation>Error</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes here and in the options.</source>
+        <translation>Al cargar un tema se descartan los cambios hechos aquí y en las opciones.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes to the layout.</source>
+        <translation>Al cargar un tema se descartan los cambios del diseño.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes in the options.</source>
+        <translation>Al cargar un tema se descartan los cambios hechos en las opciones.</translation>
     </message>
 </context>
 <context>
@@ -1837,6 +1889,10 @@ salir de Tunedex?</translation>
         <source>Line break</source>
         <translation>Salto de línea</translation>
     </message>
+    <message>
+        <source>The next list has the look of this theme: %1</source>
+        <translation>La próxima lista tendrá el aspecto de este tema: %1</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmOptions</name>
@@ -2073,10 +2129,6 @@ salir de Tunedex?</translation>
         <translation>&amp;Ayuda</translation>
     </message>
     <message>
-        <source>Help &amp;topics</source>
-        <translation>&amp;Temas de ayuda</translation>
-    </message>
-    <message>
         <source>Sort by artist, album, disc and track</source>
         <translation>Ordenar por artista, álbum, disco y pista</translation>
     </message>
@@ -2091,6 +2143,10 @@ salir de Tunedex?</translation>
     <message>
         <source>Error</source>
         <translation>Error</translation>
+    </message>
+    <message>
+        <source>Help &amp;Topics</source>
+        <translation>&amp;Temas de ayuda</translation>
     </message>
 </context>
 <context>

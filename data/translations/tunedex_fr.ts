@@ -222,6 +222,22 @@
         <source>Select a colour from the palette</source>
         <translation>Choisir une couleur dans la palette</translation>
     </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers show %1 for it.</source>
+        <translation>Ce n’est pas une couleur à six chiffres hexadécimaux. Les navigateurs affichent %1 à la place.</translation>
+    </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers ignore it.</source>
+        <translation>Ce n’est pas une couleur à six chiffres hexadécimaux. Les navigateurs l’ignorent.</translation>
+    </message>
+    <message>
+        <source>A marked colour is not six hexadecimal digits. The right half of the button beside it shows what browsers show for it.</source>
+        <translation>Une couleur signalée n’a pas six chiffres hexadécimaux. La moitié droite du bouton voisin montre ce que les navigateurs affichent.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::Columns</name>
@@ -636,6 +652,10 @@ Ces paramètres n’ont pas été enregistrés&#x202f;:
         <source>Errors still go to the log, if the options ask for one</source>
         <translation>Les erreurs sont toujours consignées dans le journal si les options le prévoient</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::DocumentPage</name>
@@ -831,10 +851,6 @@ n’existe plus&#x202f;!</translation>
         <translation>Aperçu des couleurs, des polices et des colonnes. Seul un navigateur affiche la recherche, le tri, les titres d’album et les couleurs de l’autre mode (sombre ou clair).</translation>
     </message>
     <message>
-        <source>Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.</source>
-        <translation>Aperçu&#x202f;: les navigateurs ignorent la feuille de style des listes XHTML. Utilisez plutôt des balises FONT.</translation>
-    </message>
-    <message>
         <source>Preview with sample tracks</source>
         <translation>Aperçu avec des pistes d’exemple</translation>
     </message>
@@ -853,6 +869,26 @@ n’existe plus&#x202f;!</translation>
     <message>
         <source>Sample tracks, listed with the layout shown here</source>
         <translation>Pistes d’exemple, présentées avec la mise en page affichée ici</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background, because browsers ignore the style sheet of XHTML listings. To mend it, tick “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Une partie du texte est difficile à lire sur son arrière-plan, car les navigateurs ignorent la feuille de style des listes XHTML. Pour y remédier, cochez «&#x202f;Utiliser des balises FONT pour les couleurs du texte.&#x202f;» à la page Couleurs.</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background. To mend it, tick “Use CSS for text colours.” or “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Une partie du texte est difficile à lire sur son arrière-plan. Pour y remédier, cochez «&#x202f;Utiliser CSS pour les couleurs du texte.&#x202f;» ou «&#x202f;Utiliser des balises FONT pour les couleurs du texte.&#x202f;» à la page Couleurs.</translation>
+    </message>
+    <message>
+        <source>Preview: browsers ignore the style sheet of XHTML listings. Tick “Use FONT tags” on the pages Fonts and Colours instead.</source>
+        <translation>Aperçu&#x202f;: les navigateurs ignorent la feuille de style des listes XHTML. Cochez plutôt les balises FONT aux pages Polices et Couleurs.</translation>
+    </message>
+    <message>
+        <source>Preview of the theme “%1”, which is not loaded.</source>
+        <translation>Aperçu du thème «&#x202f;%1&#x202f;», qui n’est pas chargé.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -1188,10 +1224,6 @@ de barre oblique et n’être ni «&#x202f;.&#x202f;» ni «&#x202f;..&#x202f;»
         <translation>Supprimer le fichier du thème sélectionné</translation>
     </message>
     <message>
-        <source>Double-click a theme to load it</source>
-        <translation>Double-cliquez sur un thème pour le charger</translation>
-    </message>
-    <message>
         <source>Themes are preset colour, font, and table settings that you can import into your own settings.
 
 You can also export your own settings as a theme.</source>
@@ -1241,6 +1273,14 @@ Vous ne pourrez pas le récupérer ensuite&#x202f;!</translation>
         <source>Delete Theme</source>
         <translation>Supprimer le thème</translation>
     </message>
+    <message>
+        <source>Select a theme to preview it. Press Enter or double-click to load it.</source>
+        <translation>Sélectionnez un thème pour en voir un aperçu. Appuyez sur Entrée ou double-cliquez pour le charger.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmAbout</name>
@@ -1253,16 +1293,8 @@ Vous ne pourrez pas le récupérer ensuite&#x202f;!</translation>
         <translation>Version %1.%2 - Build %3</translation>
     </message>
     <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Site web</translation>
-    </message>
-    <message>
         <source>Home page</source>
         <translation>Site web</translation>
-    </message>
-    <message>
-        <source>&amp;E-mail the Author</source>
-        <translation>Écrire à l’&amp;auteur</translation>
     </message>
     <message>
         <source>E-mail the author</source>
@@ -1275,6 +1307,14 @@ Vous ne pourrez pas le récupérer ensuite&#x202f;!</translation>
     <message>
         <source>Close the window</source>
         <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Home page</source>
+        <translation>&amp;Site web</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail the author</source>
+        <translation>&amp;Écrire à l’auteur</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1514,18 @@ effacer la liste&#x202f;?</translation>
     <message>
         <source>Error</source>
         <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes here and in the options.</source>
+        <translation>Le chargement d’un thème annule vos modifications ici et dans les options.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes to the layout.</source>
+        <translation>Le chargement d’un thème annule vos modifications de la mise en page.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes in the options.</source>
+        <translation>Le chargement d’un thème annule vos modifications dans les options.</translation>
     </message>
 </context>
 <context>
@@ -1837,6 +1889,10 @@ quitter Tunedex&#x202f;?</translation>
         <source>Line break</source>
         <translation>Saut de ligne</translation>
     </message>
+    <message>
+        <source>The next list has the look of this theme: %1</source>
+        <translation>La prochaine liste aura l’aspect de ce thème&#x202f;: %1</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmOptions</name>
@@ -2073,10 +2129,6 @@ quitter Tunedex&#x202f;?</translation>
         <translation>&amp;Aide</translation>
     </message>
     <message>
-        <source>Help &amp;topics</source>
-        <translation>&amp;Rubriques d’aide</translation>
-    </message>
-    <message>
         <source>Sort by artist, album, disc and track</source>
         <translation>Trier par artiste, album, disque et piste</translation>
     </message>
@@ -2091,6 +2143,10 @@ quitter Tunedex&#x202f;?</translation>
     <message>
         <source>Error</source>
         <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Help &amp;Topics</source>
+        <translation>Rubriques d’ai&amp;de</translation>
     </message>
 </context>
 <context>

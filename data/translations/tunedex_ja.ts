@@ -222,6 +222,22 @@
         <source>Select a colour from the palette</source>
         <translation>パレットから色を選択します</translation>
     </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers show %1 for it.</source>
+        <translation>16 進数 6 桁の色ではありません。ブラウザーでは %1 が表示されます。</translation>
+    </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers ignore it.</source>
+        <translation>16 進数 6 桁の色ではありません。ブラウザーでは無視されます。</translation>
+    </message>
+    <message>
+        <source>A marked colour is not six hexadecimal digits. The right half of the button beside it shows what browsers show for it.</source>
+        <translation>印の付いた色は 16 進数 6 桁ではありません。横のボタンの右半分に、ブラウザーで表示される色を示します。</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::Columns</name>
@@ -636,6 +652,10 @@ These settings were not saved:
         <source>Errors still go to the log, if the options ask for one</source>
         <translation>オプションで指定されていれば、エラーは引き続きログに記録されます</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::DocumentPage</name>
@@ -830,10 +850,6 @@ does not exist any more!</source>
         <translation>色、フォント、列のプレビューです。検索、並べ替え、アルバムの見出し、もう一方の設定 (ダークまたはライト) の色は、ブラウザーでのみ表示されます。</translation>
     </message>
     <message>
-        <source>Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.</source>
-        <translation>プレビュー: ブラウザーは XHTML 一覧のスタイルシートを無視します。代わりに FONT タグを使ってください。</translation>
-    </message>
-    <message>
         <source>Preview with sample tracks</source>
         <translation>サンプルトラックによるプレビュー</translation>
     </message>
@@ -852,6 +868,26 @@ does not exist any more!</source>
     <message>
         <source>Sample tracks, listed with the layout shown here</source>
         <translation>ここに示すレイアウトで出力したサンプルトラック</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background, because browsers ignore the style sheet of XHTML listings. To mend it, tick “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>ブラウザーは XHTML の一覧のスタイルシートを無視するため、背景に対して読みにくい文字があります。直すには、「色」ページの「文字色に FONT タグを使う」をオンにしてください。</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background. To mend it, tick “Use CSS for text colours.” or “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>背景に対して読みにくい文字があります。直すには、「色」ページの「文字色に CSS を使う」または「文字色に FONT タグを使う」をオンにしてください。</translation>
+    </message>
+    <message>
+        <source>Preview: browsers ignore the style sheet of XHTML listings. Tick “Use FONT tags” on the pages Fonts and Colours instead.</source>
+        <translation>プレビュー: ブラウザーは XHTML の一覧のスタイルシートを無視します。代わりに「フォント」と「色」のページで FONT タグをオンにしてください。</translation>
+    </message>
+    <message>
+        <source>Preview of the theme “%1”, which is not loaded.</source>
+        <translation>読み込まれていないテーマ「%1」のプレビューです。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
     </message>
 </context>
 <context>
@@ -1177,10 +1213,6 @@ and neither &quot;.&quot; nor &quot;..&quot;.</source>
         <translation>選択したテーマのファイルを削除します</translation>
     </message>
     <message>
-        <source>Double-click a theme to load it</source>
-        <translation>テーマをダブルクリックすると読み込まれます</translation>
-    </message>
-    <message>
         <source>Themes are preset colour, font, and table settings that you can import into your own settings.
 
 You can also export your own settings as a theme.</source>
@@ -1230,6 +1262,14 @@ You cannot recover it afterwards!</source>
         <source>Delete Theme</source>
         <translation>テーマの削除</translation>
     </message>
+    <message>
+        <source>Select a theme to preview it. Press Enter or double-click to load it.</source>
+        <translation>テーマを選択するとプレビューが表示されます。Enter キーを押すかダブルクリックすると読み込まれます。</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmAbout</name>
@@ -1242,16 +1282,8 @@ You cannot recover it afterwards!</source>
         <translation>バージョン %1.%2 - ビルド %3</translation>
     </message>
     <message>
-        <source>&amp;Home Page</source>
-        <translation>ホームページ(&amp;H)</translation>
-    </message>
-    <message>
         <source>Home page</source>
         <translation>ホームページ</translation>
-    </message>
-    <message>
-        <source>&amp;E-mail the Author</source>
-        <translation>作者にメール(&amp;E)</translation>
     </message>
     <message>
         <source>E-mail the author</source>
@@ -1264,6 +1296,14 @@ You cannot recover it afterwards!</source>
     <message>
         <source>Close the window</source>
         <translation>ウィンドウを閉じます</translation>
+    </message>
+    <message>
+        <source>&amp;Home page</source>
+        <translation>ホームページ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail the author</source>
+        <translation>作者にメール(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -1462,6 +1502,18 @@ to clear the list?</source>
     <message>
         <source>Error</source>
         <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes here and in the options.</source>
+        <translation>テーマを読み込むと、ここと「オプション」での変更は破棄されます。</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes to the layout.</source>
+        <translation>テーマを読み込むと、レイアウトの変更は破棄されます。</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes in the options.</source>
+        <translation>テーマを読み込むと、「オプション」での変更は破棄されます。</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +1876,10 @@ to quit Tunedex?</source>
         <source>Line break</source>
         <translation>改行</translation>
     </message>
+    <message>
+        <source>The next list has the look of this theme: %1</source>
+        <translation>次の一覧はこのテーマで表示されます: %1</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmOptions</name>
@@ -2060,10 +2116,6 @@ to quit Tunedex?</source>
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
-        <source>Help &amp;topics</source>
-        <translation>ヘルプトピック(&amp;T)</translation>
-    </message>
-    <message>
         <source>Sort by artist, album, disc and track</source>
         <translation>アーティスト、アルバム、ディスク、トラックで並べ替え</translation>
     </message>
@@ -2078,6 +2130,10 @@ to quit Tunedex?</source>
     <message>
         <source>Error</source>
         <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Help &amp;Topics</source>
+        <translation>ヘルプトピック(&amp;T)</translation>
     </message>
 </context>
 <context>

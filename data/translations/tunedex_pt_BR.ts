@@ -222,6 +222,22 @@
         <source>Select a colour from the palette</source>
         <translation>Escolher uma cor da paleta</translation>
     </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers show %1 for it.</source>
+        <translation>Não é uma cor de seis dígitos hexadecimais. Os navegadores mostram %1 no lugar dela.</translation>
+    </message>
+    <message>
+        <source>This is not a colour of six hexadecimal digits. Browsers ignore it.</source>
+        <translation>Não é uma cor de seis dígitos hexadecimais. Os navegadores a ignoram.</translation>
+    </message>
+    <message>
+        <source>A marked colour is not six hexadecimal digits. The right half of the button beside it shows what browsers show for it.</source>
+        <translation>Uma cor marcada não tem seis dígitos hexadecimais. A metade direita do botão ao lado mostra o que os navegadores mostram.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::Columns</name>
@@ -636,6 +652,10 @@ Estas configurações não foram salvas:
         <source>Errors still go to the log, if the options ask for one</source>
         <translation>Os erros continuam sendo gravados no log, se as opções pedirem</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::DocumentPage</name>
@@ -831,10 +851,6 @@ não existe mais!</translation>
         <translation>Visualização de cores, fontes e colunas. Somente um navegador mostra a pesquisa, a classificação, os títulos dos álbuns e as cores do outro modo (escuro ou claro).</translation>
     </message>
     <message>
-        <source>Preview: browsers ignore the style sheet of XHTML listings. Use FONT tags instead.</source>
-        <translation>Visualização: os navegadores ignoram a folha de estilos das listas XHTML. Use tags FONT.</translation>
-    </message>
-    <message>
         <source>Preview with sample tracks</source>
         <translation>Visualização com faixas de exemplo</translation>
     </message>
@@ -853,6 +869,26 @@ não existe mais!</translation>
     <message>
         <source>Sample tracks, listed with the layout shown here</source>
         <translation>Faixas de exemplo, listadas com o layout mostrado aqui</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background, because browsers ignore the style sheet of XHTML listings. To mend it, tick “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Parte do texto é difícil de ler sobre o fundo, porque os navegadores ignoram a folha de estilos das listas XHTML. Para corrigir, marque “Usar tags FONT para as cores do texto.” na página Cores.</translation>
+    </message>
+    <message>
+        <source>Some text is hard to read on its background. To mend it, tick “Use CSS for text colours.” or “Use FONT tags for text colours.” on the page Colours.</source>
+        <translation>Parte do texto é difícil de ler sobre o fundo. Para corrigir, marque “Usar CSS para as cores do texto.” ou “Usar tags FONT para as cores do texto.” na página Cores.</translation>
+    </message>
+    <message>
+        <source>Preview: browsers ignore the style sheet of XHTML listings. Tick “Use FONT tags” on the pages Fonts and Colours instead.</source>
+        <translation>Visualização: os navegadores ignoram a folha de estilos das listas XHTML. Marque em vez disso as tags FONT nas páginas Fontes e Cores.</translation>
+    </message>
+    <message>
+        <source>Preview of the theme “%1”, which is not loaded.</source>
+        <translation>Visualização do tema “%1”, que não está carregado.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -1188,10 +1224,6 @@ e não pode ser “.” nem “..”.</translation>
         <translation>Excluir o arquivo do tema selecionado</translation>
     </message>
     <message>
-        <source>Double-click a theme to load it</source>
-        <translation>Clique duas vezes em um tema para carregá-lo</translation>
-    </message>
-    <message>
         <source>Themes are preset colour, font, and table settings that you can import into your own settings.
 
 You can also export your own settings as a theme.</source>
@@ -1241,6 +1273,14 @@ Não será possível recuperá-lo depois!</translation>
         <source>Delete Theme</source>
         <translation>Excluir tema</translation>
     </message>
+    <message>
+        <source>Select a theme to preview it. Press Enter or double-click to load it.</source>
+        <translation>Selecione um tema para visualizá-lo. Pressione Enter ou clique duas vezes para carregá-lo.</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmAbout</name>
@@ -1253,16 +1293,8 @@ Não será possível recuperá-lo depois!</translation>
         <translation>Versão %1.%2 - Compilação %3</translation>
     </message>
     <message>
-        <source>&amp;Home Page</source>
-        <translation>&amp;Página na web</translation>
-    </message>
-    <message>
         <source>Home page</source>
         <translation>Página na web</translation>
-    </message>
-    <message>
-        <source>&amp;E-mail the Author</source>
-        <translation>&amp;Enviar e-mail ao autor</translation>
     </message>
     <message>
         <source>E-mail the author</source>
@@ -1275,6 +1307,14 @@ Não será possível recuperá-lo depois!</translation>
     <message>
         <source>Close the window</source>
         <translation>Fechar a janela</translation>
+    </message>
+    <message>
+        <source>&amp;Home page</source>
+        <translation>&amp;Página na web</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail the author</source>
+        <translation>&amp;Enviar e-mail ao autor</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1514,18 @@ limpar a lista?</translation>
     <message>
         <source>Error</source>
         <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes here and in the options.</source>
+        <translation>Carregar um tema descarta suas alterações aqui e nas opções.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes to the layout.</source>
+        <translation>Carregar um tema descarta suas alterações no layout.</translation>
+    </message>
+    <message>
+        <source>Loading a theme discards your changes in the options.</source>
+        <translation>Carregar um tema descarta suas alterações nas opções.</translation>
     </message>
 </context>
 <context>
@@ -1837,6 +1889,10 @@ sair do Tunedex?</translation>
         <source>Line break</source>
         <translation>Quebra de linha</translation>
     </message>
+    <message>
+        <source>The next list has the look of this theme: %1</source>
+        <translation>A próxima lista terá a aparência deste tema: %1</translation>
+    </message>
 </context>
 <context>
     <name>tunedex::frmOptions</name>
@@ -2073,10 +2129,6 @@ sair do Tunedex?</translation>
         <translation>A&amp;juda</translation>
     </message>
     <message>
-        <source>Help &amp;topics</source>
-        <translation>&amp;Tópicos de ajuda</translation>
-    </message>
-    <message>
         <source>Sort by artist, album, disc and track</source>
         <translation>Classificar por artista, álbum, disco e faixa</translation>
     </message>
@@ -2091,6 +2143,10 @@ sair do Tunedex?</translation>
     <message>
         <source>Error</source>
         <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Help &amp;Topics</source>
+        <translation>&amp;Tópicos de ajuda</translation>
     </message>
 </context>
 <context>
