@@ -6,6 +6,7 @@
 
 #include <array>
 #include <csignal>
+#include <cstddef>
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <thread>
@@ -16,7 +17,25 @@ namespace {
 
 constexpr std::array<int, 3> kSignals = {SIGINT, SIGTERM, SIGHUP};
 
-TEST(Interrupts, ASignalIsRemembered) {
+// A test started in the background of a script inherits an ignored SIGINT, which the program would respect.
+class Interrupts : public testing::Test {
+  protected:
+    void SetUp() override {
+        for (std::size_t i = 0; i < kSignals.size(); ++i) {
+            inherited_.at(i) = std::signal(kSignals.at(i), SIG_DFL);
+        }
+    }
+    void TearDown() override {
+        for (std::size_t i = 0; i < kSignals.size(); ++i) {
+            std::signal(kSignals.at(i), inherited_.at(i));
+        }
+    }
+
+  private:
+    std::array<void (*)(int), kSignals.size()> inherited_{};
+};
+
+TEST_F(Interrupts, ASignalIsRemembered) {
     for (const int signal : kSignals) {
         test::InChild([&] {
             CatchInterrupts();
@@ -27,7 +46,7 @@ TEST(Interrupts, ASignalIsRemembered) {
     }
 }
 
-TEST(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
+TEST_F(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
     for (const int ignored : kSignals) {
         test::InChild([&] {
             std::signal(ignored, SIG_IGN);
@@ -41,7 +60,7 @@ TEST(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
     }
 }
 
-TEST(Interrupts, TheSecondSignalEndsTheProgram) {
+TEST_F(Interrupts, TheSecondSignalEndsTheProgram) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
@@ -55,7 +74,7 @@ TEST(Interrupts, TheSecondSignalEndsTheProgram) {
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGINT);
 }
 
-TEST(Interrupts, ASignalEndsAWaitForInput) {
+TEST_F(Interrupts, ASignalEndsAWaitForInput) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
     test::InChild([&] {
@@ -72,7 +91,7 @@ TEST(Interrupts, ASignalEndsAWaitForInput) {
 }
 
 // The kernel may deliver a signal to a reader thread while the main thread waits for an answer.
-TEST(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
+TEST_F(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
     test::InChild([&] {
@@ -85,7 +104,7 @@ TEST(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
     close(ends[1]);
 }
 
-TEST(Interrupts, AfterASignalWaitForOutputReturnsAtOnce) {
+TEST_F(Interrupts, AfterASignalWaitForOutputReturnsAtOnce) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
     test::InChild([&] {
