@@ -143,7 +143,7 @@ void ColoursPage::BuildField(std::size_t index) {
 
     connect(field.txtColour, &QLineEdit::textEdited, this,
             [this, index] { TidyTyping(*fields_.at(index).txtColour); });
-    connect(field.txtColour, &QLineEdit::textChanged, this, [this, index] {
+    connect(field.txtColour, &QLineEdit::textChanged, this, [this] {
         ShowColours();
         emit Edited();
     });
