@@ -183,8 +183,8 @@ const markRow = row => {
   nodes.forEach(markText);
 };
 
-// A view has its own bodies. Their rows are made when they come near the window; until then an estimate stands
-// for their height.
+// A view has its own bodies. Their rows are made when they come near the window; before that, their height is
+// estimated.
 const fill = chunk => {
   if (!chunk.filled) {
     chunk.filled = true;
