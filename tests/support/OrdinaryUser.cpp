@@ -1,5 +1,6 @@
 #include "OrdinaryUser.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -71,6 +72,9 @@ void InChild(const std::function<void()>& check) {
         throw std::runtime_error("no child process");
     }
     if (child == 0) {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            std::signal(signal, SIG_DFL);
+        }
         RunAndExit(check);
     }
     int status = 0;

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <csignal>
-#include <cstddef>
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <thread>
@@ -17,25 +16,7 @@ namespace {
 
 constexpr std::array<int, 3> kSignals = {SIGINT, SIGTERM, SIGHUP};
 
-// A test started in the background of a script inherits an ignored SIGINT, which the program would respect.
-class Interrupts : public testing::Test {
-  protected:
-    void SetUp() override {
-        for (std::size_t i = 0; i < kSignals.size(); ++i) {
-            inherited_.at(i) = std::signal(kSignals.at(i), SIG_DFL);
-        }
-    }
-    void TearDown() override {
-        for (std::size_t i = 0; i < kSignals.size(); ++i) {
-            std::signal(kSignals.at(i), inherited_.at(i));
-        }
-    }
-
-  private:
-    std::array<void (*)(int), kSignals.size()> inherited_{};
-};
-
-TEST_F(Interrupts, ASignalIsRemembered) {
+TEST(Interrupts, ASignalIsRemembered) {
     for (const int signal : kSignals) {
         test::InChild([&] {
             CatchInterrupts();
@@ -46,7 +27,7 @@ TEST_F(Interrupts, ASignalIsRemembered) {
     }
 }
 
-TEST_F(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
+TEST(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
     for (const int ignored : kSignals) {
         test::InChild([&] {
             std::signal(ignored, SIG_IGN);
@@ -60,10 +41,11 @@ TEST_F(Interrupts, IgnoredSignalsStayIgnoredIndividually) {
     }
 }
 
-TEST_F(Interrupts, TheSecondSignalEndsTheProgram) {
+TEST(Interrupts, TheSecondSignalEndsTheProgram) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
+        std::signal(SIGINT, SIG_DFL); // ignored in the background of a script
         CatchInterrupts();
         std::raise(SIGINT);
         std::raise(SIGINT);
@@ -74,7 +56,7 @@ TEST_F(Interrupts, TheSecondSignalEndsTheProgram) {
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGINT);
 }
 
-TEST_F(Interrupts, ASignalEndsAWaitForInput) {
+TEST(Interrupts, ASignalEndsAWaitForInput) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
     test::InChild([&] {
@@ -91,7 +73,7 @@ TEST_F(Interrupts, ASignalEndsAWaitForInput) {
 }
 
 // The kernel may deliver a signal to a reader thread while the main thread waits for an answer.
-TEST_F(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
+TEST(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
     test::InChild([&] {
@@ -104,7 +86,7 @@ TEST_F(Interrupts, ASignalThatAnotherThreadReceivesEndsAWaitForInput) {
     close(ends[1]);
 }
 
-TEST_F(Interrupts, AfterASignalWaitForOutputReturnsAtOnce) {
+TEST(Interrupts, AfterASignalWaitForOutputReturnsAtOnce) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
     test::InChild([&] {
