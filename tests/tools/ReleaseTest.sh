@@ -36,6 +36,7 @@ refused 'is not major.minor.build' --only-update 9.8
 refused 'does not follow' --only-update 0.9.9
 refused 'does not follow' --only-update "$(sed -n 's/^project(tunedex VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
 refused 'expected VERSION, or one step'
+refused 'there is no check nonsense; there are test, ' --only-check nonsense
 echo >stray
 ! tools/release --only-build "$work/out" >"$work/log" 2>&1 || fail "it builds a tree that is not committed"
 rm stray
