@@ -7,6 +7,7 @@
 #include "OrdinaryUser.h"
 #include "Raises.h"
 #include "TestFolder.h"
+#include "Version.h"
 
 #include <gtest/gtest.h>
 
@@ -149,7 +150,7 @@ TEST(StampNow, HasVersionDateAndTimeInTheUsersFormats) {
     const test::TestFolder folder;
     const test::FakeApplication fake(folder.Path());
     const FileStamp stamp = StampNow(fake.application);
-    EXPECT_EQ(stamp.version, "1.0");
+    EXPECT_EQ(stamp.version, kVersionText);
     EXPECT_EQ(stamp.date, "2026-11-21");
     EXPECT_EQ(stamp.time, "14:05");
 }

@@ -1,5 +1,6 @@
 #include "frmAbout.h"
 
+#include "Version.h"
 #include "WindowTest.h"
 
 #include <QLabel>
@@ -38,7 +39,8 @@ class frmAboutTest : public QObject {
         desk.fake.application.statistics = {"15/11/2026", 3, 1, 1};
         const frmAbout window(desk.fake.application, desk.frontEnd, nullptr);
         QCOMPARE(window.windowTitle(), u"About Tunedex"_s);
-        QCOMPARE(TextOf(window, "lblVersion"), std::string("Version 1.0 - Build 0"));
+        QCOMPARE(TextOf(window, "lblVersion"),
+                 std::string("Version ") + kVersionText + " - Build " + kBuildNumber);
         QCOMPARE(TextOf(window, "lblStats"),
                  std::string("Tunedex was first started on 15/11/2026 and has been started 3 times since.\n"
                              "It has created 1 list, and handled 1 MP3 file."));
