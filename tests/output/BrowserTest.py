@@ -60,7 +60,7 @@ class Listing(unittest.TestCase):
             self.assertTrue(self.browser.run("return document.title").endswith(f" - Page {number} of {count}"))
             table = self.browser.run(ROWS)
             self.assertEqual(table[0], ["Number", "Artist", "Album", "Title", "Duration"])
-            self.assertEqual(table[-1], ["Created with Tunedex v1.0 by Orvando"])
+            self.assertEqual(table[-1], ["Created with Tunedex v1.1 by Orvando"])
             self.assertEqual(len(table) - 2, 20 if number < count else len(self.files) - 20 * (count - 1))
             rows += table[1:-1]
             self.assertEqual(self.browser.click("Next Page >>"), number < count)

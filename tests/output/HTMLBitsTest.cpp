@@ -111,13 +111,13 @@ TEST_F(HtmlBitsTest, SpanTheFootOverAllColumns) {
         return text;
     };
     const std::string rest = "\t\t\t\t\t</table>\r\n\t\t\t\t</td>\r\n\t\t\t</tr>\r\n\t\t</table>\r\n";
-    EXPECT_EQ(foot(5), "\t\t\t\t\t\t<tr bgcolor=\"#000066\"><th colspan=\"5\">Created with Tunedex v1.0 by "
+    EXPECT_EQ(foot(5), "\t\t\t\t\t\t<tr bgcolor=\"#000066\"><th colspan=\"5\">Created with Tunedex v1.1 by "
                        "Orvando</th></tr>\r\n" +
                            rest);
     settings.DoLinks = settings.ColourHTML = true;
     EXPECT_EQ(foot(5),
               "\t\t\t\t\t\t<tr bgcolor=\"#000066\"><th colspan=\"6\"><font color=\"#FFFF00\">Created with "
-              "Tunedex v1.0 by Orvando</font></th></tr>\r\n" +
+              "Tunedex v1.1 by Orvando</font></th></tr>\r\n" +
                   rest);
 }
 

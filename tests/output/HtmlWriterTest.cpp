@@ -20,7 +20,7 @@ TEST_F(HtmlWriterTest, BeginsAPageByItsDocumentType) {
         "\t<head>\r\n\t\t<title>a & <b></title>\r\n\t\t<meta http-equiv=\"Content-Type\" "
         "content=\"text/html; charset=iso-8859-1\"";
     const std::string generator =
-        "\t\t<meta name=\"generator\" content=\"Tunedex v1.0 by Orvando (https://tunedex.example/)\"";
+        "\t\t<meta name=\"generator\" content=\"Tunedex v1.1 by Orvando (https://tunedex.example/)\"";
     const std::string body =
         "\t</head>\r\n\t<body bgcolor=\"#FFFFFF\" text=\"#000000\" link=\"#0000FF\">\r\n";
     std::string page = Page();

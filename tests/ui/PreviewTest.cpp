@@ -92,7 +92,7 @@ void PreviewTest::TheSampleTracksAreShownOnOpening() {
     for (const QString& text :
          {u"Artist (Album): Title"_s, u"Amber Lantern (Harbour Lights): First Ferry Home"_s,
           u"Marisol Ferreira (Caf\u00E9 Central): A Pequena Valsa"_s, u"3:41"_s,
-          u"Created with Tunedex v1.0 by Orvando"_s, u"Created on 2026-11-21 at 14:05"_s,
+          u"Created with Tunedex v1.1 by Orvando"_s, u"Created on 2026-11-21 at 14:05"_s,
           u"https://tunedex.example/"_s}) {
         QVERIFY2(shown.contains(text), qPrintable(text));
     }

@@ -43,7 +43,7 @@ class frmMainTest : public QObject {
   private slots:
     void TheCaptionNamesTheVersion() {
         Desk desk;
-        QVERIFY(desk.Main().windowTitle().startsWith(u"Tunedex v1.0 - "_s));
+        QVERIFY(desk.Main().windowTitle().startsWith(u"Tunedex v1.1 - "_s));
     }
 
     void StartUpFillsTheFields() {
@@ -355,7 +355,7 @@ class frmMainTest : public QObject {
         Choose(desk.Main(), "itmFileSaveSettings");
         QVERIFY(HoldsLine(desk.folder / "mine.cfg", "PageTitle=Later"));
         QVERIFY(!desk.folder.Exists("Tunedex.cfg"));
-        QVERIFY(desk.Main().windowTitle().startsWith(u"Tunedex v1.0 - "_s));
+        QVERIFY(desk.Main().windowTitle().startsWith(u"Tunedex v1.1 - "_s));
     }
 
     void TheCaptionNamesTheSettingsFileAndMarksChanges() {
@@ -365,21 +365,21 @@ class frmMainTest : public QObject {
         const auto caption = [&desk] {
             return desk.Main().windowTitle() + (desk.Main().isWindowModified() ? u" changed"_s : QString());
         };
-        QCOMPARE(caption(), u"Tunedex v1.0 - Tunedex.cfg[*]"_s);
+        QCOMPARE(caption(), u"Tunedex v1.1 - Tunedex.cfg[*]"_s);
         Type(desk.Main(), "txtPageTitle", "Mine");
-        QCOMPARE(caption(), u"Tunedex v1.0 - Tunedex.cfg[*] changed"_s);
+        QCOMPARE(caption(), u"Tunedex v1.1 - Tunedex.cfg[*] changed"_s);
         desk.dialogs.files = {desk.folder / "mine"};
         Choose(desk.Main(), "itmFileSaveSettingsAs");
-        QCOMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*]"_s);
+        QCOMPARE(caption(), u"Tunedex v1.1 - mine.cfg[*]"_s);
         Click(desk.Main(), "chkMultipleDirs");
-        QCOMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*] changed"_s);
+        QCOMPARE(caption(), u"Tunedex v1.1 - mine.cfg[*] changed"_s);
         desk.dialogs.files = {desk.folder / "mine.cfg"};
         Choose(desk.Main(), "itmFileOpenSettings");
-        QCOMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*]"_s);
+        QCOMPARE(caption(), u"Tunedex v1.1 - mine.cfg[*]"_s);
         Click(desk.Main(), "cmdOptions");
         Find<QCheckBox>(*desk.frontEnd.Options(), "chkRecursive").toggle();
         Click(*desk.frontEnd.Options(), "cmdUse");
-        QTRY_COMPARE(caption(), u"Tunedex v1.0 - mine.cfg[*] changed"_s);
+        QTRY_COMPARE(caption(), u"Tunedex v1.1 - mine.cfg[*] changed"_s);
     }
 
     void ATildeIsTheHomeFolderInPathFields() {
