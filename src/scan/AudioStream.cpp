@@ -35,9 +35,9 @@ std::optional<FoundFrame> FindAudio(const AudioBytes& audio, const TagLayout& la
     if (const auto frame = FindFirstFrame(audio, AudioStart(audio, layout))) {
         return frame;
     }
-    // A tag may declare more bytes than the file has.
+    // A tag may declare more bytes than the file has. A frame may even begin in what looks like its size.
     const bool cut = layout.id3v2 && layout.id3v2->tagBytes > audio.file.Size();
-    return cut ? FindFirstFrame(audio, kId3v2HeaderBytes) : std::nullopt;
+    return cut ? FindFirstFrame(audio, 0) : std::nullopt;
 }
 
 double SecondsOf(double frames, const FrameHead& head) {

@@ -252,6 +252,8 @@ TEST(MeasureAudio, SearchesATagThatDeclaresMoreThanTheFileHas) {
     EXPECT_NEAR(Measured(tag + OrdinaryFrames(10)).seconds, 4170 / 16000.0, 1e-6);
     tag = test::Id3v2Header(2000) + std::string(100, '\0');
     EXPECT_EQ(FailureOf(tag + OrdinaryFrames(4) + std::string(1000, '\0')), 62) << "the tag is whole";
+    const std::string cut = "ID3\3\0\0\0\0"s;
+    EXPECT_NEAR(Measured(cut + OrdinaryFrames(10)).seconds, 4170 / 16000.0, 1e-6) << "a frame as its size";
 }
 
 TEST(MeasureAudio, ClampsTheSeconds) {
