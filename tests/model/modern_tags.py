@@ -192,7 +192,8 @@ def leads_on(body, position):
     """Whether a frame of ID3v2.4, padding or the tag's end is at the position."""
     if position == len(body):
         return True
-    return position < len(body) and (body[position] == 0 or is_frame_name(body[position : position + 4], 4))
+    ahead = body[position : position + 4]
+    return position < len(body) and (not any(ahead) or is_frame_name(ahead, 4))
 
 
 def frame_size_of_24(body, position):
