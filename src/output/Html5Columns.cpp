@@ -21,23 +21,36 @@ constexpr int kSortMark = 2;          // characters beside the header
 struct Trait {
     ColumnKey key;
     int importance;
-    bool flexible;
+    bool flexible = false;
 };
 
 constexpr std::array kTraits = {
-    Trait{ColumnKey::Number, 40, false},      Trait{ColumnKey::Artist, 90, true},
-    Trait{ColumnKey::Album, 75, true},        Trait{ColumnKey::Title, 100, true},
-    Trait{ColumnKey::Duration, 80, false},    Trait{ColumnKey::Bitrate, 28, false},
-    Trait{ColumnKey::FileSize, 30, false},    Trait{ColumnKey::Frequency, 14, false},
-    Trait{ColumnKey::Genre, 35, true},        Trait{ColumnKey::Mode, 15, false},
-    Trait{ColumnKey::MpegType, 10, false},    Trait{ColumnKey::Year, 50, false},
-    Trait{ColumnKey::Filename, 70, true},     Trait{ColumnKey::FolderPath, 8, true},
-    Trait{ColumnKey::FullPath, 7, true},      Trait{ColumnKey::Track, 60, false},
-    Trait{ColumnKey::Disc, 26, false},        Trait{ColumnKey::AlbumArtist, 45, true},
-    Trait{ColumnKey::Composer, 27, true},     Trait{ColumnKey::Comment, 20, true},
-    Trait{ColumnKey::ArtistTitle, 100, true}, Trait{ColumnKey::ArtistAlbumTitle, 100, true},
-    Trait{ColumnKey::Unknown, 1, true}};
-static_assert(kTraits.size() == kColumns.size());
+    Trait{.key = ColumnKey::Number, .importance = 40},
+    Trait{.key = ColumnKey::Artist, .importance = 90, .flexible = true},
+    Trait{.key = ColumnKey::Album, .importance = 75, .flexible = true},
+    Trait{.key = ColumnKey::Title, .importance = 100, .flexible = true},
+    Trait{.key = ColumnKey::Duration, .importance = 80},
+    Trait{.key = ColumnKey::Bitrate, .importance = 28},
+    Trait{.key = ColumnKey::FileSize, .importance = 30},
+    Trait{.key = ColumnKey::Frequency, .importance = 14},
+    Trait{.key = ColumnKey::Genre, .importance = 35, .flexible = true},
+    Trait{.key = ColumnKey::Mode, .importance = 15},
+    Trait{.key = ColumnKey::MpegType, .importance = 10},
+    Trait{.key = ColumnKey::Year, .importance = 50},
+    Trait{.key = ColumnKey::Filename, .importance = 70, .flexible = true},
+    Trait{.key = ColumnKey::FolderPath, .importance = 8, .flexible = true},
+    Trait{.key = ColumnKey::FullPath, .importance = 7, .flexible = true},
+    Trait{.key = ColumnKey::Track, .importance = 60},
+    Trait{.key = ColumnKey::Disc, .importance = 26},
+    Trait{.key = ColumnKey::AlbumArtist, .importance = 45, .flexible = true},
+    Trait{.key = ColumnKey::Composer, .importance = 27, .flexible = true},
+    Trait{.key = ColumnKey::Comment, .importance = 20, .flexible = true},
+    Trait{.key = ColumnKey::ArtistTitle, .importance = 100, .flexible = true},
+    Trait{.key = ColumnKey::ArtistAlbumTitle, .importance = 100, .flexible = true},
+    Trait{.key = ColumnKey::Unknown, .importance = 1, .flexible = true},
+};
+static_assert(std::equal(kTraits.begin(), kTraits.end(), kColumns.begin(), kColumns.end(),
+                         [](const Trait& trait, const ColumnKind& kind) { return trait.key == kind.key; }));
 constexpr int kLinkImportance = 65;
 
 // Counts characters; those of East Asian scripts are two wide.
