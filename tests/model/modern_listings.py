@@ -17,7 +17,7 @@ NO_CHARACTER = "&#65533;"
 
 def encode_page(text):
     """ISO-8859-1. A character that no document may hold becomes U+FFFD."""
-    out = b""
+    out = bytearray()  # a page may have megabytes
     for character in settled(text):
         code = ord(character)
         if is_stray(character):
@@ -26,10 +26,10 @@ def encode_page(text):
         elif (code < 0x20 and character not in "\t\r\n") or 0x7F <= code <= 0x9F or code in (0xFFFE, 0xFFFF):
             out += NO_CHARACTER.encode()
         elif code <= 0xFF:
-            out += bytes([code])
+            out.append(code)
         else:
             out += f"&#{code};".encode()
-    return out
+    return bytes(out)
 
 
 def percent_encoded(text):
