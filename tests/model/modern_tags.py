@@ -299,11 +299,11 @@ def four_digits(text):
 
 
 def with_more(values, more):
-    """A repeated frame adds the values that are not there yet."""
+    """A repeated frame adds the values that are not there yet, be it as part of a list that a writer joined."""
     if not values:
         return more
     for value in more:
-        if value not in values:
+        if f"; {value}; " not in f"; {joined(values)}; ":
             values = [*values, value]
     return values
 
