@@ -188,23 +188,28 @@ def is_frame_name(name, width):
     return re.fullmatch(b"[A-Z0-9]{%d}" % width, name) is not None
 
 
-def leads_on(body, position):
-    """Whether a frame of ID3v2.4, padding or the tag's end is at the position."""
-    if position == len(body):
-        return True
+def what_is_at(body, position):
+    """2 for a frame, 1 for padding or the tag's end, 0 for anything else."""
     ahead = body[position : position + 4]
-    return position < len(body) and (not any(ahead) or is_frame_name(ahead, 4))
+    if position > len(body) or (any(ahead) and not is_frame_name(ahead, 4)):
+        return 0
+    return 2 if any(ahead) else 1
 
 
-def frame_size_of_24(body, position):
-    """Some writers give plain 32-bit numbers where ID3v2.4 asks for 7 bits in each byte."""
+def frame_size(body, position, version):
+    """A plain number in ID3v2.3, 7 bits in each byte in ID3v2.4. Some writers have it the other way round: the size that
+    leads to a frame or to the tag's end wins. What looks like padding may be the inside of a longer frame."""
     field = body[position + 4 : position + 8]
     plain = int.from_bytes(field, "big")
     if any(byte >= 128 for byte in field):
         return plain
-    if not leads_on(body, position + 10 + synchsafe(field)) and leads_on(body, position + 10 + plain):
-        return plain
-    return synchsafe(field)
+    declared, other = (synchsafe(field), plain) if version == 4 else (plain, synchsafe(field))
+    behind, behind_other = (position + 10 + size for size in (declared, other))
+    found = what_is_at(body, behind)
+    if found == 2 or (found == 1 and other < declared):
+        return declared
+    only_other_fits = behind_other <= len(body) < behind
+    return other if only_other_fits or what_is_at(body, behind_other) > found else declared
 
 
 def content_of_23(content, flags):
@@ -244,10 +249,10 @@ def id3v2_frames(tag):
         name = body[position : position + width]
         if name[0] == 0:
             break
-        if version == 4:
-            size = frame_size_of_24(body, position)
+        if version == 2:
+            size = int.from_bytes(body[position + 3 : position + 6], "big")
         else:
-            size = int.from_bytes(body[position + width : position + 2 * width], "big")
+            size = frame_size(body, position, version)
         content = body[position + header : position + header + size]
         is_cut = len(content) < size
         if version == 3:
