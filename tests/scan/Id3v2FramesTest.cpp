@@ -136,6 +136,9 @@ TEST(ReadId3v2Frames, DecodesEveryEncoding) {
 TEST(ReadId3v2Frames, MergesRepeatedFramesWithoutDuplicates) {
     const auto artist = [](const std::string& name) { return FrameOf(4, "TPE1", "\x03" + name); };
     EXPECT_EQ(ReadTagOf(TagOf(4, artist("A\0B"s) + artist("B") + artist("C"))).Artist, "A; B; C");
+    // A writer may have stored a list as one value.
+    EXPECT_EQ(ReadTagOf(TagOf(4, artist("A; B") + artist("B"))).Artist, "A; B");
+    EXPECT_EQ(ReadTagOf(TagOf(4, artist("A; Bo") + artist("B"))).Artist, "A; Bo; B");
 }
 
 TEST(ReadId3v2Frames, TakesTheYearFromTheDatesInTheirOrder) {
